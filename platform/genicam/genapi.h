@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/platform_export.h>
+
+#include <QMetaType>
+
+/*! \brief Enumerations of the GenICam standard's GenApi, with the standard's numbers. */
+namespace GenApi {
+
+/*! \brief The user level from which on a feature is shown. */
+enum EVisibility : int {
+    Beginner = 0,
+    Expert = 1,
+    Guru = 2,
+    Invisible = 3, //!< shown at no user level
+    UndefinedVisibility = 99,
+};
+
+/*! \brief What can be done with a feature now. */
+enum EAccessMode : int {
+    NI = 0, //!< not implemented
+    NA = 1, //!< not available
+    WO = 2, //!< write-only
+    RO = 3, //!< read-only
+    RW = 4, //!< readable and writable
+    UndefinedAccessMode = 5,
+};
+
+/*! \brief How a floating-point feature wants to be printed. */
+enum EDisplayNotation : int {
+    fnAutomatic = 0,
+    fnFixed = 1,
+    fnScientific = 2,
+    UndefinedDisplayNotation = 3,
+};
+
+} // namespace GenApi
+
+Q_DECLARE_METATYPE(GenApi::EVisibility)
+Q_DECLARE_METATYPE(GenApi::EAccessMode)

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/genicam/genapi.h>
+#include <platform/platform_export.h>
+
+#include <QMetaType>
+#include <QSharedPointer>
+#include <QString>
+#include <QStringList>
+
+namespace ParameterCollection {
+
+/*! \brief The kind of a parameter; codes above Category are treated like Unknown. */
+enum class ParameterType : quint32 {
+    Unknown = 0,
+    Integer = 1,
+    Boolean = 2,
+    Float = 3,
+    Command = 4,
+    String = 5,
+    Enumeration = 6,
+    Category = 7,
+};
+
+/*! \brief Snapshot of a parameter's dynamic state.
+ *
+ * A snapshot is filled by its maker and shared as QSharedPointer<const ParameterData>; from then on it never
+ * changes, so it may be read on any thread. Typed parameters deliver derived records.
+ */
+class ZELTO_PLATFORM_EXPORT ParameterData
+{
+public:
+    explicit ParameterData(ParameterType parameterType = ParameterType::Unknown);
+    ParameterData(const ParameterData &) = default;
+    ParameterData &operator=(const ParameterData &) = default;
+    virtual ~ParameterData();
+
+    /*! Returns whether \a other is a record of the same class with the same contents. */
+    virtual bool equals(const ParameterData &other) const;
+
+    ParameterType type;
+    GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
+    bool isReadable = false;
+    bool isWritable = false;
+    bool isImplemented = false;
+    bool isCacheable = true; //!< whether the value may be kept between reads; not consulted by the tree
+    QString valueString; //!< the current value as text
+};
+
+class ZELTO_PLATFORM_EXPORT IntegerParameterData : public ParameterData
+{
+public:
+    IntegerParameterData();
+    ~IntegerParameterData() override;
+    bool equals(const ParameterData &other) const override;
+
+    qint64 value = 0;
+    qint64 minimum = 0;
+    qint64 maximum = 0;
+    qint64 increment = 1;
+    QString
+        representation; //!< GenICam representation, "PureNumber" when the description has none; never empty
+};
+
+class ZELTO_PLATFORM_EXPORT FloatParameterData : public ParameterData
+{
+public:
+    FloatParameterData();
+    ~FloatParameterData() override;
+    bool equals(const ParameterData &other) const override;
+
+    double value = 0.0;
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double increment = 0.0; //!< 0 when the feature has none
+    QString representation; //!< as for integers
+    GenApi::EDisplayNotation displayNotation = GenApi::fnAutomatic;
+    int displayPrecision = 6; //!< significant digits asked for by the description
+};
+
+class ZELTO_PLATFORM_EXPORT BooleanParameterData : public ParameterData
+{
+public:
+    BooleanParameterData();
+    ~BooleanParameterData() override;
+    bool equals(const ParameterData &other) const override;
+
+    bool value = false;
+};
+
+class ZELTO_PLATFORM_EXPORT CommandParameterData : public ParameterData
+{
+public:
+    CommandParameterData();
+    ~CommandParameterData() override;
+    bool equals(const ParameterData &other) const override;
+
+    bool isDone = true; //!< the command has completed, or never ran
+};
+
+class ZELTO_PLATFORM_EXPORT EnumParameterData : public ParameterData
+{
+public:
+    EnumParameterData();
+    ~EnumParameterData() override;
+    bool equals(const ParameterData &other) const override;
+
+    QStringList symbolicNames; //!< of the entries that can be chosen now
+    QStringList displayTexts; //!< same length and order
+};
+
+using ParameterDataPtr = QSharedPointer<const ParameterData>;
+
+} // namespace ParameterCollection
+
+Q_DECLARE_METATYPE(QSharedPointer<const ParameterCollection::ParameterData>)

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QRecursiveMutex>
+#include <QString>
+#include <QWidget>
+
+/*! \brief The process-wide queue of messages for the user.
+ *
+ * Any thread may report; the queue hands the messages on one at a time, in order, from the event loop of the
+ * thread that it belongs to, through displayError(). It shows nothing itself: the application connects the
+ * signal to what does.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AsyncErrorQueue : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ErrorSeverity : quint32 {
+        Critical = 10,
+        Error = 20,
+        Warning = 30,
+    };
+    Q_ENUM(ErrorSeverity)
+
+    explicit AsyncErrorQueue(QObject *parent = nullptr);
+    ~AsyncErrorQueue() override;
+
+    /*! Appends a message and schedules its delivery. Always returns true. */
+    bool reportErrorAsync(ErrorSeverity severity, const QString &message, const QString &details,
+                          QWidget *parent);
+
+    /*! Appends a message without scheduling its delivery: it goes out with the next reported one, in its
+     * place in the order. Always returns true. */
+    bool append(ErrorSeverity severity, const QString &message, const QString &details, QWidget *parent);
+
+    /*! Removes all pending messages. */
+    void clear();
+
+    /*! Returns the number of pending messages. */
+    size_t count() const;
+
+signals:
+    /*! Emitted once per message. \a parent is null when there was none or it has died meanwhile. */
+    void displayError(AsyncErrorQueue::ErrorSeverity severity, QString message, QString details,
+                      QWidget *parent);
+
+protected slots:
+    void asyncSignaler();
+
+private:
+    struct Entry
+    {
+        ErrorSeverity severity;
+        QString message;
+        QString details;
+        QPointer<QWidget> parent;
+    };
+
+    mutable QRecursiveMutex m_mutex;
+    QList<Entry> m_entries;
+};
+
+/*! Returns the one queue of the process. It belongs to the application's thread, whoever calls first. */
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AsyncErrorQueue *GetTheGlobalAsyncErrorQueue();

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QString>
+
+#include <exception>
+
+class QWidget;
+
+namespace Core::Exception {
+class BaseException;
+}
+namespace GenICam {
+class GenericException;
+}
+
+/*! \file
+ * \brief The ways by which the library reports to the user.
+ *
+ * Each logs where its kind requires it and hands the message to the global AsyncErrorQueue. Caption and
+ * context reach the log alone. All may be called from any thread; none throws.
+ */
+
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, const QString &details,
+                                                         QWidget *parent = nullptr);
+
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showWarningMessage(const QString &caption, const QString &context,
+                                                           const QString &message, const QString &details,
+                                                           QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showWarningMessage(const QString &caption, const QString &context,
+                                                           const QString &message, QWidget *parent = nullptr);
+
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCriticalMessage(const QString &caption, const QString &context,
+                                                            const QString &message, const QString &details,
+                                                            QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCriticalMessage(const QString &caption, const QString &context,
+                                                            const QString &message,
+                                                            QWidget *parent = nullptr);
+
+/*! Reports an exception: its text is the message. \a context is the qualified name of the function that
+ * caught it. */
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
+                                                      const Core::Exception::BaseException &exception,
+                                                      const QString &details, QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
+                                                      const Core::Exception::BaseException &exception,
+                                                      QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
+                                                      const GenICam::GenericException &exception,
+                                                      const QString &details, QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void
+showException(const QString &context, const GenICam::GenericException &exception, QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
+                                                      const QString &details, QWidget *parent = nullptr);
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
+                                                      QWidget *parent = nullptr);
+
+/*! Reports an exception of an unknown type; \a message says what failed. */
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void
+showUnexpectedException(const QString &context, const QString &message, QWidget *parent = nullptr);
