@@ -1,0 +1,581 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreeinodeitem.h"
+
+#include "featuretreenames.h"
+#include "ifeaturetreemodelextension.h"
+
+#include <platform/core/guard.h>
+#include <platform/genicam/genericexception.h>
+
+#include <QBrush>
+#include <QCoreApplication>
+#include <QUuid>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+using namespace ParameterCollection;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.featureTreeINodeItem")
+
+namespace {
+
+Core::GuardSite site(const char *function)
+{
+    return {logCategory(), function, "%1:%2"};
+}
+
+// The translation context for the features of a node map, by the first segment of their full names.
+QString nodeMapKindOf(const QString &fullName)
+{
+    struct Kind
+    {
+        QLatin1String segment;
+        QLatin1String name;
+    };
+    static constexpr std::array kinds{
+        Kind{QLatin1String("CameraInstance"), QLatin1String("CameraInstance")},
+        Kind{QLatin1String("DeviceTransportLayer"), QLatin1String("TransportLayer")},
+        Kind{QLatin1String("StreamGrabber0"), QLatin1String("StreamGrabber")},
+        Kind{QLatin1String("Tabulix"), QLatin1String("Tabulix")},
+        Kind{QLatin1String("ImageFormatConverter"), QLatin1String("ImageFormatConverter")},
+        Kind{QLatin1String("Korvalin"), QLatin1String("Korvalin")},
+        Kind{QLatin1String("ChunkData"), QLatin1String("ChunkData")},
+        Kind{QLatin1String("CameraDevice"), QLatin1String("CameraDevice")},
+        Kind{QLatin1String("EventGrabber"), QLatin1String("EventGrabber")},
+        Kind{QLatin1String("GenTl"), QLatin1String("Interface")},
+    };
+    const QString segment = fullName.mid(1).section(QLatin1Char('/'), 0, 0);
+    const auto found = std::find_if(kinds.begin(), kinds.end(),
+                                    [&segment](const Kind &kind) { return segment == kind.segment; });
+    return found == kinds.end() ? QStringLiteral("Invalid") : QString(found->name);
+}
+
+bool hasSlider(const QSharedPointer<IParameter> &parameter)
+{
+    const QString representation = parameter->propertyAccess()->property(QStringLiteral("Representation"));
+    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
+}
+
+FeatureTreeItem::EditorType editorOf(const QSharedPointer<IParameter> &parameter)
+{
+    switch (parameter->type()) {
+    case ParameterType::Integer:
+        return hasSlider(parameter) ? FeatureTreeItem::IntegerSlider : FeatureTreeItem::Integer;
+    case ParameterType::Float:
+        return hasSlider(parameter) ? FeatureTreeItem::FloatSlider : FeatureTreeItem::Float;
+    case ParameterType::Enumeration:
+        return FeatureTreeItem::Enumeration;
+    case ParameterType::Command:
+        return FeatureTreeItem::Command;
+    case ParameterType::Boolean:
+        return FeatureTreeItem::Boolean;
+    case ParameterType::String:
+        return FeatureTreeItem::String;
+    default:
+        return FeatureTreeItem::Category;
+    }
+}
+
+bool isLatin1(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return character.unicode() <= 0xff; });
+}
+
+bool isTrue(const QString &text)
+{
+    return text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+}
+
+template <typename Number>
+bool isNumber(Number value)
+{
+    if constexpr (std::is_floating_point_v<Number>) {
+        return !std::isnan(value);
+    }
+    return true;
+}
+
+} // namespace
+
+FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
+                                           QSharedPointer<IParameter> parameter, const QString &name,
+                                           IFeatureTreeModelExtension *extension, const QString &fullName,
+                                           FeatureTreeItem *parent, bool useUtf8)
+    : FeatureTreeItem(name, extension, fullName, parent)
+    , m_collection(std::move(collection))
+    , m_parameter(std::move(parameter))
+    , m_useUtf8(useUtf8)
+    , m_nodeMapKind(nodeMapKindOf(fullName))
+{
+    initInternal();
+}
+
+FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
+                                           QSharedPointer<IParameter> parameter,
+                                           IFeatureTreeModelExtension *extension, const QString &fullName,
+                                           FeatureTreeItem *parent, bool useUtf8)
+    : FeatureTreeINodeItem(std::move(collection), std::move(parameter), QString(), extension, fullName,
+                           parent, useUtf8)
+{
+    setDisplayedName(m_displayName);
+    const auto connectToParameter = [this] {
+        if (m_parameter && !m_parameter->isExcluded()) {
+            connect(m_parameter.data(),
+                    SIGNAL(parameterDataChangedDecoupled(
+                        QSharedPointer<const ParameterCollection::ParameterData>)),
+                    this,
+                    SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)));
+        }
+    };
+    Core::guardedRun(site("FeatureTreeINodeItem::FeatureTreeINodeItem"),
+                     QStringLiteral("Exception fired when connecting to a parameter"), connectToParameter);
+}
+
+FeatureTreeINodeItem::~FeatureTreeINodeItem()
+{
+    FeatureTreeINodeItem::clearChildren();
+}
+
+void FeatureTreeINodeItem::initInternal()
+{
+    m_childrenLoaded = true;
+    if (!m_parameter) {
+        m_editorType = None;
+        m_data = QSharedPointer<ParameterData>::create();
+        m_displayName = QStringLiteral("Unknown");
+        m_nodeName = m_displayName;
+        return;
+    }
+    Core::guardedRun(site("FeatureTreeINodeItem::initInternal"),
+                     QStringLiteral("Exception fired when caching parameter properties"),
+                     [this] { readProperties(); });
+    Core::guardedRun(site("FeatureTreeINodeItem::initInternal"),
+                     QStringLiteral("Exception fired when caching parameter data"),
+                     [this] { takeSnapshot(m_parameter->parameterData()); });
+    m_editorType = editorType(m_parameter);
+}
+
+void FeatureTreeINodeItem::readProperties()
+{
+    const QSharedPointer<NodePropertyAccess> access = m_parameter->propertyAccess();
+    m_unit = access->property(QStringLiteral("Unit"));
+    m_description = access->property(QStringLiteral("Description"));
+    m_tooltip = access->property(QStringLiteral("Tooltip"));
+    m_docuUrl = access->property(QStringLiteral("DocuURL"));
+    m_displayName = access->property(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+    m_nodeName = m_parameter->name();
+}
+
+void FeatureTreeINodeItem::takeSnapshot(const QSharedPointer<const ParameterData> &snapshot)
+{
+    const bool first = !m_data;
+    m_data = snapshot;
+    if (first && m_data) {
+        m_childrenLoaded = m_data->type != ParameterType::Category;
+    }
+}
+
+FeatureTreeItem::EditorType FeatureTreeINodeItem::editorType(QSharedPointer<IParameter> parameter)
+{
+    const auto headline = [&parameter] {
+        return QStringLiteral("Error getting editor type for node: '%1'").arg(parameter->fullName());
+    };
+    // A failing node still gets the integer editor's slot.
+    return Core::guarded(site("FeatureTreeINodeItem::editorType"), headline, Integer, [&parameter] {
+        return !parameter || parameter->isExcluded() ? None : editorOf(parameter);
+    });
+}
+
+FeatureTreeItem::EditorType FeatureTreeINodeItem::editorType(const FeatureTreeINodeItem *item)
+{
+    return item ? editorType(item->m_parameter) : None;
+}
+
+FeatureTreeItem::EditorType FeatureTreeINodeItem::editorType()
+{
+    return m_editorType;
+}
+
+void FeatureTreeINodeItem::clearChildren()
+{
+    FeatureTreeItem::clearChildren();
+}
+
+int FeatureTreeINodeItem::childCount()
+{
+    if (!m_childrenLoaded && m_parameter) {
+        m_childrenLoaded = true;
+        Core::Logging::createLogEntry(
+            Core::Logging::ELogLevel::Debug, logCategory(),
+            QStringLiteral("FeatureTreeINodeItem::childCount() - Adding children for %1").arg(getFullName()));
+        if (IFeatureTreeModelExtension *const extension = getExtension()) {
+            extension->addChildren(this);
+        }
+    }
+    return FeatureTreeItem::childCount();
+}
+
+bool FeatureTreeINodeItem::isOfType(ParameterType type) const
+{
+    return m_data && m_data->type == type;
+}
+
+bool FeatureTreeINodeItem::isCategory() const
+{
+    return isOfType(ParameterType::Category);
+}
+
+QString FeatureTreeINodeItem::nodeName() const
+{
+    return m_nodeName;
+}
+
+QVariant FeatureTreeINodeItem::data(int column, int role)
+{
+    if (!m_data || !m_parameter) {
+        return {};
+    }
+    const QVariant failed =
+        column == FeatureTreeColumns::value ? QVariant(QStringLiteral("<error!>")) : QVariant();
+    return Core::guarded(site("FeatureTreeINodeItem::data"),
+                         QStringLiteral("Exception fired when trying to access a node"), failed,
+                         [this, column, role] {
+                             switch (column) {
+                             case FeatureTreeColumns::name:
+                                 return nameData(role);
+                             case FeatureTreeColumns::value:
+                                 return valueData(role);
+                             default:
+                                 return FeatureTreeItem::data(column, role);
+                             }
+                         });
+}
+
+QVariant FeatureTreeINodeItem::nameData(int role)
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return displayText();
+    case Qt::ToolTipRole:
+        return toolTipHtml();
+    case Qt::ForegroundRole:
+        return GetForegroundRole();
+    case GenicamNameRole:
+        return m_nodeName;
+    case GenicamTooltipRole:
+        return m_tooltip;
+    case GenicamDescription:
+        return m_description;
+    case GenicamDocuURL:
+        return m_docuUrl;
+    case GenicamCategory:
+    case IsFullRowItem:
+        return isCategory();
+    case GenicamVisibility:
+        return static_cast<int>(getVisibility());
+    case UniqueID:
+        // Never the same twice, so that a remembered identifier finds plain rows only.
+        return QUuid::createUuid().toString();
+    default:
+        return FeatureTreeItem::data(FeatureTreeColumns::name, role);
+    }
+}
+
+QVariant FeatureTreeINodeItem::valueData(int role)
+{
+    switch (role) {
+    case Qt::DisplayRole: {
+        const QString unreadable = placeholder();
+        if (!unreadable.isEmpty()) {
+            return unreadable;
+        }
+        return usePersistentEditor() ? QVariant() : QVariant(m_data->valueString);
+    }
+    case Qt::EditRole:
+        if (isCategory() || isOfType(ParameterType::Boolean) || !m_data->isReadable) {
+            return {};
+        }
+        return m_data->valueString;
+    case Qt::ForegroundRole:
+        return GetForegroundRole();
+    default:
+        return FeatureTreeItem::data(FeatureTreeColumns::value, role);
+    }
+}
+
+QString FeatureTreeINodeItem::displayText() const
+{
+    return m_unit.isEmpty() ? getDisplayedName() : QStringLiteral("%1 [%2]").arg(getDisplayedName(), m_unit);
+}
+
+QString FeatureTreeINodeItem::placeholder() const
+{
+    if (!m_data->isImplemented) {
+        return tr("<not implemented>");
+    }
+    if (m_data->isReadable) {
+        return {};
+    }
+    if (!m_data->isWritable) {
+        return tr("<not available>");
+    }
+    return isOfType(ParameterType::Command) ? QString() : tr("<not readable>");
+}
+
+QString FeatureTreeINodeItem::valueText() const
+{
+    if (!m_data || isCategory()) {
+        return {};
+    }
+    const QString unreadable = placeholder();
+    return unreadable.isEmpty() ? m_data->valueString : unreadable;
+}
+
+QString FeatureTreeINodeItem::toolTipHtml() const
+{
+    const auto build = [this] {
+        const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_nodeName).toLatin1();
+        const QString translation =
+            QCoreApplication::translate(m_nodeMapKind.toLatin1().constData(), key.constData());
+        const QString text =
+            translation == QString::fromLatin1(key) ? m_tooltip.toHtmlEscaped() : translation;
+
+        const bool nameAlone = m_nodeName.contains(FeatureTreeNames::root) || isCategory();
+        const QString title =
+            nameAlone ? getDisplayedName() : QStringLiteral("%1 (%2)").arg(getDisplayedName(), m_nodeName);
+        QString html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(title.toHtmlEscaped());
+        if (!text.isEmpty()) {
+            html += QStringLiteral("<br><nobr>%1</nobr>").arg(text);
+        }
+        return html;
+    };
+    return Core::guarded(site("FeatureTreeINodeItem::data"), QStringLiteral("Failed to get node's tooltip"),
+                         QString(), build);
+}
+
+QVariant FeatureTreeINodeItem::GetForegroundRole()
+{
+    const bool changeable = m_data && m_data->isWritable && m_editorType != Category && m_editorType != None;
+    if (!m_data || isCategory() || changeable) {
+        return {};
+    }
+    return disabledTextBrush();
+}
+
+Qt::ItemFlags FeatureTreeINodeItem::flags(int column)
+{
+    if (!m_data) {
+        return Qt::NoItemFlags;
+    }
+    Qt::ItemFlags result = FeatureTreeItem::flags(column);
+    if (m_data->isWritable || isCategory()) {
+        result |= Qt::ItemIsEnabled;
+        if (column == FeatureTreeColumns::value && m_data->isWritable) {
+            result |= Qt::ItemIsEditable;
+        }
+    }
+    if (column == FeatureTreeColumns::name && m_data->isReadable) {
+        result.setFlag(Qt::ItemIsDragEnabled, !isCategory());
+    }
+    return result;
+}
+
+bool FeatureTreeINodeItem::hasChildren() const
+{
+    return isCategory();
+}
+
+bool FeatureTreeINodeItem::ShowMe(GenApi::EVisibility level) const
+{
+    if (level == GenApi::Invisible) {
+        return true;
+    }
+    return Core::guarded(site("FeatureTreeINodeItem::ShowMe"),
+                         QStringLiteral("Exception fired when trying to determine whether item is visible"),
+                         false, [this, level] {
+                             return m_data && m_data->isImplemented
+                                 && const_cast<FeatureTreeINodeItem *>(this)->getVisibility() <= level;
+                         });
+}
+
+GenApi::EAccessMode FeatureTreeINodeItem::getAccessMode()
+{
+    if (!m_data || !m_data->isImplemented) {
+        return GenApi::NI;
+    }
+    if (!m_data->isReadable) {
+        return m_data->isWritable ? GenApi::WO : GenApi::NA;
+    }
+    return m_data->isWritable ? GenApi::RW : GenApi::RO;
+}
+
+GenApi::EVisibility FeatureTreeINodeItem::getVisibility()
+{
+    return m_data ? m_data->visibility : GenApi::UndefinedVisibility;
+}
+
+bool FeatureTreeINodeItem::isEditable() const
+{
+    return m_data && m_editorType != Category && m_editorType != None && m_data->isWritable;
+}
+
+void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
+{
+    if (column != FeatureTreeColumns::value || role != Qt::EditRole || !m_parameter
+        || m_parameter->isExcluded()) {
+        return;
+    }
+    if (!m_parameter->isWritableNow()) {
+        // What was entered is dropped; the check makes its editor show the real value again.
+        scheduleForcedParameterDataChangedCheck();
+        return;
+    }
+    if (m_editorType == Command) {
+        if (const auto command = qSharedPointerObjectCast<ICommandParameter>(m_parameter)) {
+            command->execute(true);
+            command->scheduleParameterDataChangedCheck(true);
+        }
+        return;
+    }
+    const QString text = value.toString();
+    if (isOfType(ParameterType::Boolean)
+        && static_cast<const BooleanParameterData &>(*m_data).value == isTrue(text)) {
+        return;
+    }
+    if (!m_useUtf8 && !isLatin1(text)) {
+        throw GenICam::InvalidArgumentException(
+            tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
+                .arg(m_nodeName, text));
+    }
+    m_parameter->setValueFromString(text);
+}
+
+void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
+{
+    if (!ptrParameterData || !getExtension() || !getExtension()->getGenICamCallbackEnable()) {
+        return;
+    }
+    const auto headline = [this] { return QStringLiteral("Failed to adjust a node: %1").arg(m_nodeName); };
+    if (Core::guarded(site("FeatureTreeINodeItem::onParameterDataChanged"), headline, false,
+                      [this, &ptrParameterData] { return clamp(*ptrParameterData); })) {
+        return;
+    }
+    const bool comesAlive = !m_data;
+    takeSnapshot(ptrParameterData);
+    if (comesAlive) {
+        m_editorType = editorType(m_parameter);
+        childCount();
+    }
+    emit nodeUpdated(row(), this);
+}
+
+// Writes the limit that the value has left. Returns whether it did; the camera's answer brings the next
+// snapshot.
+bool FeatureTreeINodeItem::clamp(const ParameterData &snapshot)
+{
+    if (!snapshot.isWritable) {
+        return false;
+    }
+    switch (snapshot.type) {
+    case ParameterType::Integer:
+        return clampTyped<IIntegerParameter, IntegerParameterData>(snapshot);
+    case ParameterType::Float:
+        return clampTyped<IFloatParameter, FloatParameterData>(snapshot);
+    default:
+        return false;
+    }
+}
+
+template <typename Interface, typename Data>
+bool FeatureTreeINodeItem::clampTyped(const ParameterData &snapshot)
+{
+    const auto *const typed = dynamic_cast<const Data *>(&snapshot);
+    const auto parameter = qSharedPointerObjectCast<Interface>(m_parameter);
+    if (!typed || !parameter || !isNumber(typed->minimum) || !isNumber(typed->maximum)
+        || typed->minimum > typed->maximum) {
+        return false;
+    }
+    if (!(typed->value < typed->minimum) && !(typed->value > typed->maximum)) {
+        m_clampedValue.reset();
+        return false;
+    }
+    // A camera that insists on a value outside its own limits wins.
+    if (m_clampedValue == snapshot.valueString) {
+        return false;
+    }
+    m_clampedValue = snapshot.valueString;
+    parameter->setValue(typed->value < typed->minimum ? typed->minimum : typed->maximum);
+    return true;
+}
+
+int FeatureTreeINodeItem::row() const
+{
+    return FeatureTreeItem::row();
+}
+
+const FeatureTreeItem *FeatureTreeINodeItem::parent() const
+{
+    return FeatureTreeItem::parent();
+}
+
+FeatureTreeItem *FeatureTreeINodeItem::parent()
+{
+    return FeatureTreeItem::parent();
+}
+
+const IFeatureTreeModelExtension *FeatureTreeINodeItem::getExtension() const
+{
+    return FeatureTreeItem::getExtension();
+}
+
+IFeatureTreeModelExtension *FeatureTreeINodeItem::getExtension()
+{
+    return FeatureTreeItem::getExtension();
+}
+
+void FeatureTreeINodeItem::appendChild(FeatureTreeItem *child)
+{
+    FeatureTreeItem::appendChild(child);
+}
+
+FeatureTreeItem *FeatureTreeINodeItem::child(int row) const
+{
+    return FeatureTreeItem::child(row);
+}
+
+int FeatureTreeINodeItem::columnCount() const
+{
+    return FeatureTreeItem::columnCount();
+}
+
+QSharedPointer<IParameterCollection> FeatureTreeINodeItem::collection() const
+{
+    return m_collection;
+}
+
+QSharedPointer<IParameter> FeatureTreeINodeItem::node() const
+{
+    return m_parameter;
+}
+
+QSharedPointer<const ParameterData> FeatureTreeINodeItem::getParameterData() const
+{
+    return m_data;
+}
+
+void FeatureTreeINodeItem::setHighlighter(FeatureTreeHighlighter *highlighter)
+{
+    m_highlighter = highlighter;
+}
+
+void FeatureTreeINodeItem::scheduleForcedParameterDataChangedCheck()
+{
+    if (m_parameter && !m_parameter->isExcluded()) {
+        m_parameter->scheduleParameterDataChangedCheck(true);
+    }
+}

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "featuretreeitem.h"
+
+#include <platform/parametercollection/iparametercollection.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QSharedPointer>
+
+#include <optional>
+
+class FeatureTreeHighlighter;
+
+/*! \brief The row of one parameter.
+ *
+ * Answers from the node's static properties, read once, from the parameter's latest snapshot and from
+ * translations. It follows the parameter's change signal, brings a value that left its limits back into them,
+ * and creates its children through the model when they are first needed. No exception of the parameter
+ * library leaves it, except from setData(), whose caller reports it.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeINodeItem : public FeatureTreeItem
+{
+    Q_OBJECT
+
+public:
+    /*! Creates an item with the displayed name \a name. It never follows the parameter's change signal. */
+    FeatureTreeINodeItem(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+                         QSharedPointer<ParameterCollection::IParameter> parameter, const QString &name,
+                         IFeatureTreeModelExtension *extension, const QString &fullName,
+                         FeatureTreeItem *parent, bool useUtf8);
+    /*! Creates an item that is called by the node's display name and follows the parameter's change signal.
+     */
+    FeatureTreeINodeItem(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+                         QSharedPointer<ParameterCollection::IParameter> parameter,
+                         IFeatureTreeModelExtension *extension, const QString &fullName,
+                         FeatureTreeItem *parent, bool useUtf8);
+    ~FeatureTreeINodeItem() override;
+
+    /*! Returns the editor for \a parameter: None for a null or excluded one, Integer for one that fails. */
+    static EditorType editorType(QSharedPointer<ParameterCollection::IParameter> parameter);
+    static EditorType editorType(const FeatureTreeINodeItem *item);
+
+    void clearChildren() override;
+    int childCount() override;
+    QVariant data(int column, int role) override;
+    void setData(int column, const QVariant &value, int role) override;
+    int row() const override;
+    const FeatureTreeItem *parent() const override;
+    FeatureTreeItem *parent() override;
+    const IFeatureTreeModelExtension *getExtension() const override;
+    IFeatureTreeModelExtension *getExtension() override;
+    EditorType editorType() override;
+    bool hasChildren() const override;
+    bool ShowMe(GenApi::EVisibility level) const override;
+    GenApi::EAccessMode getAccessMode() override;
+    GenApi::EVisibility getVisibility() override;
+    Qt::ItemFlags flags(int column) override;
+    bool isCategory() const override;
+    QString displayText() const override;
+    QString nodeName() const override;
+
+    void appendChild(FeatureTreeItem *child);
+    FeatureTreeItem *child(int row) const;
+    int columnCount() const;
+    QSharedPointer<ParameterCollection::IParameterCollection> collection() const;
+    QSharedPointer<ParameterCollection::IParameter> node() const;
+    /*! Returns the latest snapshot, null until a read succeeded. */
+    QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
+    bool isEditable() const;
+    /*! Sets what marks search hits in the tool tip; not owned, may be null. */
+    void setHighlighter(FeatureTreeHighlighter *highlighter);
+    /*! Asks the parameter for a re-read that is published even when nothing changed. */
+    void scheduleForcedParameterDataChangedCheck();
+
+    /*! Returns the value as text, whether a permanent editor shows it or not; a placeholder when it cannot be
+     * read, empty for categories. */
+    QString valueText() const;
+
+signals:
+    /*! The item took a new snapshot. */
+    void nodeUpdated(int row, FeatureTreeINodeItem *item);
+
+public slots:
+    void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData);
+
+protected:
+    QVariant GetForegroundRole() override;
+
+private:
+    void initInternal();
+    void readProperties();
+    void takeSnapshot(const QSharedPointer<const ParameterCollection::ParameterData> &snapshot);
+    QVariant nameData(int role);
+    QVariant valueData(int role);
+    QString toolTipHtml() const;
+    /*! Returns the text that stands for a value that cannot be read, empty when it can. */
+    QString placeholder() const;
+    bool isOfType(ParameterCollection::ParameterType type) const;
+    bool clamp(const ParameterCollection::ParameterData &snapshot);
+    template <typename Interface, typename Data>
+    bool clampTyped(const ParameterCollection::ParameterData &snapshot);
+
+    QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
+    QSharedPointer<ParameterCollection::IParameter> m_parameter;
+    QSharedPointer<const ParameterCollection::ParameterData> m_data;
+    bool m_useUtf8 = false;
+    QString m_nodeMapKind;
+    FeatureTreeHighlighter *m_highlighter = nullptr;
+    QString m_unit;
+    QString m_description;
+    QString m_tooltip;
+    QString m_docuUrl;
+    QString m_displayName;
+    QString m_nodeName;
+    std::optional<QString> m_clampedValue; // the text of the value that was brought back into its limits last
+};

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/genicam/genapi.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QList>
+#include <QModelIndex>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class IFeatureTreeModelExtension;
+
+/*! \brief A row of the feature tree.
+ *
+ * Plain rows (the favorites branch, the search row, placeholders) use this class itself; rows of parameters
+ * derive from it. An item owns its children and answers the model's questions for two columns, the name and
+ * the value. It knows the model only through IFeatureTreeModelExtension and never knows a view. GUI thread
+ * only.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeItem : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! \brief The in-place editor that a row asks for. */
+    enum EditorType {
+        Integer = 0,
+        IntegerSlider = 1,
+        Float = 2,
+        FloatSlider = 3,
+        Enumeration = 4,
+        Boolean = 5,
+        String = 6,
+        Command = 7,
+        Reserved8 = 8,
+        Reserved9 = 9,
+        Category = 10,
+        None = 11,
+    };
+    Q_ENUM(EditorType)
+
+    static constexpr int GenicamNameRole = Qt::UserRole + 1;
+    static constexpr int GenicamTooltipRole = Qt::UserRole + 2;
+    static constexpr int GenicamDescription = Qt::UserRole + 3;
+    static constexpr int GenicamDocuURL = Qt::UserRole + 4;
+    static constexpr int GenicamCategory = Qt::UserRole + 5;
+    static constexpr int GenicamVisibility = Qt::UserRole + 6;
+    static constexpr int UniqueID = Qt::UserRole + 10;
+    static constexpr int IsFullRowItem = Qt::UserRole + 12;
+    static constexpr int IsSpecialNode = Qt::UserRole + 13;
+    static constexpr int IsShownAtAll = Qt::UserRole + 14;
+    static constexpr int FullNodeNameRole = Qt::UserRole + 32;
+
+    /*! Creates an item; the caller appends or inserts it into the children of \a parent. */
+    FeatureTreeItem(const QString &name, IFeatureTreeModelExtension *extension, const QString &fullName,
+                    FeatureTreeItem *parent);
+    ~FeatureTreeItem() override;
+
+    /*! Appends \a child and takes ownership. */
+    void appendChild(FeatureTreeItem *child);
+    /*! Inserts \a child at \a position and takes ownership. */
+    void insertChild(FeatureTreeItem *child, int position);
+    /*! Removes the child at \a row and returns it to the caller, who owns it; null when there is none. */
+    FeatureTreeItem *removeChild(int row);
+    /*! Returns the child at \a row, null when there is none. */
+    FeatureTreeItem *child(int row) const;
+    /*! Returns the number of children that exist now; unlike childCount() it never loads any. */
+    int existingChildCount() const;
+    int columnCount() const;
+
+    /*! Deletes all children. */
+    virtual void clearChildren();
+    virtual int childCount();
+    virtual QVariant data(int column, int role);
+    virtual void setData(int column, const QVariant &value, int role);
+    /*! Returns the position among the parent's children, 0 without a parent, -1 when the parent does not have
+     * it. */
+    virtual int row() const;
+    virtual const FeatureTreeItem *parent() const;
+    virtual FeatureTreeItem *parent();
+    virtual const IFeatureTreeModelExtension *getExtension() const;
+    virtual IFeatureTreeModelExtension *getExtension();
+    virtual EditorType editorType();
+    virtual bool hasChildren() const;
+    /*! Returns whether the row is shown at the user level \a level. */
+    virtual bool ShowMe(GenApi::EVisibility level) const;
+    virtual GenApi::EAccessMode getAccessMode();
+    virtual GenApi::EVisibility getVisibility();
+    virtual void setVisibility(GenApi::EVisibility visibility);
+    virtual Qt::ItemFlags flags(int column);
+    /*! Returns whether the row stands for a group of features. */
+    virtual bool isCategory() const;
+    /*! Returns the text of the name column. */
+    virtual QString displayText() const;
+    /*! Returns the name by which searches count the row: a feature's name, or else the full name. */
+    virtual QString nodeName() const;
+
+    // These two never consult the item's own editor type; callers rely on their fixed answers.
+    static EditorType editorType(const QModelIndex &index);
+    static EditorType editorType(const FeatureTreeItem *item);
+
+    /*! Returns whether the row's editor is shown all the time, not only while the row is edited. */
+    bool usePersistentEditor() const;
+    bool isEditable() const;
+
+    /*! Returns whether \a item is this item or one of its existing descendants. */
+    bool findShallow(const FeatureTreeItem *item) const;
+    /*! Returns the first of this item and its existing descendants, depth first, with that full name; else
+     * null. */
+    FeatureTreeItem *findByFullNameShallow(const QString &fullName);
+    /*! Returns the first of this item and its existing descendants whose data(0, role) equals \a value; else
+     * null. */
+    FeatureTreeItem *findByRoleShallow(int role, const QVariant &value);
+
+    QString getDisplayedName() const;
+    void setDisplayedName(const QString &name);
+    QString getFullName() const;
+    QString GetDescription() const;
+    void SetDescription(const QString &description);
+    bool HasDescription() const;
+    QString GetToolTip() const;
+    void SetToolTip(const QString &toolTip);
+    void SetIsFullRowItem(bool isFullRowItem);
+    void SetIsSpecialNode(bool isSpecialNode);
+
+    /*! Returns what a search looks into: displayText() and nodeName(), folded by foldedForSearch() and kept
+     * apart. */
+    const QString &foldedSearchText() const;
+    /*! Returns \a text with the case of each character folded, as case-insensitive comparisons of QString do.
+     */
+    static QString foldedForSearch(QString text);
+
+protected:
+    /*! Returns the brush of the row's texts, or nothing for the default colour. */
+    virtual QVariant GetForegroundRole();
+    /*! Returns the brush of rows that cannot be changed. */
+    static QBrush disabledTextBrush();
+
+    EditorType m_editorType = Category;
+    bool m_childrenLoaded = false;
+
+private:
+    friend class FeatureTreeProxyModel;
+
+    /*! \brief What the filter found out about the item in its last pass. */
+    struct FilterMark
+    {
+        quint64 pass = 0; // marks of other passes are stale
+        GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
+        bool isShownAtAll = false;
+        bool isAccepted = false;
+    };
+
+    void adopt(FeatureTreeItem *child);
+
+    std::unique_ptr<QString> m_description;
+    QString m_name;
+    GenApi::EVisibility m_visibility = GenApi::UndefinedVisibility;
+    QString m_fullName;
+    std::unique_ptr<QString> m_toolTip;
+    FeatureTreeItem *m_parent = nullptr;
+    QList<FeatureTreeItem *> m_children;
+    bool m_isFullRowItem = false;
+    bool m_isSpecialNode = false;
+    IFeatureTreeModelExtension *m_extension = nullptr;
+    mutable QString m_foldedSearchText; // empty until a search asks for it
+    FilterMark m_filterMark;
+    mutable int m_rowHint = 0; // where the item was last found among its parent's children
+};

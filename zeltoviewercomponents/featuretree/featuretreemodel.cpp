@@ -1,0 +1,935 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreemodel.h"
+
+#include "featuretreefavoritesitem.h"
+#include "featuretreeinodeitem.h"
+#include "featuretreenames.h"
+
+#include <platform/core/guard.h>
+#include <platform/genicam/genericexception.h>
+#include <zeltoviewercomponents/errorhandling/messagefunctions.h>
+
+#include <QDataStream>
+#include <QIODevice>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QStringList>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace ParameterCollection;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeModel")
+
+namespace {
+
+constexpr int refreshedLevels = 3;
+
+Core::GuardSite site(const char *function)
+{
+    return {logCategory(), function};
+}
+
+// The models of the process: a drag from another tree's model is as good as one from our own.
+QList<const FeatureTreeItem *> &liveRoots()
+{
+    static QList<const FeatureTreeItem *> roots;
+    return roots;
+}
+
+bool isLive(const FeatureTreeItem *item)
+{
+    const auto &roots = liveRoots();
+    return std::any_of(roots.cbegin(), roots.cend(),
+                       [item](const FeatureTreeItem *root) { return root->findShallow(item); });
+}
+
+bool isSameValue(const QVariant &current, const QVariant &value)
+{
+    return current.isValid() && (current == value || current.toString() == value.toString());
+}
+
+// Names pass through the local 8-bit encoding, in which they are stored.
+QString storedName(const QString &name)
+{
+    return QString::fromLocal8Bit(name.toLocal8Bit());
+}
+
+FavoriteEntry probeOf(const QString &featureName, const QString &nodeMapKey)
+{
+    FavoriteEntry entry;
+    entry.featureName = storedName(featureName);
+    entry.nodeMapKey = nodeMapKey;
+    return entry;
+}
+
+QString firstSegment(const QString &path)
+{
+    return path.section(QLatin1Char('/'), 0, 0);
+}
+
+QString favoritesRowName(const FavoriteEntry &entry)
+{
+    QString nodeMap = entry.nodeMapKey;
+    nodeMap.remove(QLatin1Char('@'));
+    const QStringList parts{FeatureTreeNames::favorite, firstSegment(nodeMap), entry.featureName};
+    return parts.join(QLatin1Char(FeatureTreeNames::separator));
+}
+
+bool isPlaceholder(const FeatureTreeItem *row)
+{
+    return !qobject_cast<const FeatureTreeINodeItem *>(row) && row->getFullName() != FeatureTreeNames::dummy;
+}
+
+} // namespace
+
+FavoritesData FeatureTreeModel::m_favorites;
+
+QString FeatureTreeModel::dragFormat()
+{
+    return QStringLiteral("application/x-fti");
+}
+
+FeatureTreeModel::FeatureTreeModel(QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_rootItem(std::make_unique<FeatureTreeItem>(QString(), this, QString(), nullptr))
+    , m_pollTimer(new QTimer(this))
+{
+    liveRoots().append(m_rootItem.get());
+    m_pollTimer->setSingleShot(true);
+    connect(m_pollTimer, SIGNAL(timeout()), this, SLOT(onTimerPoll()));
+}
+
+FeatureTreeModel::~FeatureTreeModel()
+{
+    if (m_polling) {
+        m_pollTimer->stop();
+    }
+    liveRoots().removeOne(m_rootItem.get());
+    m_rootItem.reset();
+    m_favorites.detach(this);
+}
+
+FeatureTreeItem *FeatureTreeModel::itemOrRoot(const QModelIndex &index) const
+{
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    return item ? item : m_rootItem.get();
+}
+
+QModelIndex FeatureTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    FeatureTreeItem *const child = itemOrRoot(parent)->child(row);
+    return child ? createIndex(row, column, child) : QModelIndex();
+}
+
+QModelIndex FeatureTreeModel::parent(const QModelIndex &index) const
+{
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const above = item ? item->parent() : nullptr;
+    if (!above || above == m_rootItem.get()) {
+        return {};
+    }
+    return createIndex(above->row(), 0, above);
+}
+
+int FeatureTreeModel::rowCount(const QModelIndex &parent) const
+{
+    // Nobody was told a count before the first fill, so that one owes no signal. Announcing rows from in here
+    // would enter a proxy that is just building its mapping.
+    const QScopedValueRollback<bool> silently(m_inRowCount, true);
+    return itemOrRoot(parent)->childCount();
+}
+
+int FeatureTreeModel::columnCount(const QModelIndex &parent) const
+{
+    return itemOrRoot(parent)->columnCount();
+}
+
+bool FeatureTreeModel::hasChildren(const QModelIndex &parent) const
+{
+    const FeatureTreeItem *const item = itemOrRoot(parent);
+    return item == m_rootItem.get() || item->hasChildren();
+}
+
+QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
+{
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    if (!item) {
+        return {};
+    }
+    try {
+        const QVariant result = item->data(index.column(), role);
+        m_dataErrorShown = false;
+        return result;
+    } catch (...) {
+        reportReadFailure();
+        return {};
+    }
+}
+
+// Reports the exception that is being handled, once until a read succeeds again: a broken feature is painted
+// often.
+void FeatureTreeModel::reportReadFailure() const
+{
+    const QString context = QStringLiteral("FeatureTreeModel::data");
+    const QString text = tr("Failed to get a feature value");
+    const bool report = !m_dataErrorShown;
+    m_dataErrorShown = true;
+    try {
+        throw;
+    } catch (const GenICam::GenericException &) {
+        // A feature that is momentarily unreadable; its row shows that by itself.
+    } catch (const std::exception &exception) {
+        if (report) {
+            showException(context, exception, text);
+        }
+    } catch (...) {
+        if (report) {
+            showUnexpectedException(context, text);
+        }
+    }
+}
+
+bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    if (!item || role != Qt::EditRole || index.column() != FeatureTreeColumns::value || !value.isValid()
+        || !m_deviceAlive) {
+        return false;
+    }
+    try {
+        const QVariant current = item->data(FeatureTreeColumns::value, Qt::EditRole);
+        if (!isSameValue(current, value)) {
+            item->setData(FeatureTreeColumns::value, value, Qt::EditRole);
+        }
+        return true;
+    } catch (...) {
+        reportWriteFailure(item);
+        return false;
+    }
+}
+
+// Reports the exception that is being handled.
+void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
+{
+    const QString context = QStringLiteral("FeatureTreeModel::setData");
+    const QString text = tr("Failed to set a feature value.");
+    if (item->editorType() == FeatureTreeItem::Command) {
+        Core::guardedRun(site("FeatureTreeModel::setData"), text,
+                         [this, item] { scheduleForcedParameterDataChangedCheck(item); });
+    }
+    if (!m_deviceAlive) {
+        return;
+    }
+    // The system's and the standard library's own exceptions all derive from std::exception.
+    try {
+        throw;
+    } catch (const std::exception &exception) {
+        showException(context, exception, text);
+    } catch (...) {
+        showUnexpectedException(context, text);
+    }
+}
+
+QVariant FeatureTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (section) {
+    case FeatureTreeColumns::name:
+        return tr("Feature");
+    case FeatureTreeColumns::value:
+        return tr("Value");
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags FeatureTreeModel::flags(const QModelIndex &index) const
+{
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    return item ? item->flags(index.column()) : Qt::ItemIsEnabled;
+}
+
+Qt::DropActions FeatureTreeModel::supportedDropActions() const
+{
+    return Qt::MoveAction;
+}
+
+QMimeData *FeatureTreeModel::mimeData(const QModelIndexList &indexes) const
+{
+    QMimeData *const mimeData = QAbstractItemModel::mimeData(indexes);
+    if (!mimeData) {
+        return nullptr;
+    }
+    QByteArray payload;
+    QDataStream stream(&payload, QIODevice::WriteOnly);
+    for (const QModelIndex &index : indexes) {
+        if (index.isValid()) {
+            stream << static_cast<qint64>(reinterpret_cast<qintptr>(index.internalPointer()));
+        }
+    }
+    mimeData->setData(dragFormat(), payload);
+    return mimeData;
+}
+
+// The payload may come from another process or an old drag: an address is looked up among the items that
+// live, never followed.
+bool FeatureTreeModel::readDraggedItems(const QMimeData &data, QList<FeatureTreeItem *> &items) const
+{
+    QDataStream stream(data.data(dragFormat()));
+    while (!stream.atEnd()) {
+        qint64 address = 0;
+        stream >> address;
+        if (stream.status() != QDataStream::Ok) {
+            return false;
+        }
+        if (address == 0) {
+            continue;
+        }
+        auto *const item = reinterpret_cast<FeatureTreeItem *>(static_cast<qintptr>(address));
+        if (!isLive(item)) {
+            return false;
+        }
+        items.append(item);
+    }
+    return true;
+}
+
+bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                                    const QModelIndex &parent)
+{
+    Q_UNUSED(column)
+    Q_UNUSED(parent)
+    if (action == Qt::IgnoreAction) {
+        return true;
+    }
+    QList<FeatureTreeItem *> items;
+    if (!data || !data->hasFormat(dragFormat()) || !readDraggedItems(*data, items)) {
+        return false;
+    }
+    const int target = row == -1 ? rowCount() : row;
+    m_favorites.setDeferredUpdates(true);
+    // From the last to the first: each lands on the same row, so that the dragged order stays.
+    for (auto item = items.crbegin(); item != items.crend(); ++item) {
+        dropItem(*item, std::min(target, m_favorites.count()));
+    }
+    m_favorites.setDeferredUpdates(false);
+    return true;
+}
+
+void FeatureTreeModel::dropItem(FeatureTreeItem *item, int row)
+{
+    // Asked of the item's own model, which may be another tree's.
+    if (item->getExtension()->IsFavoriteTreeItem(item)) {
+        m_favorites.moveEntry(getFavoritesIndexFromFeatureTreeItem(item), row);
+    } else if (const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
+        AddFavorite(nodeItem->node(), row);
+    }
+}
+
+bool FeatureTreeModel::IsFavoriteTreeItem(const FeatureTreeItem *item) const
+{
+    return item && IsFavoriteTreeRoot(item->parent());
+}
+
+bool FeatureTreeModel::IsFavoriteTreeRoot(const FeatureTreeItem *item) const
+{
+    return item && item == m_favoritesRoot;
+}
+
+QModelIndex FeatureTreeModel::indexForItem(FeatureTreeItem *item, int column)
+{
+    return item ? createIndex(item->row(), column, item) : QModelIndex();
+}
+
+QModelIndex FeatureTreeModel::GetFavoritesRootIndex()
+{
+    return indexForItem(m_favoritesRoot, FeatureTreeColumns::name);
+}
+
+void FeatureTreeModel::EnablePolling(bool enable)
+{
+    if (m_polling == enable) {
+        return;
+    }
+    m_polling = enable;
+    if (enable) {
+        m_pollTimer->start(m_pollInterval);
+    }
+}
+
+bool FeatureTreeModel::GetPolling() const
+{
+    return m_polling;
+}
+
+const QTimer *FeatureTreeModel::pollTimer() const
+{
+    return m_pollTimer;
+}
+
+void FeatureTreeModel::onTimerPoll()
+{
+    if (!m_deviceAlive) {
+        m_polling = false;
+        return;
+    }
+    Core::guardedRun(site("FeatureTreeModel::onTimerPoll"), QStringLiteral("Failed to run feature polling."),
+                     [this] {
+                         if (m_monitorMode) {
+                             refresh();
+                         } else if (!m_collections.isEmpty() && m_collections.constFirst().collection) {
+                             m_collections.constFirst().collection->poll(m_pollInterval);
+                         }
+                     });
+    if (m_polling) {
+        m_pollTimer->start(m_pollInterval);
+    }
+}
+
+void FeatureTreeModel::SetDeviceAlive(bool alive)
+{
+    m_deviceAlive = alive;
+}
+
+QModelIndex FeatureTreeModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start, int column)
+{
+    const FeatureTreeItem *const top = start ? start : m_rootItem.get();
+    return item && top->findShallow(item) ? indexForItem(const_cast<FeatureTreeItem *>(item), column)
+                                          : QModelIndex();
+}
+
+QModelIndex FeatureTreeModel::findItemByFullName(const QString &fullName, FeatureTreeItem *start, int column)
+{
+    FeatureTreeItem *const top = start ? start : m_rootItem.get();
+    return indexForItem(top->findByFullNameShallow(fullName), column);
+}
+
+QModelIndex FeatureTreeModel::findItemByRole(int role, const QVariant &value, FeatureTreeItem *start,
+                                             int column)
+{
+    FeatureTreeItem *const top = start ? start : m_rootItem.get();
+    return indexForItem(top->findByRoleShallow(role, value), column);
+}
+
+void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollection> collection,
+                                              const QString &title, const QString &nodeMapName,
+                                              bool childNodeFlag)
+{
+    m_childNodeFlag = childNodeFlag;
+    const QString context = QStringLiteral("FeatureTreeModel::addParameterCollection");
+    const QString failure = tr("Failed to get the node 'Root' from the node map");
+    QSharedPointer<IParameter> root;
+    try {
+        if (collection) {
+            root = collection->parameter(nodeMapName + QLatin1Char('/') + FeatureTreeNames::root);
+        }
+    } catch (const std::exception &exception) {
+        showException(context, exception, failure);
+        return;
+    } catch (...) {
+        showUnexpectedException(context, failure);
+        return;
+    }
+    if (!root) {
+        showUnexpectedException(context, failure);
+        return;
+    }
+
+    const QString fullName = nodeMapName + QLatin1Char(FeatureTreeNames::separator) + FeatureTreeNames::root;
+    auto *const item =
+        new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false);
+    adoptNodeItem(item, true);
+    emit layoutAboutToBeChanged();
+    m_rootItem->appendChild(item);
+    emit layoutChanged();
+
+    replaceFavoritesZombies(collection, nodeMapName);
+    item->childCount();
+    m_collections.append({nodeMapName, collection, childNodeFlag});
+    refreshSpecialItems();
+}
+
+void FeatureTreeModel::adoptNodeItem(FeatureTreeINodeItem *item, bool isFullRowItem)
+{
+    item->setHighlighter(m_highlighter);
+    item->SetIsFullRowItem(isFullRowItem);
+    item->SetIsSpecialNode(false);
+    connect(item, SIGNAL(nodeUpdated(int, FeatureTreeINodeItem *)), this,
+            SLOT(onNodeUpdated(int, FeatureTreeINodeItem *)));
+}
+
+void FeatureTreeModel::addChildren(FeatureTreeINodeItem *parent)
+{
+    const QList<FeatureTreeItem *> children = createChildItems(parent);
+    if (children.isEmpty()) {
+        return;
+    }
+    const bool announce = !m_inRowCount;
+    if (announce) {
+        beginInsertRows(indexForItem(parent, FeatureTreeColumns::name), 0,
+                        static_cast<int>(children.size()) - 1);
+    }
+    for (FeatureTreeItem *const child : children) {
+        parent->appendChild(child);
+    }
+    if (announce) {
+        endInsertRows();
+    }
+}
+
+QList<FeatureTreeItem *> FeatureTreeModel::createChildItems(FeatureTreeINodeItem *parent)
+{
+    const Core::GuardSite here = site("FeatureTreeModel::addChildren");
+    const QStringList names = Core::guarded(
+        here,
+        [parent] { return QStringLiteral("Failed to list the children of %1").arg(parent->getFullName()); },
+        QStringList(),
+        [parent] {
+            const auto parameter = parent->node();
+            return parameter && parent->collection()
+                ? parent->collection()->childNames(parameter->fullName(), 0, true)
+                : QStringList();
+        });
+    QList<FeatureTreeItem *> items;
+    items.reserve(names.size());
+    for (const QString &name : names) {
+        FeatureTreeItem *const item = Core::guarded(
+            here, [&name] { return QStringLiteral("Failed to add the node %1").arg(name); },
+            static_cast<FeatureTreeItem *>(nullptr),
+            [this, parent, &name] { return createChildItem(parent, name); });
+        if (item) {
+            items.append(item);
+        }
+    }
+    return items;
+}
+
+// Returns null for a node that is not admitted to the tree.
+FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent, const QString &name)
+{
+    const QSharedPointer<IParameter> parameter = parent->collection()->parameter(name);
+    if (!parameter || parameter->isExcluded()) {
+        return nullptr;
+    }
+    if (parameter->type() == ParameterType::Category && parameter->visibility() >= GenApi::Invisible) {
+        return nullptr;
+    }
+    auto *const item =
+        new FeatureTreeINodeItem(parent->collection(), parameter, this, name, parent, m_childNodeFlag);
+    adoptNodeItem(item, false);
+    return item;
+}
+
+void FeatureTreeModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)
+{
+    if (!m_deviceAlive || row < 0) {
+        return;
+    }
+    // One signal for each cell: views treat a change of a single cell specially.
+    for (const int column : {FeatureTreeColumns::name, FeatureTreeColumns::value}) {
+        const QModelIndex cell = createIndex(row, column, nodeItem);
+        emit dataChanged(cell, cell);
+    }
+}
+
+void FeatureTreeModel::refresh()
+{
+    if (m_collections.isEmpty() || !m_collections.constFirst().collection) {
+        return;
+    }
+    Core::guardedRun(site("FeatureTreeModel::refresh"), QStringLiteral("Failed to refresh the features."),
+                     [this] { m_collections.constFirst().collection->refresh(); });
+}
+
+void FeatureTreeModel::setVisibility(GenApi::EVisibility visibility)
+{
+    m_visibility = visibility;
+}
+
+GenApi::EVisibility FeatureTreeModel::getVisibility()
+{
+    return m_visibility;
+}
+
+void FeatureTreeModel::setMonitorMode(bool enable)
+{
+    m_monitorMode = enable;
+}
+
+void FeatureTreeModel::setGenICamCallbacksEnable(bool enable)
+{
+    m_callbacksEnabled = enable;
+}
+
+bool FeatureTreeModel::getGenICamCallbackEnable() const
+{
+    return m_callbacksEnabled;
+}
+
+FeatureTreeItem *FeatureTreeModel::getFeatureTreeItem(const QModelIndex &index) const
+{
+    return static_cast<FeatureTreeItem *>(index.internalPointer());
+}
+
+void FeatureTreeModel::setHighlighter(FeatureTreeHighlighter *highlighter)
+{
+    m_highlighter = highlighter;
+}
+
+FeatureTreeItem *FeatureTreeModel::getSearchHelpItem() const
+{
+    return m_searchHelpItem;
+}
+
+void FeatureTreeModel::refreshSpecialItems()
+{
+    QList<FeatureTreeItem *> level{m_rootItem.get()};
+    for (int depth = 0; depth < refreshedLevels; ++depth) {
+        QList<FeatureTreeItem *> nextLevel;
+        for (const FeatureTreeItem *const above : std::as_const(level)) {
+            for (int row = 0; row < above->existingChildCount(); ++row) {
+                nextLevel.append(above->child(row));
+            }
+        }
+        for (FeatureTreeItem *const item : std::as_const(nextLevel)) {
+            const QModelIndex index = indexForItem(item, FeatureTreeColumns::name);
+            if (data(index, FeatureTreeItem::IsFullRowItem).toBool()
+                && item->getFullName() != FeatureTreeNames::dummy) {
+                emit dataChanged(index, index);
+            }
+        }
+        level = nextLevel;
+    }
+}
+
+void FeatureTreeModel::clear()
+{
+    m_favoritesRoot = nullptr;
+    m_searchHelpItem = nullptr;
+    m_collections.clear();
+    m_rootItem->clearChildren();
+}
+
+QString FeatureTreeModel::GetParameterCollectionName(QSharedPointer<IParameterCollection> collection)
+{
+    Q_UNUSED(collection)
+    return {};
+}
+
+void FeatureTreeModel::scheduleForcedParameterDataChangedCheck(FeatureTreeItem *item)
+{
+    if (auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
+        nodeItem->scheduleForcedParameterDataChangedCheck();
+    }
+}
+
+// Inserts a top row as the first, moving the persistent indexes of the others.
+void FeatureTreeModel::insertTopItem(FeatureTreeItem *item)
+{
+    m_rootItem->insertChild(item, 0);
+    const QModelIndexList persistent = persistentIndexList();
+    for (const QModelIndex &index : persistent) {
+        FeatureTreeItem *const moved = getFeatureTreeItem(index);
+        if (moved->parent() == m_rootItem.get()) {
+            changePersistentIndex(index, createIndex(index.row() + 1, index.column(), moved));
+        }
+    }
+}
+
+void FeatureTreeModel::createSearchRow()
+{
+    // The row is announced as the second top row, below the invisible root, and stands as the first.
+    beginInsertRows(indexForItem(m_rootItem.get(), FeatureTreeColumns::name), 1, 1);
+    m_searchHelpItem = new FeatureTreeItem(
+        QStringLiteral("<HTML><B>X search results found (Y of them visible at higher user level)</B>"), this,
+        FeatureTreeNames::search, m_rootItem.get());
+    m_searchHelpItem->setVisibility(GenApi::Invisible);
+    m_searchHelpItem->SetIsFullRowItem(true);
+    m_searchHelpItem->SetIsSpecialNode(true);
+    insertTopItem(m_searchHelpItem);
+    const QModelIndex index = indexForItem(m_searchHelpItem, FeatureTreeColumns::name);
+    emit dataChanged(index, index);
+    endInsertRows();
+}
+
+void FeatureTreeModel::CreateFavoritesRoot()
+{
+    if (m_favoritesRoot) {
+        return;
+    }
+    emit layoutAboutToBeChanged();
+    m_favoritesRoot = new FeatureTreeFavoritesItem(tr("Favorites"), this, m_rootItem.get());
+    m_favoritesRoot->SetDescription(tr(
+        "<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
+        "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also "
+        "use "
+        "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the "
+        "list "
+        "as well as removed from the list by right-clicking an item and choosing the appropriate option from "
+        "the "
+        "context menu."));
+    m_favoritesRoot->setVisibility(GenApi::Beginner);
+    m_favoritesRoot->SetIsFullRowItem(true);
+    m_favoritesRoot->SetIsSpecialNode(true);
+    insertTopItem(m_favoritesRoot);
+    emit layoutChanged();
+    for (FeatureTreeItem *const changed :
+         {m_rootItem.get(), static_cast<FeatureTreeItem *>(m_favoritesRoot)}) {
+        const QModelIndex index = indexForItem(changed, FeatureTreeColumns::name);
+        emit dataChanged(index, index);
+    }
+}
+
+void FeatureTreeModel::rebuildFavoriteItems()
+{
+    CreateFavoritesRoot();
+    removeFavoriteRows();
+    insertFavoritePlaceholders();
+    const QList<Collection> collections = m_collections;
+    for (const Collection &entry : collections) {
+        replaceFavoritesZombies(entry.collection, entry.nodeMapName);
+    }
+    if (!m_searchHelpItem) {
+        createSearchRow();
+    }
+    refreshSpecialItems();
+}
+
+void FeatureTreeModel::removeFavoriteRows()
+{
+    const int count = m_favoritesRoot->existingChildCount();
+    if (count == 0) {
+        return;
+    }
+    beginRemoveRows(GetFavoritesRootIndex(), 0, count - 1);
+    m_favoritesRoot->clearChildren();
+    endRemoveRows();
+}
+
+void FeatureTreeModel::insertFavoritePlaceholders()
+{
+    const GenApi::EVisibility visibility = m_favorites.viewAll() ? GenApi::Beginner : GenApi::Invisible;
+    const int count = m_favorites.count();
+    if (count == 0) {
+        showEmptyFavoritesHint();
+        return;
+    }
+    beginInsertRows(GetFavoritesRootIndex(), 0, count - 1);
+    for (int i = 0; i < count; ++i) {
+        const FavoriteEntry entry = *m_favorites.entryAt(i);
+        auto *const row =
+            new FeatureTreeItem(entry.displayName, this, favoritesRowName(entry), m_favoritesRoot);
+        row->setVisibility(visibility);
+        m_favoritesRoot->appendChild(row);
+    }
+    endInsertRows();
+}
+
+void FeatureTreeModel::showEmptyFavoritesHint()
+{
+    auto *const hint = new FeatureTreeItem(tr("Add favorites by right-clicking a feature below."), this,
+                                           FeatureTreeNames::dummy, m_favoritesRoot);
+    hint->SetToolTip(
+        tr("To add a feature, right-click the feature and choose 'Add to Favorites' from the context "
+           "menu. You can also use drag and drop to add features to your favorites."));
+    hint->setVisibility(GenApi::Beginner);
+    hint->SetIsFullRowItem(true);
+    hint->SetIsSpecialNode(true);
+    beginInsertRows(GetFavoritesRootIndex(), 0, 0);
+    m_favoritesRoot->appendChild(hint);
+    endInsertRows();
+    const QModelIndex index = indexForItem(hint, FeatureTreeColumns::name);
+    emit dataChanged(index, index);
+}
+
+void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollection> collection,
+                                               const QString &nodeMapName)
+{
+    if (!collection || !m_favoritesRoot) {
+        return;
+    }
+    const Collection source{nodeMapName, collection, childNodeFlagOf(collection.data())};
+    const int count = std::min(m_favorites.count(), m_favoritesRoot->existingChildCount());
+    for (int i = 0; i < count; ++i) {
+        const FavoriteEntry entry = *m_favorites.entryAt(i);
+        if (entry.nodeMapKey != nodeMapName) {
+            continue;
+        }
+        const QString fullName = entry.nodeMapKey + QLatin1Char('/') + entry.featureName;
+        Core::guardedRun(
+            site("FeatureTreeModel::replaceFavoritesZombies"),
+            QStringLiteral("Failed to look up the favorite %1").arg(fullName), [this, &source, &fullName, i] {
+                const QSharedPointer<IParameter> parameter = source.collection->parameter(fullName);
+                if (parameter && !parameter->isExcluded()) {
+                    replaceFavoritesPlaceholder(source, i, parameter);
+                }
+            });
+    }
+    updateFavoritesToolTip();
+    refreshSpecialItems();
+}
+
+void FeatureTreeModel::replaceFavoritesPlaceholder(const Collection &source, int row,
+                                                   const QSharedPointer<IParameter> &parameter)
+{
+    FeatureTreeItem *const old = m_favoritesRoot->child(row);
+    if (qobject_cast<FeatureTreeINodeItem *>(old)) {
+        old->SetIsFullRowItem(false);
+        old->SetIsSpecialNode(false);
+        return;
+    }
+    auto *const item = new FeatureTreeINodeItem(source.collection, parameter, this, old->getFullName(),
+                                                m_favoritesRoot, source.childNodeFlag);
+    const QModelIndex parent = GetFavoritesRootIndex();
+    beginRemoveRows(parent, row, row);
+    delete m_favoritesRoot->removeChild(row);
+    endRemoveRows();
+    beginInsertRows(parent, row, row);
+    m_favoritesRoot->insertChild(item, row);
+    endInsertRows();
+    adoptNodeItem(item, false);
+    const QModelIndex index = indexForItem(item, FeatureTreeColumns::name);
+    emit dataChanged(index, index);
+}
+
+void FeatureTreeModel::updateFavoritesToolTip()
+{
+    int unavailable = 0;
+    for (int row = 0; row < m_favoritesRoot->existingChildCount(); ++row) {
+        unavailable += isPlaceholder(m_favoritesRoot->child(row)) ? 1 : 0;
+    }
+    const int count = m_favorites.count();
+    if (unavailable == 0 && count == 0) {
+        return;
+    }
+    const QString noun = count < 2 ? tr("Favorite") : tr("Favorites");
+    if (unavailable == 0) {
+        m_favoritesRoot->SetToolTip(QStringLiteral("%1 %2").arg(count).arg(noun));
+        return;
+    }
+    const QString text = unavailable == 1 ? tr("%1 %2 (%3 is unavailable for the current camera)")
+                                          : tr("%1 %2 (%3 are unavailable for the current camera)");
+    m_favoritesRoot->SetToolTip(text.arg(count).arg(noun).arg(unavailable));
+}
+
+bool FeatureTreeModel::childNodeFlagOf(const IParameterCollection *collection) const
+{
+    const auto found =
+        std::find_if(m_collections.cbegin(), m_collections.cend(),
+                     [collection](const Collection &entry) { return entry.collection.data() == collection; });
+    return found == m_collections.cend() ? m_childNodeFlag : found->childNodeFlag;
+}
+
+bool FeatureTreeModel::AddFavorite(QSharedPointer<IParameter> parameter, int row)
+{
+    if (!parameter || row < 0) {
+        return false;
+    }
+    return Core::guarded(site("FeatureTreeModel::AddFavorite"), QStringLiteral("Failed to add a favorite"),
+                         false, [&parameter, row] {
+                             if (parameter->isExcluded()) {
+                                 return false;
+                             }
+                             FavoriteEntry entry;
+                             entry.featureName = parameter->name();
+                             entry.displayName =
+                                 parameter->propertyAccess()->property(QStringLiteral("DisplayName"));
+                             entry.nodeMapKey = firstSegment(parameter->fullName());
+                             return row < m_favorites.count() ? m_favorites.insertEntry(row, entry)
+                                                              : m_favorites.appendEntry(entry);
+                         });
+}
+
+bool FeatureTreeModel::CanAddAsFavorite(QModelIndex index) const
+{
+    const auto *const item =
+        index.isValid() ? qobject_cast<FeatureTreeINodeItem *>(getFeatureTreeItem(index)) : nullptr;
+    const QSharedPointer<IParameter> parameter = item ? item->node() : nullptr;
+    if (!parameter || getFavoritesIndexFromModelIndex(index) >= 0) {
+        return false;
+    }
+    return Core::guarded(site("FeatureTreeModel::CanAddAsFavorite"),
+                         QStringLiteral("Failed to ask whether a feature can be a favorite"), false,
+                         [&parameter] {
+                             const ParameterType type = parameter->type();
+                             return !parameter->isExcluded() && type >= ParameterType::Integer
+                                 && type <= ParameterType::Enumeration;
+                         });
+}
+
+// A plain row of a favorite feature has a favorites index too; moving and removing act on the branch alone.
+bool FeatureTreeModel::isFavoritesRow(const QModelIndex &index) const
+{
+    return index.isValid() && IsFavoriteTreeItem(getFeatureTreeItem(index));
+}
+
+bool FeatureTreeModel::CanMoveFavorite(QModelIndex index, bool up) const
+{
+    const int i = isFavoritesRow(index) ? getFavoritesIndexFromModelIndex(index) : -1;
+    return i >= 0 && (up ? i >= 1 : i < m_favorites.count() - 1);
+}
+
+bool FeatureTreeModel::MoveFavorite(QModelIndex index, bool up)
+{
+    if (!CanMoveFavorite(index, up)) {
+        return false;
+    }
+    const int i = getFavoritesIndexFromModelIndex(index);
+    // An entry is inserted before its target, counted with the entry still in place.
+    return m_favorites.moveEntry(i, up ? i - 1 : i + 2);
+}
+
+bool FeatureTreeModel::RemoveFavorite(QModelIndex index)
+{
+    const int i = isFavoritesRow(index) ? getFavoritesIndexFromModelIndex(index) : -1;
+    return i >= 0 && m_favorites.removeEntry(i);
+}
+
+int FeatureTreeModel::getFavoritesIndexFromModelIndex(QModelIndex index) const
+{
+    return index.isValid() ? getFavoritesIndexFromFeatureTreeItem(getFeatureTreeItem(index)) : -1;
+}
+
+int FeatureTreeModel::getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const
+{
+    if (!item) {
+        return -1;
+    }
+    const QStringList parts = item->getFullName().split(QLatin1Char(FeatureTreeNames::separator));
+    if (parts.size() >= 2) {
+        const bool isFavoritesName = parts.size() >= 3 && parts[0] == FeatureTreeNames::favorite;
+        const qsizetype nodeMap = isFavoritesName ? 1 : 0;
+        return m_favorites.indexOfEntry(probeOf(parts[nodeMap + 1], QLatin1Char('@') + parts[nodeMap]));
+    }
+    const auto *const nodeItem = qobject_cast<const FeatureTreeINodeItem *>(item);
+    const QSharedPointer<IParameter> parameter = nodeItem ? nodeItem->node() : nullptr;
+    if (!parameter) {
+        return -1;
+    }
+    return Core::guarded(site("FeatureTreeModel::getFavoritesIndexFromFeatureTreeItem"),
+                         QStringLiteral("Failed to identify a favorite"), -1, [&parameter] {
+                             return m_favorites.indexOfEntry(
+                                 probeOf(parameter->name(), firstSegment(parameter->fullName())));
+                         });
+}
+
+FavoritesData &FeatureTreeModel::GetFavorites()
+{
+    return m_favorites;
+}
+
+void FeatureTreeModel::EnableViewAllFavorites(bool enable)
+{
+    m_favorites.setViewAll(enable);
+}
+
+bool FeatureTreeModel::GetViewAllFavorites() const
+{
+    return m_favorites.viewAll();
+}

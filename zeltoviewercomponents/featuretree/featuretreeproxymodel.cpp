@@ -1,0 +1,691 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreeproxymodel.h"
+
+#include "favoritesdata.h"
+#include "featuretreeinodeitem.h"
+#include "featuretreemodel.h"
+#include "featuretreenames.h"
+
+#include <QRegularExpression>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+// Unique over all proxies, so that no proxy takes another's marks for its own.
+quint64 nextPass()
+{
+    static quint64 pass = 0;
+    return ++pass;
+}
+
+// An index made of the invisible root item: valid, but no row. The search row is announced below it.
+bool isPhantom(const QModelIndex &sourceIndex)
+{
+    const auto *const item = static_cast<const FeatureTreeItem *>(sourceIndex.internalPointer());
+    return sourceIndex.isValid() && item && !item->parent();
+}
+
+GenApi::EVisibility effectiveVisibility(FeatureTreeItem *item, GenApi::EVisibility level)
+{
+    const bool shown = level == GenApi::Invisible || item->ShowMe(GenApi::Guru)
+        || item->getVisibility() == GenApi::Invisible;
+    return shown ? item->getVisibility() : GenApi::UndefinedVisibility;
+}
+
+} // namespace
+
+FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
+    : QSortFilterProxyModel(parent)
+{
+}
+
+FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
+
+void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
+{
+    if (QAbstractItemModel *const old = this->sourceModel()) {
+        disconnect(old, nullptr, this, nullptr);
+        if (model()) {
+            disconnect(model()->pollTimer(), nullptr, this, nullptr);
+        }
+    }
+    m_treeJudged = false;
+    startPass();
+    QSortFilterProxyModel::setSourceModel(sourceModel);
+    if (!sourceModel) {
+        return;
+    }
+    // After the base's connections, so that its mapping is up to date when ours are called.
+    connect(sourceModel, SIGNAL(rowsAboutToBeInserted(QModelIndex, int, int)), this,
+            SLOT(onSourceRowsAboutToBeInserted(QModelIndex, int, int)));
+    connect(sourceModel, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+            SLOT(onSourceRowsInserted(QModelIndex, int, int)));
+    connect(sourceModel, SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>)), this,
+            SLOT(onSourceDataChanged(QModelIndex, QModelIndex)));
+    if (model()) {
+        m_reportedPolling = model()->GetPolling();
+        connect(model()->pollTimer(), SIGNAL(timeout()), this, SLOT(onPollTimerShot()));
+    }
+}
+
+FeatureTreeModel *FeatureTreeProxyModel::model() const
+{
+    return qobject_cast<FeatureTreeModel *>(sourceModel());
+}
+
+FeatureTreeItem *FeatureTreeProxyModel::rootItem() const
+{
+    const QModelIndex top = model() ? model()->index(0, 0) : QModelIndex();
+    return top.isValid() ? model()->getFeatureTreeItem(top)->parent() : nullptr;
+}
+
+QModelIndex FeatureTreeProxyModel::mapToSource(const QModelIndex &proxyIndex) const
+{
+    const QModelIndex source = QSortFilterProxyModel::mapToSource(proxyIndex);
+    if (m_shiftTopRows && source.isValid() && !source.parent().isValid()) {
+        return sourceModel()->index(source.row() + 1, source.column());
+    }
+    return source;
+}
+
+int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() && !hasChildren(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
+}
+
+bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
+{
+    if (!parent.isValid()) {
+        return QSortFilterProxyModel::hasChildren(parent);
+    }
+    // The source knows without creating any: a category that passes has a row to show.
+    return parent.column() == 0 && sourceModel()->hasChildren(mapToSource(parent));
+}
+
+Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags result = QSortFilterProxyModel::flags(index);
+    const FeatureTreeItem *const item = getFeatureTreeItem(index);
+    if (item && !item->isCategory()) {
+        result |= Qt::ItemNeverHasChildren; // saves views the question
+    }
+    return result;
+}
+
+bool FeatureTreeProxyModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                                         const QModelIndex &parent)
+{
+    if (row == -1 && IsFavoriteTreeRoot(getFeatureTreeItem(parent))) {
+        // Onto the branch itself: appended, wherever the top rows end.
+        return sourceModel()->dropMimeData(data, action, GetFavorites().count(), column, mapToSource(parent));
+    }
+    return QSortFilterProxyModel::dropMimeData(data, action, row, column, parent);
+}
+
+void FeatureTreeProxyModel::setAcceptAll(bool acceptAll)
+{
+    m_acceptAll = acceptAll;
+}
+
+bool FeatureTreeProxyModel::acceptAll() const
+{
+    return m_acceptAll;
+}
+
+const QSet<QString> &FeatureTreeProxyModel::visibleMatches() const
+{
+    return m_visibleMatches;
+}
+
+const QSet<QString> &FeatureTreeProxyModel::hiddenMatches() const
+{
+    return m_hiddenMatches;
+}
+
+void FeatureTreeProxyModel::setFilterFixedString(const QString &pattern)
+{
+    {
+        // The base would take rows out one interval at a time, each with signals; one change of the layout
+        // follows.
+        const QScopedValueRollback<bool> frozen(m_frozen, true);
+        QSortFilterProxyModel::setFilterFixedString(pattern);
+    }
+    m_pattern = filterRegularExpression().pattern();
+    m_foldedText = FeatureTreeItem::foldedForSearch(pattern);
+    refilter();
+}
+
+// Judges all rows anew and publishes the result.
+void FeatureTreeProxyModel::refilter()
+{
+    m_refilterQueued = false;
+    startPass();
+    if (!m_pattern.isEmpty()) {
+        judgeTree();
+    }
+    invalidate();
+}
+
+void FeatureTreeProxyModel::startPass() const
+{
+    m_pass = nextPass();
+    m_treeJudged = false;
+    m_visibleMatches.clear();
+    m_hiddenMatches.clear();
+}
+
+void FeatureTreeProxyModel::noticePattern() const
+{
+    const QString pattern = filterRegularExpression().pattern();
+    if (pattern == m_pattern) {
+        return;
+    }
+    m_pattern = pattern;
+    m_foldedText.reset();
+    if (pattern.isEmpty()) {
+        m_foldedText = QString();
+    }
+    startPass();
+}
+
+bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
+{
+    if (m_rejectAll || isPhantom(sourceParent)) {
+        return false;
+    }
+    if (m_acceptAll || !model()) {
+        return true;
+    }
+    FeatureTreeItem *const item =
+        model()->getFeatureTreeItem(model()->index(sourceRow, FeatureTreeColumns::name, sourceParent));
+    if (!item) {
+        return false;
+    }
+    if (m_frozen) {
+        return item->m_filterMark.isAccepted;
+    }
+    noticePattern();
+    return accepts(item);
+}
+
+bool FeatureTreeProxyModel::isJudged(const FeatureTreeItem *item) const
+{
+    return item->m_filterMark.pass == m_pass;
+}
+
+bool FeatureTreeProxyModel::accepts(FeatureTreeItem *item) const
+{
+    if (isJudged(item)) {
+        return item->m_filterMark.isAccepted;
+    }
+    if (m_pattern.isEmpty()) {
+        return judgeAlone(item);
+    }
+    if (!m_treeJudged) {
+        judgeTree();
+    }
+    if (!isJudged(item)) {
+        judgeBelow(item); // it came after the pass
+    }
+    return item->m_filterMark.isAccepted;
+}
+
+bool FeatureTreeProxyModel::judgeAlone(FeatureTreeItem *item) const
+{
+    const bool isAccepted =
+        IsFavoriteTreeRoot(item) || matches(item) || hasMatchAbove(item) || hasMatchBelow(item);
+    mark(item, isAccepted);
+    return isAccepted;
+}
+
+void FeatureTreeProxyModel::judgeTree() const
+{
+    m_treeJudged = true;
+    FeatureTreeItem *const root = rootItem();
+    if (!root) {
+        return;
+    }
+    loadTree(root);
+    for (int row = 0; row < root->existingChildCount(); ++row) {
+        judge(root->child(row), false, GenApi::Beginner);
+    }
+}
+
+void FeatureTreeProxyModel::judgeBelow(FeatureTreeItem *item) const
+{
+    GenApi::EVisibility above = GenApi::Beginner;
+    for (FeatureTreeItem *ancestor = item->parent(); ancestor && ancestor->parent();
+         ancestor = ancestor->parent()) {
+        above = std::max(above, effectiveVisibility(ancestor, m_level));
+    }
+    loadTree(item);
+    judge(item, hasMatchAbove(item), above);
+}
+
+// Marks the item and all below it. Returns whether one of them matches.
+bool FeatureTreeProxyModel::judge(FeatureTreeItem *item, bool ancestorMatches,
+                                  GenApi::EVisibility ancestorVisibility) const
+{
+    const bool hit = isHit(item);
+    const bool match = matches(item);
+    const GenApi::EVisibility visibility = std::max(ancestorVisibility, effectiveVisibility(item, m_level));
+    if (hit) {
+        countHit(item, visibility);
+    }
+    bool matchBelow = false;
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        matchBelow |= judge(item->child(row), ancestorMatches || match, visibility);
+    }
+    mark(item, match || ancestorMatches || matchBelow);
+    return match || matchBelow;
+}
+
+void FeatureTreeProxyModel::mark(FeatureTreeItem *item, bool isAccepted) const
+{
+    item->m_filterMark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), isAccepted};
+}
+
+// A row that contains the search text; categories and collections' top rows never do.
+bool FeatureTreeProxyModel::isHit(const FeatureTreeItem *item) const
+{
+    if (item->isCategory()) {
+        return false;
+    }
+    const bool found = m_foldedText ? item->foldedSearchText().contains(*m_foldedText)
+                                    : item->displayText().contains(filterRegularExpression())
+            || item->nodeName().contains(filterRegularExpression());
+    return found && item->nodeName() != FeatureTreeNames::root;
+}
+
+bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
+{
+    const bool isShown = m_level == GenApi::Invisible || item->ShowMe(GenApi::Guru);
+    if (!isShown || item->getVisibility() > m_level) {
+        return false;
+    }
+    if (item->getFullName() == FeatureTreeNames::search) {
+        return item->getVisibility() < GenApi::Invisible; // shown by a search alone, at the highest level too
+    }
+    return isHit(item);
+}
+
+void FeatureTreeProxyModel::countHit(const FeatureTreeItem *item, GenApi::EVisibility visibility) const
+{
+    if (!qobject_cast<const FeatureTreeINodeItem *>(item)) {
+        return; // hints and placeholders are no results
+    }
+    if (visibility <= m_level) {
+        m_visibleMatches.insert(item->nodeName());
+    } else if (visibility < GenApi::Invisible) {
+        m_hiddenMatches.insert(item->nodeName());
+    }
+}
+
+bool FeatureTreeProxyModel::hasMatchAbove(FeatureTreeItem *item) const
+{
+    for (FeatureTreeItem *ancestor = item->parent(); ancestor && ancestor->parent();
+         ancestor = ancestor->parent()) {
+        if (matches(ancestor)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool FeatureTreeProxyModel::hasMatchBelow(FeatureTreeItem *item) const
+{
+    loadChildren(item);
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        if (matches(item->child(row))) {
+            return true;
+        }
+    }
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        if (hasMatchBelow(item->child(row))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Only the model's rowCount() fills a branch without announcing rows to the base, which may be asking.
+void FeatureTreeProxyModel::loadChildren(FeatureTreeItem *item) const
+{
+    if (item->existingChildCount() == 0 && item->hasChildren()) {
+        sourceModel()->rowCount(model()->indexForItem(item, FeatureTreeColumns::name));
+    }
+}
+
+void FeatureTreeProxyModel::loadTree(FeatureTreeItem *item) const
+{
+    loadChildren(item);
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        loadTree(item->child(row));
+    }
+}
+
+void FeatureTreeProxyModel::onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last)
+{
+    Q_UNUSED(first)
+    Q_UNUSED(last)
+    if (isPhantom(parent)) {
+        emit layoutAboutToBeChanged();
+        blockSignals(true);
+    }
+}
+
+void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int first, int last)
+{
+    Q_UNUSED(first)
+    Q_UNUSED(last)
+    if (isPhantom(parent)) {
+        {
+            // The row stands above all others, where the base's mapping knows nothing of it.
+            const QScopedValueRollback<bool> shifted(m_shiftTopRows, true);
+            invalidate();
+        }
+        blockSignals(false);
+        emit layoutChanged();
+        return;
+    }
+    if (!parent.isValid() || !model()) {
+        return;
+    }
+    // The base lets rows below a filtered-out one pass by; one of them may make it pass.
+    if (!mapFromSource(parent).isValid()) {
+        refilter();
+    }
+}
+
+void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+{
+    Q_UNUSED(bottomRight)
+    FeatureTreeItem *const item = model() ? model()->getFeatureTreeItem(topLeft) : nullptr;
+    if (!item || m_refilterQueued || !isJudged(item)) {
+        return;
+    }
+    const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
+    if (mark.visibility != item->getVisibility() || mark.isShownAtAll != item->ShowMe(GenApi::Guru)) {
+        m_refilterQueued = QMetaObject::invokeMethod(this, "refilter", Qt::QueuedConnection);
+    }
+}
+
+void FeatureTreeProxyModel::clear()
+{
+    if (!model()) {
+        return;
+    }
+    beginResetModel();
+    {
+        // The mapping is dropped while the items that it points to live.
+        const QSignalBlocker blocker(this);
+        const QScopedValueRollback<bool> emptying(m_rejectAll, true);
+        invalidate();
+        model()->clear();
+    }
+    startPass();
+    endResetModel();
+}
+
+void FeatureTreeProxyModel::onPollTimerShot()
+{
+    reportPollingState();
+}
+
+void FeatureTreeProxyModel::reportPollingState()
+{
+    const bool polling = GetPolling();
+    if (m_reportedPolling != polling) {
+        m_reportedPolling = polling;
+        emit pollingStateChanged(polling);
+    }
+}
+
+void FeatureTreeProxyModel::EnablePolling(bool enable)
+{
+    if (model()) {
+        model()->EnablePolling(enable);
+        reportPollingState();
+    }
+}
+
+bool FeatureTreeProxyModel::GetPolling() const
+{
+    return model() && model()->GetPolling();
+}
+
+bool FeatureTreeProxyModel::IsFavoriteTreeItem(const FeatureTreeItem *item) const
+{
+    return model() && model()->IsFavoriteTreeItem(item);
+}
+
+bool FeatureTreeProxyModel::IsFavoriteTreeRoot(const FeatureTreeItem *item) const
+{
+    return model() && model()->IsFavoriteTreeRoot(item);
+}
+
+QModelIndex FeatureTreeProxyModel::indexForItem(FeatureTreeItem *item, int column)
+{
+    return model() ? mapFromSource(model()->indexForItem(item, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::GetFavoritesRootIndex()
+{
+    return model() ? mapFromSource(model()->GetFavoritesRootIndex()) : QModelIndex();
+}
+
+void FeatureTreeProxyModel::EnableViewAllFavorites(bool enable)
+{
+    if (model()) {
+        model()->EnableViewAllFavorites(enable);
+    }
+}
+
+bool FeatureTreeProxyModel::GetViewAllFavorites() const
+{
+    return model() && model()->GetViewAllFavorites();
+}
+
+void FeatureTreeProxyModel::SetDeviceAlive(bool alive)
+{
+    if (model()) {
+        model()->SetDeviceAlive(alive);
+    }
+}
+
+QModelIndex FeatureTreeProxyModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start,
+                                            int column)
+{
+    return model() ? mapFromSource(model()->findItem(item, start, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::findItemByFullName(const QString &fullName, FeatureTreeItem *start,
+                                                      int column)
+{
+    return model() ? mapFromSource(model()->findItemByFullName(fullName, start, column)) : QModelIndex();
+}
+
+QModelIndex FeatureTreeProxyModel::findItemByRole(int role, const QVariant &value, FeatureTreeItem *start,
+                                                  int column)
+{
+    return model() ? mapFromSource(model()->findItemByRole(role, value, start, column)) : QModelIndex();
+}
+
+void FeatureTreeProxyModel::addParameterCollection(
+    QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &title,
+    const QString &nodeMapName, bool childNodeFlag)
+{
+    if (model()) {
+        model()->addParameterCollection(std::move(collection), title, nodeMapName, childNodeFlag);
+        refilter();
+    }
+}
+
+void FeatureTreeProxyModel::rebuildFavoriteItems()
+{
+    if (model()) {
+        model()->rebuildFavoriteItems();
+        refilter();
+    }
+}
+
+void FeatureTreeProxyModel::CreateFavoritesRoot()
+{
+    if (model()) {
+        model()->CreateFavoritesRoot();
+        refilter();
+    }
+}
+
+void FeatureTreeProxyModel::replaceFavoritesZombies(
+    QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &nodeMapName)
+{
+    if (model()) {
+        model()->replaceFavoritesZombies(std::move(collection), nodeMapName);
+        refilter();
+    }
+}
+
+bool FeatureTreeProxyModel::RemoveFavorite(QModelIndex index)
+{
+    return model() && model()->RemoveFavorite(mapToSource(index));
+}
+
+bool FeatureTreeProxyModel::AddFavorite(QSharedPointer<ParameterCollection::IParameter> parameter, int row)
+{
+    return model() && model()->AddFavorite(std::move(parameter), row);
+}
+
+FavoritesData &FeatureTreeProxyModel::GetFavorites()
+{
+    if (model()) {
+        return model()->GetFavorites();
+    }
+    static FavoritesData none;
+    return none;
+}
+
+bool FeatureTreeProxyModel::MoveFavorite(QModelIndex index, bool up)
+{
+    return model() && model()->MoveFavorite(mapToSource(index), up);
+}
+
+bool FeatureTreeProxyModel::CanMoveFavorite(QModelIndex index, bool up) const
+{
+    return model() && model()->CanMoveFavorite(mapToSource(index), up);
+}
+
+bool FeatureTreeProxyModel::CanAddAsFavorite(QModelIndex index) const
+{
+    return model() && model()->CanAddAsFavorite(mapToSource(index));
+}
+
+void FeatureTreeProxyModel::refresh()
+{
+    if (model()) {
+        model()->refresh();
+    }
+}
+
+void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem *parent)
+{
+    if (model()) {
+        model()->addChildren(parent);
+    }
+}
+
+void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
+{
+    m_level = visibility;
+    startPass();
+    if (model()) {
+        model()->setVisibility(visibility);
+    }
+}
+
+GenApi::EVisibility FeatureTreeProxyModel::getVisibility()
+{
+    return model() ? model()->getVisibility() : m_level;
+}
+
+void FeatureTreeProxyModel::setMonitorMode(bool enable)
+{
+    if (model()) {
+        model()->setMonitorMode(enable);
+    }
+}
+
+void FeatureTreeProxyModel::setGenICamCallbacksEnable(bool enable)
+{
+    if (model()) {
+        model()->setGenICamCallbacksEnable(enable);
+    }
+}
+
+bool FeatureTreeProxyModel::getGenICamCallbackEnable() const
+{
+    return model() && model()->getGenICamCallbackEnable();
+}
+
+FeatureTreeItem *FeatureTreeProxyModel::getFeatureTreeItem(const QModelIndex &index) const
+{
+    const QModelIndex source = model() ? mapToSource(index) : QModelIndex();
+    return source.isValid() ? model()->getFeatureTreeItem(source) : nullptr;
+}
+
+void FeatureTreeProxyModel::setHighlighter(FeatureTreeHighlighter *highlighter)
+{
+    if (model()) {
+        model()->setHighlighter(highlighter);
+    }
+}
+
+FeatureTreeItem *FeatureTreeProxyModel::getSearchHelpItem() const
+{
+    return model() ? model()->getSearchHelpItem() : nullptr;
+}
+
+void FeatureTreeProxyModel::refreshSpecialItems()
+{
+    if (model()) {
+        model()->refreshSpecialItems();
+    }
+}
+
+void FeatureTreeProxyModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)
+{
+    if (model()) {
+        model()->onNodeUpdated(row, nodeItem);
+    }
+}
+
+void FeatureTreeProxyModel::onTimerPoll()
+{
+    if (model()) {
+        model()->onTimerPoll();
+        reportPollingState();
+    }
+}
+
+QString FeatureTreeProxyModel::GetParameterCollectionName(
+    QSharedPointer<ParameterCollection::IParameterCollection> collection)
+{
+    return model() ? model()->GetParameterCollectionName(std::move(collection))
+                   : QStringLiteral("unknown NodeMap name");
+}
+
+int FeatureTreeProxyModel::getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const
+{
+    return model() ? model()->getFavoritesIndexFromFeatureTreeItem(item) : -1;
+}
+
+int FeatureTreeProxyModel::getFavoritesIndexFromModelIndex(QModelIndex index) const
+{
+    return model() ? model()->getFavoritesIndexFromModelIndex(mapToSource(index)) : -1;
+}

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ifeaturetreemodelextension.h"
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QSet>
+#include <QSortFilterProxyModel>
+#include <QString>
+
+#include <optional>
+
+class FeatureTreeModel;
+
+/*! \brief Filters the feature tree by user level and search text.
+ *
+ * A row passes when it matches, when one of its ancestors does, or when one of its descendants does. A
+ * feature matches when its displayed text or its name contains the search text, literally and whatever the
+ * letter case, and its visibility lies within the level. With an empty text rows are judged one by one as
+ * they are asked for; setting a text loads all branches and judges the whole tree in one pass, which also
+ * collects the names of the matches.
+ *
+ * Dynamic sorting and filtering stays off. Rows whose level or availability flips are filtered anew, once,
+ * when the event loop comes round. As IFeatureTreeModelExtension it forwards to its source, a
+ * FeatureTreeModel; all indexes that go in and come out are the proxy's, and a row that is filtered out gives
+ * an invalid one.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
+                                                                 public IFeatureTreeModelExtension
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureTreeProxyModel(QObject *parent = nullptr);
+    ~FeatureTreeProxyModel() override;
+
+    void setSourceModel(QAbstractItemModel *sourceModel) override;
+    QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
+
+    /*! Sets whether every row passes; takes effect with the next invalidation. */
+    void setAcceptAll(bool acceptAll);
+    bool acceptAll() const;
+
+    /*! Returns the names of the features that match the search text within the level; empty without a text.
+     */
+    const QSet<QString> &visibleMatches() const;
+    /*! Returns the names of the features that would match at a higher level, Invisible ones apart. */
+    const QSet<QString> &hiddenMatches() const;
+
+    bool IsFavoriteTreeItem(const FeatureTreeItem *item) const override;
+    bool IsFavoriteTreeRoot(const FeatureTreeItem *item) const override;
+    QModelIndex indexForItem(FeatureTreeItem *item, int column) override;
+    QModelIndex GetFavoritesRootIndex() override;
+    void EnablePolling(bool enable) override;
+    bool GetPolling() const override;
+    void EnableViewAllFavorites(bool enable) override;
+    bool GetViewAllFavorites() const override;
+    void SetDeviceAlive(bool alive) override;
+    QModelIndex findItem(const FeatureTreeItem *item, const FeatureTreeItem *start, int column) override;
+    QModelIndex findItemByFullName(const QString &fullName, FeatureTreeItem *start, int column) override;
+    QModelIndex findItemByRole(int role, const QVariant &value, FeatureTreeItem *start, int column) override;
+    void addParameterCollection(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+                                const QString &title, const QString &nodeMapName,
+                                bool childNodeFlag) override;
+    void rebuildFavoriteItems() override;
+    void CreateFavoritesRoot() override;
+    bool RemoveFavorite(QModelIndex index) override;
+    bool AddFavorite(QSharedPointer<ParameterCollection::IParameter> parameter, int row) override;
+    FavoritesData &GetFavorites() override;
+    bool MoveFavorite(QModelIndex index, bool up) override;
+    bool CanMoveFavorite(QModelIndex index, bool up) const override;
+    bool CanAddAsFavorite(QModelIndex index) const override;
+    void refresh() override;
+    void addChildren(FeatureTreeINodeItem *parent) override;
+    /*! Sets the level; invalidate the filter afterwards. */
+    void setVisibility(GenApi::EVisibility visibility) override;
+    GenApi::EVisibility getVisibility() override;
+    void setMonitorMode(bool enable) override;
+    void setGenICamCallbacksEnable(bool enable) override;
+    bool getGenICamCallbackEnable() const override;
+    FeatureTreeItem *getFeatureTreeItem(const QModelIndex &index) const override;
+    void setHighlighter(FeatureTreeHighlighter *highlighter) override;
+    FeatureTreeItem *getSearchHelpItem() const override;
+    void refreshSpecialItems() override;
+    void onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem) override;
+    void onTimerPoll() override;
+    QString
+    GetParameterCollectionName(QSharedPointer<ParameterCollection::IParameterCollection> collection) override;
+    void replaceFavoritesZombies(QSharedPointer<ParameterCollection::IParameterCollection> collection,
+                                 const QString &nodeMapName) override;
+    int getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const override;
+    int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
+
+public slots:
+    /*! Sets the search text and filters at once, with a single change of the layout. */
+    void setFilterFixedString(const QString &pattern);
+    /*! Removes all rows, with a reset. */
+    void clear() override;
+
+signals:
+    /*! Polling was switched on or off, or ended because the device does not answer. */
+    void pollingStateChanged(bool polling);
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private slots:
+    void onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last);
+    void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
+    void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight);
+    void onPollTimerShot();
+    void refilter();
+
+private:
+    FeatureTreeModel *model() const;
+    FeatureTreeItem *rootItem() const;
+
+    bool isJudged(const FeatureTreeItem *item) const;
+    bool accepts(FeatureTreeItem *item) const;
+    bool judgeAlone(FeatureTreeItem *item) const;
+    void judgeBelow(FeatureTreeItem *item) const;
+    bool judge(FeatureTreeItem *item, bool ancestorMatches, GenApi::EVisibility ancestorVisibility) const;
+    void judgeTree() const;
+    void startPass() const;
+    void mark(FeatureTreeItem *item, bool isAccepted) const;
+    bool matches(FeatureTreeItem *item) const;
+    bool isHit(const FeatureTreeItem *item) const;
+    bool hasMatchBelow(FeatureTreeItem *item) const;
+    bool hasMatchAbove(FeatureTreeItem *item) const;
+    void countHit(const FeatureTreeItem *item, GenApi::EVisibility visibility) const;
+    void loadChildren(FeatureTreeItem *item) const;
+    void loadTree(FeatureTreeItem *item) const;
+    void noticePattern() const;
+    void reportPollingState();
+
+    bool m_acceptAll = false;
+    GenApi::EVisibility m_level = GenApi::Guru;
+    mutable QSet<QString> m_visibleMatches;
+    mutable QSet<QString> m_hiddenMatches;
+
+    // The pattern that the verdicts belong to. The base's may be changed by others, who may also set an
+    // expression that is no literal text; the folded text is absent then.
+    mutable QString m_pattern;
+    mutable std::optional<QString> m_foldedText = QString();
+    mutable quint64 m_pass = 0;
+    mutable bool m_treeJudged = false;
+
+    bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
+    bool m_rejectAll = false; // nothing passes while the tree is being cleared
+    bool m_shiftTopRows = false; // the mapping is one top row behind the source
+    bool m_refilterQueued = false;
+    bool m_reportedPolling = false;
+};
