@@ -3,6 +3,7 @@
 
 #include "featuretreeinodeitem.h"
 
+#include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
 
@@ -348,7 +349,10 @@ QString FeatureTreeINodeItem::toolTipHtml() const
         const bool nameAlone = m_nodeName.contains(FeatureTreeNames::root) || isCategory();
         const QString title =
             nameAlone ? getDisplayedName() : QStringLiteral("%1 (%2)").arg(getDisplayedName(), m_nodeName);
-        QString html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(title.toHtmlEscaped());
+        // Marked before it goes into the markup, which a search for "b" would break otherwise.
+        const QString header =
+            m_highlighter && !isCategory() ? m_highlighter->highlightPlainText(title) : title.toHtmlEscaped();
+        QString html = QStringLiteral("<nobr><b>%1</b></nobr>").arg(header);
         if (!text.isEmpty()) {
             html += QStringLiteral("<br><nobr>%1</nobr>").arg(text);
         }
