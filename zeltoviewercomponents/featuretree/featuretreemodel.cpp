@@ -312,24 +312,29 @@ bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action
     if (!data || !data->hasFormat(dragFormat()) || !readDraggedItems(*data, items)) {
         return false;
     }
-    const int target = row == -1 ? rowCount() : row;
+    int target = std::min(row == -1 ? rowCount() : row, m_favorites.count());
     m_favorites.setDeferredUpdates(true);
     // From the last to the first: each lands on the same row, so that the dragged order stays.
     for (auto item = items.crbegin(); item != items.crend(); ++item) {
-        dropItem(*item, std::min(target, m_favorites.count()));
+        target = dropItem(*item, target);
     }
     m_favorites.setDeferredUpdates(false);
     return true;
 }
 
-void FeatureTreeModel::dropItem(FeatureTreeItem *item, int row)
+// Moves or adds one favorite to \a row. Returns the row at which the item dragged before it belongs.
+int FeatureTreeModel::dropItem(FeatureTreeItem *item, int row)
 {
     // Asked of the item's own model, which may be another tree's.
     if (item->getExtension()->IsFavoriteTreeItem(item)) {
-        m_favorites.moveEntry(getFavoritesIndexFromFeatureTreeItem(item), row);
-    } else if (const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
+        const int from = getFavoritesIndexFromFeatureTreeItem(item);
+        const bool cameFromAbove = m_favorites.moveEntry(from, row) && from < row;
+        return cameFromAbove ? row - 1 : row;
+    }
+    if (const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
         AddFavorite(nodeItem->node(), row);
     }
+    return row;
 }
 
 bool FeatureTreeModel::IsFavoriteTreeItem(const FeatureTreeItem *item) const

@@ -124,7 +124,7 @@ private:
     void createSearchRow();
 
     bool readDraggedItems(const QMimeData &data, QList<FeatureTreeItem *> &items) const;
-    void dropItem(FeatureTreeItem *item, int row);
+    int dropItem(FeatureTreeItem *item, int row);
 
     void removeFavoriteRows();
     void insertFavoritePlaceholders();
