@@ -110,6 +110,9 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
 
 Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
 {
+    if (!index.isValid()) {
+        return Qt::NoItemFlags; // nothing is dropped beside the top rows
+    }
     Qt::ItemFlags result = QSortFilterProxyModel::flags(index);
     const FeatureTreeItem *const item = getFeatureTreeItem(index);
     if (item && !item->isCategory()) {

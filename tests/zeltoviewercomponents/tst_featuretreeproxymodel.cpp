@@ -1,0 +1,625 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <support/memorycollection.h>
+#include <support/strictidentityproxy.h>
+#include <zeltoviewercomponents/featuretree/favoritesdata.h>
+#include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
+#include <zeltoviewercomponents/featuretree/featuretreemodel.h>
+#include <zeltoviewercomponents/featuretree/featuretreeproxymodel.h>
+
+#include <QAbstractItemModelTester>
+#include <QItemSelectionModel>
+#include <QMimeData>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+using namespace ParameterCollection;
+
+namespace {
+
+const QString cameraDevice = QStringLiteral("@CameraDevice");
+
+// The rule for one row, as it is written down: no marks, no passes.
+class Rule
+{
+public:
+    Rule(const FeatureTreeModel &model, GenApi::EVisibility level, const QString &text)
+        : m_model(model)
+        , m_level(level)
+        , m_text(text)
+    {
+    }
+
+    bool accepts(const QModelIndex &index) const
+    {
+        if (matches(index)) {
+            return true;
+        }
+        for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+            if (matches(above)) {
+                return true;
+            }
+        }
+        return anyBelow(index);
+    }
+
+private:
+    bool matches(const QModelIndex &index) const
+    {
+        const QString name = index.data(FeatureTreeItem::GenicamNameRole).toString();
+        const int visibility = index.data(FeatureTreeItem::GenicamVisibility).toInt();
+        if (name == QLatin1String("Root")) {
+            return false;
+        }
+        if (m_level != GenApi::Invisible && !index.data(FeatureTreeItem::IsShownAtAll).toBool()) {
+            return false;
+        }
+        const bool levelOk = visibility <= m_level;
+        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == QLatin1String("Search")) {
+            return levelOk && visibility < GenApi::Invisible;
+        }
+        const bool hit = index.data().toString().contains(m_text, Qt::CaseInsensitive)
+            || name.contains(m_text, Qt::CaseInsensitive);
+        return hit && levelOk && !index.data(FeatureTreeItem::GenicamCategory).toBool();
+    }
+
+    bool anyBelow(const QModelIndex &index) const
+    {
+        for (int row = 0; row < m_model.rowCount(index); ++row) {
+            const QModelIndex child = m_model.index(row, 0, index);
+            if (matches(child) || anyBelow(child)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    const FeatureTreeModel &m_model;
+    GenApi::EVisibility m_level;
+    QString m_text;
+};
+
+QStringList fullNames(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
+{
+    QStringList names;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+        names.append(fullNames(model, index));
+    }
+    return names;
+}
+
+QStringList expectedNames(FeatureTreeModel &model, const Rule &rule, bool searching,
+                          const QModelIndex &parent = QModelIndex())
+{
+    QStringList names;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        const bool isFreeBranch = !searching && model.IsFavoriteTreeRoot(model.getFeatureTreeItem(index));
+        if (rule.accepts(index) || isFreeBranch) {
+            names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+            names.append(expectedNames(model, rule, searching, index));
+        }
+    }
+    return names;
+}
+
+QSharedPointer<MemoryCollection> randomCollection(QRandomGenerator &random)
+{
+    static const QStringList words{"Gain", "Exposure", "Trigger", "Line", "Offset",
+                                   "a.b",  "x*",       "STRASSE", "Ü"};
+    auto collection = QSharedPointer<MemoryCollection>::create();
+    QStringList categories{QStringLiteral("Root")};
+    const int count = random.bounded(5, 60);
+    for (int i = 0; i < count; ++i) {
+        const QString parent = categories[random.bounded(categories.size())];
+        const QString name = words[random.bounded(words.size())] + QString::number(i);
+        QSharedPointer<IParameter> added;
+        if (random.bounded(4) == 0) {
+            added = collection->addCategory(name, parent);
+            categories.append(name);
+        } else {
+            added = collection->addInteger(name, parent);
+        }
+        auto *const node = dynamic_cast<MemoryNode *>(added.data());
+        node->snapshot->visibility = GenApi::EVisibility(random.bounded(4));
+        node->snapshot->isImplemented = random.bounded(6) > 0;
+        node->properties.insert(QStringLiteral("DisplayName"), words[random.bounded(words.size())]);
+    }
+    return collection;
+}
+
+} // namespace
+
+class TestFeatureTreeProxyModel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void specialRowsInEveryOrder_data();
+    void specialRowsInEveryOrder();
+    void acceptanceFollowsTheRule();
+    void passesTheTesterThroughItsLife();
+    void searchIsOneLayoutChange();
+    void loadsOnlyWhatShowingNeeds();
+    void countsAreComplete();
+    void featuresBelowHiddenCategoriesCountAsHidden();
+    void placeholdersAndHintsAreNoResults();
+    void foreignPatternsWork();
+    void acceptAllShowsEverything();
+    void flippedRowsAreFilteredOnce();
+    void searchRowNeedsASearch();
+    void favoritesBranchStaysWithoutSearch();
+    void hiddenPlaceholders();
+    void lateBranchMakesItsParentsPass();
+    void indexesAreTheProxys();
+    void dropOnTheBranchAppends();
+    void pollingStateIsTold();
+    void clearResets();
+    void defaultsWithoutAFeatureTreeModel();
+
+private:
+    void addCamera();
+    QModelIndex find(const QString &fullName) { return m_proxy->findItemByFullName(fullName, nullptr, 0); }
+
+    QSharedPointer<MemoryCollection> m_collection;
+    std::unique_ptr<FeatureTreeProxyModel> m_proxy;
+    FeatureTreeModel *m_model = nullptr;
+};
+
+void TestFeatureTreeProxyModel::initTestCase()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
+    QCoreApplication::setApplicationName(QStringLiteral("tst_featuretreeproxymodel"));
+}
+
+void TestFeatureTreeProxyModel::init()
+{
+    QSettings().clear();
+    m_collection = MemoryCollection::createSample();
+    m_proxy = std::make_unique<FeatureTreeProxyModel>();
+    m_model = new FeatureTreeModel(m_proxy.get());
+    m_proxy->setSourceModel(m_model);
+    m_proxy->setDynamicSortFilter(false);
+    m_proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_proxy->setFilterKeyColumn(1);
+    while (m_proxy->GetFavorites().removeEntry(0)) { }
+    m_proxy->GetFavorites().setViewAll(true);
+}
+
+void TestFeatureTreeProxyModel::cleanup()
+{
+    m_proxy.reset();
+}
+
+void TestFeatureTreeProxyModel::addCamera()
+{
+    m_proxy->addParameterCollection(m_collection, QStringLiteral("Camera"), cameraDevice, false);
+}
+
+void TestFeatureTreeProxyModel::specialRowsInEveryOrder_data()
+{
+    QTest::addColumn<QString>("calls");
+    // c: add a collection, C: another one, f: rebuild the favorites, h: create their head alone, x: clear
+    for (const char *const calls :
+         {"cf", "fc", "cCf", "cfC", "fcC", "cfCf", "hcf", "chCf", "cfxcf", "fcxfcC"}) {
+        QTest::newRow(calls) << QString::fromLatin1(calls);
+    }
+}
+
+void TestFeatureTreeProxyModel::specialRowsInEveryOrder()
+{
+    QFETCH(const QString, calls);
+    QTreeView view;
+    view.setModel(m_proxy.get());
+    view.resize(400, 600);
+    view.show();
+    const QString category = QStringLiteral("@CameraDevice/AcquisitionControl");
+    bool hasCamera = false;
+    for (const QChar call : calls) {
+        switch (call.toLatin1()) {
+        case 'c':
+            addCamera();
+            hasCamera = true;
+            view.expand(find(QStringLiteral("@CameraDevice*Root")));
+            view.expand(find(category));
+            view.setCurrentIndex(find(category));
+            break;
+        case 'C': {
+            const auto other = MemoryCollection::createSample(QStringLiteral("@Other"));
+            m_proxy->addParameterCollection(other, QStringLiteral("Other"), other->name(), false);
+            break;
+        }
+        case 'f':
+            m_proxy->rebuildFavoriteItems();
+            break;
+        case 'h':
+            m_proxy->CreateFavoritesRoot();
+            break;
+        default:
+            m_proxy->clear();
+            hasCamera = false;
+            QCOMPARE(m_proxy->rowCount(), 0);
+        }
+        QCoreApplication::processEvents();
+        if (hasCamera) {
+            QVERIFY(view.isExpanded(find(QStringLiteral("@CameraDevice*Root"))));
+            QVERIFY(view.isExpanded(find(category)));
+            QVERIFY(!view.isExpanded(find(QStringLiteral("@CameraDevice/DeviceControl"))));
+            QCOMPARE(view.currentIndex(), find(category));
+            QVERIFY(view.selectionModel()->isSelected(find(category)));
+        }
+    }
+    m_proxy->setAcceptAll(true);
+    m_proxy->invalidate();
+    QCOMPARE(fullNames(*m_proxy), fullNames(*m_model));
+    QCOMPARE(fullNames(*m_proxy).constFirst(), QStringLiteral("Search"));
+}
+
+void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
+{
+    QRandomGenerator random(20260101);
+    const QStringList texts{"",  "gain",   "GAIN",    "E", "a.b",     "*", "x*1",
+                            "1", "straße", "strasse", "ü", "nothing", "t"};
+    for (int round = 0; round < 60; ++round) {
+        init();
+        m_collection = randomCollection(random);
+        m_proxy->addParameterCollection(m_collection, QStringLiteral("Camera"), cameraDevice, false);
+        m_proxy->rebuildFavoriteItems();
+        for (int step = 0; step < 6; ++step) {
+            const auto level = GenApi::EVisibility(random.bounded(4));
+            const QString text = texts[random.bounded(texts.size())];
+            m_proxy->setVisibility(level);
+            m_proxy->setFilterFixedString(text);
+            const QStringList accepted = fullNames(*m_proxy);
+            const QStringList expected =
+                expectedNames(*m_model, Rule(*m_model, level, text), !text.isEmpty());
+            QVERIFY2(
+                accepted == expected,
+                qPrintable(QStringLiteral("round %1, level %2, text \"%3\"\n%4\n%5")
+                               .arg(round)
+                               .arg(level)
+                               .arg(text, accepted.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')))));
+        }
+    }
+}
+
+void TestFeatureTreeProxyModel::passesTheTesterThroughItsLife()
+{
+    const QAbstractItemModelTester tester(m_proxy.get(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    visitAll(*m_proxy);
+    for (const char *const text : {"g", "ga", "", "width", "zzz", ""}) {
+        m_proxy->setFilterFixedString(QString::fromLatin1(text));
+        visitAll(*m_proxy);
+        QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+        m_proxy->rebuildFavoriteItems();
+        QVERIFY(m_proxy->GetFavorites().removeEntry(0));
+        m_proxy->rebuildFavoriteItems();
+    }
+    m_collection->parameter(QStringLiteral("Gain"))->setValueFromString(QStringLiteral("3"));
+    QTRY_COMPARE(find(QStringLiteral("@CameraDevice/Gain")).siblingAtColumn(1).data(Qt::EditRole),
+                 QVariant(QStringLiteral("3")));
+    m_proxy->clear();
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    QVERIFY(visitAll(*m_proxy) > 8);
+}
+
+void TestFeatureTreeProxyModel::searchIsOneLayoutChange()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    visitAll(*m_proxy);
+    QSignalSpy layout(m_proxy.get(), &QAbstractItemModel::layoutChanged);
+    QSignalSpy removed(m_proxy.get(), SIGNAL(rowsRemoved(QModelIndex, int, int)));
+    QSignalSpy inserted(m_proxy.get(), SIGNAL(rowsInserted(QModelIndex, int, int)));
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    m_proxy->setFilterFixedString(QString());
+    QCOMPARE(layout.count(), 2);
+    QCOMPARE(removed.count(), 0);
+    QCOMPARE(inserted.count(), 0);
+}
+
+void TestFeatureTreeProxyModel::loadsOnlyWhatShowingNeeds()
+{
+    m_collection->addCategory(QStringLiteral("Nested"), QStringLiteral("DeviceControl"));
+    m_collection->addInteger(QStringLiteral("Deep"), QStringLiteral("Nested"));
+    addCamera();
+    const QModelIndex root = find(QStringLiteral("@CameraDevice*Root"));
+    QCOMPARE(m_proxy->rowCount(root), 3);
+    const QModelIndex device = find(QStringLiteral("@CameraDevice/DeviceControl"));
+    QVERIFY(m_proxy->hasChildren(device));
+    // The category passes by its first feature; the one below it is not asked.
+    QVERIFY(!find(QStringLiteral("@CameraDevice/Deep")).isValid());
+    m_proxy->setFilterFixedString(QStringLiteral("deep"));
+    QVERIFY(find(QStringLiteral("@CameraDevice/Deep")).isValid());
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Deep")});
+}
+
+void TestFeatureTreeProxyModel::countsAreComplete()
+{
+    const auto visibilityOf = [this](const char *name) -> GenApi::EVisibility & {
+        const auto parameter = m_collection->parameter(QString::fromLatin1(name));
+        return dynamic_cast<MemoryNode *>(parameter.data())->snapshot->visibility;
+    };
+    visibilityOf("Gain") = GenApi::Guru;
+    visibilityOf("TriggerSoftware") = GenApi::Invisible;
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("ExposureTime")), 0));
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString(QStringLiteral("I"));
+    QCOMPARE(m_proxy->visibleMatches(),
+             QSet<QString>({"Width", "PixelFormat", "ExposureTime", "DeviceUserID"}));
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>({"Gain"}));
+    m_proxy->setVisibility(GenApi::Guru);
+    m_proxy->setFilterFixedString(QStringLiteral("I"));
+    QVERIFY(m_proxy->visibleMatches().contains(QStringLiteral("Gain")));
+    QVERIFY(m_proxy->hiddenMatches().isEmpty());
+    m_proxy->setFilterFixedString(QString());
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::featuresBelowHiddenCategoriesCountAsHidden()
+{
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("AcquisitionControl")).data())
+        ->snapshot->visibility = GenApi::Expert;
+    addCamera();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>{QStringLiteral("Gain")});
+}
+
+void TestFeatureTreeProxyModel::placeholdersAndHintsAreNoResults()
+{
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("favorites by"));
+    QVERIFY(find(QStringLiteral("Dummy")).isValid());
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+    m_proxy->GetFavorites().appendEntry({QStringLiteral("Missing"), QStringLiteral("Missing"), cameraDevice});
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("missing"));
+    QVERIFY(find(QStringLiteral("Fav*CameraDevice*Missing")).isValid());
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::foreignPatternsWork()
+{
+    addCamera();
+    QSortFilterProxyModel *const base = m_proxy.get();
+    base->setFilterFixedString(QStringLiteral("gain"));
+    QVERIFY(find(QStringLiteral("@CameraDevice/Gain")).isValid());
+    QVERIFY(!find(QStringLiteral("@CameraDevice/Width")).isValid());
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Gain")});
+    base->setFilterRegularExpression(QStringLiteral("^(Width|Gain)$"));
+    QVERIFY(find(QStringLiteral("@CameraDevice/Width")).isValid());
+    QVERIFY(!find(QStringLiteral("@CameraDevice/OffsetX")).isValid());
+    base->setFilterRegularExpression(QString());
+    QVERIFY(find(QStringLiteral("@CameraDevice/OffsetX")).isValid());
+}
+
+void TestFeatureTreeProxyModel::acceptAllShowsEverything()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("zzz"));
+    QCOMPARE(m_proxy->rowCount(), 0);
+    m_proxy->setAcceptAll(true);
+    m_proxy->invalidate();
+    QCOMPARE(fullNames(*m_proxy), fullNames(*m_model));
+}
+
+void TestFeatureTreeProxyModel::flippedRowsAreFilteredOnce()
+{
+    addCamera();
+    visitAll(*m_proxy);
+    QList<QSharedPointer<MemoryInteger>> integers;
+    for (const char *const name : {"Width", "OffsetX"}) {
+        integers.append(
+            qSharedPointerDynamicCast<MemoryInteger>(m_collection->parameter(QString::fromLatin1(name))));
+    }
+    QSignalSpy layout(m_proxy.get(), &QAbstractItemModel::layoutChanged);
+    for (const bool implemented : {false, true}) {
+        layout.clear();
+        for (const auto &integer : std::as_const(integers)) {
+            integer->edit<IntegerParameterData>(
+                [implemented](auto &data) { data.isImplemented = implemented; });
+            integer->publish();
+        }
+        QCOMPARE(layout.count(), 0);
+        QTRY_COMPARE(layout.count(), 1);
+        QCOMPARE(find(QStringLiteral("@CameraDevice/Width")).isValid(), implemented);
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(layout.count(), 1);
+    layout.clear();
+    integers[0]->publish(); // nothing flipped
+    QCoreApplication::processEvents();
+    QCOMPARE(layout.count(), 0);
+}
+
+void TestFeatureTreeProxyModel::searchRowNeedsASearch()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    FeatureTreeItem *const search = m_proxy->getSearchHelpItem();
+    for (const auto level : {GenApi::Beginner, GenApi::Guru, GenApi::Invisible}) {
+        search->setVisibility(GenApi::Invisible);
+        m_proxy->setVisibility(level);
+        m_proxy->setFilterFixedString(QStringLiteral("zzz"));
+        QCOMPARE(m_proxy->rowCount(), 0);
+        search->setVisibility(GenApi::Beginner);
+        m_proxy->setFilterFixedString(QStringLiteral("zzz"));
+        QCOMPARE(m_proxy->rowCount(), 1);
+        QCOMPARE(m_proxy->indexForItem(search, 0), m_proxy->index(0, 0));
+    }
+}
+
+void TestFeatureTreeProxyModel::favoritesBranchStaysWithoutSearch()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->GetFavorites().setViewAll(false);
+    m_proxy->GetFavorites().appendEntry({QStringLiteral("Missing"), QStringLiteral("Missing"), cameraDevice});
+    m_proxy->rebuildFavoriteItems();
+    QVERIFY(m_proxy->GetFavoritesRootIndex().isValid());
+    QCOMPARE(m_proxy->rowCount(m_proxy->GetFavoritesRootIndex()), 0);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QVERIFY(!m_proxy->GetFavoritesRootIndex().isValid());
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    m_proxy->rebuildFavoriteItems();
+    QVERIFY(m_proxy->GetFavoritesRootIndex().isValid());
+}
+
+void TestFeatureTreeProxyModel::hiddenPlaceholders()
+{
+    m_proxy->GetFavorites().appendEntry({QStringLiteral("Missing"), QStringLiteral("Missing"), cameraDevice});
+    m_proxy->GetFavorites().setViewAll(false);
+    m_proxy->rebuildFavoriteItems();
+    for (const auto level : {GenApi::Beginner, GenApi::Expert, GenApi::Guru}) {
+        m_proxy->setVisibility(level);
+        m_proxy->invalidate();
+        QVERIFY(!find(QStringLiteral("Fav*CameraDevice*Missing")).isValid());
+    }
+    m_proxy->GetFavorites().setViewAll(true);
+    m_proxy->rebuildFavoriteItems();
+    QVERIFY(find(QStringLiteral("Fav*CameraDevice*Missing")).isValid());
+}
+
+void TestFeatureTreeProxyModel::lateBranchMakesItsParentsPass()
+{
+    const auto category = qSharedPointerDynamicCast<MemoryPlain>(
+        m_collection->addCategory(QStringLiteral("Late"), QStringLiteral("Root")));
+    m_collection->addInteger(QStringLiteral("LateFeature"), QStringLiteral("Late"));
+    const auto good = category->snapshot;
+    category->snapshot.reset();
+    addCamera();
+    visitAll(*m_proxy);
+    QVERIFY(!find(QStringLiteral("@CameraDevice/Late")).isValid());
+    category->snapshot = good;
+    category->publish();
+    QTRY_VERIFY(find(QStringLiteral("@CameraDevice/LateFeature")).isValid());
+}
+
+void TestFeatureTreeProxyModel::indexesAreTheProxys()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    visitAll(*m_proxy);
+    const QModelIndex gain = find(QStringLiteral("@CameraDevice/Gain"));
+    QCOMPARE(gain.model(), m_proxy.get());
+    FeatureTreeItem *const item = m_proxy->getFeatureTreeItem(gain);
+    QCOMPARE(item->getFullName(), QStringLiteral("@CameraDevice/Gain"));
+    QCOMPARE(m_proxy->indexForItem(item, 0), gain);
+    QCOMPARE(m_proxy->findItem(item, nullptr, 1), gain.siblingAtColumn(1));
+    QVERIFY(m_proxy->CanAddAsFavorite(gain));
+    QVERIFY(m_proxy->flags(gain).testFlag(Qt::ItemNeverHasChildren));
+    QVERIFY(!m_proxy->flags(gain.parent()).testFlag(Qt::ItemNeverHasChildren));
+    QVERIFY(!m_proxy->hasChildren(gain.parent().siblingAtColumn(1)));
+
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Width")), 1));
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("width"));
+    const QModelIndex width = find(QStringLiteral("Fav*CameraDevice*Width"));
+    QCOMPARE(width.row(), 0); // the other favorite is filtered out
+    QCOMPARE(m_proxy->getFavoritesIndexFromModelIndex(width), 1);
+    QVERIFY(!m_proxy->CanMoveFavorite(width, false));
+    QVERIFY(m_proxy->MoveFavorite(width, true));
+    QVERIFY(!m_proxy->indexForItem(item, 0).isValid());
+    QVERIFY(!m_proxy->findItemByRole(FeatureTreeItem::GenicamNameRole, QStringLiteral("Gain"), nullptr, 0)
+                 .isValid());
+    QVERIFY(m_proxy->RemoveFavorite(width));
+    QCOMPARE(m_proxy->GetFavorites().count(), 1);
+}
+
+void TestFeatureTreeProxyModel::dropOnTheBranchAppends()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    visitAll(*m_proxy);
+    for (const char *const name : {"Gain", "Width", "OffsetX", "ReverseX", "PixelFormat"}) {
+        const std::unique_ptr<QMimeData> data(
+            m_proxy->mimeData({find(QStringLiteral("@CameraDevice/") + QString::fromLatin1(name))}));
+        QVERIFY(m_proxy->dropMimeData(data.get(), Qt::MoveAction, -1, -1, m_proxy->GetFavoritesRootIndex()));
+        m_proxy->rebuildFavoriteItems();
+    }
+    QCOMPARE(m_proxy->GetFavorites().entryAt(4)->featureName, QStringLiteral("PixelFormat"));
+    // Between rows of a filtered branch the row is the source's.
+    m_proxy->setFilterFixedString(QStringLiteral("offset"));
+    const std::unique_ptr<QMimeData> data(
+        m_proxy->mimeData({find(QStringLiteral("Fav*CameraDevice*OffsetX"))}));
+    QVERIFY(m_proxy->dropMimeData(data.get(), Qt::MoveAction, 1, 0, m_proxy->GetFavoritesRootIndex()));
+    QCOMPARE(m_proxy->GetFavorites().entryAt(4)->featureName, QStringLiteral("OffsetX"));
+}
+
+void TestFeatureTreeProxyModel::pollingStateIsTold()
+{
+    addCamera();
+    QSignalSpy spy(m_proxy.get(), SIGNAL(pollingStateChanged(bool)));
+    m_proxy->EnablePolling(false);
+    QCOMPARE(spy.count(), 0);
+    m_proxy->EnablePolling(true);
+    m_proxy->EnablePolling(true);
+    QCOMPARE(spy.count(), 1);
+    m_proxy->SetDeviceAlive(false);
+    QTRY_COMPARE(spy.count(), 2);
+    QCOMPARE(spy[1][0], QVariant(false));
+    QVERIFY(!m_proxy->GetPolling());
+}
+
+void TestFeatureTreeProxyModel::clearResets()
+{
+    QTreeView view;
+    view.setModel(m_proxy.get());
+    QSignalSpy reset(m_proxy.get(), SIGNAL(modelReset()));
+    for (int round = 0; round < 3; ++round) {
+        addCamera();
+        m_proxy->rebuildFavoriteItems();
+        view.expandAll();
+        view.setCurrentIndex(find(QStringLiteral("@CameraDevice/Gain")));
+        const QPersistentModelIndex kept = find(QStringLiteral("@CameraDevice/Width"));
+        m_proxy->setFilterFixedString(round == 1 ? QStringLiteral("gain") : QString());
+        m_proxy->clear();
+        QCOMPARE(reset.count(), round + 1);
+        QVERIFY(!kept.isValid());
+        QVERIFY(!view.currentIndex().isValid());
+        QCOMPARE(m_proxy->rowCount(), 0);
+        QCoreApplication::processEvents();
+    }
+}
+
+void TestFeatureTreeProxyModel::defaultsWithoutAFeatureTreeModel()
+{
+    FeatureTreeProxyModel empty;
+    QCOMPARE(empty.GetParameterCollectionName(nullptr), QStringLiteral("unknown NodeMap name"));
+    QCOMPARE(m_proxy->GetParameterCollectionName(nullptr), QString());
+    QVERIFY(!empty.getFeatureTreeItem(QModelIndex()));
+    QVERIFY(!empty.AddFavorite(nullptr, 0));
+    QCOMPARE(empty.getFavoritesIndexFromModelIndex(QModelIndex()), -1);
+    empty.setVisibility(GenApi::Expert);
+    QCOMPARE(empty.getVisibility(), GenApi::Expert);
+    empty.rebuildFavoriteItems();
+    empty.clear();
+    empty.EnablePolling(true);
+    QVERIFY(!empty.GetPolling());
+    QCOMPARE(empty.rowCount(), 0);
+}
+
+QTEST_MAIN(TestFeatureTreeProxyModel)
+#include "tst_featuretreeproxymodel.moc"
