@@ -336,13 +336,15 @@ void TestFeatureTreeProxyModel::searchIsOneLayoutChange()
 void TestFeatureTreeProxyModel::loadsOnlyWhatShowingNeeds()
 {
     m_collection->addCategory(QStringLiteral("Nested"), QStringLiteral("DeviceControl"));
-    m_collection->addInteger(QStringLiteral("Deep"), QStringLiteral("Nested"));
+    m_collection->addInteger(QStringLiteral("Near"), QStringLiteral("Nested"));
+    m_collection->addCategory(QStringLiteral("Below"), QStringLiteral("Nested"));
+    m_collection->addInteger(QStringLiteral("Deep"), QStringLiteral("Below"));
     addCamera();
     const QModelIndex root = find(QStringLiteral("@CameraDevice*Root"));
     QCOMPARE(m_proxy->rowCount(root), 3);
     const QModelIndex device = find(QStringLiteral("@CameraDevice/DeviceControl"));
     QVERIFY(m_proxy->hasChildren(device));
-    // The category passes by its first feature; the one below it is not asked.
+    // A category passes by its first feature; what lies deeper is not asked.
     QVERIFY(!find(QStringLiteral("@CameraDevice/Deep")).isValid());
     m_proxy->setFilterFixedString(QStringLiteral("deep"));
     QVERIFY(find(QStringLiteral("@CameraDevice/Deep")).isValid());
