@@ -569,7 +569,23 @@ void FeatureTreeModel::setMonitorMode(bool enable)
 
 void FeatureTreeModel::setGenICamCallbacksEnable(bool enable)
 {
+    const bool resumes = enable && !m_callbacksEnabled;
     m_callbacksEnabled = enable;
+    if (resumes) {
+        scheduleChecksBelow(m_rootItem.get());
+    }
+}
+
+// Snapshots were dropped for a while: every row that exists asks for its parameter's.
+void FeatureTreeModel::scheduleChecksBelow(FeatureTreeItem *item)
+{
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        FeatureTreeItem *const child = item->child(row);
+        Core::guardedRun(site("FeatureTreeModel::setGenICamCallbacksEnable"),
+                         QStringLiteral("Failed to ask for a re-read of %1").arg(child->getFullName()),
+                         [this, child] { scheduleForcedParameterDataChangedCheck(child); });
+        scheduleChecksBelow(child);
+    }
 }
 
 bool FeatureTreeModel::getGenICamCallbackEnable() const

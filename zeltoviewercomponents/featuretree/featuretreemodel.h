@@ -115,6 +115,7 @@ private:
     };
 
     FeatureTreeItem *itemOrRoot(const QModelIndex &index) const;
+    void scheduleChecksBelow(FeatureTreeItem *item);
     void reportReadFailure() const;
     void reportWriteFailure(FeatureTreeItem *item);
     QList<FeatureTreeItem *> createChildItems(FeatureTreeINodeItem *parent);

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "cameradialog.h"
+
+#include <cameras/camera.h>
+#include <platform/core/exception.h>
+
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+CameraDialog::CameraDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_list(new QListWidget(this))
+    , m_hint(new QLabel(this))
+    , m_connect(nullptr)
+{
+    setWindowTitle(tr("Connect to Camera"));
+    m_list->setAccessibleName(tr("Reachable cameras"));
+    m_hint->setWordWrap(true);
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_connect = buttons->addButton(tr("&Connect"), QDialogButtonBox::AcceptRole);
+    QPushButton *const rescanButton = buttons->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(m_list);
+    layout->addWidget(m_hint);
+    layout->addWidget(buttons);
+    connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));
+    connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
+    connect(rescanButton, SIGNAL(clicked()), this, SLOT(rescan()));
+    connect(m_list, SIGNAL(itemSelectionChanged()), this, SLOT(updateButtons()));
+    connect(m_list, SIGNAL(itemActivated(QListWidgetItem *)), this, SLOT(accept()));
+    rescan();
+}
+
+CameraDialog::~CameraDialog() = default;
+
+QString CameraDialog::cameraId() const
+{
+    const QListWidgetItem *const item = m_list->currentItem();
+    return item ? item->data(Qt::UserRole).toString() : QString();
+}
+
+void CameraDialog::rescan()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    m_list->clear();
+    QString failure;
+    try {
+        const auto cameras = Cameras::Camera::list();
+        for (const auto &camera : cameras) {
+            auto *const item = new QListWidgetItem(tr("%1 %2 (%3), %4")
+                                                       .arg(camera->vendorName(), camera->modelName(),
+                                                            camera->serialNumber(), camera->deviceClass()),
+                                                   m_list);
+            item->setData(Qt::UserRole, camera->id());
+            item->setToolTip(camera->id());
+        }
+    } catch (const Core::Exception::BaseException &exception) {
+        failure = exception.getMessage();
+    }
+    QGuiApplication::restoreOverrideCursor();
+    m_list->setCurrentRow(0);
+    const QString empty =
+        tr("No camera answers. Check its power, its cable and the network interface, then rescan.");
+    m_hint->setText(failure.isEmpty() ? (m_list->count() == 0 ? empty : QString()) : failure);
+    m_hint->setVisible(!m_hint->text().isEmpty());
+    updateButtons();
+}
+
+void CameraDialog::updateButtons()
+{
+    m_connect->setEnabled(!cameraId().isEmpty());
+}

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "descriptionpane.h"
+
+#include <platform/core/formatdoublevalue.h>
+#include <platform/core/guard.h>
+
+using namespace ParameterCollection;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.descriptionPane")
+
+namespace {
+
+constexpr int limitDecimals = 6;
+
+class Page
+{
+public:
+    void heading(const QString &text) { m_html += QStringLiteral("<h3>%1</h3>").arg(text.toHtmlEscaped()); }
+    void paragraph(const QString &text)
+    {
+        if (!text.isEmpty()) {
+            m_html += QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+        }
+    }
+    void row(const QString &label, const QString &text)
+    {
+        if (!text.isEmpty()) {
+            m_rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
+                          .arg(label.toHtmlEscaped(), text.toHtmlEscaped());
+        }
+    }
+    void link(const QString &label, const QString &address)
+    {
+        if (!address.isEmpty()) {
+            m_rows += QStringLiteral("<tr><td></td><td><a href=\"%1\">%2</a></td></tr>")
+                          .arg(address.toHtmlEscaped(), label.toHtmlEscaped());
+        }
+    }
+    QString html() const { return m_html + QStringLiteral("<table>%1</table>").arg(m_rows); }
+
+private:
+    QString m_html;
+    QString m_rows;
+};
+
+QString typeText(ParameterType type)
+{
+    switch (type) {
+    case ParameterType::Integer:
+        return DescriptionPane::tr("Integer");
+    case ParameterType::Boolean:
+        return DescriptionPane::tr("Boolean");
+    case ParameterType::Float:
+        return DescriptionPane::tr("Floating-point number");
+    case ParameterType::Command:
+        return DescriptionPane::tr("Command");
+    case ParameterType::String:
+        return DescriptionPane::tr("Text");
+    case ParameterType::Enumeration:
+        return DescriptionPane::tr("Enumeration");
+    case ParameterType::Category:
+        return DescriptionPane::tr("Category");
+    default:
+        return {};
+    }
+}
+
+QString accessText(const ParameterData &data)
+{
+    if (!data.isImplemented) {
+        return DescriptionPane::tr("Not implemented");
+    }
+    if (data.isReadable) {
+        return data.isWritable ? DescriptionPane::tr("Read and write") : DescriptionPane::tr("Read only");
+    }
+    return data.isWritable ? DescriptionPane::tr("Write only") : DescriptionPane::tr("Not available");
+}
+
+QString visibilityText(GenApi::EVisibility visibility)
+{
+    switch (visibility) {
+    case GenApi::Beginner:
+        return DescriptionPane::tr("Beginner");
+    case GenApi::Expert:
+        return DescriptionPane::tr("Expert");
+    case GenApi::Guru:
+        return DescriptionPane::tr("Guru");
+    default:
+        return DescriptionPane::tr("Invisible");
+    }
+}
+
+void addRange(Page &page, const ParameterData &data, const QString &unit)
+{
+    const QString suffix = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
+    const QString range = DescriptionPane::tr("%1 to %2%3");
+    const QLocale locale;
+    if (const auto *const integer = dynamic_cast<const IntegerParameterData *>(&data)) {
+        page.row(DescriptionPane::tr("Range"), range.arg(integer->minimum).arg(integer->maximum).arg(suffix));
+        page.row(DescriptionPane::tr("Increment"), QString::number(integer->increment));
+    } else if (const auto *const floating = dynamic_cast<const FloatParameterData *>(&data)) {
+        const auto format = [&locale](double value) {
+            return formatDoubleValue(value, limitDecimals, true, locale);
+        };
+        page.row(DescriptionPane::tr("Range"),
+                 range.arg(format(floating->minimum), format(floating->maximum), suffix));
+        if (floating->increment != 0.0) {
+            page.row(DescriptionPane::tr("Increment"), format(floating->increment));
+        }
+    } else if (const auto *const entries = dynamic_cast<const EnumParameterData *>(&data)) {
+        page.row(DescriptionPane::tr("Entries"), entries->displayTexts.join(QStringLiteral(", ")));
+    }
+}
+
+QString describe(const IParameter &parameter)
+{
+    const auto access = parameter.propertyAccess();
+    const auto data = parameter.parameterData();
+    Page page;
+    page.heading(access->property(QStringLiteral("DisplayName"), parameter.name()));
+    const QString toolTip = access->property(QStringLiteral("Tooltip"));
+    const QString description = access->property(QStringLiteral("Description"));
+    page.paragraph(toolTip);
+    if (description != toolTip) {
+        page.paragraph(description);
+    }
+    page.row(DescriptionPane::tr("Name"), parameter.name());
+    if (data) {
+        page.row(DescriptionPane::tr("Type"), typeText(data->type));
+        if (data->type != ParameterType::Category) {
+            page.row(DescriptionPane::tr("Access"), accessText(*data));
+            addRange(page, *data, access->property(QStringLiteral("Unit")));
+        }
+        page.row(DescriptionPane::tr("Visibility"), visibilityText(data->visibility));
+    }
+    page.row(DescriptionPane::tr("Unit"), access->property(QStringLiteral("Unit")));
+    page.link(DescriptionPane::tr("Documentation"), access->property(QStringLiteral("DocuURL")));
+    return page.html();
+}
+
+} // namespace
+
+DescriptionPane::DescriptionPane(QWidget *parent)
+    : QTextBrowser(parent)
+{
+    setOpenExternalLinks(true);
+    setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Description of the current feature"));
+}
+
+DescriptionPane::~DescriptionPane() = default;
+
+void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter)
+{
+    if (m_parameter) {
+        disconnect(m_parameter.data(), nullptr, this, nullptr);
+    }
+    m_parameter = std::move(parameter);
+    if (m_parameter) {
+        connect(
+            m_parameter.data(),
+            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)),
+            this, SLOT(refresh()));
+    }
+    refresh();
+}
+
+void DescriptionPane::refresh()
+{
+    const QString page = Core::guarded({logCategory(), "DescriptionPane::refresh"},
+                                       QStringLiteral("Failed to describe a feature"), QString(),
+                                       [this] { return m_parameter ? describe(*m_parameter) : QString(); });
+    if (page == m_page) {
+        return; // values that poll leave selection and scrolling alone
+    }
+    m_page = page;
+    setHtml(page);
+}
+
+void DescriptionPane::showText(const QString &text)
+{
+    showParameter(nullptr);
+    m_page = text;
+    setHtml(text);
+}

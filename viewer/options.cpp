@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace {
+
+std::optional<GenApi::EVisibility> visibilityFrom(const QString &text)
+{
+    static const QList<std::pair<QString, GenApi::EVisibility>> levels{
+        {QStringLiteral("beginner"), GenApi::Beginner},
+        {QStringLiteral("expert"), GenApi::Expert},
+        {QStringLiteral("guru"), GenApi::Guru},
+        {QStringLiteral("invisible"), GenApi::Invisible},
+    };
+    for (const auto &[name, level] : levels) {
+        if (text.compare(name, Qt::CaseInsensitive) == 0) {
+            return level;
+        }
+    }
+    return std::nullopt;
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    const auto add = [&parser](const char *name, const char *description, const char *value = "") {
+        parser.addOption({QString::fromLatin1(name), QCoreApplication::translate("Options", description),
+                          QString::fromLatin1(value)});
+    };
+    parser.setApplicationDescription(
+        QCoreApplication::translate("Options",
+                                    "Shows a camera's features in a tree. Without --description and "
+                                    "--camera an embedded simulated camera is opened."));
+    add("description", QT_TRANSLATE_NOOP("Options", "Open a camera description file on simulated registers."),
+        "file");
+    add("camera", QT_TRANSLATE_NOOP("Options", "Open the live camera with this id (see --list)."), "id");
+    add("list", QT_TRANSLATE_NOOP("Options", "List the cameras that are reachable and exit."));
+    add("dump", QT_TRANSLATE_NOOP("Options", "Print the tree as text and exit."));
+    add("favorites", QT_TRANSLATE_NOOP("Options", "Print the favorites as text and exit."));
+    add("visibility", QT_TRANSLATE_NOOP("Options", "User level: beginner, expert, guru or invisible."),
+        "level");
+    add("search", QT_TRANSLATE_NOOP("Options", "Search the features for this text."), "text");
+    add("expand", QT_TRANSLATE_NOOP("Options", "Expand all branches."));
+    add("editors", QT_TRANSLATE_NOOP("Options", "Show the gallery of value editors."));
+    add("screenshot",
+        QT_TRANSLATE_NOOP("Options", "Render the window to a PNG file, without a display, and exit."),
+        "file");
+    add("help", QT_TRANSLATE_NOOP("Options", "Show this help."));
+    add("version", QT_TRANSLATE_NOOP("Options", "Show the version."));
+}
+
+QString contradiction(const QCommandLineParser &parser)
+{
+    if (!parser.positionalArguments().isEmpty()) {
+        return QCoreApplication::translate("Options", "Unexpected argument '%1'.")
+            .arg(parser.positionalArguments().constFirst());
+    }
+    if (parser.isSet(QStringLiteral("description")) && parser.isSet(QStringLiteral("camera"))) {
+        return QCoreApplication::translate("Options", "--description and --camera exclude each other.");
+    }
+    return {};
+}
+
+} // namespace
+
+bool Options::isInteractive() const
+{
+    return !list && !dump && !favorites && screenshot.isEmpty() && helpText.isEmpty();
+}
+
+ParsedOptions parseOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    ParsedOptions parsed;
+    if (!parser.parse(arguments)) {
+        parsed.error = parser.errorText();
+        return parsed;
+    }
+    parsed.error = contradiction(parser);
+
+    Options &options = parsed.options;
+    if (parser.isSet(QStringLiteral("help"))) {
+        options.helpText = parser.helpText();
+    } else if (parser.isSet(QStringLiteral("version"))) {
+        options.helpText = QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
+                                                         QCoreApplication::applicationVersion());
+    }
+    options.description = parser.value(QStringLiteral("description"));
+    options.camera = parser.value(QStringLiteral("camera"));
+    options.list = parser.isSet(QStringLiteral("list"));
+    options.dump = parser.isSet(QStringLiteral("dump"));
+    options.favorites = parser.isSet(QStringLiteral("favorites"));
+    options.editors = parser.isSet(QStringLiteral("editors"));
+    options.expand = parser.isSet(QStringLiteral("expand"));
+    options.search = parser.value(QStringLiteral("search"));
+    options.screenshot = parser.value(QStringLiteral("screenshot"));
+    if (parser.isSet(QStringLiteral("visibility"))) {
+        const QString level = parser.value(QStringLiteral("visibility"));
+        options.visibility = visibilityFrom(level);
+        if (!options.visibility) {
+            parsed.error =
+                QCoreApplication::translate(
+                    "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
+                    .arg(level);
+        }
+    }
+    return parsed;
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/genicam/genapi.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/*! \brief What the command line asks for. */
+struct Options
+{
+    QString description; //!< camera description file for simulated registers
+    QString camera; //!< id of a live camera; with neither, the embedded camera is opened
+    bool list = false;
+    bool dump = false;
+    bool favorites = false; //!< dump the favorites branch alone
+    bool editors = false; //!< show the editor gallery
+    bool expand = false;
+    QString search;
+    QString screenshot;
+    std::optional<GenApi::EVisibility> visibility; //!< as remembered, when absent
+    QString helpText; //!< when help or version is asked for, the answer
+
+    /*! Returns whether the program shows a window to a person. */
+    bool isInteractive() const;
+};
+
+/*! \brief The options, or the line that says what is wrong with them. */
+struct ParsedOptions
+{
+    Options options;
+    QString error;
+};
+
+ParsedOptions parseOptions(const QStringList &arguments);

@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreedelegate.h"
+
+#include "abstractitemeditor.h"
+#include "checkboxeditor.h"
+#include "enumeditor.h"
+#include "featuretreehighlighter.h"
+#include "featuretreeinodeitem.h"
+#include "featuretreenames.h"
+#include "floateditor.h"
+#include "floatslidereditor.h"
+#include "ifeaturetreemodelextension.h"
+#include "inteditor.h"
+#include "intslidereditor.h"
+#include "toolbuttoneditor.h"
+
+#include <platform/core/guard.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QStaticText>
+
+using namespace ParameterCollection;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.featureTreeDelegate")
+
+namespace {
+
+// A parameter that reports itself as excluded stands for none.
+bool isUsable(const QSharedPointer<IParameter> &parameter)
+{
+    return parameter && !parameter->isExcluded();
+}
+
+bool wantsSlider(const QString &representation)
+{
+    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
+}
+
+QString representationOf(const IParameter &parameter)
+{
+    return parameter.propertyAccess()->property(QStringLiteral("Representation"));
+}
+
+} // namespace
+
+FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *extension,
+                                         FeatureTreeHighlighter *highlighter)
+    : QStyledItemDelegate(parent)
+    , m_extension(extension)
+    , m_highlighter(highlighter)
+{
+}
+
+FeatureTreeDelegate::~FeatureTreeDelegate() = default;
+
+FeatureTreeINodeItem *FeatureTreeDelegate::nodeItemAt(const QModelIndex &index) const
+{
+    return index.isValid() ? qobject_cast<FeatureTreeINodeItem *>(m_extension->getFeatureTreeItem(index))
+                           : nullptr;
+}
+
+QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                           const QModelIndex &index) const
+{
+    FeatureTreeINodeItem *const item = nodeItemAt(index);
+    if (!item || item->getAccessMode() < GenApi::WO) {
+        return nullptr;
+    }
+    QWidget *const editor = Core::guarded(
+        {logCategory(), "FeatureTreeDelegate::createEditor"}, QStringLiteral("Failed to create an editor"),
+        static_cast<QWidget *>(nullptr),
+        [this, item, parent, &option, &index] { return createEditorFor(item, parent, option, index); });
+    if (editor) {
+        editor->setAccessibleName(item->getDisplayedName());
+        editor->setAccessibleDescription(
+            item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
+    }
+    return editor;
+}
+
+QWidget *FeatureTreeDelegate::createEditorFor(FeatureTreeINodeItem *item, QWidget *parent,
+                                              const QStyleOptionViewItem &option,
+                                              const QModelIndex &index) const
+{
+    const QSharedPointer<IParameter> node = item->node();
+    switch (item->editorType()) {
+    case FeatureTreeItem::Integer:
+    case FeatureTreeItem::IntegerSlider:
+        return createIntEditor(parent, option, qSharedPointerObjectCast<IIntegerParameter>(node));
+    case FeatureTreeItem::Float:
+    case FeatureTreeItem::FloatSlider: {
+        const auto parameter = qSharedPointerObjectCast<IFloatParameter>(node);
+        QWidget *const editor = createFloatEditor(parent, option, parameter, item->collection());
+        // Alone among the types, a float without its own editor falls back to the default one.
+        return editor ? editor : QStyledItemDelegate::createEditor(parent, option, index);
+    }
+    case FeatureTreeItem::Enumeration:
+        return createEnumEditor(parent, option, qSharedPointerObjectCast<IEnumParameter>(node));
+    case FeatureTreeItem::Boolean:
+        return createCheckBoxEditor(parent, option, qSharedPointerObjectCast<IBooleanParameter>(node));
+    case FeatureTreeItem::Command:
+        return createToolButtonEditor(parent, option, qSharedPointerObjectCast<ICommandParameter>(node));
+    default:
+        return QStyledItemDelegate::createEditor(parent, option, index);
+    }
+}
+
+QWidget *FeatureTreeDelegate::createIntEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                              QSharedPointer<IIntegerParameter> parameter) const
+{
+    Q_UNUSED(option)
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    if (!wantsSlider(representationOf(*parameter))) {
+        return new IntEditor(parent); // commits by the delegate's own handling of its line edit
+    }
+    auto *const editor = new IntSliderEditor(parent);
+    connect(editor, SIGNAL(valueChanged(int)), this, SLOT(emitCommitData()));
+    return editor;
+}
+
+QWidget *FeatureTreeDelegate::createFloatEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                                QSharedPointer<IFloatParameter> parameter,
+                                                QSharedPointer<IParameterCollection> collection) const
+{
+    Q_UNUSED(option)
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    const QString representation = representationOf(*parameter);
+    const bool hasAlias =
+        collection && collection->hasParameter(parameter->fullName() + QLatin1String("/Alias"));
+    QWidget *editor = nullptr;
+    if (hasAlias && wantsSlider(representation)) {
+        editor = new FloatSliderEditor(collection, parent);
+    } else {
+        editor = new FloatEditor(parent, representation);
+    }
+    connect(editor, SIGNAL(boxValueChanged()), this, SLOT(emitCommitData()));
+    return editor;
+}
+
+QWidget *FeatureTreeDelegate::createEnumEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                               QSharedPointer<IEnumParameter> parameter) const
+{
+    Q_UNUSED(option)
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    auto *const editor = new EnumEditor(parent);
+    connect(editor, SIGNAL(activated(int)), this, SLOT(emitCommitData()));
+    return editor;
+}
+
+QWidget *FeatureTreeDelegate::createCheckBoxEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                                   QSharedPointer<IBooleanParameter> parameter) const
+{
+    Q_UNUSED(option)
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    auto *const editor = new CheckBoxEditor(parent);
+    connect(editor, SIGNAL(clicked(bool)), this, SLOT(emitCommitData()));
+    return editor;
+}
+
+QWidget *FeatureTreeDelegate::createToolButtonEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                                     QSharedPointer<ICommandParameter> parameter) const
+{
+    Q_UNUSED(option)
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    auto *const editor = new ToolButtonEditor(parent);
+    connect(editor, SIGNAL(clicked(bool)), this, SLOT(emitCommitData()));
+    return editor;
+}
+
+void FeatureTreeDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+{
+    Q_UNUSED(index)
+    editor->deleteLater();
+}
+
+void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    if (index.column() != FeatureTreeColumns::value) {
+        QStyledItemDelegate::setEditorData(editor, index);
+        return;
+    }
+    FeatureTreeItem *const item = m_extension->getFeatureTreeItem(index);
+    if (!item) {
+        return;
+    }
+    auto *const itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
+    const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
+    if (itemEditor && nodeItem) {
+        AbstractItemEditor::EditorData data;
+        data.ptrParameter = nodeItem->node();
+        data.ptrParameterData = nodeItem->getParameterData();
+        itemEditor->setEditorData(data);
+        return;
+    }
+    // A refresh does not overwrite what is being typed.
+    if (!editor->hasFocus()) {
+        QStyledItemDelegate::setEditorData(editor, index);
+    }
+}
+
+void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
+                                       const QModelIndex &index) const
+{
+    auto *const itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
+    if (index.column() != FeatureTreeColumns::value || !itemEditor) {
+        QStyledItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    const QVariant value = itemEditor->editorData();
+    if (value.isValid() && !model->setData(index, value, Qt::EditRole)) {
+        setEditorData(editor, index); // refused: the real value stands
+    }
+}
+
+void FeatureTreeDelegate::emitCommitData()
+{
+    QObject *const editor = sender();
+    emit commitData(editor && editor->isWidgetType() ? static_cast<QWidget *>(editor) : nullptr);
+}
+
+bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
+{
+    // Permanent editors commit by their signals and keep the focus chain's order; only the transient ones are
+    // committed and closed by keys and by losing the focus.
+    const bool isPermanent = dynamic_cast<AbstractItemEditor *>(object) && !qobject_cast<IntEditor *>(object);
+    return !isPermanent && QStyledItemDelegate::eventFilter(object, event);
+}
+
+void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                const QModelIndex &index) const
+{
+    const bool isCategory =
+        index.model() && index.model()->data(index, FeatureTreeItem::GenicamCategory).toBool();
+    if (index.column() != FeatureTreeColumns::name || !m_highlighter || isCategory) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    paintName(painter, option, index);
+}
+
+void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
+                                    const QModelIndex &index) const
+{
+    QStyleOptionViewItem opt = option;
+    initStyleOption(&opt, index);
+    const QStyle *const style = opt.widget ? opt.widget->style() : QApplication::style();
+    const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt);
+    const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
+    QString text = index.data(Qt::DisplayRole).toString();
+    if (!isSpecial) {
+        // The width gives way by a pixel or two for each character of the search text.
+        const int width = textRect.width() - 2 * m_highlighter->length();
+        text = painter->fontMetrics().elidedText(text, Qt::ElideRight, width, 0);
+        const QFontMetrics metrics = painter->fontMetrics();
+        for (const auto &range : m_highlighter->matchRanges(text)) {
+            const int x0 = metrics.horizontalAdvance(text, static_cast<int>(range.first));
+            const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
+            painter->fillRect(QRect(textRect.left() + x0, textRect.top(), x1 - x0, textRect.height()),
+                              m_highlighter->color());
+        }
+    }
+
+    // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
+    // seen.
+    const QPalette visible = opt.palette;
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
+        opt.palette.setColor(QPalette::All, role, Qt::transparent);
+    }
+    style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, qobject_cast<QWidget *>(parent()));
+
+    const QVariant foreground = index.data(Qt::ForegroundRole);
+    const QColor color = foreground.canConvert<QBrush>() && foreground.isValid()
+        ? foreground.value<QBrush>().color()
+        : visible.color(opt.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
+                        QPalette::Text);
+    const int dy = static_cast<int>(textRect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
+    const QRect target = textRect.adjusted(0, dy, 0, 0);
+    painter->save();
+    painter->setPen(color);
+    if (isSpecial && Qt::mightBeRichText(text)) {
+        QStaticText richText(text);
+        richText.setTextFormat(Qt::RichText);
+        painter->drawStaticText(target.topLeft(), richText);
+    } else {
+        painter->drawText(target, 0, text);
+    }
+    painter->restore();
+}

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/parametercollection/iparametercollection.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QSharedPointer>
+#include <QStyledItemDelegate>
+
+class FeatureTreeHighlighter;
+class FeatureTreeINodeItem;
+class IFeatureTreeModelExtension;
+
+/*! \brief The item delegate of the feature tree.
+ *
+ * Chooses the in-place editor for a row, hands it the row's parameter and snapshot, writes its value into the
+ * model, and paints names with the search matches marked. Unusable rows silently get no editor.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /*! \a extension knows the items behind the view's indexes; neither it nor \a highlighter, which may be
+     * null, is owned. */
+    FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *extension,
+                        FeatureTreeHighlighter *highlighter);
+    ~FeatureTreeDelegate() override;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    /*! Releases \a editor when control is back in the event loop: it is often destroyed by one of its own
+     * signals. */
+    void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+
+public slots:
+    /*! Emits commitData() for the editor that sent the signal. */
+    void emitCommitData();
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+    // Each returns null for an empty or excluded parameter.
+    QWidget *createIntEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                             QSharedPointer<ParameterCollection::IIntegerParameter> parameter) const;
+    QWidget *createFloatEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                               QSharedPointer<ParameterCollection::IFloatParameter> parameter,
+                               QSharedPointer<ParameterCollection::IParameterCollection> collection) const;
+    QWidget *createEnumEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                              QSharedPointer<ParameterCollection::IEnumParameter> parameter) const;
+    QWidget *createCheckBoxEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                  QSharedPointer<ParameterCollection::IBooleanParameter> parameter) const;
+    QWidget *createToolButtonEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                    QSharedPointer<ParameterCollection::ICommandParameter> parameter) const;
+
+private:
+    FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
+    QWidget *createEditorFor(FeatureTreeINodeItem *item, QWidget *parent, const QStyleOptionViewItem &option,
+                             const QModelIndex &index) const;
+    void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+
+    IFeatureTreeModelExtension *m_extension;
+    FeatureTreeHighlighter *m_highlighter;
+};

@@ -1,0 +1,643 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreeview.h"
+
+#include "favoritesdata.h"
+#include "featuretreedelegate.h"
+#include "featuretreeinodeitem.h"
+#include "featuretreemodel.h"
+#include "featuretreenames.h"
+#include "featuretreeproxymodel.h"
+
+#include <platform/core/guard.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeView")
+
+namespace {
+
+constexpr qsizetype editorBudget = 200;
+constexpr int rowsBeyondViewport = 4;
+
+bool isInUse(const QWidget *editor)
+{
+    const QWidget *const focus = QApplication::focusWidget();
+    const bool hasFocus = focus && (focus == editor || editor->isAncestorOf(focus));
+    const QWidget *const popup = QApplication::activePopupWidget();
+    return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
+}
+
+} // namespace
+
+FeatureTreeView::FeatureTreeView(QWidget *parent)
+    : QTreeView(parent)
+{
+    QPalette tuned = palette();
+    tuned.setBrush(QPalette::Disabled, QPalette::Base, tuned.brush(QPalette::Active, QPalette::Base));
+    setPalette(tuned);
+    setUniformRowHeights(true);
+    createModel();
+    connect(this, SIGNAL(expanded(const QModelIndex &)), this, SLOT(onSelfExpanded(const QModelIndex &)));
+    connect(this, SIGNAL(collapsed(const QModelIndex &)), this, SLOT(onSelfCollapsed(const QModelIndex &)));
+    setDragEnabled(true);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    viewport()->setAcceptDrops(true);
+    setDropIndicatorShown(true);
+
+    FavoritesData &favorites = getFeatureExtension()->GetFavorites();
+    favorites.attach(QStringLiteral("Favorites"));
+    connect(&favorites, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
+    connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
+}
+
+FeatureTreeView::~FeatureTreeView()
+{
+    if (IFeatureTreeModelExtension *const extension = getFeatureExtension()) {
+        extension->GetFavorites().detach(this);
+    }
+}
+
+void FeatureTreeView::createModel()
+{
+    auto *const proxy = new FeatureTreeProxyModel(this);
+    proxy->setSourceModel(new FeatureTreeModel(proxy));
+    setModel(proxy);
+    proxy->setDynamicSortFilter(false);
+    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    proxy->setFilterKeyColumn(1);
+    static_cast<IFeatureTreeModelExtension *>(proxy)->setHighlighter(&m_highlighter);
+    setItemDelegate(new FeatureTreeDelegate(this, proxy, &m_highlighter));
+
+    // After the base's own connections, which schedule the new layout.
+    connect(
+        proxy,
+        SIGNAL(layoutAboutToBeChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
+        this, SLOT(onLayoutAboutToChange()));
+    connect(proxy, SIGNAL(layoutChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
+            this, SLOT(onLayoutChanged()));
+    connect(proxy, SIGNAL(modelReset()), this, SLOT(onModelReset()));
+}
+
+IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension()
+{
+    return dynamic_cast<IFeatureTreeModelExtension *>(model());
+}
+
+const IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension() const
+{
+    return dynamic_cast<const IFeatureTreeModelExtension *>(model());
+}
+
+FeatureTreeHighlighter *FeatureTreeView::getHightlighter()
+{
+    return &m_highlighter;
+}
+
+QString FeatureTreeView::getSettingsPath() const
+{
+    auto *const extension = const_cast<FeatureTreeView *>(this)->getFeatureExtension();
+    return extension ? extension->GetFavorites().settingsGroup() : QString();
+}
+
+void FeatureTreeView::setSettingsPath(const QString &path)
+{
+    if (IFeatureTreeModelExtension *const extension = getFeatureExtension()) {
+        extension->GetFavorites().setSettingsGroup(path);
+    }
+}
+
+FeatureTreeItem *FeatureTreeView::itemAt(const QModelIndex &index) const
+{
+    const IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    return extension && index.isValid() ? extension->getFeatureTreeItem(index) : nullptr;
+}
+
+bool FeatureTreeView::isOpen(const QModelIndex &parent) const
+{
+    return !parent.isValid() || isExpanded(parent);
+}
+
+// Editors
+// ---------------------------------------------------------------------------------------------------------
+
+bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
+{
+    return item->usePersistentEditor() && item->getVisibility() <= m_visibility
+        && item->getAccessMode() > GenApi::NA;
+}
+
+bool FeatureTreeView::isBudgetSpent() const
+{
+    return isVisible() && m_editors.size() >= editorBudget;
+}
+
+void FeatureTreeView::openPersistentEditor(const QModelIndex &index)
+{
+    FeatureTreeItem *const item = itemAt(index);
+    if (item && getFeatureExtension()->indexForItem(item, index.column()).isValid() && wantsEditor(item)) {
+        addEditor(index);
+    }
+}
+
+void FeatureTreeView::addEditor(const QModelIndex &index)
+{
+    QTreeView::openPersistentEditor(index);
+    QWidget *const editor = indexWidget(index);
+    if (!editor) {
+        return;
+    }
+    m_editors.append({index, editor});
+    // When an editor's row is filtered out, the base releases the editor but keeps its address as that of a
+    // permanent one; a later editor at the same address could never be closed.
+    connect(editor, &QObject::destroyed, &m_editorWatch, [this](QObject *gone) { editorDestroyed(gone); });
+}
+
+void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent)
+{
+    if (!isOpen(parent)) {
+        return;
+    }
+    const int count = model()->rowCount(parent);
+    for (int row = 0; row < count && !isBudgetSpent(); ++row) {
+        const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
+        FeatureTreeItem *const item = itemAt(index);
+        if (item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(index)) {
+            openPersistentEditor(index);
+        }
+    }
+}
+
+QModelIndexList FeatureTreeView::rowsNearViewport() const
+{
+    QModelIndexList rows;
+    QModelIndex index = indexAt(QPoint(0, 0));
+    for (int i = 0; i < rowsBeyondViewport && indexAbove(index).isValid(); ++i) {
+        index = indexAbove(index);
+    }
+    int below = 0;
+    while (index.isValid() && below <= rowsBeyondViewport) {
+        rows.append(index.siblingAtColumn(FeatureTreeColumns::value));
+        below += visualRect(index).top() > viewport()->height() ? 1 : 0;
+        index = indexBelow(index);
+    }
+    return rows;
+}
+
+void FeatureTreeView::ensureEditors()
+{
+    if (m_isEnsuringEditors || !isVisible()) {
+        return;
+    }
+    const QScopedValueRollback<bool> guard(m_isEnsuringEditors, true);
+    m_editors.removeIf([](const Editor &editor) { return !editor.index.isValid() || !editor.widget; });
+    const QModelIndexList near = rowsNearViewport();
+    bool opened = false;
+    for (const QModelIndex &index : near) {
+        FeatureTreeItem *const item = itemAt(index);
+        if (item && wantsEditor(item) && item->ShowMe(m_visibility) && !indexWidget(index)) {
+            addEditor(index);
+            opened = true;
+        }
+    }
+    if (m_editors.size() > editorBudget) {
+        closeFarEditors(near);
+    }
+    if (opened) {
+        orderEditors(near);
+    }
+}
+
+void FeatureTreeView::closeFarEditors(const QModelIndexList &near)
+{
+    for (qsizetype i = m_editors.size() - 1; i >= 0 && m_editors.size() > editorBudget; --i) {
+        const Editor editor = m_editors[i];
+        if (!near.contains(editor.index) && !isInUse(editor.widget)) {
+            m_editors.removeAt(i);
+            closePersistentEditor(editor.index);
+        }
+    }
+}
+
+// The focus walks from top to bottom; the base leaves editors in the order in which they were opened.
+void FeatureTreeView::orderEditors(const QModelIndexList &rows)
+{
+    QWidget *previous = nullptr;
+    for (const QModelIndex &index : rows) {
+        QWidget *const editor = indexWidget(index);
+        if (editor && previous) {
+            setTabOrder(previous, editor);
+        }
+        previous = editor ? editor : previous;
+    }
+}
+
+void FeatureTreeView::updateGeometries()
+{
+    QTreeView::updateGeometries();
+    ensureEditors();
+}
+
+void FeatureTreeView::scrollContentsBy(int dx, int dy)
+{
+    QTreeView::scrollContentsBy(dx, dy);
+    ensureEditors();
+}
+
+// Rows
+// ------------------------------------------------------------------------------------------------------------
+
+void FeatureTreeView::updateRows(const QModelIndex &parent)
+{
+    if (!model() || !isOpen(parent)) {
+        return;
+    }
+    const int count = model()->rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        updateRow(row, parent);
+        const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
+        if (model()->hasChildren(index)) {
+            updateRows(index);
+        }
+    }
+}
+
+void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
+{
+    const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
+    FeatureTreeItem *const item = itemAt(index);
+    if (!item) {
+        return;
+    }
+    spanRow(index, *item);
+    if (!item->ShowMe(m_visibility)) {
+        hideRow(row, parent);
+        return;
+    }
+    if (isRowHidden(row, parent)) {
+        setRowHidden(row, parent, false);
+    }
+    if (item->usePersistentEditor() && !isBudgetSpent() && !indexWidget(index)) {
+        openPersistentEditor(index);
+    }
+}
+
+void FeatureTreeView::hideRow(int row, const QModelIndex &parent)
+{
+    if (isRowHidden(row, parent)) {
+        return;
+    }
+    const QModelIndex current = currentIndex();
+    setRowHidden(row, parent, true);
+    if (current.isValid() && current.row() == row && current.parent() == parent) {
+        emit onCurrentChanged(QModelIndex());
+    }
+}
+
+void FeatureTreeView::spanRow(const QModelIndex &index, const FeatureTreeItem &item)
+{
+    const bool mayBeFullRow = item.isCategory() || !qobject_cast<const FeatureTreeINodeItem *>(&item);
+    if (!mayBeFullRow) {
+        return;
+    }
+    const bool isFullRow =
+        index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
+    if (isFirstColumnSpanned(index.row(), index.parent()) != isFullRow) {
+        setFirstColumnSpanned(index.row(), index.parent(), isFullRow);
+    }
+}
+
+void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
+{
+    QTreeView::rowsInserted(parent, start, end);
+    if (!isOpen(parent)) {
+        return;
+    }
+    for (int row = start; row <= end; ++row) {
+        updateRow(row, parent);
+    }
+}
+
+void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                  const QList<int> &roles)
+{
+    if (topLeft == bottomRight && topLeft.isValid()) {
+        Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
+                         QStringLiteral("Failed to access the node"), [this, &topLeft] {
+                             if (topLeft.column() == FeatureTreeColumns::name) {
+                                 const bool isFullRow = topLeft.data(FeatureTreeItem::IsFullRowItem).toBool();
+                                 if (isFirstColumnSpanned(topLeft.row(), topLeft.parent()) != isFullRow) {
+                                     setFirstColumnSpanned(topLeft.row(), topLeft.parent(), isFullRow);
+                                 }
+                             }
+                             updateValueCell(topLeft);
+                         });
+    }
+    executeDelayedItemsLayout();
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void FeatureTreeView::updateValueCell(const QModelIndex &index)
+{
+    FeatureTreeItem *const item = itemAt(index);
+    if (!item) {
+        return;
+    }
+    if (index.column() != FeatureTreeColumns::value) {
+        if (item->getFullName() == FeatureTreeNames::dummy) {
+            setFirstColumnSpanned(0, index.parent(), true);
+        }
+        return;
+    }
+    const bool wasHidden = isRowHidden(index.row(), index.parent());
+    const bool isShown = item->ShowMe(m_visibility);
+    if (!isShown) {
+        hideRow(index.row(), index.parent());
+    } else if (wasHidden) {
+        setRowHidden(index.row(), index.parent(), false);
+    }
+    updateEditor(index, item, wasHidden && !isShown);
+}
+
+void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden)
+{
+    const bool isHidden = isRowHidden(index.row(), index.parent());
+    const bool isAvailable = item->getAccessMode() > GenApi::NA;
+    const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
+    QWidget *const editor = indexWidget(index);
+    if (!editor) {
+        if (!isHidden && isAvailable && item->usePersistentEditor() && !isBudgetSpent()) {
+            openPersistentEditor(index);
+        }
+    } else if (wasHidden) {
+        return;
+    } else if (!item->usePersistentEditor()) {
+        if (!nodeItem || !nodeItem->isEditable() || isHidden) {
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
+    } else if (!isAvailable || isHidden) {
+        closePersistentEditor(index);
+    }
+}
+
+void FeatureTreeView::onLayoutAboutToChange()
+{
+    m_currentBeforeLayout = currentIndex();
+    m_hadCurrent = m_currentBeforeLayout.isValid();
+}
+
+void FeatureTreeView::onLayoutChanged()
+{
+    // Rows that were hidden come back shown, and rows that came need all that rows need.
+    updateRows(QModelIndex());
+    if (m_hadCurrent && !currentIndex().isValid()) {
+        emit onCurrentChanged(QModelIndex()); // filtered out, of which the base tells nobody
+    }
+}
+
+void FeatureTreeView::onModelReset()
+{
+    m_editors.clear();
+    emit onCurrentChanged(QModelIndex());
+    updateRows(QModelIndex());
+}
+
+// Expansion
+// -------------------------------------------------------------------------------------------------------
+
+void FeatureTreeView::expandToDepth(int depth)
+{
+    const auto isAbove = [depth](const QModelIndex &, int level) { return level <= depth; };
+    scheduleDelayedItemsLayout(); // so that expanding merely stores the state
+    expandBranches(QModelIndex(), 0, isAbove);
+    updateRows(QModelIndex());
+}
+
+void FeatureTreeView::expandEverything()
+{
+    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
+    scheduleDelayedItemsLayout();
+    expandBranches(QModelIndex(), 0, [](const QModelIndex &, int) { return true; });
+    updateRows(QModelIndex());
+}
+
+void FeatureTreeView::setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded)
+{
+    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
+    scheduleDelayedItemsLayout();
+    expandBranches(QModelIndex(), 0,
+                   [&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
+    updateRows(QModelIndex());
+}
+
+void FeatureTreeView::expandBranches(const QModelIndex &parent, int depth,
+                                     const std::function<bool(const QModelIndex &, int)> &isExpanded)
+{
+    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
+    const int count = model()->rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
+        if (!model()->hasChildren(index)) {
+            continue;
+        }
+        const bool expand = isExpanded(index, depth);
+        if (expand != this->isExpanded(index)) {
+            setExpanded(index, expand);
+        }
+        expandBranches(index, depth + 1, isExpanded);
+    }
+}
+
+void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
+{
+    if (m_isBulkWork) {
+        return;
+    }
+    updateRows(index);
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    if (extension && index == extension->GetFavoritesRootIndex()) {
+        extension->GetFavorites().setExpanded(true);
+    }
+    openPersistentEditorsForChildren(index);
+}
+
+void FeatureTreeView::onSelfCollapsed(const QModelIndex &index)
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    if (!m_isBulkWork && extension && index == extension->GetFavoritesRootIndex()) {
+        extension->GetFavorites().setExpanded(false);
+    }
+}
+
+// Favorites and level
+// ---------------------------------------------------------------------------------------------
+
+void FeatureTreeView::onFavoriteDataExpanded(bool expanded)
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    const QModelIndex root = extension ? extension->GetFavoritesRootIndex() : QModelIndex();
+    if (root.isValid() && isExpanded(root) != expanded) {
+        setExpanded(root, expanded);
+    }
+}
+
+void FeatureTreeView::onFavoriteDataUpdated()
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    if (!extension) {
+        return;
+    }
+    const QString currentName = currentIndex().data(FeatureTreeItem::FullNodeNameRole).toString();
+    const int column = currentIndex().column();
+    QStringList selectedNames;
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    for (const QModelIndex &index : selected) {
+        selectedNames.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+    }
+
+    extension->rebuildFavoriteItems();
+
+    for (const QString &name : std::as_const(selectedNames)) {
+        const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
+        selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    const QModelIndex current =
+        currentName.isEmpty() ? QModelIndex() : extension->findItemByFullName(currentName, nullptr, column);
+    if (current.isValid() && current != currentIndex()) {
+        setCurrentIndex(current);
+    }
+    updateRows(QModelIndex());
+    onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
+}
+
+void FeatureTreeView::setVisibility(GenApi::EVisibility level)
+{
+    // Shared by all views: another view's call makes the next one of this view do the full work again.
+    static QAbstractItemModel *recordedModel = nullptr;
+    if (level == m_visibility && model() == recordedModel) {
+        return;
+    }
+    m_visibility = level;
+    recordedModel = model();
+    if (IFeatureTreeModelExtension *const extension = getFeatureExtension()) {
+        onFavoriteDataUpdated();
+        extension->refresh();
+    }
+}
+
+// Painting
+// --------------------------------------------------------------------------------------------------------
+
+void FeatureTreeView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (model() && model()->rowCount() == 0) {
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::Active, QPalette::Text));
+        painter.drawText(rect(), Qt::AlignHCenter | Qt::AlignTop, tr("No search results found."));
+    }
+}
+
+void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &options,
+                              const QModelIndex &index) const
+{
+    QItemSelectionModel *const selection = selectionModel();
+    const bool isSelected = selection->isSelected(index);
+    {
+        const QSignalBlocker blocker(selection);
+        if (isSelected) {
+            selection->select(index, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+        }
+        QTreeView::drawRow(painter, options, index);
+        if (isSelected) {
+            selection->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+    }
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.row() == index.row() && current.parent() == index.parent()) {
+        painter->save();
+        painter->setPen(palette().color(QPalette::Active, QPalette::Highlight));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(options.rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+}
+
+void FeatureTreeView::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    QTreeView::initViewItemOption(option);
+    QPalette &colors = option->palette;
+    QColor activeText = colors.color(QPalette::Active, QPalette::Text);
+    activeText.setAlpha(128);
+    colors.setBrush(QPalette::Active, QPalette::HighlightedText, activeText);
+    for (const auto group : {QPalette::Disabled, QPalette::Inactive}) {
+        colors.setBrush(group, QPalette::HighlightedText, colors.color(group, QPalette::Text));
+    }
+    for (const auto group : {QPalette::Active, QPalette::Disabled, QPalette::Inactive}) {
+        colors.setBrush(group, QPalette::Highlight, QColor(0, 0, 0, 0));
+    }
+}
+
+// Keyboard
+// --------------------------------------------------------------------------------------------------------
+
+void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    emit onCurrentChanged(current);
+    QTreeView::currentChanged(current, previous);
+}
+
+void FeatureTreeView::keyPressEvent(QKeyEvent *event)
+{
+    const QScopedValueRollback<bool> navigating(m_isNavigating, true);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && state() != EditingState && edit(currentIndex(), EditKeyPressed, event)) {
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    if (trigger == CurrentChanged && m_isNavigating) {
+        return false; // keys walk over editors
+    }
+    if (trigger != EditKeyPressed && trigger != AnyKeyPressed) {
+        return QTreeView::edit(index, trigger, event);
+    }
+    const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
+    return indexWidget(value) ? activateEditor(value, trigger, event)
+                              : QTreeView::edit(value, trigger, event);
+}
+
+bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event)
+{
+    QWidget *const editor = indexWidget(value);
+    if (!editor->isEnabled()) {
+        return false;
+    }
+    if (auto *const button = qobject_cast<QAbstractButton *>(editor); button && trigger == EditKeyPressed) {
+        button->click();
+        return true;
+    }
+    if (editor->focusPolicy() == Qt::NoFocus) {
+        return false;
+    }
+    editor->setFocus(Qt::TabFocusReason);
+    QWidget *const focus = QApplication::focusWidget();
+    if (trigger == AnyKeyPressed && focus && event) {
+        QCoreApplication::sendEvent(focus, event);
+    }
+    return true;
+}

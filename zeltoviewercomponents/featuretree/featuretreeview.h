@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "featuretreehighlighter.h"
+
+#include <platform/genicam/genapi.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QPointer>
+#include <QStringList>
+#include <QTreeView>
+
+class FeatureTreeItem;
+class IFeatureTreeModelExtension;
+
+/*! \brief The tree view of the feature tree.
+ *
+ * Builds its own models and delegate, keeps an in-place editor open on every row of the value column that
+ * wants one, and hides rows above the user level. Up to 200 editors stay open wherever their rows are; beyond
+ * that number they are open in and near the viewport and come and go as the view scrolls.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit FeatureTreeView(QWidget *parent = nullptr);
+    ~FeatureTreeView() override;
+
+    /*! Builds the model stack and the delegate; called by the constructor. */
+    virtual void createModel();
+    /*! Returns the model's extension, null when the model is of another kind. */
+    IFeatureTreeModelExtension *getFeatureExtension();
+    const IFeatureTreeModelExtension *getFeatureExtension() const;
+    FeatureTreeHighlighter *getHightlighter();
+
+    /*! Returns the settings group of the favorites. */
+    QString getSettingsPath() const;
+    void setSettingsPath(const QString &path);
+
+    /*! Expands branches down to \a depth (0: the top rows) and collapses those below. Leaves are left alone,
+     * unlike in the base class, whose search for them makes filtering slow. */
+    void expandToDepth(int depth);
+    /*! Expands every branch without recording that for the favorites branch. */
+    void expandEverything();
+    /*! Expands exactly the branches for which \a isExpanded says so, recording nothing. */
+    void setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded);
+
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QList<int> &roles = QList<int>()) override;
+
+public slots:
+    void setVisibility(GenApi::EVisibility level);
+    void onSelfExpanded(const QModelIndex &index);
+    void onSelfCollapsed(const QModelIndex &index);
+    void onFavoriteDataUpdated();
+    void onFavoriteDataExpanded(bool expanded);
+
+signals:
+    /*! The current row changed; invalid when it was hidden or filtered out. */
+    void onCurrentChanged(const QModelIndex &index);
+
+protected:
+    void openPersistentEditor(const QModelIndex &index);
+    void openPersistentEditorsForChildren(const QModelIndex &parent);
+    /*! Shows, hides and equips the rows below \a parent, if it is expanded; the invalid index always is. */
+    void updateRows(const QModelIndex &parent);
+
+    void paintEvent(QPaintEvent *event) override;
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &options,
+                 const QModelIndex &index) const override;
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
+    void rowsInserted(const QModelIndex &parent, int start, int end) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private slots:
+    void onLayoutAboutToChange();
+    void onLayoutChanged();
+    void onModelReset();
+
+private:
+    struct Editor
+    {
+        QPersistentModelIndex index;
+        QPointer<QWidget> widget;
+    };
+
+    FeatureTreeItem *itemAt(const QModelIndex &index) const;
+    bool isOpen(const QModelIndex &parent) const;
+    void updateRow(int row, const QModelIndex &parent);
+    void hideRow(int row, const QModelIndex &parent);
+    void spanRow(const QModelIndex &index, const FeatureTreeItem &item);
+    void updateValueCell(const QModelIndex &index);
+    void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
+    void expandBranches(const QModelIndex &parent, int depth,
+                        const std::function<bool(const QModelIndex &, int)> &isExpanded);
+
+    bool wantsEditor(FeatureTreeItem *item) const;
+    bool isBudgetSpent() const;
+    QModelIndexList rowsNearViewport() const;
+    void ensureEditors();
+    void closeFarEditors(const QModelIndexList &near);
+    void orderEditors(const QModelIndexList &rows);
+    void addEditor(const QModelIndex &index);
+    bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
+
+    GenApi::EVisibility m_visibility = GenApi::Guru;
+    FeatureTreeHighlighter m_highlighter;
+    QList<Editor> m_editors;
+    QObject m_editorWatch; // context of the editors' destroyed(), gone before the view's base is
+    QPersistentModelIndex m_currentBeforeLayout;
+    bool m_hadCurrent = false;
+    bool m_isBulkWork = false;
+    bool m_isEnsuringEditors = false;
+    bool m_isNavigating = false;
+};

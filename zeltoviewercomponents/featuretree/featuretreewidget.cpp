@@ -1,0 +1,657 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreewidget.h"
+
+#include "favoritesdata.h"
+#include "featuretreehighlighter.h"
+#include "featuretreeinodeitem.h"
+#include "featuretreenames.h"
+#include "featuretreeproxymodel.h"
+#include "featuretreetext.h"
+#include "featuretreeview.h"
+#include "nodemapfilter.h"
+#include "searchedit.h"
+#include "ui_featuretreewidget.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QTextStream>
+
+#include <optional>
+
+namespace {
+
+constexpr int keyControl = 0x04000000;
+constexpr int keyAlt = 0x08000000;
+constexpr int keyShift = 0x02000000;
+constexpr int searchDepth = 2;
+
+QString resource(const QString &name)
+{
+    return QStringLiteral(":/zeltoviewercomponents/Resources/") + name;
+}
+
+QIcon refreshIcon()
+{
+    QIcon icon;
+    for (const int size : {32, 64, 128, 256, 512}) {
+        icon.addFile(resource(QStringLiteral("refresh_%1.png").arg(size)), QSize(), QIcon::Normal,
+                     QIcon::Off);
+    }
+    return icon;
+}
+
+// A row's unique id. Those of features are new at every call, so all rows are known by the hash of their full
+// name, as the others are by themselves.
+quint64 uniqueId(const QModelIndex &index)
+{
+    return qHash(index.data(FeatureTreeItem::FullNodeNameRole).toString(), 0);
+}
+
+/*! \brief Shows the wait cursor while it lives. */
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
+
+} // namespace
+
+FeatureTreeWidget::FeatureTreeWidget(QString name,
+                                     QSharedPointer<Core::AppCoreComponents::IBaseInfo> baseInfo,
+                                     QWidget *parent, GenApi::EVisibility visibility, bool expandOnRefresh)
+    : TreeWidgetBase(parent)
+    , m_ui(std::make_unique<Ui::FeatureTreeWidgetClass>())
+    , m_expandOnRefresh(expandOnRefresh)
+    , m_baseInfo(std::move(baseInfo))
+{
+    m_ui->setupUi(this);
+    setObjectName(name);
+    FeatureTreeView *const view = m_ui->treeView;
+    view->setEditTriggers(QAbstractItemView::CurrentChanged | QAbstractItemView::DoubleClicked
+                          | QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed
+                          | QAbstractItemView::AnyKeyPressed);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_ui->resetButton->setIcon(refreshIcon());
+    m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
+
+    connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this,
+            SLOT(onCurrentChanged(const QModelIndex &)));
+    connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
+    connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(updateActions()));
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
+            SLOT(contextualMenu(const QPoint &)));
+    connect(m_ui->filterEdit, SIGNAL(textChanged(const QString &)), this,
+            SLOT(onFilterTextChanged(const QString &)));
+
+    setUpActions();
+    setUpShortcuts();
+    setPolling(false);
+    setVisibility(visibility);
+}
+
+FeatureTreeWidget::~FeatureTreeWidget() = default;
+
+QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QString &icon,
+                                               const QString &text, const char *slot)
+{
+    auto *const action = new QAction(QIcon(resource(icon)), text, this);
+    action->setIconText(text);
+    action->setShortcut(QKeySequence(shortcut));
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setEnabled(false);
+    connect(action, SIGNAL(triggered()), this, slot);
+    addAction(action); // a shortcut works on the widget alone that has its action
+    return action;
+}
+
+void FeatureTreeWidget::setUpActions()
+{
+    m_actionAddToFavourites = addFavoritesAction(tr("Ctrl+D"), QStringLiteral("AddGigECamera_16.png"),
+                                                 tr("Add to Favorites"), SLOT(AddToFavourites_triggered()));
+    m_actionMoveFavouriteUp = addFavoritesAction(tr("Ctrl+Up"), QStringLiteral("Move_Up.png"), tr("Move Up"),
+                                                 SLOT(FavouriteMoveUp_triggered()));
+    m_actionMoveFavouriteDown = addFavoritesAction(tr("Ctrl+Down"), QStringLiteral("Move_Down.png"),
+                                                   tr("Move Down"), SLOT(FavouriteMoveDown_triggered()));
+    m_actionRemoveFavourite = addFavoritesAction(QString(), QStringLiteral("RemGigECamera_16.png"),
+                                                 tr("Remove"), SLOT(FavouriteRemove_triggered()));
+    m_actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
+
+    m_actionTogglePolling = new QAction(refreshIcon(), tr("Polling"), this);
+    m_actionTogglePolling->setIconText(tr("Polling"));
+    m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_actionTogglePolling->setEnabled(false);
+    m_actionTogglePolling->setCheckable(true);
+    m_actionTogglePolling->setChecked(m_ui->checkBoxPolling->isChecked());
+    connect(m_actionTogglePolling, SIGNAL(triggered()), this, SLOT(TogglePolling_triggered()));
+    addAction(m_actionTogglePolling);
+}
+
+void FeatureTreeWidget::addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot)
+{
+    auto *const shortcut = new QShortcut(sequence, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, SIGNAL(activated()), receiver, slot);
+}
+
+void FeatureTreeWidget::setUpShortcuts()
+{
+    addShortcut(QKeySequence(Qt::Key_F3), m_ui->filterEdit, SLOT(setFocus()));
+    // In these each modifier is a keystroke of its own; the chords that people press follow.
+    addShortcut(QKeySequence(keyControl, Qt::Key_F), m_ui->filterEdit, SLOT(setFocus()));
+    addShortcut(QKeySequence(keyControl, keyAlt, keyShift, Qt::Key_Minus), m_ui->treeView,
+                SLOT(collapseAll()));
+    addShortcut(QKeySequence(keyControl, keyAlt, keyShift, Qt::Key_Plus), this, SLOT(expandTree()));
+
+    const QKeySequence find(Qt::CTRL | Qt::Key_F);
+    addShortcut(find, m_ui->filterEdit, SLOT(setFocus()));
+    addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), m_ui->treeView,
+                SLOT(collapseAll()));
+    addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Plus), this, SLOT(expandTree()));
+    m_ui->filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+}
+
+FeatureTreeProxyModel *FeatureTreeWidget::proxy() const
+{
+    return qobject_cast<FeatureTreeProxyModel *>(m_ui->treeView->model());
+}
+
+QTreeView *FeatureTreeWidget::treeView() const
+{
+    return m_ui->treeView;
+}
+
+FeatureTreeView *FeatureTreeWidget::treeView()
+{
+    return m_ui->treeView;
+}
+
+IFeatureTreeModelExtension *FeatureTreeWidget::getFeatureExtension()
+{
+    return m_ui->treeView->getFeatureExtension();
+}
+
+const IFeatureTreeModelExtension *FeatureTreeWidget::getFeatureExtension() const
+{
+    return std::as_const(*m_ui->treeView).getFeatureExtension();
+}
+
+QSize FeatureTreeWidget::sizeHint() const
+{
+    const int unit = fontMetrics().height();
+    return {unit * 28, unit * 36};
+}
+
+// Collections
+// -----------------------------------------------------------------------------------------------------
+
+void FeatureTreeWidget::addParameterCollection(
+    QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &rootName,
+    const QString &roleName, bool isUtf8)
+{
+    // Before the rows are made: which of them there are is decided then.
+    NodeMapFilter::apply(collection, roleName);
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    extension->SetDeviceAlive(true);
+    extension->addParameterCollection(std::move(collection), rootName, roleName, isUtf8);
+    if (!extension->getSearchHelpItem()) {
+        m_ui->treeView->onFavoriteDataUpdated();
+    }
+    m_actionTogglePolling->setEnabled(true);
+    m_busy = true;
+}
+
+void FeatureTreeWidget::clear()
+{
+    getFeatureExtension()->clear();
+    m_expandedRows.clear();
+    m_savedCurrent = QVariant();
+    m_actionTogglePolling->setEnabled(false);
+    m_busy = true;
+    updateActions();
+}
+
+void FeatureTreeWidget::setMonitorMode(bool enable)
+{
+    getFeatureExtension()->setMonitorMode(enable);
+}
+
+void FeatureTreeWidget::deviceIsClosed()
+{
+    getFeatureExtension()->SetDeviceAlive(false);
+}
+
+void FeatureTreeWidget::Refresh()
+{
+    const WaitCursor cursor;
+    getFeatureExtension()->refresh();
+}
+
+void FeatureTreeWidget::on_resetButton_clicked()
+{
+    Refresh();
+}
+
+void FeatureTreeWidget::refreshTree()
+{
+    FeatureTreeProxyModel *const model = proxy();
+    model->setFilterFixedString(QString());
+    model->setFilterFixedString(m_filterText);
+    if (m_expandOnRefresh) {
+        expandTree();
+    }
+    model->invalidate();
+    getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::copyToClipboard()
+{
+    QString text;
+    QTextStream stream(&text);
+    writeFeatureTree(stream, *m_ui->treeView->model());
+    QApplication::clipboard()->setText(text, QClipboard::Clipboard);
+}
+
+void FeatureTreeWidget::expandTree()
+{
+    m_ui->treeView->expandToDepth(searchDepth);
+}
+
+void FeatureTreeWidget::expandRootNodes()
+{
+    const QAbstractItemModel *const model = m_ui->treeView->model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        m_ui->treeView->expand(model->index(row, FeatureTreeColumns::name));
+    }
+}
+
+void FeatureTreeWidget::EnableGenICamCallbacks(bool enable)
+{
+    getFeatureExtension()->setGenICamCallbacksEnable(enable);
+}
+
+void FeatureTreeWidget::setCameraType(const QString &cameraType)
+{
+    m_cameraType = cameraType;
+}
+
+QString FeatureTreeWidget::cameraType() const
+{
+    return m_cameraType;
+}
+
+// Current row
+// -----------------------------------------------------------------------------------------------------
+
+QModelIndex FeatureTreeWidget::GetCurrentIndex() const
+{
+    return m_ui->treeView->currentIndex();
+}
+
+FeatureTreeItem *FeatureTreeWidget::getDeepestSelectedItem() const
+{
+    QModelIndex index = GetCurrentIndex();
+    if (const auto *const filter = qobject_cast<const QSortFilterProxyModel *>(index.model())) {
+        index = filter->mapToSource(index);
+    }
+    return index.isValid() ? static_cast<FeatureTreeItem *>(index.internalPointer()) : nullptr;
+}
+
+FeatureTreeItem *FeatureTreeWidget::GetCurrentItem() const
+{
+    return getDeepestSelectedItem();
+}
+
+QSharedPointer<ParameterCollection::IParameter> FeatureTreeWidget::GetCurrentNode() const
+{
+    const auto *const item = qobject_cast<FeatureTreeINodeItem *>(GetCurrentItem());
+    return item ? item->node() : nullptr;
+}
+
+bool FeatureTreeWidget::IsCurrentFavorite() const
+{
+    const IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    return extension && extension->IsFavoriteTreeItem(GetCurrentItem());
+}
+
+bool FeatureTreeWidget::IsOnCurrentItem() const
+{
+    const QPoint position = m_ui->treeView->viewport()->mapFromGlobal(QCursor::pos());
+    const QModelIndex hovered = m_ui->treeView->indexAt(position);
+    return hovered.isValid()
+        && hovered.siblingAtColumn(FeatureTreeColumns::name) == GetCurrentIndex().siblingAtColumn(0);
+}
+
+void FeatureTreeWidget::onCurrentChanged(const QModelIndex &index)
+{
+    FeatureTreeItem *const item =
+        index.isValid() ? getFeatureExtension()->getFeatureTreeItem(index) : nullptr;
+    if (item) {
+        const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
+        const auto parameter = nodeItem ? nodeItem->node() : nullptr;
+        if (parameter) {
+            // Typing a search must not make the host jump to other features.
+            if (!m_ui->filterEdit->hasFocus()) {
+                emit currentChanged(parameter);
+            }
+        } else if (item->HasDescription()) {
+            emit newText(item->GetDescription());
+        }
+    }
+    updateActions();
+}
+
+void FeatureTreeWidget::updateActions()
+{
+    const IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    const QModelIndex index = GetCurrentIndex();
+    const bool isFavorite = IsCurrentFavorite();
+    m_actionAddToFavourites->setEnabled(extension->CanAddAsFavorite(index));
+    m_actionRemoveFavourite->setEnabled(isFavorite);
+    m_actionMoveFavouriteUp->setEnabled(isFavorite && extension->CanMoveFavorite(index, true));
+    m_actionMoveFavouriteDown->setEnabled(isFavorite && extension->CanMoveFavorite(index, false));
+}
+
+void FeatureTreeWidget::contextualMenu(const QPoint &pos)
+{
+    if (!GetCurrentIndex().isValid()) {
+        return;
+    }
+    const QSharedPointer<QMenu> menu(new QMenu, &QObject::deleteLater);
+    if (IsCurrentFavorite()) {
+        menu->addAction(m_actionMoveFavouriteUp);
+        menu->addAction(m_actionMoveFavouriteDown);
+        menu->addSeparator();
+        menu->addAction(m_actionRemoveFavourite);
+    } else {
+        menu->addAction(m_actionAddToFavourites);
+    }
+    emit contextMenuRequested(pos, menu);
+}
+
+void FeatureTreeWidget::AddToFavourites_triggered()
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    extension->AddFavorite(GetCurrentNode(), extension->GetFavorites().count());
+}
+
+void FeatureTreeWidget::moveCurrentFavorite(bool up)
+{
+    if (!IsCurrentFavorite()) {
+        return;
+    }
+    FavoritesData &favorites = getFeatureExtension()->GetFavorites();
+    favorites.setDeferredUpdates(true);
+    getFeatureExtension()->MoveFavorite(GetCurrentIndex(), up);
+    favorites.setDeferredUpdates(false);
+}
+
+void FeatureTreeWidget::FavouriteMoveUp_triggered()
+{
+    moveCurrentFavorite(true);
+}
+
+void FeatureTreeWidget::FavouriteMoveDown_triggered()
+{
+    moveCurrentFavorite(false);
+}
+
+void FeatureTreeWidget::FavouriteRemove_triggered()
+{
+    if (IsCurrentFavorite()) {
+        getFeatureExtension()->RemoveFavorite(GetCurrentIndex());
+    }
+}
+
+// Polling, level, favorites
+// ---------------------------------------------------------------------------------------
+
+bool FeatureTreeWidget::getPolling() const
+{
+    return getFeatureExtension()->GetPolling();
+}
+
+void FeatureTreeWidget::setPolling(bool enable)
+{
+    getFeatureExtension()->EnablePolling(enable);
+    m_ui->checkBoxPolling->setChecked(enable);
+    m_actionTogglePolling->setChecked(enable);
+}
+
+void FeatureTreeWidget::onPollingStateChanged(bool polling)
+{
+    setPolling(polling);
+    emit pollingStateChanged(polling);
+}
+
+void FeatureTreeWidget::on_checkBoxPolling_clicked()
+{
+    setPolling(m_ui->checkBoxPolling->isChecked());
+}
+
+void FeatureTreeWidget::TogglePolling_triggered()
+{
+    setPolling(m_actionTogglePolling->isChecked());
+}
+
+void FeatureTreeWidget::setPollingVisible(bool visible)
+{
+    m_ui->checkBoxPolling->setVisible(visible);
+}
+
+bool FeatureTreeWidget::getViewAllFavorites() const
+{
+    return getFeatureExtension()->GetViewAllFavorites();
+}
+
+void FeatureTreeWidget::setViewAllFavorites(bool viewAll)
+{
+    getFeatureExtension()->EnableViewAllFavorites(viewAll);
+    m_ui->checkBoxViewAllFavorites->setChecked(viewAll);
+}
+
+void FeatureTreeWidget::setViewAllFavoritesVisible(bool visible)
+{
+    m_ui->checkBoxViewAllFavorites->setVisible(visible);
+}
+
+void FeatureTreeWidget::on_checkBoxViewAllFavorites_clicked()
+{
+    const bool viewAll = m_ui->checkBoxViewAllFavorites->isChecked();
+    setViewAllFavorites(viewAll);
+    emit viewAllFavoritesStateChanged(viewAll);
+    refreshTree();
+}
+
+GenApi::EVisibility FeatureTreeWidget::visibility() const
+{
+    return const_cast<IFeatureTreeModelExtension *>(getFeatureExtension())->getVisibility();
+}
+
+void FeatureTreeWidget::setVisibility(GenApi::EVisibility level)
+{
+    getFeatureExtension()->setVisibility(level);
+    proxy()->invalidate();
+    m_ui->treeView->setVisibility(level);
+}
+
+void FeatureTreeWidget::onVisibilityChanged(int level)
+{
+    if (level < GenApi::Beginner || level > GenApi::Invisible) {
+        return;
+    }
+    const auto visibility = static_cast<GenApi::EVisibility>(level);
+    setVisibility(visibility);
+    emit visibilityChanged(visibility);
+    onFilterTextChanged(m_filterText);
+    refreshTree();
+}
+
+// Search
+// ----------------------------------------------------------------------------------------------------------
+
+void FeatureTreeWidget::onFilterTextChanged(const QString &text)
+{
+    m_filterText = text;
+    std::optional<WaitCursor> cursor;
+    if (m_busy) {
+        cursor.emplace();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    filter(text);
+    if (cursor) {
+        cursor.reset();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    m_busy = false;
+}
+
+void FeatureTreeWidget::filter(const QString &text)
+{
+    FeatureTreeProxyModel *const model = proxy();
+    const bool wasSearching = !model->filterRegularExpression().pattern().isEmpty();
+    const bool isSearching = !text.isEmpty();
+    if (!wasSearching && isSearching) {
+        saveExpandedStatus();
+        saveSelectionStatus();
+    }
+    m_ui->treeView->getHightlighter()->setText(text);
+    model->setFilterFixedString(text);
+    showCounts(text);
+    if (isSearching) {
+        m_ui->treeView->expandEverything();
+    } else if (wasSearching) {
+        restoreExpandedStatus();
+        restoreSelectionStatus();
+    }
+    m_ui->treeView->viewport()->update();
+    getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::showCounts(const QString &text)
+{
+    if (text.isEmpty()) {
+        setSearchRow(QString(), false);
+        emit filterMatchesChanged(0, 0);
+        return;
+    }
+    const auto hidden = static_cast<int>(proxy()->hiddenMatches().size());
+    const int total = hidden + static_cast<int>(proxy()->visibleMatches().size());
+    const QString message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>");
+    setSearchRow(message.arg(total).arg(hidden), hidden > 0);
+    emit filterMatchesChanged(total, hidden);
+}
+
+void FeatureTreeWidget::setSearchRow(const QString &message, bool isShown)
+{
+    FeatureTreeItem *const row = getFeatureExtension()->getSearchHelpItem();
+    if (!row) {
+        return;
+    }
+    const GenApi::EVisibility visibility = isShown ? GenApi::Beginner : GenApi::Invisible;
+    const bool flips = row->getVisibility() != visibility;
+    row->setDisplayedName(message.isEmpty() ? QString() : QStringLiteral("<HTML>") + message);
+    row->SetToolTip(message);
+    row->setVisibility(visibility);
+    if (flips) {
+        // The counts are known after the pass alone; it is run again for the row, and comes to the same
+        // counts.
+        proxy()->setFilterFixedString(m_filterText);
+    }
+}
+
+void FeatureTreeWidget::saveExpandedStatus()
+{
+    m_expandedRows.clear();
+    m_ui->treeView->executeDelayedItemsLayout();
+    const QAbstractItemModel *const model = m_ui->treeView->model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name));
+    }
+}
+
+void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
+{
+    const QAbstractItemModel *const model = m_ui->treeView->model();
+    if (!model->hasChildren(index)) {
+        return;
+    }
+    if (m_ui->treeView->isExpanded(index)) {
+        m_expandedRows.insert(uniqueId(index));
+    }
+    for (int row = 0; row < model->rowCount(index); ++row) {
+        saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name, index));
+    }
+}
+
+void FeatureTreeWidget::restoreExpandedStatus()
+{
+    m_ui->treeView->setExpandedRows(
+        [this](const QModelIndex &index) { return m_expandedRows.contains(uniqueId(index)); });
+}
+
+void FeatureTreeWidget::restoreExpandedOnLevel(const QModelIndex &index)
+{
+    m_ui->treeView->setExpanded(index, m_expandedRows.contains(uniqueId(index)));
+}
+
+void FeatureTreeWidget::saveSelectionStatus()
+{
+    const QModelIndex current = m_ui->treeView->selectionModel()->currentIndex();
+    m_savedCurrent = current.isValid() ? current.data(FeatureTreeItem::FullNodeNameRole) : QVariant();
+}
+
+void FeatureTreeWidget::restoreSelectionStatus()
+{
+    if (!m_savedCurrent.isValid()) {
+        return;
+    }
+    const QModelIndex saved = getFeatureExtension()->findItemByFullName(m_savedCurrent.toString(), nullptr,
+                                                                        FeatureTreeColumns::name);
+    m_savedCurrent = QVariant();
+    if (saved.isValid()) {
+        // Scrolling to the row would expand its parents.
+        m_ui->treeView->setAutoScroll(false);
+        m_ui->treeView->setCurrentIndex(saved);
+        m_ui->treeView->setAutoScroll(true);
+    }
+}
+
+// Events
+// ----------------------------------------------------------------------------------------------------------
+
+void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
+{
+    // Shared by all instances.
+    static bool escapePressed = false;
+    if (event->key() != Qt::Key_Escape) {
+        escapePressed = false;
+    } else if (escapePressed) {
+        m_ui->filterEdit->clear();
+    } else {
+        escapePressed = true;
+    }
+    TreeWidgetBase::keyPressEvent(event);
+}
+
+bool FeatureTreeWidget::event(QEvent *event)
+{
+    const bool result = TreeWidgetBase::event(event);
+    if (event->type() == QEvent::FontChange) {
+        const QList<QWidget *> descendants = findChildren<QWidget *>();
+        for (QWidget *const widget : descendants) {
+            QCoreApplication::sendEvent(widget, event);
+        }
+    }
+    return result;
+}
