@@ -104,6 +104,8 @@ class TestTreeState : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup() { QApplication::setPalette(QPalette()); }
+
     void savedForm();
     void restores();
     void refusedStates_data();
@@ -241,7 +243,8 @@ void TestTreeState::searchEditPaintsPlaceholder()
 {
     QFETCH(QPalette, palette);
     SearchEdit edit;
-    edit.setPalette(palette);
+    // A desktop that turns dark while the box exists.
+    QApplication::setPalette(palette);
     edit.resize(240, 28);
     const auto picture = [&edit] { return edit.grab().toImage(); };
     const QImage bare = picture();
