@@ -1,0 +1,614 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <zeltoviewercomponents/featuretree/favoritesdata.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QString group = QStringLiteral("Favorites");
+
+/* As the process-wide store is: made before main(), destroyed after the application. */
+FavoritesData staticStore;
+
+FavoriteEntry favorite(const QString &name, const QString &nodeMap = QStringLiteral("@CameraDevice"))
+{
+    return {name, name + QStringLiteral(" shown"), nodeMap};
+}
+
+void fill(FavoritesData &data, const QString &names)
+{
+    for (const QChar name : names) {
+        QVERIFY(data.appendEntry(favorite(QString(name))));
+    }
+}
+
+QString names(const FavoritesData &data)
+{
+    QString all;
+    for (int i = 0; i < data.count(); ++i) {
+        all += data.entryAt(i)->featureName;
+    }
+    return all;
+}
+
+QVariant stored(const QString &key, const QString &from = group)
+{
+    return QSettings().value(from + QLatin1Char('/') + key);
+}
+
+void store(const QString &key, const QVariant &value, const QString &to = group)
+{
+    QSettings().setValue(to + QLatin1Char('/') + key, value);
+}
+
+QStringList storedKeys()
+{
+    QSettings settings;
+    settings.beginGroup(group);
+    QStringList keys = settings.childKeys();
+    keys.sort();
+    return keys;
+}
+
+} // namespace
+
+/* What a view is to the store. */
+class Listener : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Listener(FavoritesData &data)
+    {
+        connect(&data, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
+        connect(&data, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
+    }
+
+    int updates = 0;
+    QList<bool> expansions;
+
+public slots:
+    void onFavoriteDataUpdated() { ++updates; }
+    void onFavoriteDataExpanded(bool expanded) { expansions.append(expanded); }
+};
+
+class TestFavoritesData : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QSettings().clear(); }
+
+    void insert_data();
+    void insert();
+    void sameFavorite();
+    void takeAndRemove();
+    void move_data();
+    void move();
+    void deferredUpdates();
+    void flagsSignalTheirChanges();
+    void persistentForm();
+    void shorterListLeavesNothingBehind();
+    void gapDoesNotBringBackAnOldEntry();
+    void missingFlags();
+    void namesSurviveStoring_data();
+    void namesSurviveStoring();
+    void damagedSettings_data();
+    void damagedSettings();
+    void hugeSettingsLoadFast();
+    void randomSettings();
+    void attachesOnce();
+    void attachKeepsWhatWasAddedBefore();
+    void anotherGroupIsLoadedBeforeItIsSaved();
+    void deferredGroupChangeSignalsOnce();
+    void detachSavesAndDisconnects();
+    void changesAreWrittenFromTheEventLoop();
+    void destructionSaves();
+};
+
+void TestFavoritesData::insert_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("expected"); // empty: refused
+    QTest::newRow("front") << 0 << "x"
+                           << "xabc";
+    QTest::newRow("end") << 3 << "x"
+                         << "abcx";
+    QTest::newRow("beyond the end") << 4 << "x"
+                                    << "";
+    QTest::newRow("before the last") << -1 << "x"
+                                     << "abxc";
+    QTest::newRow("from the end to the front") << -3 << "x"
+                                               << "xabc";
+    QTest::newRow("before the front") << -4 << "x"
+                                      << "";
+    QTest::newRow("far before the front") << std::numeric_limits<int>::min() << "x"
+                                          << "";
+    QTest::newRow("no name") << 0 << ""
+                             << "";
+    QTest::newRow("there already") << 0 << "b"
+                                   << "";
+}
+
+void TestFavoritesData::insert()
+{
+    QFETCH(int, position);
+    QFETCH(QString, name);
+    QFETCH(QString, expected);
+    FavoritesData data;
+    fill(data, QStringLiteral("abc"));
+    const QSignalSpy updates(&data, SIGNAL(dataUpdated()));
+    const bool accepted = data.insertEntry(position, favorite(name));
+    QCOMPARE(accepted, !expected.isEmpty());
+    QCOMPARE(updates.count(), accepted ? 1 : 0);
+    QCOMPARE(names(data), accepted ? expected : QStringLiteral("abc"));
+}
+
+void TestFavoritesData::sameFavorite()
+{
+    FavoritesData data;
+    QVERIFY(data.appendEntry(favorite(QStringLiteral("Gain"))));
+    QVERIFY(data.appendEntry(favorite(QStringLiteral("gain"))));
+    QVERIFY(data.appendEntry(favorite(QStringLiteral("Gain"), QStringLiteral("@Other"))));
+    FavoriteEntry renamed = favorite(QStringLiteral("gain"));
+    renamed.displayName = QStringLiteral("otherwise");
+    QCOMPARE(data.indexOfEntry(renamed), 1);
+    QCOMPARE(data.indexOfEntry(favorite(QStringLiteral("Gain"), QStringLiteral("@Other"))), 2);
+    QCOMPARE(data.indexOfEntry(favorite(QStringLiteral("Gain"), QStringLiteral("@other"))), -1);
+}
+
+void TestFavoritesData::takeAndRemove()
+{
+    FavoritesData data;
+    fill(data, QStringLiteral("abcd"));
+    const QSignalSpy updates(&data, SIGNAL(dataUpdated()));
+    FavoriteEntry taken;
+    QVERIFY(data.takeEntry(1, &taken));
+    QCOMPARE(taken.displayName, QStringLiteral("b shown"));
+    QVERIFY(data.takeEntry(2));
+    QVERIFY(!data.takeEntry(2, &taken));
+    QVERIFY(!data.takeEntry(-1));
+    QVERIFY(!data.removeEntry(2));
+    QCOMPARE(taken.featureName, QStringLiteral("b"));
+    QCOMPARE(updates.count(), 0);
+    QVERIFY(data.removeEntry(0));
+    QCOMPARE(updates.count(), 1);
+    QCOMPARE(names(data), QStringLiteral("c"));
+    QVERIFY(!data.entryAt(1));
+    QVERIFY(!data.entryAt(-1));
+}
+
+void TestFavoritesData::move_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<QString>("expected"); // empty: refused
+    QTest::newRow("one up") << 2 << 1 << "acbd";
+    QTest::newRow("one down") << 1 << 3 << "acbd";
+    QTest::newRow("to the end") << 0 << 4 << "bcda";
+    QTest::newRow("to the front") << 3 << 0 << "dabc";
+    QTest::newRow("before itself") << 1 << 1 << "abcd";
+    QTest::newRow("before its successor") << 1 << 2 << "abcd";
+    QTest::newRow("beyond the end") << 0 << 5 << "";
+    QTest::newRow("the last beyond the end") << 3 << 5 << "";
+    QTest::newRow("from the end of the others") << 3 << -1 << "abdc";
+    QTest::newRow("from the end to the front") << 3 << -3 << "dabc";
+    QTest::newRow("before the front") << 3 << -4 << "";
+    QTest::newRow("no such entry") << 4 << 0 << "";
+    QTest::newRow("negative entry") << -1 << 2 << "";
+    QTest::newRow("negative entry to the front") << -1 << 0 << "";
+    QTest::newRow("extremes") << std::numeric_limits<int>::max() << std::numeric_limits<int>::min() << "";
+    QTest::newRow("other extremes") << std::numeric_limits<int>::min() << std::numeric_limits<int>::max()
+                                    << "";
+}
+
+void TestFavoritesData::move()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(QString, expected);
+    FavoritesData data;
+    fill(data, QStringLiteral("abcd"));
+    QStringList seen;
+    connect(&data, &FavoritesData::dataUpdated, this, [&] { seen.append(names(data)); });
+    const bool moved = data.moveEntry(from, to);
+    QCOMPARE(moved, !expected.isEmpty());
+    QCOMPARE(names(data), moved ? expected : QStringLiteral("abcd"));
+    // Nobody is shown the list without the entry on its way.
+    QCOMPARE(seen, moved ? QStringList({expected, expected}) : QStringList());
+}
+
+void TestFavoritesData::deferredUpdates()
+{
+    FavoritesData data;
+    const QSignalSpy updates(&data, SIGNAL(dataUpdated()));
+    data.setDeferredUpdates(true);
+    fill(data, QStringLiteral("abc"));
+    QVERIFY(data.moveEntry(0, 3));
+    QVERIFY(data.removeEntry(0));
+    data.setViewAll(false);
+    QCOMPARE(updates.count(), 0);
+    data.setDeferredUpdates(false);
+    QCOMPARE(updates.count(), 1);
+    data.setDeferredUpdates(false);
+    data.setDeferredUpdates(true);
+    QVERIFY(!data.moveEntry(0, 7));
+    data.setDeferredUpdates(false);
+    QCOMPARE(updates.count(), 1);
+}
+
+void TestFavoritesData::flagsSignalTheirChanges()
+{
+    FavoritesData data;
+    const Listener listener(data);
+    QVERIFY(data.viewAll());
+    QVERIFY(!data.isExpanded());
+    data.setDeferredUpdates(true);
+    data.setExpanded(true);
+    data.setExpanded(true);
+    QCOMPARE(listener.expansions, QList<bool>({true}));
+    data.setDeferredUpdates(false);
+    QCOMPARE(listener.updates, 0);
+    data.setViewAll(true);
+    data.setViewAll(false);
+    data.setViewAll(false);
+    QCOMPARE(listener.updates, 1);
+}
+
+void TestFavoritesData::persistentForm()
+{
+    FavoritesData data;
+    fill(data, QStringLiteral("ab"));
+    QVERIFY(data.appendEntry(favorite(QStringLiteral("c"), QString())));
+    fill(data, QStringLiteral("de"));
+    QVERIFY(!data.save(QString()));
+    QVERIFY(data.save(group));
+    QCOMPARE(storedKeys(),
+             QStringList({"0", "1", "3", "4", "Expanded", "NumberOfEntries", "Version", "ViewAll"}));
+    QCOMPARE(stored("Version").toString(), QStringLiteral("3"));
+    QCOMPARE(stored("NumberOfEntries").toString(), QStringLiteral("5"));
+    QCOMPARE(stored("1").toString(), QStringLiteral("b*b shown*@CameraDevice"));
+    QCOMPARE(stored("ViewAll").toString(), QStringLiteral("1"));
+    QCOMPARE(stored("Expanded").toString(), QStringLiteral("0"));
+
+    FavoritesData loaded;
+    const QSignalSpy updates(&loaded, SIGNAL(dataUpdated()));
+    QVERIFY(!loaded.load(QString()));
+    QVERIFY(loaded.load(group));
+    QCOMPARE(names(loaded), QStringLiteral("abde"));
+    QCOMPARE(loaded.entryAt(3)->displayName, QStringLiteral("e shown"));
+    QCOMPARE(loaded.entryAt(3)->nodeMapKey, QStringLiteral("@CameraDevice"));
+    QCOMPARE(updates.count(), 5);
+    QVERIFY(loaded.viewAll());
+    QVERIFY(!loaded.isExpanded());
+}
+
+void TestFavoritesData::shorterListLeavesNothingBehind()
+{
+    FavoritesData data;
+    fill(data, QStringLiteral("abcdefghijklmn"));
+    QVERIFY(data.save(group));
+    while (data.count() > 2) {
+        QVERIFY(data.removeEntry(2));
+    }
+    store("NumberOfEntries", QStringLiteral("9223372036854775807"));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(data.save(group));
+    QVERIFY(timer.elapsed() < 2000);
+    QCOMPARE(storedKeys(), QStringList({"0", "1", "Expanded", "NumberOfEntries", "Version", "ViewAll"}));
+    QCOMPARE(stored("NumberOfEntries").toInt(), 2);
+}
+
+void TestFavoritesData::gapDoesNotBringBackAnOldEntry()
+{
+    FavoritesData data;
+    fill(data, QStringLiteral("abc"));
+    QVERIFY(data.save(group));
+    QVERIFY(data.removeEntry(1));
+    QVERIFY(data.insertEntry(1, favorite(QStringLiteral("x"), QString())));
+    QVERIFY(data.save(group));
+    FavoritesData loaded;
+    QVERIFY(loaded.load(group));
+    QCOMPARE(names(loaded), QStringLiteral("ac"));
+}
+
+void TestFavoritesData::missingFlags()
+{
+    FavoritesData data;
+    const Listener listener(data);
+    QVERIFY(data.load(group));
+    QCOMPARE(data.viewAll(), false);
+    QCOMPARE(data.isExpanded(), true);
+    QCOMPARE(listener.expansions, QList<bool>({true}));
+    QCOMPARE(listener.updates, 1);
+    QCOMPARE(data.count(), 0);
+}
+
+void TestFavoritesData::namesSurviveStoring_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("survives");
+    QTest::newRow("place marker") << "%1%2%3" << true;
+    QTest::newRow("comma, semicolon, quotes") << "a, b; \"c\" = \\d" << true;
+    QTest::newRow("at sign first") << "@Variant(x)" << true;
+    QTest::newRow("not Latin") << QString::fromUtf8("Vérstärkung 増幅 \xF0\x9F\x93\xB7") << true;
+    QTest::newRow("line ends") << "a\nb\r\tc" << true;
+    QTest::newRow("blanks around") << "  a  " << true;
+    QTest::newRow("separator") << "a*b" << false;
+}
+
+void TestFavoritesData::namesSurviveStoring()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, survives);
+    FavoritesData data;
+    QVERIFY(data.appendEntry({name, name, name}));
+    QVERIFY(data.save(group));
+    FavoritesData loaded;
+    QVERIFY(loaded.load(group));
+    QCOMPARE(loaded.count(), survives ? 1 : 0);
+    if (survives) {
+        QCOMPARE(loaded.entryAt(0)->featureName, name);
+        QCOMPARE(loaded.entryAt(0)->displayName, name);
+        QCOMPARE(loaded.entryAt(0)->nodeMapKey, name);
+    }
+}
+
+void TestFavoritesData::damagedSettings_data()
+{
+    QTest::addColumn<QVariant>("count");
+    QTest::addColumn<QVariantMap>("entries");
+    QTest::addColumn<QString>("expected");
+    const QVariantMap ab{{"0", "a*A*@C"}, {"1", "b*B*@C"}};
+    QTest::newRow("count missing") << QVariant() << ab << "";
+    QTest::newRow("count no number") << QVariant("many") << ab << "";
+    QTest::newRow("count negative") << QVariant(-1) << ab << "";
+    QTest::newRow("count too small") << QVariant(1) << ab << "a";
+    QTest::newRow("count 2^31 - 1") << QVariant(2147483647) << ab << "ab";
+    QTest::newRow("count 2^31") << QVariant("2147483648") << ab << "ab";
+    QTest::newRow("count 2^63 - 1") << QVariant("9223372036854775807") << ab << "ab";
+    QTest::newRow("keys missing") << QVariant(9) << QVariantMap{{"3", "d*D*@C"}, {"8", "i*I*@C"}} << "di";
+    QTest::newRow("ten after nine") << QVariant(11)
+                                    << QVariantMap{{"10", "k*K*@C"}, {"9", "j*J*@C"}, {"2", "c*C*@C"}}
+                                    << "cjk";
+    QTest::newRow("other spellings of numbers")
+        << QVariant(9) << QVariantMap{{"00", "x*X*@C"}, {"+1", "y*Y*@C"}, {"-1", "z*Z*@C"}, {"2", "c*C*@C"}}
+        << "c";
+    QTest::newRow("parts") << QVariant(9) << QVariantMap{{"0", ""},    {"1", "a*A"},   {"2", "b*B*@C*more"},
+                                                         {"3", "***"}, {"4", "c**@C"}, {"5", "**d*D**@C*"}}
+                           << "d";
+    QTest::newRow("duplicates") << QVariant(3)
+                                << QVariantMap{{"0", "a*A*@C"}, {"1", "a*B*@C"}, {"2", "b*A*@C"}} << "ab";
+    QTest::newRow("a list") << QVariant(2) << QVariantMap{{"0", QStringList{"a*A*@C", "b"}}, {"1", "b*B*@C"}}
+                            << "b";
+    QTest::newRow("huge text") << QVariant(
+        2) << QVariantMap{{"0", QString(5000000, u'x') + QStringLiteral("*A*@C")}, {"1", "b*B*@C"}}
+                               << "b";
+}
+
+void TestFavoritesData::damagedSettings()
+{
+    QFETCH(QVariant, count);
+    QFETCH(QVariantMap, entries);
+    QFETCH(QString, expected);
+    if (count.isValid()) {
+        store("NumberOfEntries", count);
+    }
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
+        store(entry.key(), entry.value());
+    }
+    FavoritesData data;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(data.load(group));
+    QVERIFY(timer.elapsed() < 2000);
+    QCOMPARE(names(data), expected);
+}
+
+void TestFavoritesData::hugeSettingsLoadFast()
+{
+    constexpr int entries = 50000;
+    {
+        QSettings settings;
+        settings.beginGroup(group);
+        settings.setValue("NumberOfEntries", entries);
+        for (int i = 0; i < entries; ++i) {
+            settings.setValue(QString::number(i), QStringLiteral("Feature%1*x*@CameraDevice").arg(i / 2));
+        }
+    }
+    FavoritesData data;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(data.load(group));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(data.count(), entries / 2);
+}
+
+void TestFavoritesData::randomSettings()
+{
+    QSettings place;
+    place.setValue("x", 1);
+    place.sync();
+    const QString path = place.fileName();
+    QRandomGenerator random(20240607);
+    const auto alphabet = QByteArrayLiteral("[Favorites]\n0=1*2@%\\\"x,;\r\t\0\xff\xc3(ViewAlNumberOfEntri");
+    for (int round = 0; round < 300; ++round) {
+        QByteArray contents("[Favorites]\nNumberOfEntries=5\n0=a*A*@C\n1=b*B*@C\n2=c*C*@C\nViewAll=1\n");
+        for (int i = 0; i < 1 + round / 10; ++i) {
+            contents[random.bounded(contents.size())] = alphabet.at(random.bounded(alphabet.size()));
+        }
+        {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(contents);
+        }
+        QSettings().sync();
+        FavoritesData data;
+        QVERIFY(data.load(group));
+        QVERIFY(data.count() <= 5);
+        for (int i = 0; i < data.count(); ++i) {
+            const FavoriteEntry entry = *data.entryAt(i);
+            QVERIFY(!entry.featureName.isEmpty() && !entry.displayName.isEmpty()
+                    && !entry.nodeMapKey.isEmpty());
+            QCOMPARE(data.indexOfEntry(entry), i);
+        }
+        // What was loaded is well-formed, so it comes back the same.
+        QVERIFY(data.save(group));
+        FavoritesData again;
+        QVERIFY(again.load(group));
+        QCOMPARE(names(again), names(data));
+        QCOMPARE(again.viewAll(), data.viewAll());
+    }
+}
+
+void TestFavoritesData::attachesOnce()
+{
+    store("NumberOfEntries", 1);
+    store("0", "a*A*@C");
+    FavoritesData data;
+    data.attach(group);
+    QCOMPARE(data.settingsGroup(), group);
+    QCOMPARE(names(data), QStringLiteral("a"));
+    data.attach(QStringLiteral("Other"));
+    QCOMPARE(data.settingsGroup(), group);
+    QCOMPARE(names(data), QStringLiteral("a"));
+}
+
+void TestFavoritesData::attachKeepsWhatWasAddedBefore()
+{
+    store("NumberOfEntries", 1);
+    store("0", "a*A*@C");
+    FavoritesData data;
+    fill(data, QStringLiteral("x"));
+    data.attach(group);
+    QCOMPARE(names(data), QStringLiteral("xa"));
+    QCoreApplication::processEvents();
+    QCOMPARE(stored("NumberOfEntries").toInt(), 2);
+}
+
+void TestFavoritesData::anotherGroupIsLoadedBeforeItIsSaved()
+{
+    const QString other = QStringLiteral("Other/Favorites");
+    store("NumberOfEntries", 2, other);
+    store("0", "x*X*@C", other);
+    store("1", "y*Y*@C", other);
+    store("ViewAll", 1, other);
+
+    FavoritesData data;
+    data.attach(group);
+    fill(data, QStringLiteral("abc"));
+    const Listener listener(data);
+    data.setSettingsGroup(other);
+    QCOMPARE(names(data), QStringLiteral("xy"));
+    QVERIFY(data.viewAll());
+    QCOMPARE(listener.updates, 1);
+    data.setSettingsGroup(other);
+    QCOMPARE(listener.updates, 1);
+    QCoreApplication::processEvents();
+    data.detach(nullptr);
+    // The change that was still to be saved went to the group it belonged to.
+    QCOMPARE(stored("NumberOfEntries").toInt(), 3);
+    QCOMPARE(stored("2").toString(), QStringLiteral("c*c shown*@CameraDevice"));
+    QCOMPARE(stored("NumberOfEntries", other).toInt(), 2);
+    QCOMPARE(stored("0", other).toString(), QStringLiteral("x*X*@C"));
+}
+
+void TestFavoritesData::deferredGroupChangeSignalsOnce()
+{
+    FavoritesData data;
+    data.attach(group);
+    fill(data, QStringLiteral("ab"));
+    const QSignalSpy updates(&data, SIGNAL(dataUpdated()));
+    data.setDeferredUpdates(true);
+    data.setSettingsGroup(QStringLiteral("Empty"));
+    QCOMPARE(updates.count(), 0);
+    QCOMPARE(data.count(), 0);
+    data.setDeferredUpdates(false);
+    QCOMPARE(updates.count(), 1);
+}
+
+void TestFavoritesData::detachSavesAndDisconnects()
+{
+    FavoritesData data;
+    data.attach(group);
+    Listener leaving(data);
+    const Listener staying(data);
+    data.setDeferredUpdates(true);
+    fill(data, QStringLiteral("a"));
+    data.detach(&leaving);
+    QCOMPARE(stored("0").toString(), QStringLiteral("a*a shown*@CameraDevice"));
+    data.setDeferredUpdates(false);
+    data.setExpanded(!data.isExpanded());
+    QCOMPARE(leaving.updates, 0);
+    QVERIFY(leaving.expansions.isEmpty());
+    QCOMPARE(staying.updates, 1);
+    QCOMPARE(staying.expansions.size(), 1);
+}
+
+void TestFavoritesData::changesAreWrittenFromTheEventLoop()
+{
+    FavoritesData data;
+    data.attach(group);
+    fill(data, QStringLiteral("ab"));
+    QVERIFY(!QSettings().contains(group + "/NumberOfEntries"));
+    QCoreApplication::processEvents();
+    // The file itself holds it, not only the memory of this process.
+    const auto contents = [] {
+        QFile file(QSettings().fileName());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QVERIFY(contents().contains("1=b*b shown*@CameraDevice"));
+    QVERIFY(data.moveEntry(0, 2));
+    data.setViewAll(!data.viewAll());
+    data.setExpanded(!data.isExpanded());
+    QCoreApplication::processEvents();
+    QVERIFY(contents().contains("0=b*b shown*@CameraDevice"));
+    QCOMPARE(stored("ViewAll").toBool(), data.viewAll());
+    QCOMPARE(stored("Expanded").toBool(), data.isExpanded());
+    QVERIFY(data.takeEntry(0));
+    QCoreApplication::processEvents();
+    QCOMPARE(stored("NumberOfEntries").toInt(), 1);
+}
+
+void TestFavoritesData::destructionSaves()
+{
+    {
+        FavoritesData data;
+        data.attach(group);
+        fill(data, QStringLiteral("a"));
+    }
+    QCOMPARE(stored("NumberOfEntries").toInt(), 1);
+}
+
+/* Runs the tests, then uses the static store on its way out: changed with a save pending, and changed and
+ * saved without an application. A fault there ends the program with another code. */
+int main(int argc, char **argv)
+{
+    staticStore.setExpanded(true);
+    int result = 0;
+    {
+        QApplication application(argc, argv);
+        QCoreApplication::setOrganizationName(QStringLiteral("zelto"));
+        QCoreApplication::setApplicationName(QStringLiteral("tst_favoritesdata"));
+        staticStore.attach(QStringLiteral("Static"));
+        TestFavoritesData test;
+        result = QTest::qExec(&test, argc, argv);
+        staticStore.appendEntry(favorite(QStringLiteral("pending")));
+    }
+    const bool added = staticStore.appendEntry(favorite(QStringLiteral("late")));
+    staticStore.detach(nullptr);
+    const bool savedLate = staticStore.save(QStringLiteral("Static"));
+    return result != 0 ? result : added && !savedLate ? 0 : 1;
+}
+
+#include "tst_favoritesdata.moc"

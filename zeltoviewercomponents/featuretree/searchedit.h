@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QLineEdit>
+#include <QString>
+
+class QAction;
+
+/*! \brief A search box: a magnifier while it is empty, a cross that empties it while it is not.
+ *
+ * It paints its placeholder itself; the placeholder text of QLineEdit is to stay empty, or both would be
+ * seen.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SearchEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit SearchEdit(QWidget *parent = nullptr);
+    ~SearchEdit() override;
+
+    QString placeholder() const { return m_placeholder; }
+    /*! Sets the text that an empty box shows, which also names the box for assistive tools. */
+    void setPlaceholder(const QString &text);
+
+    bool isPlaceholderEnabled() const { return m_placeholderEnabled; }
+    /*! Sets whether an empty box shows the placeholder. */
+    void setPlaceholderEnabled(bool enabled);
+
+    /*! Returns a size in which the placeholder can be read. */
+    QSize sizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private slots:
+    void onTextChanged(const QString &text);
+
+private:
+    QAction *m_searchAction = nullptr;
+    QAction *m_clearAction = nullptr;
+    QString m_placeholder;
+    bool m_placeholderEnabled = true;
+};
