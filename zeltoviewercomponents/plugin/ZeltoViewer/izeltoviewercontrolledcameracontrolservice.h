@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <platform/core/service.h>
+
+namespace Plugin::ZeltoViewer {
+
+/*! \brief Lets plug-ins release the camera that the viewer controls, and take it back. */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IZeltoViewerControlledCameraControlService
+    : public Core::Service::IService
+{
+    Q_OBJECT
+
+public:
+    explicit IZeltoViewerControlledCameraControlService(QObject *parent = nullptr);
+    ~IZeltoViewerControlledCameraControlService() override;
+
+    /*! Closes the controlled camera, or opens again the one that was controlled last. Returns whether the
+     * camera is in the wanted state now. */
+    virtual bool setCameraOpen(bool open) = 0;
+};
+
+} // namespace Plugin::ZeltoViewer
