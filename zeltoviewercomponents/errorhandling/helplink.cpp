@@ -9,7 +9,11 @@
 #include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 
 namespace {
 
@@ -35,7 +39,8 @@ HelpLink::HelpLink(const QUrl &address, QWidget *parent)
     : QLabel(parent)
 {
     setTextFormat(Qt::RichText);
-    setContextMenuPolicy(Qt::DefaultContextMenu);
+    // The keys are handled here: the label's own handling asks for a second Tab before it takes Enter.
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     connect(this, SIGNAL(linkActivated(QString)), this, SLOT(open()));
     setAddress(address);
 }
@@ -51,8 +56,6 @@ void HelpLink::setAddress(const QUrl &address)
 {
     m_address = isAcceptable(address) ? address : QUrl();
     const bool hasAddress = !m_address.isEmpty();
-    setTextInteractionFlags(hasAddress ? Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard
-                                       : Qt::NoTextInteraction);
     setFocusPolicy(hasAddress ? Qt::StrongFocus : Qt::NoFocus);
     setToolTip(addressText());
     setAccessibleName(hasAddress ? tr("Get help") : QString());
@@ -92,6 +95,30 @@ void HelpLink::contextMenuEvent(QContextMenuEvent *event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(tr("Copy Link Location"), this, SLOT(copyLinkLocation()));
     menu->popup(event->globalPos());
+}
+
+void HelpLink::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        open();
+        break;
+    default:
+        QLabel::keyPressEvent(event);
+    }
+}
+
+void HelpLink::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
 }
 
 // Rich text keeps the link colour it was made with, so it is made anew for each palette.

@@ -10,9 +10,10 @@
 
 /*! \brief The link "Get help" to a page that explains what stands beside it.
  *
- * A click, or Enter with the keyboard focus on it, opens the page in the desktop's browser; the context menu
- * copies the address. Addresses may come out of a camera's own description, so only web pages and local
- * files are accepted. Without an acceptable address the label is empty and out of the way of the keyboard.
+ * A click, or Enter or Space with the keyboard focus on it, opens the page in the desktop's browser; the
+ * context menu copies the address. Addresses may come out of a camera's own description, so only web pages
+ * and local files are accepted. Without an acceptable address the label is empty and out of the way of the
+ * keyboard.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HelpLink : public QLabel
 {
@@ -37,6 +38,8 @@ public slots:
 protected:
     void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void updateLink();

@@ -54,19 +54,21 @@ IpAddressWidget::IpAddressWidget(QWidget *parent)
     , m_ipValidator(new QIpAddressWithNetmaskValidator(QIpAddressWithNetmaskValidator::Device, this))
     , m_maskValidator(new QIpNetmaskValidator(this))
     , m_gatewayValidator(new QIpAddressWithNetmaskValidator(QIpAddressWithNetmaskValidator::Gateway, this))
-    , m_maskBox(new QComboBox(this))
-    , m_helpLink(new HelpLink(this))
-    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
     , m_grid(new QGridLayout(this))
     , m_styleHelper(new CStyleHelper(this))
 {
     setWindowTitle(tr("IP Configuration"));
-    fillMaskBox();
+    // The order in which they are made is the order of the Tab key.
     m_ip.edit = new QLineEdit(this);
+    m_maskBox = new QComboBox(this);
+    fillMaskBox();
     m_mask.edit = m_maskBox->lineEdit();
     m_gateway.edit = new QLineEdit(noGateway(), this);
     m_mac.edit = new QLineEdit(this);
     m_mac.edit->setReadOnly(true);
+    m_helpLink = new HelpLink(this);
+    m_helpLink->hide();
+    m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
 
     m_ip.validator = m_ipValidator;
     m_mask.validator = m_maskValidator;
@@ -82,7 +84,6 @@ IpAddressWidget::IpAddressWidget(QWidget *parent)
     m_grid->setRowStretch(lastRow, 1);
     m_grid->addWidget(m_helpLink, lastRow + 1, LabelColumn);
     m_grid->addWidget(m_buttons, lastRow + 1, EditColumn, 1, -1);
-    m_helpLink->hide();
 
     connect(m_buttons, SIGNAL(accepted()), this, SLOT(accept()));
     connect(m_buttons, SIGNAL(rejected()), this, SLOT(reject()));

@@ -100,11 +100,11 @@ private:
     QIpAddressWithNetmaskValidator *m_ipValidator;
     QIpNetmaskValidator *m_maskValidator;
     QIpAddressWithNetmaskValidator *m_gatewayValidator;
-    QComboBox *m_maskBox;
-    HelpLink *m_helpLink;
-    QDialogButtonBox *m_buttons;
     QGridLayout *m_grid;
     CStyleHelper *m_styleHelper;
+    QComboBox *m_maskBox = nullptr;
+    HelpLink *m_helpLink = nullptr;
+    QDialogButtonBox *m_buttons = nullptr;
 
     Field m_ip;
     Field m_mask;

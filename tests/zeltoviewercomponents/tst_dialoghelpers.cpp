@@ -1,0 +1,265 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
+#include <zeltoviewercomponents/errorhandling/cstylehelper.h>
+#include <zeltoviewercomponents/errorhandling/helplink.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDesktopServices>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+const QUrl page(QStringLiteral("https://help.example/ip?topic=a&b=<c>"));
+const QString pageText = QStringLiteral("https://help.example/ip?topic=a&b=%3Cc%3E");
+
+// The offscreen platform tells the screen of a window by its position.
+constexpr QPoint onUsualScreen(100, 100);
+constexpr QPoint onLargerScreen(900, 100);
+
+} // namespace
+
+class TestDialogHelpers : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void takeUrl(const QUrl &url) { m_opened.append(url); }
+
+private slots:
+    void init();
+    void cleanup();
+    void addressIsToldInEveryWay();
+    void onlyPagesAreAccepted_data();
+    void onlyPagesAreAccepted();
+    void keyboardOpensThePage();
+    void contextMenuCopiesTheAddress_data();
+    void contextMenuCopiesTheAddress();
+    void failureIsReported();
+    void linkFollowsThePalette();
+    void scaleFollowsTheScreen();
+    void scaleFollowsTheWindow();
+    void scaleWithoutWidget();
+
+private:
+    QList<QUrl> m_opened;
+};
+
+void TestDialogHelpers::init()
+{
+    m_opened.clear();
+}
+
+void TestDialogHelpers::cleanup()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+}
+
+void TestDialogHelpers::addressIsToldInEveryWay()
+{
+    HelpLink link(page);
+    QCOMPARE(link.address(), page);
+    QCOMPARE(link.toolTip(), pageText);
+    QCOMPARE(link.accessibleName(), QStringLiteral("Get help"));
+    QCOMPARE(link.accessibleDescription(), pageText);
+    QVERIFY(link.text().contains(QStringLiteral(">Get help</a>")));
+
+    link.setAddress(QUrl());
+    QVERIFY(link.text().isEmpty() && link.toolTip().isEmpty() && link.accessibleDescription().isEmpty());
+    QCOMPARE(link.focusPolicy(), Qt::NoFocus);
+    link.setAddress(page);
+    QVERIFY(link.focusPolicy() & Qt::TabFocus);
+}
+
+void TestDialogHelpers::onlyPagesAreAccepted_data()
+{
+    QTest::addColumn<QUrl>("address");
+    QTest::addColumn<bool>("accepted");
+    const auto row = [](const char *text, bool accepted) {
+        QTest::newRow(text) << QUrl(QString::fromLatin1(text)) << accepted;
+    };
+    row("http://help.example/", true);
+    row("HTTPS://help.example/a", true);
+    row("file:///usr/share/doc/index.html", true);
+    row("", false);
+    row("help.example", false);
+    row("https:///nowhere", false);
+    row("https://help.example:99999/", false);
+    row("file://server/share/run.exe", false);
+    row("javascript:alert(1)", false);
+    row("ssh://help.example", false);
+}
+
+void TestDialogHelpers::onlyPagesAreAccepted()
+{
+    QFETCH(QUrl, address);
+    QFETCH(bool, accepted);
+    const HelpLink link(address);
+    QCOMPARE(link.address(), accepted ? address : QUrl());
+    QCOMPARE(link.text().isEmpty(), !accepted);
+}
+
+void TestDialogHelpers::keyboardOpensThePage()
+{
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "takeUrl");
+    QWidget window;
+    auto *const layout = new QVBoxLayout(&window);
+    auto *const edit = new QLineEdit;
+    auto *const link = new HelpLink(page);
+    layout->addWidget(edit);
+    layout->addWidget(link);
+    window.show();
+    edit->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(edit, Qt::Key_Tab);
+    QVERIFY(link->hasFocus());
+    QTest::keyClick(link, Qt::Key_Return);
+    QCOMPARE(m_opened, QList<QUrl>({page}));
+    QTest::mouseClick(link, Qt::LeftButton, Qt::NoModifier, QPoint(8, link->height() / 2));
+    QCOMPARE(m_opened, QList<QUrl>({page, page}));
+}
+
+void TestDialogHelpers::contextMenuCopiesTheAddress_data()
+{
+    QTest::addColumn<QContextMenuEvent::Reason>("reason");
+    QTest::newRow("mouse") << QContextMenuEvent::Mouse;
+    QTest::newRow("keyboard") << QContextMenuEvent::Keyboard;
+}
+
+void TestDialogHelpers::contextMenuCopiesTheAddress()
+{
+    QFETCH(QContextMenuEvent::Reason, reason);
+    QGuiApplication::clipboard()->clear();
+    HelpLink link(page);
+    link.show();
+    QContextMenuEvent event(reason, QPoint(3, 3), link.mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(&link, &event);
+    QPointer<QMenu> menu = link.findChild<QMenu *>();
+    QVERIFY(menu && menu->isVisible());
+    QCOMPARE(menu->actions().size(), 1);
+    QCOMPARE(menu->actions().constFirst()->text(), QStringLiteral("Copy Link Location"));
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QCOMPARE(QGuiApplication::clipboard()->text(), pageText);
+    QTRY_VERIFY(!menu);
+}
+
+// The offscreen platform opens no addresses.
+void TestDialogHelpers::failureIsReported()
+{
+    QSignalSpy shown(GetTheGlobalAsyncErrorQueue(),
+                     SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
+    HelpLink link(page);
+    link.open();
+    QTRY_COMPARE(shown.size(), 1);
+    QCOMPARE(shown.constFirst().at(2).toString(), pageText);
+    QCOMPARE(shown.constFirst().at(3).value<QWidget *>(), &link);
+    link.setAddress(QUrl());
+    link.open();
+    link.copyLinkLocation();
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.size(), 1);
+}
+
+void TestDialogHelpers::linkFollowsThePalette()
+{
+    HelpLink link(page);
+    QPalette palette = link.palette();
+    palette.setColor(QPalette::Link, QColor(QStringLiteral("#12ab34")));
+    link.setPalette(palette);
+    link.resize(link.sizeHint());
+    const QImage image = link.grab().toImage();
+    bool found = false;
+    for (int y = 0; y < image.height() && !found; ++y) {
+        for (int x = 0; x < image.width() && !found; ++x) {
+            found = image.pixelColor(x, y) == QColor(QStringLiteral("#12ab34"));
+        }
+    }
+    QVERIFY(found);
+}
+
+void TestDialogHelpers::scaleFollowsTheScreen()
+{
+    QWidget window;
+    window.move(onUsualScreen);
+    CStyleHelper helper(&window);
+    QSignalSpy changed(&helper, SIGNAL(screenScaleChanged(qreal)));
+    window.show();
+    QCOMPARE(helper.screenScale(), 1.0);
+    QCOMPARE(helper.scaled(15), 15);
+
+    window.move(onLargerScreen);
+    QTRY_COMPARE(helper.screenScale(), 1.5);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.constFirst().constFirst().toReal(), 1.5);
+    QCOMPARE(helper.scaled(15), 23);
+    QCOMPARE(helper.fontPixelSize(CStyleHelper::SmallFont), 17);
+    QCOMPARE(helper.fontPixelSize(CStyleHelper::NormalFont), 20);
+    QCOMPARE(CStyleHelper::screenScale(&window), 1.5);
+    QCOMPARE(CStyleHelper::scaled(16, &window), 24);
+
+    window.move(onUsualScreen);
+    QTRY_COMPARE(helper.screenScale(), 1.0);
+    QCOMPARE(changed.size(), 2);
+}
+
+// A widget that is put into another window belongs to the screen of that one.
+void TestDialogHelpers::scaleFollowsTheWindow()
+{
+    QWidget first;
+    QWidget second;
+    first.move(onUsualScreen);
+    second.move(onLargerScreen);
+    auto *const child = new QWidget(&first);
+    const CStyleHelper helper(child);
+    first.show();
+    second.show();
+    QCOMPARE(helper.screenScale(), 1.0);
+    QTRY_COMPARE(second.screen()->logicalDotsPerInch(), 144.0);
+    child->setParent(&second);
+    child->show();
+    QCOMPARE(helper.screenScale(), 1.5);
+    first.move(onLargerScreen);
+    first.move(onUsualScreen);
+    QCoreApplication::processEvents();
+    QCOMPARE(helper.screenScale(), 1.5);
+    second.move(onUsualScreen);
+    QTRY_COMPARE(helper.screenScale(), 1.0);
+}
+
+void TestDialogHelpers::scaleWithoutWidget()
+{
+    const qreal expected = QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96;
+    QCOMPARE(CStyleHelper::screenScale(nullptr), expected);
+    QCOMPARE(CStyleHelper::scaled(16, nullptr), qRound(16 * expected));
+}
+
+int main(int argc, char *argv[])
+{
+    QTemporaryFile screens;
+    if (!screens.open()) {
+        return 1;
+    }
+    screens.write(R"({"screens": [
+        {"name": "larger", "x": 800, "y": 0, "width": 800, "height": 600,
+         "logicalDpi": 144, "logicalBaseDpi": 144, "dpr": 1},
+        {"name": "usual", "x": 0, "y": 0, "width": 800, "height": 600,
+         "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    screens.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    QApplication application(argc, argv);
+    TestDialogHelpers test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_dialoghelpers.moc"
