@@ -31,6 +31,7 @@ function(zelto_add_library target)
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
         $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/include>
         $<INSTALL_INTERFACE:${ZELTO_INCLUDE_INSTALL_DIR}>)
+    target_compile_features(${target} PUBLIC cxx_std_20)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${ARG_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
@@ -41,7 +42,7 @@ function(zelto_add_library target)
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
     install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${ZELTO_INCLUDE_INSTALL_DIR}/${ARG_FOLDER}
-        FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
+        FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN "Resources" EXCLUDE)
     install(FILES ${CMAKE_BINARY_DIR}/include/${ARG_FOLDER}/${ARG_FOLDER}_export.h
         DESTINATION ${ZELTO_INCLUDE_INSTALL_DIR}/${ARG_FOLDER})
 endfunction()

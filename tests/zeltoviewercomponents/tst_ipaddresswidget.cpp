@@ -315,9 +315,23 @@ void TestIpAddressWidget::nothingMovesWhileTyping()
     QCoreApplication::processEvents();
     const QSize size = m_dialog->size();
     const QRect mask = m_dialog->findChild<QComboBox *>()->geometry();
-    for (const char *text : {"", "10.0.0.255", "10.0.0.5", "x"}) {
-        field("IP address")->setText(QString::fromLatin1(text));
-        field("Default gateway")->setText(QStringLiteral("11.1.1.1"));
+    const QStringList texts{QString(),
+                            QStringLiteral("10.0.0.255"),
+                            QStringLiteral("192.168.1.10"),
+                            QStringLiteral("1.2.3.4"),
+                            QStringLiteral("127.0.0.1"),
+                            QStringLiteral("224.0.0.1"),
+                            QStringLiteral("x")};
+    m_dialog->setMacAddressEditable(true);
+    for (const QString &text : texts) {
+        for (QLineEdit *edit : m_dialog->findChildren<QLineEdit *>()) {
+            edit->setText(text);
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(m_dialog->size(), size);
+        QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);
+        enterUsable();
+        field("Default gateway")->setText(text);
         QCoreApplication::processEvents();
         QCOMPARE(m_dialog->size(), size);
         QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);

@@ -31,7 +31,7 @@ enum Column {
 };
 
 constexpr int editWidth = 150;
-constexpr int messageWidth = 230;
+constexpr int messageWidth = 260;
 constexpr int messageLines = 2;
 constexpr int iconSize = 16;
 constexpr int rowSpacing = 6;
@@ -66,6 +66,9 @@ IpAddressWidget::IpAddressWidget(QWidget *parent)
     m_gateway.edit = new QLineEdit(noGateway(), this);
     m_mac.edit = new QLineEdit(this);
     m_mac.edit->setReadOnly(true);
+    // What cannot be changed does not look like a field, but can still be reached, read and copied.
+    m_mac.edit->setStyleSheet(
+        QStringLiteral("QLineEdit:read-only { background: transparent; border: none; }"));
     m_helpLink = new HelpLink(this);
     m_helpLink->hide();
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -114,6 +117,7 @@ void IpAddressWidget::addRow(Field *field, QWidget *editor, const QString &label
     const int row = m_grid->rowCount();
     auto *const title = new QLabel(label, this);
     title->setBuddy(editor);
+    field->editor = editor;
     field->icon = new QLabel(this);
     field->message = new QLabel(this);
     field->message->setTextFormat(Qt::PlainText);
@@ -261,7 +265,7 @@ void IpAddressWidget::applyScale()
     const int spacing = m_styleHelper->scaled(rowSpacing);
     m_grid->setVerticalSpacing(spacing);
     for (const Field *field : m_fields) {
-        field->edit->setMinimumWidth(m_styleHelper->scaled(editWidth));
+        field->editor->setMinimumWidth(m_styleHelper->scaled(editWidth));
         field->icon->setFixedWidth(m_styleHelper->scaled(iconSize));
         // Room for the words before there are any, so that nothing moves while the user types.
         field->message->setMinimumSize(m_styleHelper->scaled(messageWidth),

@@ -85,6 +85,7 @@ private slots:
 private:
     struct Field
     {
+        QWidget *editor = nullptr; //!< what stands in the dialog: the edit itself, or a box around it
         QLineEdit *edit = nullptr;
         AddressValidator *validator = nullptr;
         QLabel *icon = nullptr;

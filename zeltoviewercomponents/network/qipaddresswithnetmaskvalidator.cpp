@@ -59,12 +59,11 @@ AddressValidator::Verdict QIpAddressWithNetmaskValidator::judge(const QString &t
 AddressValidator::Verdict QIpAddressWithNetmaskValidator::judgeGateway(const QHostAddress &gateway) const
 {
     if (gateway == m_device) {
-        return {Intermediate, tr("The gateway cannot be the device itself. Enter 0.0.0.0 for no gateway.")};
+        return {Intermediate, tr("The gateway cannot be the device itself. Enter 0.0.0.0 for none.")};
     }
     const quint32 difference = gateway.toIPv4Address() ^ m_device.toIPv4Address();
     if ((difference & m_netmask.toIPv4Address()) != 0) {
-        return {Intermediate,
-                tr("The gateway is not in the subnet of the device. Enter 0.0.0.0 for no gateway.")};
+        return {Intermediate, tr("The gateway is not in the device's subnet. Enter 0.0.0.0 for none.")};
     }
     return {Acceptable, QString()};
 }
