@@ -50,6 +50,8 @@ private slots:
     void scaleFollowsTheScreen();
     void scaleFollowsTheWindow();
     void scaleWithoutWidget();
+    void iconsAreEmbedded_data();
+    void iconsAreEmbedded();
 
 private:
     QList<QUrl> m_opened;
@@ -242,6 +244,39 @@ void TestDialogHelpers::scaleWithoutWidget()
     const qreal expected = QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96;
     QCOMPARE(CStyleHelper::screenScale(nullptr), expected);
     QCOMPARE(CStyleHelper::scaled(16, nullptr), qRound(16 * expected));
+}
+
+void TestDialogHelpers::iconsAreEmbedded_data()
+{
+    QTest::addColumn<int>("size");
+    for (const int size : {32, 64, 128, 256, 512}) {
+        QTest::addRow("refresh_%d.png", size) << size;
+    }
+    for (const char *name : {"sync_16.png", "AddGigECamera_16.png", "RemGigECamera_16.png", "Move_Up.png",
+                             "Move_Down.png", "searchlens_16.png", "cross_16.png"}) {
+        QTest::newRow(name) << 16;
+    }
+}
+
+// Each is legible on light and on dark: its strokes differ from both.
+void TestDialogHelpers::iconsAreEmbedded()
+{
+    QFETCH(int, size);
+    const QImage icon(QStringLiteral(":/zeltoviewercomponents/Resources/")
+                      + QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(icon.size(), QSize(size, size));
+    int strokes = 0;
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const QColor color = icon.pixelColor(x, y);
+            if (color.alpha() > 200) {
+                ++strokes;
+                QVERIFY(color.lightness() > 70 && color.lightness() < 190);
+            }
+        }
+    }
+    QVERIFY(strokes > size * size / 20);
+    QVERIFY(strokes < size * size / 2);
 }
 
 int main(int argc, char *argv[])
