@@ -266,6 +266,10 @@ void TestIpAddressWidget::acceptRefusesUnusable()
     m_dialog->accept();
     QVERIFY(m_dialog->isVisible());
     QVERIFY(accepted.isEmpty());
+    // A suggestion that nobody has seen is not accepted.
+    m_dialog->setIpAddress(address("10.0.0.5"));
+    m_dialog->accept();
+    QVERIFY(m_dialog->isVisible());
     enterUsable();
     m_dialog->accept();
     QVERIFY(!m_dialog->isVisible());
@@ -311,7 +315,11 @@ void TestIpAddressWidget::helpLinkAppears()
 
 void TestIpAddressWidget::nothingMovesWhileTyping()
 {
+    // Its size is found while there is nothing to say.
+    m_dialog->hide();
     enterUsable();
+    m_dialog->adjustSize();
+    m_dialog->show();
     QCoreApplication::processEvents();
     const QSize size = m_dialog->size();
     const QRect mask = m_dialog->findChild<QComboBox *>()->geometry();

@@ -204,7 +204,6 @@ bool IpAddressWidget::isUsable() const
 
 void IpAddressWidget::accept()
 {
-    tidyUp();
     if (isUsable()) {
         QDialog::accept();
     }
