@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 QHostAddress address(const char *text)
@@ -49,6 +51,7 @@ private:
     QPushButton *ok() const;
     void enterUsable();
     QString shownReason(QLineEdit *edit) const;
+    bool wordsFit() const;
 
     IpAddressWidget *m_dialog = nullptr;
 };
@@ -100,6 +103,14 @@ QString TestIpAddressWidget::shownReason(QLineEdit *edit) const
         }
     }
     return texts.join(QLatin1Char('|'));
+}
+
+bool TestIpAddressWidget::wordsFit() const
+{
+    const QList<QLabel *> labels = m_dialog->findChildren<QLabel *>();
+    return std::all_of(labels.cbegin(), labels.cend(), [](const QLabel *label) {
+        return !label->wordWrap() || label->heightForWidth(label->width()) <= label->minimumHeight();
+    });
 }
 
 void TestIpAddressWidget::valuesComeBack()
@@ -336,11 +347,13 @@ void TestIpAddressWidget::nothingMovesWhileTyping()
             edit->setText(text);
         }
         QCoreApplication::processEvents();
+        QVERIFY(wordsFit());
         QCOMPARE(m_dialog->size(), size);
         QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);
         enterUsable();
         field("Default gateway")->setText(text);
         QCoreApplication::processEvents();
+        QVERIFY(wordsFit());
         QCOMPARE(m_dialog->size(), size);
         QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);
     }
