@@ -600,6 +600,7 @@ int main(int argc, char **argv)
         QApplication application(argc, argv);
         QCoreApplication::setOrganizationName(QStringLiteral("zelto"));
         QCoreApplication::setApplicationName(QStringLiteral("tst_favoritesdata"));
+        QSettings().clear();
         staticStore.attach(QStringLiteral("Static"));
         TestFavoritesData test;
         result = QTest::qExec(&test, argc, argv);

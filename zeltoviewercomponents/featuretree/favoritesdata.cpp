@@ -4,15 +4,20 @@
 #include "favoritesdata.h"
 
 #include <QCoreApplication>
-#include <QScopedValueRollback>
+#include <QSet>
 #include <QSettings>
 #include <QStringList>
 
+#include <algorithm>
+#include <limits>
+#include <utility>
+
 namespace {
 
+constexpr QLatin1Char separator('*');
 constexpr int formatVersion = 3;
-// No list that a user made comes near this; a count beyond it is damage.
-constexpr int largestStoredCount = 100'000;
+/* Far beyond any feature; what is longer is damage, and would stall whoever has to paint it. */
+constexpr int maximumStoredLength = 65536;
 
 QString versionKey()
 {
@@ -34,140 +39,199 @@ QString expandedKey()
     return QStringLiteral("Expanded");
 }
 
+/* During static destruction the names that a QSettings needs may be gone already. */
+bool settingsUsable()
+{
+    return QCoreApplication::instance() != nullptr;
+}
+
+/* Returns the numbers of the numbered keys that exist, ascending. Going by these instead of counting up makes
+ * a damaged number of entries harmless. */
+QList<qint64> storedNumbers(const QSettings &settings)
+{
+    QList<qint64> numbers;
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        bool ok = false;
+        const qint64 number = key.toLongLong(&ok);
+        if (ok && number >= 0 && QString::number(number) == key) {
+            numbers.append(number);
+        }
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
 std::optional<FavoriteEntry> parseEntry(const QString &stored)
 {
-    const QStringList parts = stored.split(QLatin1Char('*'), Qt::SkipEmptyParts);
+    if (stored.size() > maximumStoredLength) {
+        return std::nullopt;
+    }
+    const QStringList parts = stored.split(separator, Qt::SkipEmptyParts);
     if (parts.size() != 3) {
         return std::nullopt;
     }
-    return FavoriteEntry{QString::fromLocal8Bit(parts[0].toLocal8Bit()), parts[1], parts[2]};
+    return FavoriteEntry{QString::fromLocal8Bit(parts.at(0).toLocal8Bit()), parts.at(1), parts.at(2)};
+}
+
+/* Not arg(): a "%1" in a name is part of the name. */
+QString storedText(const FavoriteEntry &entry)
+{
+    return entry.featureName + separator + entry.displayName + separator + entry.nodeMapKey;
+}
+
+bool isStorable(const FavoriteEntry &entry)
+{
+    return !entry.featureName.isEmpty() && !entry.nodeMapKey.isEmpty();
+}
+
+std::pair<QString, QString> identity(const FavoriteEntry &entry)
+{
+    return {entry.nodeMapKey, entry.featureName};
 }
 
 } // namespace
-
-bool FavoriteEntry::isSameFavorite(const FavoriteEntry &other) const
-{
-    return nodeMapKey == other.nodeMapKey && featureName == other.featureName;
-}
 
 FavoritesData::FavoritesData(QObject *parent)
     : QObject(parent)
 {
 }
 
-FavoritesData::~FavoritesData() = default;
+FavoritesData::~FavoritesData()
+{
+    saveChanges();
+}
 
 void FavoritesData::attach(const QString &group)
 {
     if (m_loaded) {
         return;
     }
+    m_loaded = true;
+    if (!m_settingsGroup.isEmpty()) {
+        setSettingsGroup(group);
+        return;
+    }
+    // What was added before any group was known has no other home, so the stored entries join it.
     m_settingsGroup = group;
     load(group);
-    m_loaded = true;
+    if (m_unsaved) {
+        markChanged();
+    }
 }
 
 void FavoritesData::detach(QObject *view)
 {
-    if (m_loaded) {
-        save(m_settingsGroup);
+    save(m_settingsGroup);
+    if (view) {
+        disconnect(view);
     }
-    disconnect(this, nullptr, view, nullptr);
 }
 
 void FavoritesData::setSettingsGroup(const QString &group)
 {
-    if (m_settingsGroup == group) {
+    if (group == m_settingsGroup) {
         return;
     }
-    if (m_saveScheduled) {
-        saveChanges();
-    }
+    saveChanges();
     m_settingsGroup = group;
-    if (!m_loaded) {
-        return;
+    m_unsaved = false;
+    if (!group.isEmpty()) {
+        replaceBy(group);
     }
+}
+
+void FavoritesData::replaceBy(const QString &group)
+{
     const bool wasDeferred = m_deferred;
     setDeferredUpdates(true);
     m_entries.clear();
     load(group);
-    m_pending = true;
+    notify();
     if (!wasDeferred) {
         setDeferredUpdates(false);
     }
 }
 
-QString FavoritesData::settingsGroup() const
-{
-    return m_settingsGroup;
-}
-
 bool FavoritesData::load(const QString &group)
 {
-    if (group.isEmpty()) {
+    if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
-    const QScopedValueRollback<bool> loading(m_loading, true);
     QSettings settings;
     settings.beginGroup(group);
-    const int stored = qBound(0, settings.value(countKey(), 0).toInt(), largestStoredCount);
-    for (int i = 0; i < stored; ++i) {
-        if (const auto entry = parseEntry(settings.value(QString::number(i)).toString())) {
-            appendEntry(*entry);
-        }
-    }
-    setViewAll(settings.value(viewAllKey()).toBool());
-    setExpanded(settings.value(expandedKey(), true).toBool());
+    loadEntries(settings);
+    // A group that was never written hides unavailable favorites and shows the branch expanded.
+    m_viewAll = settings.value(viewAllKey()).toBool();
+    const bool wasExpanded = std::exchange(m_expanded, settings.value(expandedKey(), true).toBool());
     settings.endGroup();
     notify();
+    if (m_expanded != wasExpanded) {
+        emit expanded(m_expanded);
+    }
     return true;
+}
+
+void FavoritesData::loadEntries(const QSettings &settings)
+{
+    QSet<std::pair<QString, QString>> known;
+    for (const FavoriteEntry &entry : std::as_const(m_entries)) {
+        known.insert(identity(entry));
+    }
+    const qint64 storedCount = settings.value(countKey(), 0).toLongLong();
+    const QList<qint64> numbers = storedNumbers(settings);
+    for (const qint64 number : numbers) {
+        if (number >= storedCount) {
+            break;
+        }
+        const auto entry = parseEntry(settings.value(QString::number(number)).toString());
+        if (entry && !known.contains(identity(*entry))) {
+            known.insert(identity(*entry));
+            m_entries.append(*entry);
+            notify();
+        }
+    }
 }
 
 bool FavoritesData::save(const QString &group)
 {
-    if (group.isEmpty()) {
+    if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
     QSettings settings;
     settings.beginGroup(group);
     settings.setValue(versionKey(), formatVersion);
-    const int oldCount = qMin(settings.value(countKey(), 0).toInt(), largestStoredCount);
     settings.setValue(countKey(), static_cast<qint64>(m_entries.size()));
-    for (int i = 0; i < count(); ++i) {
-        const FavoriteEntry &entry = m_entries[i];
-        if (entry.featureName.isEmpty() || entry.nodeMapKey.isEmpty()) {
-            continue;
+    // Every number left over from another list goes: one in a gap would come back as a favorite.
+    const QList<qint64> numbers = storedNumbers(settings);
+    for (const qint64 number : numbers) {
+        if (number >= m_entries.size() || !isStorable(m_entries.at(number))) {
+            settings.remove(QString::number(number));
         }
-        settings.setValue(
-            QString::number(i),
-            QStringLiteral("%1*%2*%3").arg(entry.featureName, entry.displayName, entry.nodeMapKey));
     }
-    for (int i = count(); i < oldCount; ++i) {
-        settings.remove(QString::number(i));
+    for (qsizetype i = 0; i < m_entries.size(); ++i) {
+        if (isStorable(m_entries.at(i))) {
+            settings.setValue(QString::number(i), storedText(m_entries.at(i)));
+        }
     }
     settings.setValue(viewAllKey(), m_viewAll ? 1 : 0);
     settings.setValue(expandedKey(), m_expanded ? 1 : 0);
     settings.endGroup();
-    return true;
-}
-
-void FavoritesData::scheduleSave()
-{
-    if (m_loading || !m_loaded || m_saveScheduled || !QCoreApplication::instance()) {
-        return;
+    settings.sync();
+    // A format error is about what was read: the well-formed rest is kept and written.
+    const bool written = settings.status() != QSettings::AccessError;
+    if (written && group == m_settingsGroup) {
+        m_unsaved = false;
     }
-    m_saveScheduled = QMetaObject::invokeMethod(this, "saveChanges", Qt::QueuedConnection);
+    return written;
 }
 
 void FavoritesData::saveChanges()
 {
     m_saveScheduled = false;
-    save(m_settingsGroup);
-}
-
-int FavoritesData::count() const
-{
-    return static_cast<int>(m_entries.size());
+    if (m_unsaved) {
+        save(m_settingsGroup);
+    }
 }
 
 std::optional<FavoriteEntry> FavoritesData::entryAt(int index) const
@@ -175,21 +239,26 @@ std::optional<FavoriteEntry> FavoritesData::entryAt(int index) const
     if (index < 0 || index >= count()) {
         return std::nullopt;
     }
-    return m_entries[index];
+    return m_entries.at(index);
 }
 
-bool FavoritesData::isValidPosition(int position) const
+int FavoritesData::indexOfEntry(const FavoriteEntry &entry) const
 {
-    return position >= 0 && position <= count();
+    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
+                                    [&entry](const auto &other) { return entry.isSameFavorite(other); });
+    return found == m_entries.cend() ? -1 : static_cast<int>(found - m_entries.cbegin());
 }
 
 bool FavoritesData::insertEntry(int position, const FavoriteEntry &entry)
 {
-    const int target = position < 0 ? position + count() : position;
-    if (!isValidPosition(target) || entry.featureName.isEmpty() || indexOfEntry(entry) >= 0) {
+    if (position < 0) {
+        position += count();
+    }
+    if (position < 0 || position > count() || entry.featureName.isEmpty() || indexOfEntry(entry) >= 0) {
         return false;
     }
-    m_entries.insert(target, entry);
+    m_entries.insert(position, entry);
+    markChanged();
     notify();
     return true;
 }
@@ -199,16 +268,16 @@ bool FavoritesData::appendEntry(const FavoriteEntry &entry)
     return insertEntry(count(), entry);
 }
 
-bool FavoritesData::takeEntry(int index, FavoriteEntry *out)
+bool FavoritesData::takeEntry(int index, FavoriteEntry *taken)
 {
     if (index < 0 || index >= count()) {
         return false;
     }
-    const FavoriteEntry taken = m_entries.takeAt(index);
-    if (out) {
-        *out = taken;
+    FavoriteEntry entry = m_entries.takeAt(index);
+    if (taken) {
+        *taken = std::move(entry);
     }
-    scheduleSave();
+    markChanged();
     return true;
 }
 
@@ -223,23 +292,21 @@ bool FavoritesData::removeEntry(int index)
 
 bool FavoritesData::moveEntry(int from, int to)
 {
-    // Checked before the entry is taken, so that a refused move loses nothing.
-    if (from < 0 || from >= count() || !isValidPosition(to)) {
+    const int others = count() - 1;
+    int position = from < to ? to - 1 : to;
+    if (position < 0) {
+        position += others;
+    }
+    if (from < 0 || from > others || position < 0 || position > others) {
         return false;
     }
-    FavoriteEntry entry;
-    takeEntry(from, &entry);
-    return insertEntry(from < to ? to - 1 : to, entry);
-}
-
-int FavoritesData::indexOfEntry(const FavoriteEntry &entry) const
-{
-    for (int i = 0; i < count(); ++i) {
-        if (m_entries[i].isSameFavorite(entry)) {
-            return i;
-        }
-    }
-    return -1;
+    m_entries.move(from, position);
+    markChanged();
+    // One for the taking, one for the inserting, both afterwards: no receiver sees the list without the
+    // entry.
+    notify();
+    notify();
+    return true;
 }
 
 void FavoritesData::setViewAll(bool viewAll)
@@ -248,34 +315,25 @@ void FavoritesData::setViewAll(bool viewAll)
         return;
     }
     m_viewAll = viewAll;
+    markChanged();
     notify();
 }
 
-bool FavoritesData::viewAll() const
+void FavoritesData::setExpanded(bool expand)
 {
-    return m_viewAll;
-}
-
-void FavoritesData::setExpanded(bool isExpanded)
-{
-    if (m_expanded == isExpanded) {
+    if (m_expanded == expand) {
         return;
     }
-    m_expanded = isExpanded;
-    scheduleSave();
-    emit expanded(isExpanded);
-}
-
-bool FavoritesData::isExpanded() const
-{
-    return m_expanded;
+    m_expanded = expand;
+    markChanged();
+    emit expanded(expand);
 }
 
 void FavoritesData::setDeferredUpdates(bool deferred)
 {
-    const bool publish = m_deferred && m_pending && !deferred;
+    const bool due = !deferred && m_deferred && m_pending;
     m_deferred = deferred;
-    if (publish) {
+    if (due) {
         m_pending = false;
         emit dataUpdated();
     }
@@ -283,10 +341,19 @@ void FavoritesData::setDeferredUpdates(bool deferred)
 
 void FavoritesData::notify()
 {
-    scheduleSave();
     if (m_deferred) {
         m_pending = true;
     } else {
         emit dataUpdated();
     }
+}
+
+void FavoritesData::markChanged()
+{
+    m_unsaved = true;
+    if (m_saveScheduled || !settingsUsable()) {
+        return;
+    }
+    m_saveScheduled = true;
+    QMetaObject::invokeMethod(this, "saveChanges", Qt::QueuedConnection);
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <zeltoviewercomponents/featuretree/favoriteentry.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QList>
@@ -11,23 +12,14 @@
 
 #include <optional>
 
-/*! \brief One favorite: a feature, identified by node map and name, whether the current camera has it or not.
- */
-struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoriteEntry
-{
-    QString featureName; //!< the feature's short name
-    QString displayName; //!< the text shown for it, as it was when the favorite was added
-    QString nodeMapKey; //!< the first segment of its full name, such as "@CameraDevice"
+class QSettings;
 
-    /*! Returns whether both name the same feature of the same node map; the displayed name takes no part. */
-    bool isSameFavorite(const FavoriteEntry &other) const;
-};
-
-/*! \brief The list of favorites, kept once per process and in the application's settings.
+/*! \brief The user's list of favorite features, in the order shown, and how its branch is to be shown.
  *
- * All models and views of the process share one store. It is loaded when the first view attaches, written
- * when it changed (once, when the event loop comes round) and when a view or model goes. Refusals are return
- * values. The stored form separates an entry's parts by "*": a name that contains one does not survive.
+ * One object serves all models and views of the process and may be a static one: it uses QSettings only
+ * while an application object exists. The list is kept in the application's settings, below the settings
+ * group; changes are written when the event loop comes round, so that a crash loses none, and when a view is
+ * detached. Attaching and setting the group need that object, too. GUI thread only.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoritesData : public QObject
 {
@@ -37,49 +29,53 @@ public:
     explicit FavoritesData(QObject *parent = nullptr);
     ~FavoritesData() override;
 
-    /*! Loads the settings group \a group, on the first call of the process alone. */
+    /*! Loads \a group and makes it the settings group. Only the first call does anything. */
     void attach(const QString &group);
-    /*! Saves the list and disconnects \a view. */
+    /*! Saves, and disconnects \a view (or model), when given. */
     void detach(QObject *view);
 
-    /*! Sets the settings group. Once attached, another group replaces the list by what is stored there. */
+    QString settingsGroup() const { return m_settingsGroup; }
+    /*! Makes \a group the settings group. Another one than before is loaded, replacing the entries; what had
+     * changed before is saved to the previous group. */
     void setSettingsGroup(const QString &group);
-    QString settingsGroup() const;
 
-    /*! Appends what is stored in \a group; malformed entries are skipped. Returns false for an empty group.
-     */
+    /*! Appends the entries stored in \a group and takes over its flags. Returns false for an empty group. */
     bool load(const QString &group);
-    /*! Writes the list to \a group. Returns false for an empty group. */
+    /*! Stores everything in \a group. Returns false for an empty group and when the store cannot be written.
+     */
     bool save(const QString &group);
 
-    int count() const;
-    /*! Returns the entry at \a index, nothing when there is none. */
+    int count() const { return static_cast<int>(m_entries.size()); }
+    /*! Returns the entry at \a index, none when there is no such. */
     std::optional<FavoriteEntry> entryAt(int index) const;
-    /*! Inserts before \a position, a negative one counted from the end. Returns false for a position outside
-     * the list, an empty feature name or a favorite that is in the list already. */
-    bool insertEntry(int position, const FavoriteEntry &entry);
-    bool appendEntry(const FavoriteEntry &entry);
-    /*! Removes the entry at \a index, copying it to \a out when given. Notifies nobody. */
-    bool takeEntry(int index, FavoriteEntry *out = nullptr);
-    bool removeEntry(int index);
-    /*! Moves the entry at \a from before \a to, both counted with the entry in place. A refused move changes
-     *  nothing. */
-    bool moveEntry(int from, int to);
-    /*! Returns the position of the same favorite, -1 when there is none. */
+    /*! Returns the index of the same favorite as \a entry, -1 when the list lacks it. */
     int indexOfEntry(const FavoriteEntry &entry) const;
 
-    /*! Sets whether favorites that the current camera lacks are shown. */
-    void setViewAll(bool viewAll);
-    bool viewAll() const;
-    /*! Sets whether the favorites branch is expanded. */
-    void setExpanded(bool expanded);
-    bool isExpanded() const;
+    /*! Inserts \a entry before \a position, which counts from the end when negative. Returns false for a
+     * position out of range, an entry without a feature name and one that the list holds already. */
+    bool insertEntry(int position, const FavoriteEntry &entry);
+    bool appendEntry(const FavoriteEntry &entry);
+    /*! Removes the entry at \a index without notification, into \a taken when given. */
+    bool takeEntry(int index, FavoriteEntry *taken = nullptr);
+    /*! Removes the entry at \a index. */
+    bool removeEntry(int index);
+    /*! Moves the entry at \a from before the one at \a to; count() moves it to the end. A negative \a to
+     * counts from the end of the other entries. A refused move changes nothing. */
+    bool moveEntry(int from, int to);
 
-    /*! While deferred, changes are not notified; at the end one dataUpdated() tells of all of them. */
+    /*! Returns whether unavailable favorites are shown at every user level. */
+    bool viewAll() const { return m_viewAll; }
+    void setViewAll(bool viewAll);
+
+    bool isExpanded() const { return m_expanded; }
+    /*! Stores whether the branch is expanded; a change is signalled at once, deferred updates or not. */
+    void setExpanded(bool expand);
+
+    /*! Collects notifications while on; switching it off emits one when there was any. */
     void setDeferredUpdates(bool deferred);
 
 signals:
-    /*! The list, or whether unavailable favorites are shown, changed. */
+    /*! The list or viewAll() changed. */
     void dataUpdated();
     void expanded(bool isExpanded);
 
@@ -88,16 +84,17 @@ private slots:
 
 private:
     void notify();
-    void scheduleSave();
-    bool isValidPosition(int position) const;
+    void markChanged();
+    void replaceBy(const QString &group);
+    void loadEntries(const QSettings &settings);
 
+    QList<FavoriteEntry> m_entries;
+    QString m_settingsGroup;
     bool m_loaded = false;
     bool m_viewAll = true;
     bool m_expanded = false;
     bool m_deferred = false;
     bool m_pending = false;
-    bool m_loading = false;
+    bool m_unsaved = false;
     bool m_saveScheduled = false;
-    QString m_settingsGroup;
-    QList<FavoriteEntry> m_entries;
 };
