@@ -36,4 +36,5 @@ struct ParsedOptions
     QString error;
 };
 
+/*! Needs no application object. */
 ParsedOptions parseOptions(const QStringList &arguments);

@@ -1,0 +1,337 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow.h"
+
+#include "cameradialog.h"
+#include "descriptionpane.h"
+#include "messagebar.h"
+
+#include <platform/core/exception.h>
+#include <zeltoviewercomponents/featuretree/featuretreeview.h>
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+#include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int stateVersion = 1;
+
+QString windowGroup()
+{
+    return QStringLiteral("MainWindow");
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
+    , m_description(new DescriptionPane(this))
+    , m_messages(new MessageBar(this))
+    , m_splitter(new QSplitter(this))
+    , m_matches(new QLabel(this))
+    , m_cameraName(new QLabel(this))
+{
+    m_splitter->addWidget(m_tree);
+    m_splitter->addWidget(m_description);
+    m_splitter->setStretchFactor(0, 3);
+    m_splitter->setStretchFactor(1, 2);
+    auto *const central = new QWidget(this);
+    auto *const layout = new QVBoxLayout(central);
+    layout->addWidget(m_messages);
+    layout->addWidget(m_splitter, 1);
+    setCentralWidget(central);
+    statusBar()->addWidget(m_matches, 1);
+    statusBar()->addPermanentWidget(m_cameraName);
+    createMenus();
+
+    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), m_description,
+            SLOT(showParameter(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
+    connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
+            SLOT(onVisibilityChanged(GenApi::EVisibility)));
+    connect(m_tree, SIGNAL(filterMatchesChanged(int, int)), this, SLOT(onMatchesChanged(int, int)));
+    connect(m_tree, SIGNAL(contextMenuRequested(QPoint, QSharedPointer<QMenu>)), this,
+            SLOT(onContextMenu(QPoint, QSharedPointer<QMenu>)));
+    connect(GetTheGlobalAsyncErrorQueue(),
+            SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
+            SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
+    connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
+    restoreState();
+    updateActions();
+}
+
+MainWindow::~MainWindow() = default;
+
+std::unique_ptr<Cameras::Camera> MainWindow::cameraFor(const Options &options)
+{
+    if (!options.description.isEmpty()) {
+        return Cameras::Camera::openDescription(options.description);
+    }
+    return options.camera.isEmpty() ? Cameras::Camera::openEmbedded()
+                                    : Cameras::Camera::openLive(options.camera);
+}
+
+FeatureTreeWidget *MainWindow::featureTree() const
+{
+    return m_tree;
+}
+
+void MainWindow::createMenus()
+{
+    QMenu *const file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open Description File…"), QKeySequence::Open, this, SLOT(openDescriptionFile()));
+    file->addAction(tr("&Connect to Camera…"), QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
+    m_closeAction = file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCamera()));
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
+
+    QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
+    edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this, SLOT(copyTree()));
+
+    QMenu *const view = menuBar()->addMenu(tr("&View"));
+    createLevelMenu(view);
+    view->addSeparator();
+    m_monitorAction = view->addAction(tr("&Monitor Mode"));
+    m_monitorAction->setCheckable(true);
+    m_monitorAction->setToolTip(tr("Polling re-reads all features, not only the volatile ones"));
+    connect(m_monitorAction, &QAction::toggled, m_tree, &FeatureTreeWidget::setMonitorMode);
+
+    menuBar()->addMenu(tr("&Help"))->addAction(tr("&About…"), this, SLOT(about()));
+}
+
+QMenu *MainWindow::createLevelMenu(QMenu *parent)
+{
+    QMenu *const menu = parent->addMenu(tr("&Level"));
+    m_levels = new QActionGroup(this);
+    const QStringList names{tr("&Beginner"), tr("&Expert"), tr("&Guru"), tr("&All Features")};
+    for (int level = 0; level < names.size(); ++level) {
+        QAction *const action = menu->addAction(names[level]);
+        action->setCheckable(true);
+        action->setData(level);
+        action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + level)));
+        m_levels->addAction(action);
+    }
+    connect(m_levels, SIGNAL(triggered(QAction *)), this, SLOT(setLevel(QAction *)));
+    return menu;
+}
+
+// Camera
+// ----------------------------------------------------------------------------------------------------------
+
+void MainWindow::openCamera(const Options &options)
+{
+    std::unique_ptr<Cameras::Camera> camera = cameraFor(options);
+    closeCamera();
+    m_source = options;
+    useCamera(std::move(camera));
+}
+
+void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
+{
+    m_camera = std::move(camera);
+    connect(m_camera.get(), SIGNAL(lost(QString)), this, SLOT(onCameraLost(QString)));
+    const auto nodeMaps = m_camera->nodeMaps();
+    for (const Cameras::NodeMap &nodeMap : nodeMaps) {
+        m_tree->addParameterCollection(nodeMap.collection, nodeMap.title, nodeMap.name, nodeMap.usesUtf8);
+    }
+    const auto info = m_camera->info();
+    m_tree->setCameraType(info->deviceClass());
+    m_tree->setEnabled(true);
+    m_tree->expandRootNodes();
+    m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()));
+    setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
+    m_messages->dismiss();
+    updateActions();
+}
+
+void MainWindow::closeCamera()
+{
+    m_tree->setPolling(false);
+    m_description->showParameter(nullptr);
+    m_tree->clear();
+    m_camera.reset();
+    m_cameraName->setText(tr("No camera"));
+    setWindowTitle(tr("Zelto Viewer"));
+    updateActions();
+}
+
+void MainWindow::tryToOpen(const Options &options)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QString failure;
+    try {
+        openCamera(options);
+    } catch (const Core::Exception::BaseException &exception) {
+        failure = exception.getMessage();
+    }
+    QApplication::restoreOverrideCursor();
+    if (!failure.isEmpty()) {
+        m_messages->showMessage(failure, QString());
+    }
+}
+
+void MainWindow::openDescriptionFile()
+{
+    Options options;
+    options.description = QFileDialog::getOpenFileName(
+        this, tr("Open Description File"), QString(), tr("Camera descriptions (*.xml *.zip);;All files (*)"));
+    if (!options.description.isEmpty()) {
+        tryToOpen(options);
+    }
+}
+
+void MainWindow::connectToCamera()
+{
+    CameraDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted || dialog.cameraId().isEmpty()) {
+        return;
+    }
+    Options options;
+    options.camera = dialog.cameraId();
+    tryToOpen(options);
+}
+
+void MainWindow::onCameraLost(const QString &reason)
+{
+    m_pollsAfterReconnect = m_tree->getPolling();
+    m_tree->deviceIsClosed();
+    m_tree->setEnabled(false);
+    m_messages->showAction(tr("The camera was lost: %1").arg(reason), tr("Reconnect"));
+}
+
+void MainWindow::reconnect()
+{
+    const bool polls = m_pollsAfterReconnect;
+    const Options source = m_source;
+    try {
+        openCamera(source);
+        m_tree->setPolling(polls);
+    } catch (const Core::Exception::BaseException &exception) {
+        m_messages->showAction(exception.getMessage(), tr("Reconnect"));
+    }
+}
+
+void MainWindow::updateActions()
+{
+    m_closeAction->setEnabled(m_camera != nullptr);
+    for (QAction *const action : m_levels->actions()) {
+        action->setChecked(action->data().toInt() == m_tree->visibility());
+    }
+}
+
+// Tree
+// ------------------------------------------------------------------------------------------------------------
+
+void MainWindow::applyOptions(const Options &options)
+{
+    if (options.visibility) {
+        m_tree->onVisibilityChanged(*options.visibility);
+    }
+    if (options.expand) {
+        m_tree->treeView()->expandEverything();
+    }
+    if (!options.search.isEmpty()) {
+        m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit"))->setText(options.search);
+    }
+}
+
+void MainWindow::setLevel(QAction *action)
+{
+    m_tree->onVisibilityChanged(action->data().toInt());
+}
+
+void MainWindow::onVisibilityChanged(GenApi::EVisibility level)
+{
+    Q_UNUSED(level)
+    updateActions();
+}
+
+void MainWindow::onMatchesChanged(int total, int hidden)
+{
+    if (total == 0) {
+        m_matches->clear();
+    } else if (hidden == 0) {
+        m_matches->setText(tr("%n result(s)", nullptr, total));
+    } else {
+        m_matches->setText(tr("%n result(s), %1 of them at a higher level", nullptr, total).arg(hidden));
+    }
+}
+
+void MainWindow::onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu)
+{
+    menu->exec(m_tree->mapToGlobal(pos));
+}
+
+void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message,
+                         const QString &details)
+{
+    Q_UNUSED(severity)
+    m_messages->showMessage(message, details);
+}
+
+void MainWindow::copyTree()
+{
+    m_tree->copyToClipboard();
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(
+        this, tr("About Zelto Viewer"),
+        tr("<b>Zelto Viewer %1</b><p>Shows a camera's features in a tree, for GigE Vision and USB3 "
+           "Vision cameras and for any GenICam camera description file.")
+            .arg(QCoreApplication::applicationVersion()));
+}
+
+// State
+// -----------------------------------------------------------------------------------------------------------
+
+void MainWindow::restoreState()
+{
+    QSettings settings;
+    settings.beginGroup(windowGroup());
+    resize(1000, 700);
+    restoreGeometry(settings.value(QStringLiteral("Geometry")).toByteArray());
+    if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
+        m_splitter->setSizes({640, 360});
+    }
+    if (!m_tree->restoreState(settings.value(QStringLiteral("Tree")).toByteArray(), stateVersion)) {
+        m_tree->treeView()->header()->resizeSection(0, 320);
+    }
+    bool isNumber = false;
+    const int level = settings.value(QStringLiteral("Level")).toInt(&isNumber);
+    if (isNumber) {
+        m_tree->onVisibilityChanged(level);
+    }
+}
+
+void MainWindow::saveState() const
+{
+    QSettings settings;
+    settings.beginGroup(windowGroup());
+    settings.setValue(QStringLiteral("Geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
+    settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
+    settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    saveState();
+    QMainWindow::closeEvent(event);
+}

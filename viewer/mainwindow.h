@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "options.h"
+
+#include <cameras/camera.h>
+#include <platform/genicam/genapi.h>
+#include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
+
+#include <QMainWindow>
+#include <QSharedPointer>
+
+#include <memory>
+
+class DescriptionPane;
+class FeatureTreeWidget;
+class MessageBar;
+class QAction;
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QSplitter;
+
+/*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
+ * messages.
+ *
+ * Owns the open camera. When it is lost, says so once, disables the tree and offers to reconnect.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /*! Returns the camera that \a options name; throws Core::Exception::BaseException when it cannot be
+     * opened. */
+    static std::unique_ptr<Cameras::Camera> cameraFor(const Options &options);
+
+    /*! Opens what \a options name; throws Core::Exception::BaseException when that fails, with the camera
+     * that was open left as it was. */
+    void openCamera(const Options &options);
+    /*! Sets level, search and expansion as \a options ask. */
+    void applyOptions(const Options &options);
+    FeatureTreeWidget *featureTree() const;
+
+public slots:
+    void closeCamera();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void openDescriptionFile();
+    void connectToCamera();
+    void reconnect();
+    void about();
+    void setLevel(QAction *action);
+    void onVisibilityChanged(GenApi::EVisibility level);
+    void onMatchesChanged(int total, int hidden);
+    void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);
+    void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
+    void onCameraLost(const QString &reason);
+    void copyTree();
+
+private:
+    void createMenus();
+    QMenu *createLevelMenu(QMenu *parent);
+    void tryToOpen(const Options &options);
+    void useCamera(std::unique_ptr<Cameras::Camera> camera);
+    void restoreState();
+    void saveState() const;
+    void updateActions();
+
+    std::unique_ptr<Cameras::Camera> m_camera;
+    Options m_source; // how the camera was opened
+    bool m_pollsAfterReconnect = false;
+    FeatureTreeWidget *m_tree;
+    DescriptionPane *m_description;
+    MessageBar *m_messages;
+    QSplitter *m_splitter;
+    QLabel *m_matches;
+    QLabel *m_cameraName;
+    QActionGroup *m_levels = nullptr;
+    QAction *m_closeAction = nullptr;
+    QAction *m_monitorAction = nullptr;
+};
