@@ -73,6 +73,37 @@ double withoutNoise(double value)
     return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
 }
 
+FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data)
+{
+    using Limits = std::numeric_limits<double>;
+    FloatLimits limits{data.minimum, data.maximum, data.increment};
+    if (data.minimum > data.maximum) {
+        limits.minimum = limits.maximum = std::isfinite(data.value) ? data.value : 0.0;
+    }
+    limits.minimum = std::isfinite(limits.minimum) ? limits.minimum : Limits::lowest();
+    limits.maximum = std::isfinite(limits.maximum) ? limits.maximum : Limits::max();
+    limits.increment = std::isfinite(limits.increment) && limits.increment > 0.0 ? limits.increment : 0.0;
+    return limits;
+}
+
+void logInconsistency(Core::Logging::CategoryId category, const char *function,
+                      const ParameterCollection::IParameter &parameter,
+                      const ParameterCollection::FloatParameterData &data)
+{
+    const bool isValueGood = !data.isReadable || (data.minimum <= data.value && data.value <= data.maximum);
+    if (std::isfinite(data.minimum) && std::isfinite(data.maximum) && data.minimum <= data.maximum
+        && isValueGood) {
+        return;
+    }
+    Core::Logging::createLogEntry(
+        Core::Logging::ELogLevel::Debug, category,
+        QStringLiteral("%1: Feature %2: value %3 and limits %4..%5 do not fit together")
+            .arg(QLatin1String(function), nodeName(parameter))
+            .arg(data.value)
+            .arg(data.minimum)
+            .arg(data.maximum));
+}
+
 QString nodeName(const ParameterCollection::IParameter &parameter)
 {
     return QString::fromUtf8(parameter.name().toUtf8());

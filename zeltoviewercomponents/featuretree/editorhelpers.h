@@ -4,6 +4,7 @@
 #pragma once
 
 #include <platform/core/logging.h>
+#include <platform/parametercollection/parameterdata.h>
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 
 #include <QString>
@@ -39,6 +40,24 @@ double snappedToGrid(double value, double minimum, double maximum, double increm
 
 /*! Returns \a value without the binary noise behind its 15th significant digit. */
 double withoutNoise(double value);
+
+/*! \brief Limits that a control can work with: finite and in order; the increment is 0 when there is none. */
+struct FloatLimits
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double increment = 0.0;
+};
+
+/*! Returns the limits of \a data. A limit that is not finite becomes the farthest double. Limits in the wrong
+ * order leave only the value itself, so that nothing can be entered. */
+FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
+
+/*! Logs to \a category when the limits of \a data are not finite, not in order, or do not contain the value.
+ */
+void logInconsistency(Core::Logging::CategoryId category, const char *function,
+                      const ParameterCollection::IParameter &parameter,
+                      const ParameterCollection::FloatParameterData &data);
 
 /*! Returns the name of \a parameter as log entries show it. */
 QString nodeName(const ParameterCollection::IParameter &parameter);

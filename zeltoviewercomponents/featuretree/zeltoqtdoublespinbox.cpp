@@ -103,9 +103,11 @@ QAbstractSpinBox::StepEnabled ZeltoQtDoubleSpinBox::stepEnabled() const
 
 QString ZeltoQtDoubleSpinBox::textFromValue(double value) const
 {
-    if (hasSubstitute()) {
-        return m_substitute;
-    }
+    return hasSubstitute() ? m_substitute : numberText(value);
+}
+
+QString ZeltoQtDoubleSpinBox::numberText(double value) const
+{
     if (m_notation == GenApi::UndefinedDisplayNotation) {
         return formatDoubleValue(value, decimals(), true, locale());
     }

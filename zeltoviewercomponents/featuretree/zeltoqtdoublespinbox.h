@@ -32,6 +32,9 @@ public:
     void setSubstitute(const QString &text);
     bool hasSubstitute() const;
 
+    /*! Returns \a value as the spin box shows numbers. */
+    QString numberText(double value) const;
+
     /*! Emits stepTriggered(); the value stays. */
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
