@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/parametercollection/iparameter.h>
+#include <platform/parametercollection/parameterdata.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QSharedPointer>
+#include <QVariant>
+
+/*! \brief What the feature tree's delegate knows of an in-place editor.
+ *
+ * Always the second base of an editor, after its Qt widget class: the delegate finds it with a dynamic cast
+ * of the widget. An editor never writes a parameter itself; it shows snapshots and hands out what the user
+ * entered.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AbstractItemEditor
+{
+public:
+    /*! \brief The parameter of a row and the snapshot to show; the snapshot may be null. */
+    struct EditorData
+    {
+        QSharedPointer<ParameterCollection::IParameter> ptrParameter;
+        QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData;
+    };
+
+    AbstractItemEditor() = default;
+    AbstractItemEditor(const AbstractItemEditor &) = default;
+    AbstractItemEditor &operator=(const AbstractItemEditor &) = default;
+
+    /*! Shows the snapshot. Never throws, and never takes away what is being typed. */
+    virtual void setEditorData(EditorData data) = 0;
+
+    /*! Returns what the user entered since the last snapshot, once; invalid when there is nothing to write.
+     */
+    virtual QVariant editorData() = 0;
+
+    virtual ~AbstractItemEditor();
+};

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "checkboxeditor.h"
+
+#include "editordatakeeper.h"
+#include "editorhelpers.h"
+
+#include <platform/core/guard.h>
+
+using namespace ParameterCollection;
+
+// Unlike the categories of the other editors: existing logging rules name it so.
+ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTree.checkBoxEditor")
+
+CheckBoxEditor::CheckBoxEditor(QWidget *parent)
+    : QCheckBox(parent)
+    , m_keeper(new EditorDataKeeper(this, this))
+{
+    setAutoFillBackground(true);
+}
+
+CheckBoxEditor::~CheckBoxEditor() = default;
+
+void CheckBoxEditor::setEditorData(EditorData data)
+{
+    if (!data.ptrParameterData || data.ptrParameterData->type != ParameterType::Boolean) {
+        return;
+    }
+    const auto headline = [&data] {
+        return QStringLiteral("!! Failed to initialize checkbox data for node %1")
+            .arg(EditorHelpers::nodeName(*data.ptrParameter));
+    };
+    Core::guardedRun({logCategory(), "CheckBoxEditor::setEditorData"}, headline, [this, &data] {
+        const auto &snapshot = static_cast<const BooleanParameterData &>(*data.ptrParameterData);
+        m_keeper->keep(data);
+        setChecked(snapshot.value);
+        m_settled = snapshot.value;
+        setEnabled(EditorHelpers::canBeChanged(snapshot));
+    });
+}
+
+QVariant CheckBoxEditor::editorData()
+{
+    if (m_settled == isChecked()) {
+        return {};
+    }
+    m_settled = isChecked();
+    m_keeper->showAgainAfterCommit();
+    return isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QCheckBox>
+
+#include <optional>
+
+class EditorDataKeeper;
+
+/*! \brief Edits a boolean feature; hands out "1" or "0". */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT CheckBoxEditor : public QCheckBox, public AbstractItemEditor
+{
+    Q_OBJECT
+
+public:
+    explicit CheckBoxEditor(QWidget *parent);
+    ~CheckBoxEditor() override;
+
+    void setEditorData(EditorData data) override;
+    QVariant editorData() override;
+
+private:
+    EditorDataKeeper *m_keeper;
+    std::optional<bool> m_settled; //!< what was last shown or handed out
+};

@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "doublecomboslider.h"
+
+#include "editorhelpers.h"
+#include "spinboxeventcatcher.h"
+#include "zeltoqtdoublespinbox.h"
+
+#include <QSlider>
+
+#include <limits>
+
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleComboSlider")
+
+namespace {
+
+// What Qt asks for on Page Up and Page Down.
+constexpr int pageKeySteps = 10;
+
+} // namespace
+
+DoubleComboSlider::DoubleComboSlider(QWidget *parent)
+    : QWidget(parent)
+    , m_spinBox(new ZeltoQtDoubleSpinBox(this))
+    , m_slider(new QSlider(Qt::Horizontal, this))
+    , m_eventCatcher(new SpinBoxEventCatcher(this))
+{
+    EditorHelpers::layOutComboSlider(this, m_spinBox, m_slider);
+    setEditBoxWidth(EditorHelpers::editBoxWidth(*m_spinBox));
+    m_spinBox->setAccelerated(true);
+    m_spinBox->installEventFilter(m_eventCatcher);
+    m_slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    connect(m_spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
+    connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
+}
+
+DoubleComboSlider::~DoubleComboSlider() = default;
+
+void DoubleComboSlider::setValue(double value)
+{
+    m_spinBox->setValue(value);
+}
+
+void DoubleComboSlider::setIntValue(int position)
+{
+    m_slider->setValue(position);
+}
+
+void DoubleComboSlider::setMinimum(double minimum)
+{
+    m_minRangeLimit = minimum;
+    // Before the spin box has the minimum, unlike in setMaximum(): the tip still tells the old one.
+    updateToolTip();
+    m_spinBox->setMinimum(minimum);
+}
+
+void DoubleComboSlider::setIntMinimum(int minimum)
+{
+    m_slider->setMinimum(minimum);
+    reportIntRange();
+}
+
+void DoubleComboSlider::setMaximum(double maximum)
+{
+    m_maxRangeLimit = maximum;
+    m_spinBox->setMaximum(maximum);
+    updateToolTip();
+}
+
+void DoubleComboSlider::setIntMaximum(int maximum)
+{
+    m_slider->setMaximum(maximum);
+    reportIntRange();
+}
+
+void DoubleComboSlider::setDecimals(int decimals)
+{
+    m_spinBox->setDecimals(decimals);
+    updateToolTip();
+}
+
+void DoubleComboSlider::setRange(double minimum, double maximum)
+{
+    m_minRangeLimit = minimum;
+    m_maxRangeLimit = maximum;
+    m_spinBox->setRange(minimum, maximum);
+    updateToolTip();
+}
+
+void DoubleComboSlider::setIntRange(int minimum, int maximum)
+{
+    m_slider->setRange(minimum, maximum);
+    reportIntRange();
+}
+
+void DoubleComboSlider::reportIntRange()
+{
+    updateToolTip();
+    emit rangeChanged(m_slider->minimum(), m_slider->maximum());
+}
+
+void DoubleComboSlider::setIntIncrement(int increment)
+{
+    m_intIncrement = increment;
+}
+
+void DoubleComboSlider::setPageStep()
+{
+    int step = EditorHelpers::pageStep(m_slider->minimum(), m_slider->maximum(), m_intIncrement);
+    if (m_slider->singleStep() != 0 && m_intIncrement != 0) {
+        const qint64 distance = EditorHelpers::wrappingDifference(step, m_slider->minimum());
+        step = EditorHelpers::saturated(step - distance % m_intIncrement);
+    }
+    m_slider->setPageStep(step);
+    updateToolTip();
+}
+
+void DoubleComboSlider::setRangeStepAndIncrement(int minIntRangeLimit, int maxIntRangeLimit, int intIncrement)
+{
+    setIntRange(minIntRangeLimit, maxIntRangeLimit);
+    setIntIncrement(intIncrement);
+    setPageStep();
+}
+
+void DoubleComboSlider::setRangeStepAndIncrement(double minRangeLimit, double maxRangeLimit, int intIncrement)
+{
+    setRange(minRangeLimit, maxRangeLimit);
+    setIntIncrement(intIncrement);
+    setPageStep();
+}
+
+void DoubleComboSlider::initControls(double minRangeLimit, double maxRangeLimit, int intValue,
+                                     int minIntRangeLimit, int maxIntRangeLimit, int intIncrement)
+{
+    setRange(minRangeLimit, maxRangeLimit);
+    m_slider->setSingleStep(intIncrement);
+    setIntValue(intValue);
+    setRangeStepAndIncrement(minIntRangeLimit, maxIntRangeLimit, intIncrement);
+}
+
+double DoubleComboSlider::value() const
+{
+    return m_spinBox->value();
+}
+
+double DoubleComboSlider::minimum() const
+{
+    return m_spinBox->minimum();
+}
+
+double DoubleComboSlider::maximum() const
+{
+    return m_spinBox->maximum();
+}
+
+int DoubleComboSlider::decimals() const
+{
+    return m_spinBox->decimals();
+}
+
+int DoubleComboSlider::intValue() const
+{
+    return m_slider->value();
+}
+
+int DoubleComboSlider::intMinimum() const
+{
+    return m_slider->minimum();
+}
+
+int DoubleComboSlider::intMaximum() const
+{
+    return m_slider->maximum();
+}
+
+int DoubleComboSlider::intIncrement() const
+{
+    return m_intIncrement;
+}
+
+int DoubleComboSlider::editBoxWidth() const
+{
+    return m_editBoxWidth;
+}
+
+void DoubleComboSlider::setEditBoxWidth(int width)
+{
+    m_editBoxWidth = width;
+    m_spinBox->setMinimumWidth(width);
+}
+
+void DoubleComboSlider::enableUpdate(bool enable)
+{
+    m_updateExpected = enable;
+}
+
+bool DoubleComboSlider::isUpdateExspected() const
+{
+    return m_updateExpected;
+}
+
+bool DoubleComboSlider::hasFocus() const
+{
+    return m_hasFocus;
+}
+
+bool DoubleComboSlider::checkIfLimitsChanged(int minimum, int maximum, int increment) const
+{
+    return minimum != m_slider->minimum() || maximum != m_slider->maximum() || increment != m_intIncrement;
+}
+
+bool DoubleComboSlider::checkIfLimitsChanged(double minimum, double maximum, int increment) const
+{
+    return minimum != m_minRangeLimit || maximum != m_maxRangeLimit || increment != m_intIncrement;
+}
+
+int DoubleComboSlider::trimSliderValue(int position) const
+{
+    return m_slider->singleStep() == 0
+        ? position
+        : EditorHelpers::trimmedToGrid(position, m_slider->minimum(), m_intIncrement);
+}
+
+QSlider *DoubleComboSlider::slider() const
+{
+    return m_slider;
+}
+
+ZeltoQtDoubleSpinBox *DoubleComboSlider::spinBox() const
+{
+    return m_spinBox;
+}
+
+void DoubleComboSlider::updateToolTip()
+{
+    EditorHelpers::guardedToolTip(logCategory(), [this] {
+        const QString text =
+            tr("Range: %1..%2").arg(m_spinBox->numberText(minimum()), m_spinBox->numberText(maximum()));
+        m_slider->setToolTip(text);
+        m_spinBox->setToolTip(text);
+        setToolTip(text);
+    });
+}
+
+void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
+{
+    m_updateExpected = true;
+    const qint64 distance = steps == pageKeySteps ? m_slider->pageStep()
+        : steps == -pageKeySteps                  ? -qint64(m_slider->pageStep())
+                                                  : qint64(steps) * m_intIncrement;
+    m_slider->setValue(EditorHelpers::saturated(m_slider->value() + distance));
+}
+
+void DoubleComboSlider::onSpinBoxFocusEventTriggered(bool focus)
+{
+    m_hasFocus = focus;
+    m_updateExpected = !focus;
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "editordatakeeper.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QWidget>
+
+namespace {
+
+// Longer than a snapshot takes after a write, so that a successful change does not flicker.
+constexpr int answerMilliseconds = 500;
+
+} // namespace
+
+EditorDataKeeper::EditorDataKeeper(AbstractItemEditor *editor, QWidget *input, QLineEdit *lineEdit)
+    : QObject(input)
+    , m_editor(editor)
+    , m_lineEdit(lineEdit)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, SIGNAL(timeout()), this, SLOT(showAgain()));
+    input->installEventFilter(this);
+}
+
+void EditorDataKeeper::keep(const AbstractItemEditor::EditorData &data)
+{
+    m_timer.stop();
+    m_data = data;
+}
+
+bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        // Filters that come later, such as the delegate's, would see Escape first.
+        watched->installEventFilter(this);
+        break;
+    case QEvent::FocusOut:
+        showAgainAfterCommit();
+        break;
+    case QEvent::KeyPress:
+        if (m_lineEdit && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+            // Setting the text forgets the typing, which would otherwise be kept, and its undo steps.
+            m_lineEdit->setText(m_lineEdit->text());
+            showAgain();
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void EditorDataKeeper::showAgainAfterCommit()
+{
+    m_timer.start(answerMilliseconds);
+}
+
+void EditorDataKeeper::showAgainSoon()
+{
+    m_timer.start(0);
+}
+
+void EditorDataKeeper::showAgain()
+{
+    if (m_data.ptrParameter) {
+        m_editor->setEditorData(m_data);
+    }
+}

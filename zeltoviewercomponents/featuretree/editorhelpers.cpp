@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "editorhelpers.h"
+
+#include "wheelguard.h"
+
+#include <QAbstractSpinBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <limits>
+
+namespace EditorHelpers {
+
+namespace {
+
+int wrapped(quint32 bits)
+{
+    return static_cast<int>(bits);
+}
+
+} // namespace
+
+int saturated(qint64 value)
+{
+    return static_cast<int>(
+        std::clamp<qint64>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+int wrappingDifference(int a, int b)
+{
+    return wrapped(static_cast<quint32>(a) - static_cast<quint32>(b));
+}
+
+int pageStep(int minimum, int maximum, int increment)
+{
+    const int difference = wrappingDifference(maximum, minimum);
+    const int distance = difference < 0 ? wrappingDifference(0, difference) : difference;
+    return std::max(distance / 20, wrapped(2U * static_cast<quint32>(increment)));
+}
+
+int trimmedToGrid(int value, int minimum, int increment)
+{
+    if (increment == 0) {
+        return value;
+    }
+    return saturated(value - (qint64(value) - minimum) % increment);
+}
+
+double snappedToGrid(double value, double minimum, double maximum, double increment)
+{
+    const double limited = std::clamp(value, minimum, maximum);
+    const double steps = std::round((limited - minimum) / increment);
+    // Beyond 2^53 steps neighbouring grid points cannot be told apart.
+    if (!(increment > 0.0) || !(steps < 9007199254740992.0)) {
+        return limited;
+    }
+    const auto point = [=](double step) { return withoutNoise(std::fma(step, increment, minimum)); };
+    const double nearest = point(steps);
+    return std::max(nearest <= maximum ? nearest : point(steps - 1.0), minimum);
+}
+
+double withoutNoise(double value)
+{
+    return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
+}
+
+FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data)
+{
+    using Limits = std::numeric_limits<double>;
+    FloatLimits limits{data.minimum, data.maximum, data.increment};
+    if (data.minimum > data.maximum) {
+        limits.minimum = limits.maximum = std::isfinite(data.value) ? data.value : 0.0;
+    }
+    limits.minimum = std::isfinite(limits.minimum) ? limits.minimum : Limits::lowest();
+    limits.maximum = std::isfinite(limits.maximum) ? limits.maximum : Limits::max();
+    limits.increment = std::isfinite(limits.increment) && limits.increment > 0.0 ? limits.increment : 0.0;
+    return limits;
+}
+
+void logInconsistency(Core::Logging::CategoryId category, const char *function,
+                      const ParameterCollection::IParameter &parameter,
+                      const ParameterCollection::FloatParameterData &data)
+{
+    const bool isValueGood = !data.isReadable || (data.minimum <= data.value && data.value <= data.maximum);
+    if (std::isfinite(data.minimum) && std::isfinite(data.maximum) && data.minimum <= data.maximum
+        && isValueGood) {
+        return;
+    }
+    Core::Logging::createLogEntry(
+        Core::Logging::ELogLevel::Debug, category,
+        QStringLiteral("%1: Feature %2: value %3 and limits %4..%5 do not fit together")
+            .arg(QLatin1String(function), nodeName(parameter))
+            .arg(data.value)
+            .arg(data.minimum)
+            .arg(data.maximum));
+}
+
+QString nodeName(const ParameterCollection::IParameter &parameter)
+{
+    return QString::fromUtf8(parameter.name().toUtf8());
+}
+
+bool canBeChanged(const ParameterCollection::ParameterData &data)
+{
+    return data.isImplemented && data.isWritable;
+}
+
+void guardedToolTip(Core::Logging::CategoryId category, const std::function<void()> &work)
+{
+    try {
+        work();
+    } catch (const std::exception &exception) { // GenICam::GenericException is one
+        Core::Logging::createLogEntry(
+            Core::Logging::ELogLevel::Debug, category,
+            QStringLiteral("Error creating tooltip text! Err='%1'").arg(QString::fromUtf8(exception.what())));
+    }
+}
+
+void layOutComboSlider(QWidget *editor, QAbstractSpinBox *spinBox, QSlider *slider)
+{
+    auto *const layout = new QHBoxLayout(editor);
+    layout->setContentsMargins(0, 1, 0, 1);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHorizontalStretch(10);
+    slider->setSizePolicy(policy);
+    spinBox->setSizePolicy(QSizePolicy::Fixed, spinBox->sizePolicy().verticalPolicy());
+    layout->addWidget(spinBox);
+    layout->addWidget(slider);
+    layout->addSpacing(4);
+    // One tab stop for each editor; the slider's keys work after a click on it.
+    slider->setFocusPolicy(Qt::ClickFocus);
+    setUpComposite(editor, spinBox);
+    new WheelGuard(editor, slider);
+}
+
+void setUpComposite(QWidget *editor, QAbstractSpinBox *spinBox)
+{
+    spinBox->setFocusPolicy(Qt::StrongFocus);
+    editor->setFocusProxy(spinBox);
+    editor->setFocusPolicy(Qt::StrongFocus);
+    editor->setAutoFillBackground(true);
+    new WheelGuard(editor, spinBox);
+}
+
+int editBoxWidth(const QAbstractSpinBox &spinBox)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(&spinBox);
+    option.subControls = QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown | QStyle::SC_SpinBoxFrame;
+    const QFontMetrics metrics = spinBox.fontMetrics();
+    const QSize contents(metrics.horizontalAdvance(QStringLiteral("999999999999")), metrics.height());
+    return spinBox.style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, &spinBox).width();
+}
+
+QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox)
+{
+    return spinBox.findChild<QLineEdit *>();
+}
+
+bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
+{
+    return owner.hasFocus() && lineEdit.isModified();
+}
+
+void selectAllLater(QLineEdit *lineEdit)
+{
+    QMetaObject::invokeMethod(lineEdit, "selectAll", Qt::QueuedConnection);
+}
+
+void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
+                    const std::function<void(QKeyEvent *)> &press)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        return;
+    }
+    if (event->key() != Qt::Key_Escape) {
+        return;
+    }
+    event->accept();
+    // A line edit undoes typing and deleting one by one; the user wants back what was there before both.
+    do {
+        QKeyEvent undo(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(), false, 1);
+        press(&undo);
+    } while (lineEdit.isUndoAvailable());
+}
+
+TypedText::TypedText(QLineEdit *lineEdit)
+    : m_lineEdit(lineEdit)
+    , m_text(lineEdit->text())
+    , m_cursor(lineEdit->cursorPosition())
+{
+}
+
+TypedText::~TypedText()
+{
+    if (m_lineEdit->text() != m_text) {
+        m_lineEdit->setText(m_text);
+        m_lineEdit->setCursorPosition(m_cursor);
+    }
+    m_lineEdit->setModified(true);
+}
+
+} // namespace EditorHelpers

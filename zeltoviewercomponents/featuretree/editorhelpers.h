@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/core/logging.h>
+#include <platform/parametercollection/parameterdata.h>
+#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+
+#include <QString>
+
+#include <functional>
+
+class QAbstractSpinBox;
+class QKeyEvent;
+class QLineEdit;
+class QSlider;
+class QWidget;
+
+/*! \brief What the value editors and their controls share. */
+namespace EditorHelpers {
+
+/*! Returns \a value, limited to the signed 32-bit range of Qt's integer controls. */
+int saturated(qint64 value);
+
+/*! Returns \a a - \a b as 32-bit arithmetic that wraps around. */
+int wrappingDifference(int a, int b);
+
+/*! Returns the larger of a twentieth of the distance of the limits and twice \a increment, in 32-bit
+ * arithmetic that wraps around: the full 32-bit range counts as narrow. */
+int pageStep(int minimum, int maximum, int increment);
+
+/*! Returns \a value moved toward \a minimum onto the grid that starts there; as it is when \a increment is 0.
+ */
+int trimmedToGrid(int value, int minimum, int increment);
+
+/*! Returns the point of the grid minimum, minimum + increment, ... that is nearest to \a value and inside the
+ * limits. Without a usable increment \a value is only limited. The limits are finite and in order. */
+double snappedToGrid(double value, double minimum, double maximum, double increment);
+
+/*! Returns \a value without the binary noise behind its 15th significant digit. */
+double withoutNoise(double value);
+
+/*! \brief Limits that a control can work with: finite and in order; the increment is 0 when there is none. */
+struct FloatLimits
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+    double increment = 0.0;
+};
+
+/*! Returns the limits of \a data. A limit that is not finite becomes the farthest double. Limits in the wrong
+ * order leave only the value itself, so that nothing can be entered. */
+FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
+
+/*! Logs to \a category when the limits of \a data are not finite, not in order, or do not contain the value.
+ */
+void logInconsistency(Core::Logging::CategoryId category, const char *function,
+                      const ParameterCollection::IParameter &parameter,
+                      const ParameterCollection::FloatParameterData &data);
+
+/*! Returns the name of \a parameter as log entries show it. */
+QString nodeName(const ParameterCollection::IParameter &parameter);
+
+/*! Returns whether the tree may change what \a data shows: implemented and writable. */
+bool canBeChanged(const ParameterCollection::ParameterData &data);
+
+/*! Runs \a work, which sets a tool tip; a GenICam or standard exception is logged to \a category and ends it.
+ */
+void guardedToolTip(Core::Logging::CategoryId category, const std::function<void()> &work);
+
+/*! Puts \a spinBox and \a slider side by side into \a editor, which hands its focus to the spin box. */
+void layOutComboSlider(QWidget *editor, QAbstractSpinBox *spinBox, QSlider *slider);
+
+/*! Makes \a editor hand its focus to \a spinBox, cover what is below it and leave the wheel to the view. */
+void setUpComposite(QWidget *editor, QAbstractSpinBox *spinBox);
+
+/*! Returns the width that a spin box needs for twelve digits. */
+int editBoxWidth(const QAbstractSpinBox &spinBox);
+
+/*! Returns the line edit inside \a spinBox. */
+QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
+
+/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has. */
+bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
+
+/*! Selects the text of \a lineEdit when the current event, such as the click that gave the focus, is over. */
+void selectAllLater(QLineEdit *lineEdit);
+
+/*! Makes the press of Escape mean "undo" and that of Return or Enter stop here, so that neither closes the
+ * editor around a spin box. To be called after the spin box itself saw \a event; \a press hands it a further
+ * key press. */
+void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
+                    const std::function<void(QKeyEvent *)> &press);
+
+/*! \brief Leaves the text that is being typed into a line edit as it is while the range around it changes. */
+class TypedText
+{
+public:
+    explicit TypedText(QLineEdit *lineEdit);
+    ~TypedText();
+    TypedText(const TypedText &) = delete;
+    TypedText &operator=(const TypedText &) = delete;
+
+private:
+    QLineEdit *m_lineEdit;
+    QString m_text;
+    int m_cursor;
+};
+
+} // namespace EditorHelpers

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "enumeditor.h"
+
+#include "editordatakeeper.h"
+#include "editorhelpers.h"
+#include "wheelguard.h"
+
+#include <platform/core/guard.h>
+
+#include <QApplication>
+#include <QEvent>
+
+using namespace ParameterCollection;
+using Core::Logging::ELogLevel;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.enumEditor")
+
+namespace {
+
+constexpr char setEditorDataName[] = "EnumEditor::setEditorData";
+
+} // namespace
+
+EnumEditor::EnumEditor(QWidget *parent)
+    : QComboBox(parent)
+    , m_keeper(new EditorDataKeeper(this, this))
+{
+    setEditable(false);
+    setStyleSheet(QStringLiteral(
+        "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAutoFillBackground(true);
+    new WheelGuard(this, this);
+    connect(this, SIGNAL(activated(int)), this, SLOT(onActivated()));
+}
+
+EnumEditor::~EnumEditor()
+{
+    if (isPopupVisible()) {
+        // Removes nothing: the filter lapses with this object.
+        m_watchedPopup->removeEventFilter(nullptr);
+    }
+}
+
+void EnumEditor::setEditorData(EditorData data)
+{
+    const auto headline = [&data] {
+        return QStringLiteral("!! Failed to retrieve entries for enumeration %1")
+            .arg(EditorHelpers::nodeName(*data.ptrParameter));
+    };
+    Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
+        if (isPopupVisible()) {
+            m_keeper->keep(data);
+        } else {
+            showSnapshot(data);
+        }
+    });
+}
+
+void EnumEditor::showSnapshot(const EditorData &data)
+{
+    clear();
+    if (!data.ptrParameterData || data.ptrParameterData->type != ParameterType::Enumeration) {
+        Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(),
+                                      QStringLiteral("%1 is called with non-enumeration node????")
+                                          .arg(QLatin1String(setEditorDataName)));
+        return;
+    }
+    m_keeper->keep(data);
+    const auto &snapshot = static_cast<const EnumParameterData &>(*data.ptrParameterData);
+    for (qsizetype i = 0; i < snapshot.symbolicNames.size(); ++i) {
+        insertItem(count(), QIcon(), snapshot.displayTexts.at(i), snapshot.symbolicNames.at(i));
+    }
+    setCurrentIndex(shownIndex(data));
+    m_settled = currentData(Qt::UserRole);
+    m_activated = false;
+    setEnabled(EditorHelpers::canBeChanged(snapshot));
+}
+
+int EnumEditor::shownIndex(const EditorData &data) const
+{
+    if (!data.ptrParameterData->isReadable) {
+        return -1;
+    }
+    const QString value = data.ptrParameterData->valueString;
+    const int index = findData(value, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) {
+        Core::Logging::createLogEntry(
+            ELogLevel::Debug, logCategory(),
+            QStringLiteral("%1: %2. No entry in the combo box matches the current value %3")
+                .arg(QLatin1String(setEditorDataName), EditorHelpers::nodeName(*data.ptrParameter), value));
+    }
+    return index;
+}
+
+QVariant EnumEditor::editorData()
+{
+    const QVariant chosen = currentData(Qt::UserRole);
+    if (!m_activated && m_settled == chosen) {
+        return {};
+    }
+    m_settled = chosen;
+    m_activated = false;
+    m_keeper->showAgainAfterCommit();
+    return chosen;
+}
+
+void EnumEditor::showPopup()
+{
+    QComboBox::showPopup();
+    m_watchedPopup = QApplication::activePopupWidget();
+    if (m_watchedPopup) {
+        m_watchedPopup->installEventFilter(this);
+    }
+}
+
+void EnumEditor::onActivated()
+{
+    m_activated = true;
+}
+
+bool EnumEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_watchedPopup || event->type() != QEvent::Hide) {
+        return QObject::eventFilter(watched, event);
+    }
+    m_watchedPopup->removeEventFilter(this);
+    m_watchedPopup = nullptr;
+    // The list hides before the choice arrives; the entries must stay until then.
+    m_keeper->showAgainSoon();
+    // The popup does not see its own hide event.
+    return true;
+}
+
+bool EnumEditor::isPopupVisible() const
+{
+    return m_watchedPopup;
+}

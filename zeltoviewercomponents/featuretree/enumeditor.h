@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QComboBox>
+#include <QPointer>
+
+#include <optional>
+
+class EditorDataKeeper;
+
+/*! \brief Edits an enumeration feature; hands out the symbolic name of the chosen entry.
+ *
+ * A refresh that comes while the list is open waits until the list hides.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT EnumEditor : public QComboBox, public AbstractItemEditor
+{
+    Q_OBJECT
+
+public:
+    explicit EnumEditor(QWidget *parent);
+    ~EnumEditor() override;
+
+    void setEditorData(EditorData data) override;
+    QVariant editorData() override;
+    void showPopup() override;
+
+private slots:
+    void onActivated();
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool isPopupVisible() const;
+    void showSnapshot(const EditorData &data);
+    int shownIndex(const EditorData &data) const;
+
+    EditorDataKeeper *m_keeper;
+    QPointer<QWidget> m_watchedPopup; //!< the list while it is open
+    std::optional<QVariant> m_settled; //!< what was last shown or handed out
+    bool m_activated = false;
+};

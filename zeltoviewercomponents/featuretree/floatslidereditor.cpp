@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "floatslidereditor.h"
+
+#include "editordatakeeper.h"
+#include "editorhelpers.h"
+#include "zeltoqtdoublespinbox.h"
+
+#include <platform/core/guard.h>
+
+#include <QLineEdit>
+#include <QLocale>
+#include <QSlider>
+
+#include <cmath>
+#include <utility>
+
+using namespace ParameterCollection;
+using Core::Logging::ELogLevel;
+
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatSliderEditor")
+
+namespace {
+
+constexpr char setEditorDataName[] = "FloatSliderEditor::setEditorData";
+
+struct Positions
+{
+    int minimum = 0;
+    int maximum = 1000;
+    int step = 1;
+};
+
+// Returns the positions that the alias gives; a thousand when it gives none.
+Positions aliasPositions(const IParameterCollection &collection, const QString &name)
+{
+    const auto alias = collection.parameter(name + QLatin1String("/Alias"));
+    const auto data = alias ? alias->parameterData() : nullptr;
+    if (!data || data->type != ParameterType::Integer) {
+        return {};
+    }
+    const auto &integer = static_cast<const IntegerParameterData &>(*data);
+    const Positions positions{EditorHelpers::saturated(integer.minimum),
+                              EditorHelpers::saturated(integer.maximum),
+                              EditorHelpers::saturated(integer.increment)};
+    return positions.minimum < positions.maximum && positions.step > 0 ? positions : Positions();
+}
+
+} // namespace
+
+FloatSliderEditor::FloatSliderEditor(QSharedPointer<IParameterCollection> collection, QWidget *parent)
+    : TwoModeDoubleComboSlider(parent)
+    , m_collection(std::move(collection))
+    , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
+{
+    // What came in during a drag was not shown.
+    connect(slider(), SIGNAL(sliderReleased()), m_keeper, SLOT(showAgainAfterCommit()));
+    // Before any delegate connects: it asks for the value from within the signal.
+    connect(this, SIGNAL(boxValueChanged()), this, SLOT(onBoxValueChanged()));
+}
+
+FloatSliderEditor::~FloatSliderEditor() = default;
+
+void FloatSliderEditor::setEditorData(EditorData data)
+{
+    const auto parameter = qSharedPointerObjectCast<IFloatParameter>(data.ptrParameter);
+    if (!parameter || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Float) {
+        Core::Logging::createLogEntry(
+            ELogLevel::Debug, logCategory(),
+            QStringLiteral("%1 is called with non-float node????").arg(QLatin1String(setEditorDataName)));
+        return;
+    }
+    const auto headline = [&parameter] {
+        return QStringLiteral("Failed to update the floating-point value editor for node %1")
+            .arg(EditorHelpers::nodeName(*parameter));
+    };
+    Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
+        m_keeper->keep(data);
+        const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
+        EditorHelpers::logInconsistency(logCategory(), setEditorDataName, *data.ptrParameter, snapshot);
+        showSnapshot(data.ptrParameter->name(), snapshot);
+    });
+}
+
+void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
+{
+    setEnabled(EditorHelpers::canBeChanged(snapshot));
+    spinBox()->showFeatureValues(snapshot.displayNotation);
+    if (isBeingTyped()) {
+        const EditorHelpers::TypedText typed(EditorHelpers::lineEditOf(*spinBox()));
+        showLimits(name, snapshot);
+        return;
+    }
+    showLimits(name, snapshot);
+    if (isBeingEdited()) {
+        return;
+    }
+    const bool isNumber = std::isfinite(snapshot.value);
+    spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
+                                 : isNumber       ? QString()
+                                                  : spinBox()->locale().toString(snapshot.value));
+    if (isNumber) {
+        showValue(snapshot.value);
+    }
+    m_isChanged = false;
+}
+
+void FloatSliderEditor::showLimits(const QString &name, const FloatParameterData &snapshot)
+{
+    const EditorHelpers::FloatLimits limits = EditorHelpers::usableLimits(snapshot);
+    const Positions positions = aliasPositions(*m_collection, name);
+    setMode(snapshot.representation == QLatin1String("Logarithmic")
+                ? ETwoModeDoubleComboSliderMode::Logarithmic
+                : ETwoModeDoubleComboSliderMode::Linear);
+    setIncrement(limits.increment);
+    setLimits(limits.minimum, limits.maximum, positions.minimum, positions.maximum, positions.step);
+}
+
+QVariant FloatSliderEditor::editorData()
+{
+    if (!m_isChanged) {
+        return {};
+    }
+    m_isChanged = false;
+    m_keeper->showAgainAfterCommit();
+    return QString::number(value(), 'g', QLocale::FloatingPointShortest);
+}
+
+void FloatSliderEditor::onBoxValueChanged()
+{
+    m_isChanged = true;
+}

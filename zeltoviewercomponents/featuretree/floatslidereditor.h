@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/parametercollection/iparametercollection.h>
+#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include <zeltoviewercomponents/featuretree/twomodedoublecomboslider.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+class EditorDataKeeper;
+
+/*! \brief Edits a floating-point feature with a spin box and a slider.
+ *
+ * The slider has the range and the step of the feature's alias, the integer called by the feature's name and
+ * "/Alias"; the camera's answer to a write decides where the slider stands.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatSliderEditor : public TwoModeDoubleComboSlider,
+                                                             public AbstractItemEditor
+{
+    Q_OBJECT
+
+public:
+    FloatSliderEditor(QSharedPointer<ParameterCollection::IParameterCollection> collection, QWidget *parent);
+    ~FloatSliderEditor() override;
+
+    void setEditorData(EditorData data) override;
+    QVariant editorData() override;
+
+private slots:
+    void onBoxValueChanged();
+
+private:
+    void showSnapshot(const QString &name, const ParameterCollection::FloatParameterData &snapshot);
+    void showLimits(const QString &name, const ParameterCollection::FloatParameterData &snapshot);
+
+    QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
+    EditorDataKeeper *m_keeper;
+    bool m_isChanged = false; //!< committed, not handed out yet
+};

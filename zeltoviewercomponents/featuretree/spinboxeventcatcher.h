@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QObject>
+
+/*! \brief Reports the focus changes of the widgets it is installed on; lets every event through. */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SpinBoxEventCatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SpinBoxEventCatcher(QObject *parent = nullptr);
+    ~SpinBoxEventCatcher() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    /*! The focus came (true) or went. */
+    void focusEvent(bool focus);
+};

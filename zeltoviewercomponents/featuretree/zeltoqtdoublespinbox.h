@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/genicam/genapi.h>
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QDoubleSpinBox>
+
+/*! \brief A spin box for doubles that reports step requests instead of stepping.
+ *
+ * It shows plain decimals until showFeatureValues() makes it show as many digits as a feature's values need.
+ * It reads fixed and exponent notation in its locale, without group separators: what could mean two different
+ * numbers is refused.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ZeltoQtDoubleSpinBox : public QDoubleSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit ZeltoQtDoubleSpinBox(QWidget *parent = nullptr);
+    ~ZeltoQtDoubleSpinBox() override;
+
+    double pageStep() const;
+    void setPageStep(double pageStep);
+
+    /*! Shows values with the digits that identify them, in \a notation. */
+    void showFeatureValues(GenApi::EDisplayNotation notation);
+
+    /*! Shows \a text instead of the value until the user types; an empty text shows the value. */
+    void setSubstitute(const QString &text);
+    bool hasSubstitute() const;
+
+    /*! Returns \a value as the spin box shows numbers. */
+    QString numberText(double value) const;
+
+    /*! Emits stepTriggered(); the value stays. */
+    void stepBy(int steps) override;
+    QString textFromValue(double value) const override;
+    double valueFromText(const QString &text) const override;
+    QValidator::State validate(QString &text, int &pos) const override;
+    void fixup(QString &text) const override;
+
+signals:
+    void stepTriggered(int steps);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    StepEnabled stepEnabled() const override;
+
+private slots:
+    void onTextEdited();
+
+private:
+    QLocale strictLocale() const;
+
+    double m_pageStep = 0.0;
+    GenApi::EDisplayNotation m_notation = GenApi::UndefinedDisplayNotation;
+    QString m_substitute;
+};

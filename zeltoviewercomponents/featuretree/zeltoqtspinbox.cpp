@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "zeltoqtspinbox.h"
+
+#include "editorhelpers.h"
+
+#include <QKeyEvent>
+
+ZeltoQtSpinBox::ZeltoQtSpinBox(QWidget *parent)
+    : QSpinBox(parent)
+{
+}
+
+ZeltoQtSpinBox::~ZeltoQtSpinBox() = default;
+
+void ZeltoQtSpinBox::setPageStep(int pageStep)
+{
+    m_pageStep = pageStep;
+}
+
+void ZeltoQtSpinBox::stepBy(int steps)
+{
+    if (m_pageKeyPressed) {
+        m_pageKeyPressed = false;
+        steps = steps < 0 ? -m_pageStep : m_pageStep;
+    }
+    QAbstractSpinBox::stepBy(steps);
+    emit editingFinished();
+}
+
+void ZeltoQtSpinBox::keyPressEvent(QKeyEvent *event)
+{
+    m_pageKeyPressed = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+    QAbstractSpinBox::keyPressEvent(event);
+    // At a limit the page key makes no step, and the next arrow key must not make its page step.
+    m_pageKeyPressed = false;
+    EditorHelpers::finishKeyPress(event, *lineEdit(),
+                                  [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
+}
