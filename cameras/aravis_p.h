@@ -6,7 +6,5 @@
 // A GLib header has a member called "signals", which is a macro of Qt.
 #pragma push_macro("signals")
 #undef signals
-extern "C" {
 #include <arv.h>
-}
 #pragma pop_macro("signals")

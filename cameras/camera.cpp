@@ -11,17 +11,21 @@
 #include "simulatedregisters_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/logging.h>
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <array>
 #include <future>
+#include <mutex>
 
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::Exception::BaseException;
 
 namespace Cameras {
+
+ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
@@ -195,9 +199,26 @@ Session::Source liveSource(const QString &id, const std::weak_ptr<Session> &sess
     }
 }
 
+void logEngineMessage(const gchar *, GLogLevelFlags, const gchar *message, gpointer)
+{
+    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Debug, logCategory(), QString::fromUtf8(message));
+}
+
+// What the engine complains about is told by exceptions and snapshots; standard error is not its place.
+void routeEngineMessages()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        for (const char *domain : {static_cast<const char *>(nullptr), "XML", "Aravis", "ArvGc"}) {
+            g_log_set_handler(domain, GLogLevelFlags(G_LOG_LEVEL_MASK), logEngineMessage, nullptr);
+        }
+    });
+}
+
 std::shared_ptr<Session> started(const QString &name, const std::shared_ptr<Session> &session,
                                  const Session::Opener &opener)
 {
+    routeEngineMessages();
     try {
         session->start(opener);
     } catch (const std::exception &exception) {
@@ -228,6 +249,7 @@ Camera::~Camera()
 
 QList<CameraInfoPtr> Camera::list()
 {
+    routeEngineMessages();
     arv_update_device_list();
     QList<CameraInfoPtr> found;
     for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
