@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cameras/cameras_export.h>
+#include <platform/core/camerainfo.h>
+#include <platform/parametercollection/iparametercollection.h>
+
+#include <QList>
+#include <QObject>
+#include <QSharedPointer>
+#include <QString>
+
+#include <memory>
+
+namespace Cameras {
+
+class Session;
+
+/*! \brief One node map of an open camera, ready to be shown. */
+struct NodeMap
+{
+    QString name; //!< the first part of full names, such as "@CameraDevice"
+    QString title; //!< for people
+    QSharedPointer<ParameterCollection::IParameterCollection> collection;
+    bool usesUtf8 = true; //!< texts of the node map are UTF-8, else Latin-1
+};
+
+/*! \brief An open camera: live, or a camera description on simulated registers.
+ *
+ * Register traffic runs on a worker thread of the camera's own; writes are waited for, at most a second. The
+ * collections are handed over with all snapshots read, belong to the thread that opened the camera, and stay
+ * safe to use when they outlive it: their snapshots remain, their other operations throw.
+ *
+ * All ways to open a camera throw Core::Exception::BaseException with one line that names the camera or the
+ * file and the reason.
+ */
+class ZELTO_CAMERAS_EXPORT Camera : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~Camera() override;
+
+    /*! Searches for the live cameras that are reachable now. */
+    static QList<Core::CameraPoolComponents::CameraInfoPtr> list();
+
+    /*! Opens the simulated camera that comes with the library. */
+    static std::unique_ptr<Camera> openEmbedded();
+    /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers. */
+    static std::unique_ptr<Camera> openDescription(const QString &fileName);
+    /*! Opens the live camera called \a id, as list() names it. */
+    static std::unique_ptr<Camera> openLive(const QString &id);
+
+    Core::CameraPoolComponents::CameraInfoPtr info() const;
+    QList<NodeMap> nodeMaps() const;
+
+    /*! Returns whether the camera has stopped answering; it has to be opened again then. */
+    bool isLost() const;
+
+    /*! Returns the camera's inner side, for tests. */
+    std::shared_ptr<Session> session() const;
+
+signals:
+    /*! The camera has stopped answering. Sent once, on the thread that opened the camera. */
+    void lost(const QString &reason);
+
+private slots:
+    void reportLoss(const QString &reason);
+
+private:
+    explicit Camera(std::shared_ptr<Session> session);
+
+    std::shared_ptr<Session> m_session;
+    QList<NodeMap> m_nodeMaps;
+};
+
+} // namespace Cameras

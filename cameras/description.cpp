@@ -1,0 +1,449 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "description_p.h"
+
+#include <platform/core/exception.h>
+
+#include <QCoreApplication>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace Cameras {
+
+namespace {
+
+// Value chains beyond this length are no better than circles: the engine walks them by recursion.
+constexpr int deepestChain = 500;
+constexpr int deepestNesting = 32;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Cameras::Description", text);
+}
+
+// What nobody asks for by name is not kept; it makes up most of a description.
+bool isKept(QStringView tag)
+{
+    static const QStringView dropped[] = {
+        u"Value", u"Address", u"Length", u"Formula", u"FormulaTo", u"FormulaFrom", u"Expression", u"Constant",
+        u"LSB", u"MSB", u"Bit", u"Sign", u"Endianess", u"Endianness", u"ValueIndexed", u"ValueDefault",
+        u"Extension", u"AccessMode", u"Slope"};
+    return std::find(std::begin(dropped), std::end(dropped), tag) == std::end(dropped);
+}
+
+} // namespace
+
+Description::Description(const QByteArray &xml)
+{
+    if (xml.contains("<!DOCTYPE")) {
+        throw Core::Exception::BaseException(tr("document type declarations are not allowed"));
+    }
+    m_nodes.reserve(xml.size() / 250);
+    QXmlStreamReader reader(xml);
+    readDocument(reader);
+    if (reader.hasError()) {
+        throw Core::Exception::BaseException(
+            tr("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString()));
+    }
+    collectFeatures();
+    collectDependencies();
+    collectCircles();
+    collectPollingTimes();
+}
+
+Description::LinkKind Description::linkKind(QStringView tag)
+{
+    struct Entry
+    {
+        QStringView tag;
+        LinkKind kind;
+    };
+    static constexpr Entry table[] = {
+        {u"pInvalidator", LinkKind::Related},      {u"pVariable", LinkKind::Evaluated},
+        {u"pAddress", LinkKind::Evaluated},        {u"pPort", LinkKind::Ignored},
+        {u"pIsImplemented", LinkKind::Related},    {u"pIsAvailable", LinkKind::Related},
+        {u"pIsLocked", LinkKind::Related},         {u"pFeature", LinkKind::Feature},
+        {u"pValue", LinkKind::Value},              {u"pSelected", LinkKind::Selected},
+        {u"pMax", LinkKind::Related},              {u"pMin", LinkKind::Related},
+        {u"pInc", LinkKind::Related},              {u"pAlias", LinkKind::Alias},
+        {u"pCastAlias", LinkKind::Alias},          {u"pIndex", LinkKind::Evaluated},
+        {u"pLength", LinkKind::Evaluated},         {u"pValueIndexed", LinkKind::Value},
+        {u"pValueDefault", LinkKind::Value},       {u"pValueCopy", LinkKind::Value},
+        {u"pCommandValue", LinkKind::Related},     {u"pTerminal", LinkKind::Ignored},
+        {u"pDependent", LinkKind::Ignored},        {u"pSelecting", LinkKind::Ignored},
+        {u"pError", LinkKind::Ignored},            {u"pBlockPolling", LinkKind::Ignored},
+        {u"pVisibility", LinkKind::Ignored},
+    };
+    const auto *found = std::find_if(std::begin(table), std::end(table),
+                                     [tag](const Entry &entry) { return entry.tag == tag; });
+    return found == std::end(table) ? LinkKind::Related : found->kind;
+}
+
+int Description::intern(const QString &name)
+{
+    const auto found = m_indices.constFind(name);
+    if (found != m_indices.constEnd()) {
+        return *found;
+    }
+    const int index = int(m_nodes.size());
+    m_indices.insert(name, index);
+    m_nodes.push_back(Node());
+    m_nodes.back().name = name;
+    return index;
+}
+
+void Description::readDocument(QXmlStreamReader &xml)
+{
+    if (!xml.readNextStartElement()) {
+        if (!xml.hasError()) {
+            xml.raiseError(tr("there is no element"));
+        }
+        return;
+    }
+    if (xml.name() != QLatin1String("RegisterDescription")) {
+        xml.raiseError(tr("this is no camera description"));
+        return;
+    }
+    const QXmlStreamAttributes attributes = xml.attributes();
+    m_vendorName = attributes.value(QLatin1String("VendorName")).toString();
+    m_modelName = attributes.value(QLatin1String("ModelName")).toString();
+    m_standardNameSpace = attributes.value(QLatin1String("StandardNameSpace")).toString();
+    if (m_standardNameSpace == QLatin1String("None")) {
+        m_standardNameSpace.clear();
+    }
+    readNodes(xml, 0);
+    while (!xml.atEnd()) {
+        xml.readNext();
+    }
+}
+
+// Reads the nodes below the description itself or below one of its groups.
+void Description::readNodes(QXmlStreamReader &xml, int depth)
+{
+    while (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("Group") && depth < deepestNesting) {
+            readNodes(xml, depth + 1);
+            continue;
+        }
+        const QString name = xml.attributes().value(QLatin1String("Name")).toString();
+        if (name.isEmpty()) {
+            xml.skipCurrentElement();
+        } else {
+            readNode(xml, name, -1);
+        }
+    }
+}
+
+void Description::readNode(QXmlStreamReader &xml, const QString &name, int owner)
+{
+    const int node = intern(name);
+    m_nodes[node].isDefined = true;
+    if (owner >= 0 && xml.name() == QLatin1String("StructEntry")) {
+        // An entry is a part of its register: address, access and invalidators are the register's.
+        m_nodes[node].links.push_back({LinkKind::Related, owner});
+    } else if (owner >= 0) {
+        m_nodes[owner].links.push_back({LinkKind::Related, node});
+    }
+    while (xml.readNextStartElement()) {
+        readNodeElement(xml, node);
+    }
+}
+
+void Description::readNodeElement(QXmlStreamReader &xml, int node)
+{
+    const QStringView tag = xml.name();
+    if (tag == QLatin1String("EnumEntry") || tag == QLatin1String("StructEntry")) {
+        const QString entry = xml.attributes().value(QLatin1String("Name")).toString();
+        // Entries of different enumerations share their names.
+        readNode(xml, tag == QLatin1String("EnumEntry") ? m_nodes[node].name + QLatin1Char('/') + entry : entry,
+                 node);
+        return;
+    }
+    const bool isLink = tag.size() > 1 && tag[0] == QLatin1Char('p') && tag[1].isUpper();
+    if (isLink) {
+        const LinkKind kind = linkKind(tag);
+        const QString offset = xml.attributes().value(QLatin1String("pOffset")).toString();
+        if (!offset.isEmpty()) {
+            m_nodes[node].links.push_back({LinkKind::Evaluated, intern(offset)});
+        }
+        if (kind == LinkKind::Ignored) {
+            xml.skipCurrentElement();
+            return;
+        }
+        const int target = intern(xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed());
+        m_nodes[node].links.push_back({kind, target});
+        return;
+    }
+    if (!isKept(tag)) {
+        xml.skipCurrentElement();
+        return;
+    }
+    const QString key = tag.toString();
+    const QString text = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+    m_nodes[node].properties.emplace_back(key, text);
+}
+
+void Description::collectFeatures()
+{
+    const int root = indexOf(QStringLiteral("Root"));
+    if (root < 0) {
+        throw Core::Exception::BaseException(tr("the description has no category \"Root\""));
+    }
+    m_isFeature.assign(m_nodes.size(), 0);
+    std::vector<char> onPath(m_nodes.size(), 0);
+    dropCategoryLoops(root, onPath);
+    m_isPublished = m_isFeature;
+    for (int i = 0; i < m_published.size(); ++i) {
+        const int mirrored = alias(m_published[i]);
+        if (mirrored >= 0 && !m_isPublished[mirrored]) {
+            m_isPublished[mirrored] = 1;
+            m_published.append(mirrored);
+        }
+    }
+}
+
+// A category that lists one of the categories above it would make an endless tree.
+void Description::dropCategoryLoops(int category, std::vector<char> &onPath)
+{
+    m_isFeature[category] = 1;
+    m_published.append(category);
+    onPath[category] = 1;
+    std::erase_if(m_nodes[category].links, [this, &onPath](const Link &link) {
+        return link.kind == LinkKind::Feature && (onPath[link.target] || !m_nodes[link.target].isDefined);
+    });
+    const bool isDeep = std::count(onPath.begin(), onPath.end(), 1) > deepestNesting;
+    for (const Link &link : m_nodes[category].links) {
+        if (link.kind == LinkKind::Feature && !m_isFeature[link.target] && !isDeep) {
+            dropCategoryLoops(link.target, onPath);
+        }
+    }
+    onPath[category] = 0;
+}
+
+void Description::collectDependencies()
+{
+    m_readers.resize(m_nodes.size());
+    for (int node = 0; node < nodeCount(); ++node) {
+        for (const Link &link : m_nodes[node].links) {
+            if (link.kind == LinkKind::Selected) {
+                m_readers[node].push_back(link.target);
+            } else if (link.kind != LinkKind::Feature) {
+                m_readers[link.target].push_back(node);
+            }
+            if (link.kind == LinkKind::Alias) {
+                m_readers[node].push_back(link.target);
+            }
+        }
+    }
+}
+
+void Description::collectCircles()
+{
+    m_isCircular.assign(m_nodes.size(), 0);
+    std::vector<char> state(m_nodes.size(), 0);
+    for (int node = 0; node < nodeCount(); ++node) {
+        findCircle(node, state, 0);
+    }
+    // Limits and access modes may lead into a circle, too: who depends on one is as bad.
+    std::vector<int> reached;
+    for (int node = 0; node < nodeCount(); ++node) {
+        if (m_isCircular[node]) {
+            reached.push_back(node);
+        }
+    }
+    for (size_t i = 0; i < reached.size(); ++i) {
+        for (const int reader : m_readers[reached[i]]) {
+            if (!m_isCircular[reader]) {
+                m_isCircular[reader] = 1;
+                reached.push_back(reader);
+            }
+        }
+    }
+}
+
+bool Description::findCircle(int node, std::vector<char> &state, int depth)
+{
+    enum { Unseen, OnPath, Done };
+    if (state[node] == Done) {
+        return m_isCircular[node];
+    }
+    if (state[node] == OnPath || depth > deepestChain) {
+        return true;
+    }
+    state[node] = OnPath;
+    bool found = false;
+    for (const Link &link : m_nodes[node].links) {
+        const bool isEvaluated = link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated;
+        if (isEvaluated && findCircle(link.target, state, depth + 1)) {
+            found = true;
+        }
+    }
+    m_isCircular[node] = found;
+    state[node] = Done;
+    return found;
+}
+
+void Description::collectPollingTimes()
+{
+    m_pollingTimes.assign(m_nodes.size(), 0);
+    for (int node = 0; node < nodeCount(); ++node) {
+        const int time = property(node, QStringLiteral("PollingTime")).toInt();
+        if (time <= 0) {
+            continue;
+        }
+        QList<int> polled = closure({node}, node);
+        polled.append(node);
+        for (const int due : std::as_const(polled)) {
+            int &shortest = m_pollingTimes[due];
+            shortest = shortest == 0 ? time : std::min(shortest, time);
+        }
+    }
+}
+
+QString Description::vendorName() const
+{
+    return m_vendorName;
+}
+
+QString Description::modelName() const
+{
+    return m_modelName;
+}
+
+QString Description::standardNameSpace() const
+{
+    return m_standardNameSpace;
+}
+
+int Description::nodeCount() const
+{
+    return int(m_nodes.size());
+}
+
+int Description::indexOf(const QString &name) const
+{
+    const int node = m_indices.value(name, -1);
+    return node >= 0 && m_nodes[node].isDefined ? node : -1;
+}
+
+QString Description::name(int node) const
+{
+    return m_nodes[node].name;
+}
+
+QString Description::property(int node, const QString &property) const
+{
+    for (const auto &[key, text] : m_nodes[node].properties) {
+        if (key == property) {
+            return text;
+        }
+    }
+    return {};
+}
+
+QString Description::inheritedProperty(int node, const QString &name) const
+{
+    for (int steps = 0; node >= 0 && steps < deepestChain; ++steps) {
+        const QString text = property(node, name);
+        if (!text.isEmpty()) {
+            return text;
+        }
+        node = valueNode(node);
+    }
+    return {};
+}
+
+const QList<int> &Description::published() const
+{
+    return m_published;
+}
+
+bool Description::isFeature(int node) const
+{
+    return m_isFeature[node];
+}
+
+QList<int> Description::children(int node) const
+{
+    QList<int> found;
+    for (const Link &link : m_nodes[node].links) {
+        if (link.kind == LinkKind::Feature && m_isFeature[link.target]) {
+            found.append(link.target);
+        }
+    }
+    return found;
+}
+
+int Description::alias(int node) const
+{
+    for (const Link &link : m_nodes[node].links) {
+        if (link.kind == LinkKind::Alias && m_nodes[link.target].isDefined) {
+            return link.target;
+        }
+    }
+    return -1;
+}
+
+int Description::valueNode(int node) const
+{
+    for (const Link &link : m_nodes[node].links) {
+        if (link.kind == LinkKind::Value) {
+            return link.target;
+        }
+    }
+    return -1;
+}
+
+QList<int> Description::dependents(int node) const
+{
+    // A write goes down to the nodes that hold the value; whoever reads one of those is affected.
+    std::vector<int> written{node};
+    std::vector<char> isWritten(m_nodes.size(), 0);
+    isWritten[node] = 1;
+    for (size_t i = 0; i < written.size(); ++i) {
+        for (const Link &link : m_nodes[written[i]].links) {
+            if (link.kind == LinkKind::Value && !isWritten[link.target]) {
+                isWritten[link.target] = 1;
+                written.push_back(link.target);
+            }
+        }
+    }
+    return closure(std::move(written), node);
+}
+
+QList<int> Description::closure(std::vector<int> changed, int without) const
+{
+    std::vector<char> isChanged(m_nodes.size(), 0);
+    for (const int node : changed) {
+        isChanged[node] = 1;
+    }
+    for (size_t i = 0; i < changed.size(); ++i) {
+        for (const int reader : m_readers[changed[i]]) {
+            if (!isChanged[reader]) {
+                isChanged[reader] = 1;
+                changed.push_back(reader);
+            }
+        }
+    }
+    QList<int> found;
+    for (const int node : changed) {
+        if (node != without && m_isPublished[node]) {
+            found.append(node);
+        }
+    }
+    return found;
+}
+
+int Description::pollingTime(int node) const
+{
+    return m_pollingTimes[node];
+}
+
+bool Description::isCircular(int node) const
+{
+    return m_isCircular[node];
+}
+
+} // namespace Cameras

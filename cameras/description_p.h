@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cameras/cameras_export.h>
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+class QXmlStreamReader;
+
+namespace Cameras {
+
+/*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
+ *
+ * It complements the engine, which evaluates values, formulas and access modes but hands out neither all
+ * properties nor the links. Nodes are named by their index. Immutable once parsed.
+ */
+class ZELTO_CAMERAS_EXPORT Description
+{
+public:
+    /*! Parses \a xml. Throws Core::Exception::BaseException telling what is wrong and where. */
+    explicit Description(const QByteArray &xml);
+
+    QString vendorName() const;
+    QString modelName() const;
+    /*! Returns the standard name space, such as "GEV"; empty when there is none. */
+    QString standardNameSpace() const;
+
+    int nodeCount() const;
+    /*! Returns the node called \a name, -1 when there is none. */
+    int indexOf(const QString &name) const;
+    QString name(int node) const;
+
+    /*! Returns the text of the node's element \a property, null when it has none. */
+    QString property(int node, const QString &property) const;
+    /*! As property(), but also looks at the node that gives \a node its value, if need be. */
+    QString inheritedProperty(int node, const QString &property) const;
+
+    /*! Returns the nodes that can be reached from "Root", which is the first, and their aliases. */
+    const QList<int> &published() const;
+    /*! Returns whether \a node can be reached from "Root". */
+    bool isFeature(int node) const;
+    /*! Returns what the category \a node lists, in its order. */
+    QList<int> children(int node) const;
+    /*! Returns the integer that mirrors the floating-point feature \a node, -1 when there is none. */
+    int alias(int node) const;
+    /*! Returns the node that holds the value of \a node, -1 when there is none. */
+    int valueNode(int node) const;
+
+    /*! Returns the published nodes that can change when \a node is written, without \a node. */
+    QList<int> dependents(int node) const;
+    /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */
+    int pollingTime(int node) const;
+    /*! Returns whether evaluating \a node leads into a circle of links. */
+    bool isCircular(int node) const;
+
+private:
+    enum class LinkKind { Value, Evaluated, Related, Selected, Feature, Alias, Ignored };
+
+    struct Link
+    {
+        LinkKind kind;
+        int target;
+    };
+
+    struct Node
+    {
+        QString name;
+        std::vector<std::pair<QString, QString>> properties;
+        std::vector<Link> links;
+        bool isDefined = false;
+    };
+
+    static LinkKind linkKind(QStringView tag);
+    int intern(const QString &name);
+    void readDocument(QXmlStreamReader &xml);
+    void readNodes(QXmlStreamReader &xml, int depth);
+    void readNode(QXmlStreamReader &xml, const QString &name, int owner);
+    void readNodeElement(QXmlStreamReader &xml, int node);
+    void collectFeatures();
+    void dropCategoryLoops(int category, std::vector<char> &onPath);
+    void collectDependencies();
+    void collectCircles();
+    void collectPollingTimes();
+    bool findCircle(int node, std::vector<char> &state, int depth);
+    QList<int> closure(std::vector<int> changed, int without) const;
+
+    QString m_vendorName;
+    QString m_modelName;
+    QString m_standardNameSpace;
+    std::vector<Node> m_nodes;
+    QHash<QString, int> m_indices;
+    QList<int> m_published;
+    std::vector<char> m_isPublished;
+    std::vector<char> m_isFeature;
+    std::vector<char> m_isCircular;
+    std::vector<int> m_pollingTimes;
+    std::vector<std::vector<int>> m_readers; //!< of each node, those that are affected by it
+};
+
+} // namespace Cameras

@@ -1,0 +1,598 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "engine_p.h"
+
+#include "aravis_p.h"
+#include "simulatedregisters_p.h"
+#include "valuetext_p.h"
+
+#include <platform/core/exception.h>
+#include <platform/genicam/genericexception.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <limits>
+
+using namespace ParameterCollection;
+
+namespace Cameras {
+
+namespace {
+
+constexpr gint64 longestShownRegister = 64;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Cameras::Engine", text);
+}
+
+ParameterType typeOf(ArvGcNode *node)
+{
+    if (ARV_IS_GC_CATEGORY(node)) {
+        return ParameterType::Category;
+    }
+    if (ARV_IS_GC_ENUMERATION(node)) {
+        return ParameterType::Enumeration;
+    }
+    if (ARV_IS_GC_BOOLEAN(node)) {
+        return ParameterType::Boolean;
+    }
+    if (ARV_IS_GC_COMMAND(node)) {
+        return ParameterType::Command;
+    }
+    if (ARV_IS_GC_STRING(node)) {
+        return ParameterType::String;
+    }
+    if (ARV_IS_GC_FLOAT(node)) {
+        return ParameterType::Float;
+    }
+    return ARV_IS_GC_INTEGER(node) ? ParameterType::Integer : ParameterType::Unknown;
+}
+
+GenApi::EVisibility visibilityOf(ArvGcNode *node)
+{
+    switch (arv_gc_feature_node_get_visibility(ARV_GC_FEATURE_NODE(node))) {
+    case ARV_GC_VISIBILITY_EXPERT:
+        return GenApi::Expert;
+    case ARV_GC_VISIBILITY_GURU:
+        return GenApi::Guru;
+    case ARV_GC_VISIBILITY_INVISIBLE:
+        return GenApi::Invisible;
+    default:
+        return GenApi::Beginner;
+    }
+}
+
+QSharedPointer<ParameterData> newData(ParameterType type)
+{
+    switch (type) {
+    case ParameterType::Integer:
+        return QSharedPointer<IntegerParameterData>::create();
+    case ParameterType::Float:
+        return QSharedPointer<FloatParameterData>::create();
+    case ParameterType::Boolean:
+        return QSharedPointer<BooleanParameterData>::create();
+    case ParameterType::Command:
+        return QSharedPointer<CommandParameterData>::create();
+    case ParameterType::Enumeration:
+        return QSharedPointer<EnumParameterData>::create();
+    default:
+        return QSharedPointer<ParameterData>::create(type);
+    }
+}
+
+GenApi::EDisplayNotation notationOf(const QString &text)
+{
+    if (text == QLatin1String("Fixed")) {
+        return GenApi::fnFixed;
+    }
+    return text == QLatin1String("Scientific") ? GenApi::fnScientific : GenApi::fnAutomatic;
+}
+
+[[noreturn]] void throwDeviceError(int code, const QString &text)
+{
+    switch (code) {
+    case ARV_DEVICE_ERROR_TIMEOUT:
+    case ARV_DEVICE_ERROR_NOT_CONNECTED:
+        throw GenICam::TimeoutException(text);
+    case ARV_DEVICE_ERROR_NOT_CONTROLLER:
+    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT:
+    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED:
+        throw GenICam::AccessException(text);
+    case ARV_DEVICE_ERROR_INVALID_PARAMETER:
+    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER:
+        throw GenICam::InvalidArgumentException(text);
+    default:
+        throw GenICam::RuntimeException(text);
+    }
+}
+
+[[noreturn]] void throwEngineError(int code, const QString &text)
+{
+    switch (code) {
+    case ARV_GC_ERROR_OUT_OF_RANGE:
+        throw GenICam::OutOfRangeException(text);
+    case ARV_GC_ERROR_READ_ONLY:
+        throw GenICam::AccessException(text);
+    case ARV_GC_ERROR_ENUM_ENTRY_NOT_FOUND:
+    case ARV_GC_ERROR_INVALID_LENGTH:
+    case ARV_GC_ERROR_INVALID_SYNTAX:
+        throw GenICam::InvalidArgumentException(text);
+    case ARV_GC_ERROR_PROPERTY_NOT_DEFINED:
+    case ARV_GC_ERROR_PVALUE_NOT_DEFINED:
+    case ARV_GC_ERROR_INVALID_PVALUE:
+    case ARV_GC_ERROR_NODE_NOT_FOUND:
+        throw GenICam::PropertyException(text);
+    default:
+        throw GenICam::RuntimeException(text);
+    }
+}
+
+} // namespace
+
+/*! \brief Receives the engine's error of one call and tells the engine when the device has gone. */
+class Engine::Failure
+{
+public:
+    explicit Failure(Engine *engine)
+        : m_engine(engine)
+    {
+    }
+    ~Failure() { take(); }
+    Q_DISABLE_COPY_MOVE(Failure)
+
+    operator GError **() { return &m_error; }
+
+    /*! Returns whether there was an error, and forgets it. */
+    bool take()
+    {
+        if (!m_error) {
+            return false;
+        }
+        const bool isGone = m_error->domain == ARV_DEVICE_ERROR
+            && (m_error->code == ARV_DEVICE_ERROR_TIMEOUT
+                || m_error->code == ARV_DEVICE_ERROR_NOT_CONNECTED);
+        if (isGone && m_engine->m_lossReason.isEmpty()) {
+            m_engine->m_lossReason = QString::fromUtf8(m_error->message);
+        }
+        g_clear_error(&m_error);
+        return true;
+    }
+
+    void throwIfAny(const QString &feature)
+    {
+        if (!m_error) {
+            return;
+        }
+        const QString text = feature + QLatin1String(": ") + QString::fromUtf8(m_error->message);
+        const GQuark domain = m_error->domain;
+        const int code = m_error->code;
+        take();
+        if (domain == ARV_DEVICE_ERROR) {
+            throwDeviceError(code, text);
+        }
+        if (domain == ARV_GC_ERROR) {
+            throwEngineError(code, text);
+        }
+        throw GenICam::RuntimeException(text);
+    }
+
+private:
+    Engine *m_engine;
+    GError *m_error = nullptr;
+};
+
+Engine::Engine(ArvDevice *device, std::shared_ptr<const Description> description,
+               std::shared_ptr<SimulatedRegisters> registers)
+    : m_device(device)
+    , m_description(std::move(description))
+    , m_registers(std::move(registers))
+    , m_nodes(size_t(m_description->nodeCount()), nullptr)
+    , m_types(size_t(m_description->nodeCount()), ParameterType::Unknown)
+{
+    ArvGc *genicam = arv_device_get_genicam(m_device);
+    if (!genicam || !arv_gc_get_node(genicam, "Root")) {
+        g_clear_object(&m_device);
+        throw Core::Exception::BaseException(tr("the engine cannot read the description"));
+    }
+    for (const int node : m_description->published()) {
+        ArvGcNode *found = arv_gc_get_node(genicam, m_description->name(node).toUtf8().constData());
+        if (ARV_IS_GC_FEATURE_NODE(found)) {
+            m_nodes[node] = found;
+            m_types[node] = typeOf(found);
+        }
+    }
+}
+
+Engine::~Engine()
+{
+    g_clear_object(&m_device);
+}
+
+ParameterType Engine::type(int node) const
+{
+    return m_types[node];
+}
+
+QString Engine::lossReason() const
+{
+    return m_lossReason;
+}
+
+Engine::Reading Engine::read(int node)
+{
+    Reading reading{newData(m_types[node]), GenApi::NI};
+    ArvGcNode *found = m_nodes[node];
+    if (!found) {
+        return reading;
+    }
+    ParameterData &data = *reading.data;
+    data.visibility = visibilityOf(found);
+    data.isCacheable = m_description->inheritedProperty(node, QStringLiteral("Cachable"))
+        != QLatin1String("NoCache");
+    reading.access = m_description->isCircular(node) ? GenApi::NA : readAccess(node);
+    data.isImplemented = reading.access != GenApi::NI;
+    data.isReadable = reading.access == GenApi::RO || reading.access == GenApi::RW;
+    data.isWritable = reading.access == GenApi::WO || reading.access == GenApi::RW;
+    if (reading.access == GenApi::NI || reading.access == GenApi::NA) {
+        return reading;
+    }
+    readLimits(node, data);
+    if (data.type == ParameterType::Command) {
+        static_cast<CommandParameterData &>(data).isDone = readCommandDone(node);
+        data.isReadable = false;
+        return reading;
+    }
+    if (data.isReadable && !readValue(node, data)) {
+        data.isReadable = false;
+        data.valueString.clear();
+    }
+    return reading;
+}
+
+GenApi::EAccessMode Engine::readAccess(int node)
+{
+    ArvGcFeatureNode *feature = ARV_GC_FEATURE_NODE(m_nodes[node]);
+    Failure failure(this);
+    const bool isImplemented = arv_gc_feature_node_is_implemented(feature, failure);
+    if (failure.take()) {
+        return GenApi::NA;
+    }
+    if (!isImplemented) {
+        return GenApi::NI;
+    }
+    const bool isAvailable = arv_gc_feature_node_is_available(feature, failure);
+    if (failure.take() || !isAvailable) {
+        return GenApi::NA;
+    }
+    const bool isLocked = arv_gc_feature_node_is_locked(feature, failure);
+    const bool isFixed = failure.take() || isLocked;
+    if (m_types[node] == ParameterType::Category) {
+        return GenApi::RO;
+    }
+    // A command is triggered; it has no value to be looked at.
+    if (m_types[node] == ParameterType::Command) {
+        return isFixed ? GenApi::NA : GenApi::WO;
+    }
+    switch (arv_gc_feature_node_get_actual_access_mode(feature)) {
+    case ARV_GC_ACCESS_MODE_RO:
+        return GenApi::RO;
+    case ARV_GC_ACCESS_MODE_WO:
+        return isFixed ? GenApi::NA : GenApi::WO;
+    default:
+        return isFixed ? GenApi::RO : GenApi::RW;
+    }
+}
+
+bool Engine::readLimits(int node, ParameterData &data)
+{
+    const QString representation = m_description->inheritedProperty(node, QStringLiteral("Representation"));
+    Failure failure(this);
+    if (data.type == ParameterType::Integer) {
+        auto &typed = static_cast<IntegerParameterData &>(data);
+        ArvGcInteger *integer = ARV_GC_INTEGER(m_nodes[node]);
+        typed.minimum = arv_gc_integer_get_min(integer, failure);
+        typed.minimum = failure.take() ? std::numeric_limits<qint64>::min() : typed.minimum;
+        typed.maximum = arv_gc_integer_get_max(integer, failure);
+        typed.maximum = failure.take() ? std::numeric_limits<qint64>::max() : typed.maximum;
+        typed.increment = arv_gc_integer_get_inc(integer, failure);
+        typed.increment = failure.take() ? 1 : std::max<qint64>(typed.increment, 1);
+        typed.representation = representation.isEmpty() ? QStringLiteral("PureNumber") : representation;
+        return true;
+    }
+    if (data.type == ParameterType::Float) {
+        auto &typed = static_cast<FloatParameterData &>(data);
+        ArvGcFloat *number = ARV_GC_FLOAT(m_nodes[node]);
+        typed.minimum = arv_gc_float_get_min(number, failure);
+        typed.minimum = failure.take() ? std::numeric_limits<double>::lowest() : typed.minimum;
+        typed.maximum = arv_gc_float_get_max(number, failure);
+        typed.maximum = failure.take() ? std::numeric_limits<double>::max() : typed.maximum;
+        typed.increment = arv_gc_float_get_inc(number, failure);
+        // The engine says "no increment" with the smallest number there is.
+        typed.increment = failure.take() || typed.increment <= DBL_MIN ? 0.0 : typed.increment;
+        typed.representation = representation.isEmpty() ? QStringLiteral("PureNumber") : representation;
+        typed.displayNotation
+            = notationOf(m_description->inheritedProperty(node, QStringLiteral("DisplayNotation")));
+        bool ok = false;
+        const int precision
+            = m_description->inheritedProperty(node, QStringLiteral("DisplayPrecision")).toInt(&ok);
+        typed.displayPrecision = ok ? precision : typed.displayPrecision;
+        return true;
+    }
+    return data.type != ParameterType::Enumeration
+        || readEnumEntries(node, static_cast<EnumParameterData &>(data));
+}
+
+bool Engine::readValue(int node, ParameterData &data)
+{
+    Failure failure(this);
+    switch (data.type) {
+    case ParameterType::Integer:
+        return readInteger(node, static_cast<IntegerParameterData &>(data));
+    case ParameterType::Float:
+        return readFloat(node, static_cast<FloatParameterData &>(data));
+    case ParameterType::Enumeration:
+        return readEnum(node, static_cast<EnumParameterData &>(data));
+    case ParameterType::Boolean: {
+        auto &typed = static_cast<BooleanParameterData &>(data);
+        typed.value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(m_nodes[node]), failure);
+        typed.valueString = typed.value ? QStringLiteral("true") : QStringLiteral("false");
+        return !failure.take();
+    }
+    case ParameterType::String:
+        data.valueString
+            = QString::fromUtf8(arv_gc_string_get_value(ARV_GC_STRING(m_nodes[node]), failure));
+        return !failure.take();
+    case ParameterType::Category:
+        return true;
+    default:
+        return readRegister(node, &data.valueString);
+    }
+}
+
+bool Engine::readInteger(int node, IntegerParameterData &data)
+{
+    Failure failure(this);
+    data.value = arv_gc_integer_get_value(ARV_GC_INTEGER(m_nodes[node]), failure);
+    data.valueString = ValueText::fromInteger(data.value, data.representation);
+    return !failure.take();
+}
+
+bool Engine::readFloat(int node, FloatParameterData &data)
+{
+    Failure failure(this);
+    data.value = arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure);
+    data.valueString = ValueText::fromFloat(data.value);
+    return !failure.take() && std::isfinite(data.value);
+}
+
+bool Engine::readEnum(int node, EnumParameterData &data)
+{
+    Failure failure(this);
+    const char *name = arv_gc_enumeration_get_string_value(ARV_GC_ENUMERATION(m_nodes[node]), failure);
+    data.valueString = QString::fromUtf8(name);
+    return !failure.take() && name;
+}
+
+bool Engine::readEnumEntries(int node, EnumParameterData &data)
+{
+    ArvGcEnumeration *enumeration = ARV_GC_ENUMERATION(m_nodes[node]);
+    Failure failure(this);
+    guint nameCount = 0;
+    const char **names = arv_gc_enumeration_dup_available_string_values(enumeration, &nameCount, failure);
+    const bool hasNames = !failure.take();
+    guint textCount = 0;
+    const char **texts = arv_gc_enumeration_dup_available_display_names(enumeration, &textCount, failure);
+    const bool hasTexts = !failure.take() && textCount == nameCount;
+    for (guint i = 0; hasNames && names && i < nameCount; ++i) {
+        data.symbolicNames.append(QString::fromUtf8(names[i]));
+        const QString text = hasTexts && texts ? QString::fromUtf8(texts[i]) : QString();
+        data.displayTexts.append(text.isEmpty() ? data.symbolicNames.constLast() : text);
+    }
+    g_free(names);
+    g_free(texts);
+    return hasNames;
+}
+
+// A command is done when its register no longer holds the command.
+bool Engine::readCommandDone(int node)
+{
+    const int valueNode = m_description->valueNode(node);
+    bool hasCommandValue = false;
+    const qint64 command
+        = m_description->property(node, QStringLiteral("CommandValue")).toLongLong(&hasCommandValue, 0);
+    if (valueNode < 0 || !hasCommandValue || m_description->isCircular(node)) {
+        return true;
+    }
+    ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
+                                       m_description->name(valueNode).toUtf8().constData());
+    if (!ARV_IS_GC_INTEGER(found)
+        || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(found)) != ARV_GC_ACCESS_MODE_RW) {
+        return true;
+    }
+    Failure failure(this);
+    const qint64 value = arv_gc_integer_get_value(ARV_GC_INTEGER(found), failure);
+    return failure.take() || value != command;
+}
+
+bool Engine::readRegister(int node, QString *text)
+{
+    if (!ARV_IS_GC_REGISTER(m_nodes[node])) {
+        return false;
+    }
+    ArvGcRegister *registerNode = ARV_GC_REGISTER(m_nodes[node]);
+    Failure failure(this);
+    const guint64 length = arv_gc_register_get_length(registerNode, failure);
+    if (failure.take() || length == 0 || length > longestShownRegister) {
+        return false;
+    }
+    QByteArray bytes(qsizetype(length), '\0');
+    arv_gc_register_get(registerNode, bytes.data(), length, failure);
+    *text = QLatin1String("0x") + QString::fromLatin1(bytes.toHex());
+    return !failure.take();
+}
+
+void Engine::refuse(int node, const QString &text, const QString &allowed) const
+{
+    throw GenICam::InvalidArgumentException(
+        tr("%1: \"%2\" is not allowed, expected %3").arg(m_description->name(node), text, allowed));
+}
+
+void Engine::write(int node, const NodeValue &value)
+{
+    const QString name = m_description->name(node);
+    const auto *command = std::get_if<ExecuteCommand>(&value);
+    const GenApi::EAccessMode access
+        = m_nodes[node] && !m_description->isCircular(node) ? readAccess(node) : GenApi::NI;
+    if (!m_lossReason.isEmpty()) {
+        throw GenICam::TimeoutException(name + QLatin1String(": ") + m_lossReason);
+    }
+    const bool isOpen = access == GenApi::WO || access == GenApi::RW;
+    if (access == GenApi::NI || (!isOpen && (!command || command->verify))) {
+        throw GenICam::AccessException(tr("%1 cannot be written now").arg(name));
+    }
+    if (command) {
+        execute(node);
+    } else if (const auto *text = std::get_if<QString>(&value)) {
+        writeText(node, *text);
+    } else if (const auto *integer = std::get_if<qint64>(&value)) {
+        writeInteger(node, *integer, QString::number(*integer));
+    } else if (const auto *number = std::get_if<double>(&value)) {
+        writeFloat(node, *number, ValueText::fromFloat(*number));
+    } else {
+        writeBoolean(node, std::get<bool>(value));
+    }
+}
+
+void Engine::writeText(int node, const QString &text)
+{
+    const QString representation = m_description->inheritedProperty(node, QStringLiteral("Representation"));
+    switch (m_types[node]) {
+    case ParameterType::Integer:
+        if (const auto value = ValueText::toInteger(text, representation)) {
+            return writeInteger(node, *value, text);
+        }
+        refuse(node, text, tr("an integer"));
+    case ParameterType::Float:
+        if (const auto value = ValueText::toFloat(text)) {
+            return writeFloat(node, *value, text);
+        }
+        refuse(node, text, tr("a number"));
+    case ParameterType::Boolean:
+        if (const auto value = ValueText::toBoolean(text)) {
+            return writeBoolean(node, *value);
+        }
+        refuse(node, text, tr("true, false, 1 or 0"));
+    case ParameterType::Enumeration:
+        return writeEnum(node, text);
+    case ParameterType::String:
+        return writeString(node, text);
+    default:
+        refuse(node, text, tr("no text"));
+    }
+}
+
+void Engine::writeInteger(int node, qint64 value, const QString &text)
+{
+    IntegerParameterData limits;
+    readLimits(node, limits);
+    const auto shown = [&limits](qint64 number) {
+        return ValueText::fromInteger(number, limits.representation);
+    };
+    if (value < limits.minimum || value > limits.maximum) {
+        throw GenICam::OutOfRangeException(
+            tr("%1: \"%2\" is out of range, allowed are %3 to %4")
+                .arg(m_description->name(node), text, shown(limits.minimum), shown(limits.maximum)));
+    }
+    // Unsigned, since the distance of two 64-bit numbers may need 64 bits.
+    if ((quint64(value) - quint64(limits.minimum)) % quint64(limits.increment) != 0) {
+        throw GenICam::OutOfRangeException(
+            tr("%1: \"%2\" is not allowed, expected %3 plus a multiple of %4")
+                .arg(m_description->name(node), text, shown(limits.minimum))
+                .arg(limits.increment));
+    }
+    Failure failure(this);
+    arv_gc_integer_set_value(ARV_GC_INTEGER(m_nodes[node]), value, failure);
+    failure.throwIfAny(m_description->name(node));
+}
+
+void Engine::writeFloat(int node, double value, const QString &text)
+{
+    FloatParameterData limits;
+    readLimits(node, limits);
+    if (!(value >= limits.minimum && value <= limits.maximum)) {
+        throw GenICam::OutOfRangeException(tr("%1: \"%2\" is out of range, allowed are %3 to %4")
+                                               .arg(m_description->name(node), text,
+                                                    ValueText::fromFloat(limits.minimum),
+                                                    ValueText::fromFloat(limits.maximum)));
+    }
+    Failure failure(this);
+    arv_gc_float_set_value(ARV_GC_FLOAT(m_nodes[node]), value, failure);
+    failure.throwIfAny(m_description->name(node));
+}
+
+void Engine::writeEnum(int node, const QString &text)
+{
+    EnumParameterData entries;
+    readEnumEntries(node, entries);
+    if (!entries.symbolicNames.contains(text)) {
+        refuse(node, text, entries.symbolicNames.join(QLatin1String(", ")));
+    }
+    Failure failure(this);
+    arv_gc_enumeration_set_string_value(ARV_GC_ENUMERATION(m_nodes[node]), text.toUtf8().constData(),
+                                        failure);
+    failure.throwIfAny(m_description->name(node));
+}
+
+void Engine::writeString(int node, const QString &text)
+{
+    ArvGcString *string = ARV_GC_STRING(m_nodes[node]);
+    const QByteArray bytes = text.toUtf8();
+    Failure failure(this);
+    const gint64 longest = arv_gc_string_get_max_length(string, failure);
+    if (!failure.take() && longest > 0 && bytes.size() > longest) {
+        refuse(node, text, tr("at most %1 bytes").arg(longest));
+    }
+    arv_gc_string_set_value(string, bytes.constData(), failure);
+    failure.throwIfAny(m_description->name(node));
+}
+
+void Engine::writeBoolean(int node, bool value)
+{
+    Failure failure(this);
+    arv_gc_boolean_set_value(ARV_GC_BOOLEAN(m_nodes[node]), value, failure);
+    failure.throwIfAny(m_description->name(node));
+}
+
+void Engine::execute(int node)
+{
+    Failure failure(this);
+    arv_gc_command_execute(ARV_GC_COMMAND(m_nodes[node]), failure);
+    failure.throwIfAny(m_description->name(node));
+    if (m_registers) {
+        finishCommand(node);
+    }
+}
+
+// Nobody stands behind simulated registers to carry a command out, unless they are told to be busy.
+void Engine::finishCommand(int node)
+{
+    const int valueNode = m_description->valueNode(node);
+    if (valueNode < 0 || readCommandDone(node)) {
+        return;
+    }
+    ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
+                                       m_description->name(valueNode).toUtf8().constData());
+    Failure failure(this);
+    if (ARV_IS_GC_REGISTER(found)
+        && m_registers->isLiving(arv_gc_register_get_address(ARV_GC_REGISTER(found), failure))) {
+        return;
+    }
+    arv_gc_integer_set_value(ARV_GC_INTEGER(found), 0, failure);
+}
+
+} // namespace Cameras

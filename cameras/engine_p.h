@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cameras/description_p.h>
+
+#include <platform/parametercollection/parameterdata.h>
+
+#include <QString>
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+typedef struct _ArvDevice ArvDevice;
+typedef struct _ArvGcNode ArvGcNode;
+typedef struct _GError GError;
+
+namespace Cameras {
+
+class SimulatedRegisters;
+
+struct ExecuteCommand
+{
+    bool verify = true;
+};
+
+using NodeValue = std::variant<QString, qint64, double, bool, ExecuteCommand>;
+
+/*! \brief One node map as the GenICam engine evaluates it.
+ *
+ * Not thread-safe, like the engine itself: used on the camera's worker thread alone. Nodes are those of the
+ * description.
+ */
+class Engine
+{
+public:
+    struct Reading
+    {
+        QSharedPointer<ParameterCollection::ParameterData> data;
+        GenApi::EAccessMode access = GenApi::NI;
+    };
+
+    /*! Takes \a device over. \a registers are null for a live camera. Throws when the engine cannot read the
+     * description. */
+    Engine(ArvDevice *device, std::shared_ptr<const Description> description,
+           std::shared_ptr<SimulatedRegisters> registers);
+    ~Engine();
+    Q_DISABLE_COPY_MOVE(Engine)
+
+    ParameterCollection::ParameterType type(int node) const;
+
+    /*! Reads the node; what cannot be read is told by the snapshot's flags. */
+    Reading read(int node);
+
+    /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
+    void write(int node, const NodeValue &value);
+
+    /*! Returns why the device no longer answers, empty while it does. */
+    QString lossReason() const;
+
+private:
+    class Failure;
+
+    GenApi::EAccessMode readAccess(int node);
+    bool readLimits(int node, ParameterCollection::ParameterData &data);
+    bool readValue(int node, ParameterCollection::ParameterData &data);
+    bool readInteger(int node, ParameterCollection::IntegerParameterData &data);
+    bool readFloat(int node, ParameterCollection::FloatParameterData &data);
+    bool readEnum(int node, ParameterCollection::EnumParameterData &data);
+    bool readEnumEntries(int node, ParameterCollection::EnumParameterData &data);
+    bool readCommandDone(int node);
+    bool readRegister(int node, QString *text);
+    void writeInteger(int node, qint64 value, const QString &text);
+    void writeFloat(int node, double value, const QString &text);
+    void writeEnum(int node, const QString &text);
+    void writeString(int node, const QString &text);
+    void writeBoolean(int node, bool value);
+    void writeText(int node, const QString &text);
+    void execute(int node);
+    void finishCommand(int node);
+    [[noreturn]] void refuse(int node, const QString &text, const QString &allowed) const;
+
+    ArvDevice *m_device = nullptr;
+    std::shared_ptr<const Description> m_description;
+    std::shared_ptr<SimulatedRegisters> m_registers;
+    std::vector<ArvGcNode *> m_nodes;
+    std::vector<ParameterCollection::ParameterType> m_types;
+    QString m_lossReason;
+};
+
+} // namespace Cameras

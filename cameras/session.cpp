@@ -1,0 +1,518 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "session_p.h"
+
+#include "engine_p.h"
+
+#include <platform/core/exception.h>
+#include <platform/core/guard.h>
+#include <platform/genicam/genericexception.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+using namespace ParameterCollection;
+using namespace std::chrono_literals;
+
+namespace Cameras {
+
+ZELTO_LOG_CATEGORY("zelto.cameras.session")
+
+namespace {
+
+constexpr auto writeTime = 1s;
+constexpr auto openTime = 20s;
+constexpr auto closeTime = 500ms;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Cameras::Session", text);
+}
+
+/*! \brief Threads of cameras that were closed while an access hung; joined before the process ends. */
+class LeftThreads
+{
+public:
+    ~LeftThreads()
+    {
+        for (std::thread &thread : m_threads) {
+            thread.join();
+        }
+    }
+
+    void add(std::thread thread)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_threads.push_back(std::move(thread));
+    }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::thread> m_threads;
+};
+
+LeftThreads &leftThreads()
+{
+    static LeftThreads threads;
+    return threads;
+}
+
+QSharedPointer<ParameterData> copyOf(const ParameterData &data)
+{
+    switch (data.type) {
+    case ParameterType::Integer:
+        return QSharedPointer<IntegerParameterData>::create(static_cast<const IntegerParameterData &>(data));
+    case ParameterType::Float:
+        return QSharedPointer<FloatParameterData>::create(static_cast<const FloatParameterData &>(data));
+    case ParameterType::Boolean:
+        return QSharedPointer<BooleanParameterData>::create(static_cast<const BooleanParameterData &>(data));
+    case ParameterType::Command:
+        return QSharedPointer<CommandParameterData>::create(static_cast<const CommandParameterData &>(data));
+    case ParameterType::Enumeration:
+        return QSharedPointer<EnumParameterData>::create(static_cast<const EnumParameterData &>(data));
+    default:
+        return QSharedPointer<ParameterData>::create(data);
+    }
+}
+
+} // namespace
+
+Session::Session() = default;
+
+Session::~Session()
+{
+    close();
+}
+
+void Session::start(const Opener &opener)
+{
+    m_thread = std::thread([self = shared_from_this(), opener] { self->run(opener); });
+    Lock lock(m_mutex);
+    const bool isInTime
+        = m_changed.wait_for(lock, openTime, [this] { return m_isOpen || m_openFailure || m_isFinished; });
+    if (m_openFailure) {
+        std::rethrow_exception(m_openFailure);
+    }
+    if (!isInTime) {
+        throw Core::Exception::BaseException(tr("no answer in time"));
+    }
+}
+
+void Session::close()
+{
+    Lock lock(m_mutex);
+    m_isStopping = true;
+    loseLocked(tr("the camera was closed"));
+    m_changed.notify_all();
+    if (!m_thread.joinable()) {
+        return;
+    }
+    if (m_thread.get_id() == std::this_thread::get_id()) {
+        // The worker held the last reference.
+        m_thread.detach();
+        return;
+    }
+    const bool isFinished = m_changed.wait_for(lock, closeTime, [this] { return m_isFinished; });
+    std::thread thread = std::move(m_thread);
+    lock.unlock();
+    if (isFinished) {
+        thread.join();
+    } else {
+        leftThreads().add(std::move(thread));
+    }
+}
+
+void Session::run(const Opener &opener)
+{
+    try {
+        open(opener);
+        work();
+    } catch (...) {
+        const Lock lock(m_mutex);
+        m_openFailure = std::current_exception();
+    }
+    // Engines end where they were used; that releases a live camera.
+    for (const auto &map : m_maps) {
+        map->engine.reset();
+    }
+    const Lock lock(m_mutex);
+    m_isFinished = true;
+    m_changed.notify_all();
+}
+
+void Session::open(const Opener &opener)
+{
+    Source source = opener();
+    std::vector<std::unique_ptr<MapState>> maps;
+    for (NodeMapSource &mapSource : source.maps) {
+        auto map = std::make_unique<MapState>();
+        map->engine = std::make_unique<Engine>(std::exchange(mapSource.device, nullptr),
+                                               mapSource.description, mapSource.registers);
+        map->source = mapSource;
+        map->nodes.resize(size_t(mapSource.description->nodeCount()));
+        for (const int node : mapSource.description->published()) {
+            Engine::Reading reading = map->engine->read(node);
+            if (!map->engine->lossReason().isEmpty()) {
+                throw Core::Exception::BaseException(map->engine->lossReason());
+            }
+            NodeState &state = map->nodes[size_t(node)];
+            state.type = map->engine->type(node);
+            state.own = reading.data;
+            state.shown = reading.data;
+            state.access = reading.access;
+        }
+        maps.push_back(std::move(map));
+    }
+    const Lock lock(m_mutex);
+    m_maps = std::move(maps);
+    m_info = source.info;
+    m_isOpen = true;
+    m_changed.notify_all();
+}
+
+void Session::work()
+{
+    Lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return m_isStopping || !m_calls.empty() || !m_reads.empty(); });
+        if (m_isStopping) {
+            return;
+        }
+        if (!m_calls.empty()) {
+            const std::shared_ptr<Call> call = m_calls.front();
+            m_calls.pop_front();
+            call->isBegun = true;
+            lock.unlock();
+            carryOut(call);
+            lock.lock();
+            continue;
+        }
+        const Read read = m_reads.front();
+        m_reads.pop_front();
+        MapState &map = *m_maps[size_t(read.map)];
+        NodeState &state = map.nodes[size_t(read.node)];
+        const bool force = std::exchange(state.isForced, false);
+        const bool isPolled = std::exchange(state.isPolled, false);
+        state.isQueued = false;
+        lock.unlock();
+        Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to read a node"), [&] {
+            readNow(read.map, read.node, force);
+        });
+        lock.lock();
+        map.pollsUnderWay -= isPolled ? 1 : 0;
+    }
+}
+
+void Session::carryOut(const std::shared_ptr<Call> &call)
+{
+    std::exception_ptr failure;
+    try {
+        carryOutWrite(call->map, call->node, call->value);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    const Lock lock(m_mutex);
+    call->failure = failure;
+    call->isDone = true;
+    m_changed.notify_all();
+}
+
+void Session::carryOutWrite(int map, int node, const NodeValue &value)
+{
+    Engine &engine = *m_maps[size_t(map)]->engine;
+    try {
+        engine.write(node, value);
+    } catch (...) {
+        noteLoss(map);
+        readNow(map, node, true);
+        throw;
+    }
+    readNow(map, node, true);
+    const QList<int> dependents = description(map)->dependents(node);
+    const Lock lock(m_mutex);
+    for (auto dependent = dependents.crbegin(); dependent != dependents.crend(); ++dependent) {
+        enqueue(map, *dependent, false, true);
+    }
+}
+
+void Session::readNow(int mapIndex, int node, bool force)
+{
+    if (isLost()) {
+        return;
+    }
+    MapState &map = *m_maps[size_t(mapIndex)];
+    const Engine::Reading reading = map.engine->read(node);
+    noteLoss(mapIndex);
+    const Lock lock(m_mutex);
+    if (m_readLog) {
+        m_readLog->append(map.source.description->name(node));
+    }
+    if (m_isLost) {
+        return;
+    }
+    NodeState &state = map.nodes[size_t(node)];
+    state.access = reading.access;
+    state.own = reading.data;
+    const ParameterDataPtr before = state.shown;
+    show(state);
+    if (force || !before->equals(*state.shown)) {
+        publish(mapIndex, node);
+    }
+}
+
+void Session::noteLoss(int map)
+{
+    const QString reason = m_maps[size_t(map)]->engine->lossReason();
+    if (!reason.isEmpty()) {
+        markLost(reason);
+    }
+}
+
+// Puts together what the node grants and what was imposed.
+void Session::show(NodeState &state) const
+{
+    state.shown = state.own;
+    if (!state.imposedVisibility && !state.imposedAccess) {
+        return;
+    }
+    const QSharedPointer<ParameterData> data = copyOf(*state.own);
+    data->visibility = std::max(data->visibility, state.imposedVisibility.value_or(GenApi::Beginner));
+    const GenApi::EAccessMode access = state.imposedAccess.value_or(GenApi::RW);
+    data->isImplemented = data->isImplemented && access != GenApi::NI;
+    data->isReadable = data->isReadable && (access == GenApi::RO || access == GenApi::RW);
+    data->isWritable = data->isWritable && (access == GenApi::WO || access == GenApi::RW);
+    if (!data->isReadable) {
+        data->valueString.clear();
+    }
+    state.shown = data;
+}
+
+void Session::publish(int mapIndex, int node)
+{
+    MapState &map = *m_maps[size_t(mapIndex)];
+    if (!map.listener) {
+        return;
+    }
+    map.published.append({node, map.nodes[size_t(node)].shown});
+    if (map.published.size() == 1) {
+        QMetaObject::invokeMethod(map.listener, "deliver", Qt::QueuedConnection);
+    }
+}
+
+void Session::write(int map, int node, const NodeValue &value)
+{
+    auto call = std::make_shared<Call>(Call{map, node, value, false, false, nullptr});
+    const QString name = description(map)->name(node);
+    Lock lock(m_mutex);
+    if (m_isLost) {
+        throw GenICam::RuntimeException(tr("%1: the camera is lost (%2)").arg(name, m_lossReason));
+    }
+    m_calls.push_back(call);
+    m_changed.notify_all();
+    if (!m_changed.wait_for(lock, writeTime, [&call] { return call->isDone; })) {
+        const QString reason = tr("no answer within a second");
+        std::erase(m_calls, call);
+        loseLocked(reason);
+        throw GenICam::TimeoutException(tr("%1: %2").arg(name, reason));
+    }
+    if (call->failure) {
+        std::rethrow_exception(call->failure);
+    }
+}
+
+void Session::enqueue(int map, int node, bool force, bool first)
+{
+    NodeState &state = m_maps[size_t(map)]->nodes[size_t(node)];
+    state.isForced = state.isForced || force;
+    if (m_isLost || state.isQueued) {
+        return;
+    }
+    state.isQueued = true;
+    if (first) {
+        m_reads.push_front({map, node});
+    } else {
+        m_reads.push_back({map, node});
+    }
+}
+
+void Session::requestRead(int map, int node, bool force)
+{
+    const Lock lock(m_mutex);
+    enqueue(map, node, force);
+    m_changed.notify_all();
+}
+
+void Session::refresh(int map)
+{
+    const Lock lock(m_mutex);
+    for (const int node : m_maps[size_t(map)]->source.description->published()) {
+        enqueue(map, node, false);
+    }
+    m_changed.notify_all();
+}
+
+void Session::poll(int mapIndex, int elapsedMilliseconds)
+{
+    const Lock lock(m_mutex);
+    MapState &map = *m_maps[size_t(mapIndex)];
+    const Description &description = *map.source.description;
+    const bool isDropped = map.pollsUnderWay > 0;
+    for (const int node : description.published()) {
+        const int time = description.pollingTime(node);
+        if (time == 0) {
+            continue;
+        }
+        NodeState &state = map.nodes[size_t(node)];
+        // Time passes although a poll is dropped.
+        state.age = std::min(state.age + std::max(elapsedMilliseconds, 0), time);
+        if (isDropped || state.age < time || m_isLost) {
+            continue;
+        }
+        state.age = 0;
+        state.isPolled = true;
+        ++map.pollsUnderWay;
+        enqueue(mapIndex, node, false);
+    }
+    m_changed.notify_all();
+}
+
+void Session::imposeVisibility(int map, int node, GenApi::EVisibility visibility)
+{
+    const Lock lock(m_mutex);
+    NodeState &state = m_maps[size_t(map)]->nodes[size_t(node)];
+    state.imposedVisibility = visibility;
+    show(state);
+    publish(map, node);
+}
+
+void Session::imposeAccess(int map, int node, GenApi::EAccessMode access)
+{
+    const Lock lock(m_mutex);
+    NodeState &state = m_maps[size_t(map)]->nodes[size_t(node)];
+    state.imposedAccess = access;
+    show(state);
+    publish(map, node);
+}
+
+void Session::setListener(int map, QObject *listener)
+{
+    const Lock lock(m_mutex);
+    m_maps[size_t(map)]->listener = listener;
+    m_maps[size_t(map)]->published.clear();
+}
+
+QList<Session::Published> Session::takePublished(int map)
+{
+    const Lock lock(m_mutex);
+    return std::exchange(m_maps[size_t(map)]->published, {});
+}
+
+void Session::setLossListener(QObject *listener)
+{
+    const Lock lock(m_mutex);
+    m_lossListener = listener;
+    if (m_isLost && listener) {
+        QMetaObject::invokeMethod(listener, "reportLoss", Qt::QueuedConnection, Q_ARG(QString, m_lossReason));
+    }
+}
+
+void Session::markLost(const QString &reason)
+{
+    const Lock lock(m_mutex);
+    loseLocked(reason);
+}
+
+void Session::loseLocked(const QString &reason)
+{
+    if (m_isLost) {
+        return;
+    }
+    m_isLost = true;
+    m_lossReason = reason;
+    for (const Read &read : m_reads) {
+        NodeState &state = m_maps[size_t(read.map)]->nodes[size_t(read.node)];
+        state.isQueued = false;
+    }
+    m_reads.clear();
+    for (const std::shared_ptr<Call> &call : m_calls) {
+        call->failure = std::make_exception_ptr(GenICam::TimeoutException(
+            tr("%1: %2").arg(m_maps[size_t(call->map)]->source.description->name(call->node), reason)));
+        call->isDone = true;
+    }
+    m_calls.clear();
+    m_changed.notify_all();
+    if (m_lossListener) {
+        QMetaObject::invokeMethod(m_lossListener, "reportLoss", Qt::QueuedConnection, Q_ARG(QString, reason));
+    }
+}
+
+bool Session::isLost() const
+{
+    const Lock lock(m_mutex);
+    return m_isLost;
+}
+
+// What follows is fixed once the camera is open.
+
+Core::CameraPoolComponents::CameraInfoPtr Session::info() const
+{
+    return m_info;
+}
+
+int Session::mapCount() const
+{
+    return int(m_maps.size());
+}
+
+QString Session::mapName(int map) const
+{
+    return m_maps[size_t(map)]->source.name;
+}
+
+QString Session::mapTitle(int map) const
+{
+    return m_maps[size_t(map)]->source.title;
+}
+
+std::shared_ptr<const Description> Session::description(int map) const
+{
+    return m_maps[size_t(map)]->source.description;
+}
+
+std::shared_ptr<SimulatedRegisters> Session::registers(int map) const
+{
+    return m_maps[size_t(map)]->source.registers;
+}
+
+ParameterType Session::type(int map, int node) const
+{
+    return m_maps[size_t(map)]->nodes[size_t(node)].type;
+}
+
+ParameterDataPtr Session::snapshot(int map, int node) const
+{
+    const Lock lock(m_mutex);
+    return m_maps[size_t(map)]->nodes[size_t(node)].shown;
+}
+
+GenApi::EAccessMode Session::nodeAccess(int map, int node) const
+{
+    const Lock lock(m_mutex);
+    return m_maps[size_t(map)]->nodes[size_t(node)].access;
+}
+
+void Session::startReadLog()
+{
+    const Lock lock(m_mutex);
+    m_readLog.emplace();
+}
+
+QStringList Session::readLog() const
+{
+    const Lock lock(m_mutex);
+    return m_readLog.value_or(QStringList());
+}
+
+} // namespace Cameras

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cameras/cameras_export.h>
+#include <cameras/description_p.h>
+#include <cameras/engine_p.h>
+
+#include <platform/core/camerainfo.h>
+#include <platform/parametercollection/parameterdata.h>
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+namespace Cameras {
+
+/*! \brief What is needed to set up one node map of a camera that is being opened. */
+struct NodeMapSource
+{
+    QString name;
+    QString title;
+    ArvDevice *device = nullptr; //!< taken over by the session
+    std::shared_ptr<const Description> description;
+    std::shared_ptr<SimulatedRegisters> registers; //!< null for a live camera
+};
+
+/*! \brief The inner side of an open camera: its worker thread and what it shares with the parameters.
+ *
+ * The worker alone touches the engines. It carries out waiting writes first, then one requested read after the
+ * other. Snapshots are kept here, so that parameters can outlive the camera. All functions may be called on
+ * any thread.
+ */
+class ZELTO_CAMERAS_EXPORT Session : public std::enable_shared_from_this<Session>
+{
+public:
+    struct Source
+    {
+        Core::CameraPoolComponents::CameraInfoPtr info;
+        std::vector<NodeMapSource> maps;
+    };
+    /*! Connects to the camera; runs on the worker, may throw. */
+    using Opener = std::function<Source()>;
+
+    struct Published
+    {
+        int node;
+        ParameterCollection::ParameterDataPtr data;
+    };
+
+    Session();
+    ~Session();
+    Q_DISABLE_COPY_MOVE(Session)
+
+    /*! Starts the worker and waits until all nodes are read. Throws what the opener throws. */
+    void start(const Opener &opener);
+    /*! Ends the worker; an access that hangs is left to end on its own. */
+    void close();
+
+    Core::CameraPoolComponents::CameraInfoPtr info() const;
+    int mapCount() const;
+    QString mapName(int map) const;
+    QString mapTitle(int map) const;
+    std::shared_ptr<const Description> description(int map) const;
+    std::shared_ptr<SimulatedRegisters> registers(int map) const;
+    ParameterCollection::ParameterType type(int map, int node) const;
+
+    ParameterCollection::ParameterDataPtr snapshot(int map, int node) const;
+    GenApi::EAccessMode nodeAccess(int map, int node) const;
+    void imposeVisibility(int map, int node, GenApi::EVisibility visibility);
+    void imposeAccess(int map, int node, GenApi::EAccessMode access);
+
+    /*! Writes a node and waits until the worker has done so, at most a second. */
+    void write(int map, int node, const NodeValue &value);
+    void requestRead(int map, int node, bool force);
+    void refresh(int map);
+    void poll(int map, int elapsedMilliseconds);
+
+    /*! Names the object whose slot deliver() is invoked when takePublished() has something to give. */
+    void setListener(int map, QObject *listener);
+    QList<Published> takePublished(int map);
+
+    /*! Names the object whose slot reportLoss(QString) is invoked when the camera has gone. */
+    void setLossListener(QObject *listener);
+    void markLost(const QString &reason);
+    bool isLost() const;
+
+    /*! Begins to note which nodes the worker reads; for tests. */
+    void startReadLog();
+    QStringList readLog() const;
+
+private:
+    struct NodeState
+    {
+        ParameterCollection::ParameterType type = ParameterCollection::ParameterType::Unknown;
+        QSharedPointer<const ParameterCollection::ParameterData> own;
+        QSharedPointer<const ParameterCollection::ParameterData> shown;
+        GenApi::EAccessMode access = GenApi::NI;
+        std::optional<GenApi::EVisibility> imposedVisibility;
+        std::optional<GenApi::EAccessMode> imposedAccess;
+        bool isQueued = false;
+        bool isForced = false;
+        bool isPolled = false;
+        int age = 0; //!< milliseconds since the last poll
+    };
+
+    struct MapState
+    {
+        NodeMapSource source;
+        std::unique_ptr<Engine> engine;
+        std::vector<NodeState> nodes;
+        QObject *listener = nullptr;
+        QList<Published> published;
+        int pollsUnderWay = 0;
+    };
+
+    struct Call
+    {
+        int map;
+        int node;
+        NodeValue value;
+        bool isBegun = false;
+        bool isDone = false;
+        std::exception_ptr failure;
+    };
+
+    struct Read
+    {
+        int map;
+        int node;
+    };
+
+    using Lock = std::unique_lock<std::mutex>;
+
+    void run(const Opener &opener);
+    void open(const Opener &opener);
+    void work();
+    void carryOut(const std::shared_ptr<Call> &call);
+    void carryOutWrite(int map, int node, const NodeValue &value);
+    void readNow(int map, int node, bool force);
+    void enqueue(int map, int node, bool force, bool first = false);
+    void dropReads();
+    void show(NodeState &state) const;
+    void publish(int map, int node);
+    void loseLocked(const QString &reason);
+    void noteLoss(int map);
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::thread m_thread;
+    Core::CameraPoolComponents::CameraInfoPtr m_info;
+    std::vector<std::unique_ptr<MapState>> m_maps;
+    std::deque<std::shared_ptr<Call>> m_calls;
+    std::deque<Read> m_reads;
+    std::exception_ptr m_openFailure;
+    QObject *m_lossListener = nullptr;
+    QString m_lossReason;
+    std::optional<QStringList> m_readLog;
+    bool m_isOpen = false;
+    bool m_isLost = false;
+    bool m_isStopping = false;
+    bool m_isFinished = false;
+};
+
+} // namespace Cameras

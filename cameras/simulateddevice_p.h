@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+
+#include <memory>
+
+typedef struct _ArvDevice ArvDevice;
+
+namespace Cameras {
+
+class SimulatedRegisters;
+
+/*! Returns a new device, owned by the caller, that serves the description \a xml from \a registers. It has no
+ * genicam when the engine cannot read the description. */
+ArvDevice *newSimulatedDevice(const QByteArray &xml, const std::shared_ptr<SimulatedRegisters> &registers);
+
+} // namespace Cameras

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "valuetext_p.h"
+
+#include <QLocale>
+#include <QStringList>
+
+#include <cmath>
+
+namespace Cameras::ValueText {
+
+namespace {
+
+constexpr double largestPlain = 1e15;
+constexpr double smallestPlain = 1e-6;
+
+QString joinedBytes(quint64 value, int count, int base, int width, QChar separator)
+{
+    QStringList parts;
+    for (int i = count - 1; i >= 0; --i) {
+        parts.append(QStringLiteral("%1").arg((value >> (8 * i)) & 0xff, width, base, QLatin1Char('0')));
+    }
+    return parts.join(separator);
+}
+
+std::optional<qint64> fromBytes(const QString &text, QChar separator, int count, int base)
+{
+    const QStringList parts = text.split(separator);
+    if (parts.size() != count) {
+        return std::nullopt;
+    }
+    quint64 value = 0;
+    for (const QString &part : parts) {
+        bool ok = false;
+        const uint byte = part.toUInt(&ok, base);
+        if (!ok || byte > 0xff || part.size() > 3) {
+            return std::nullopt;
+        }
+        value = (value << 8) | byte;
+    }
+    return qint64(value);
+}
+
+} // namespace
+
+QString fromInteger(qint64 value, const QString &representation)
+{
+    if (representation == QLatin1String("HexNumber")) {
+        return QStringLiteral("0x") + QString::number(quint64(value), 16);
+    }
+    if (representation == QLatin1String("IPV4Address")) {
+        return joinedBytes(quint64(value), 4, 10, 0, QLatin1Char('.'));
+    }
+    if (representation == QLatin1String("MACAddress")) {
+        return joinedBytes(quint64(value), 6, 16, 2, QLatin1Char(':')).toUpper();
+    }
+    return QString::number(value);
+}
+
+QString fromFloat(double value)
+{
+    const double magnitude = std::abs(value);
+    const bool isPlain = magnitude == 0.0 || (magnitude >= smallestPlain && magnitude < largestPlain);
+    return QString::number(value, isPlain ? 'f' : 'g', QLocale::FloatingPointShortest);
+}
+
+std::optional<qint64> toInteger(const QString &text, const QString &representation)
+{
+    const QString trimmed = text.trimmed();
+    bool ok = false;
+    if (trimmed.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
+        const quint64 value = trimmed.mid(2).toULongLong(&ok, 16);
+        return ok ? std::optional(qint64(value)) : std::nullopt;
+    }
+    if (representation == QLatin1String("IPV4Address") && trimmed.contains(QLatin1Char('.'))) {
+        return fromBytes(trimmed, QLatin1Char('.'), 4, 10);
+    }
+    if (representation == QLatin1String("MACAddress") && trimmed.contains(QLatin1Char(':'))) {
+        return fromBytes(trimmed, QLatin1Char(':'), 6, 16);
+    }
+    const qint64 value = trimmed.toLongLong(&ok, 10);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> toFloat(const QString &text)
+{
+    bool ok = false;
+    const double value = text.trimmed().toDouble(&ok);
+    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<bool> toBoolean(const QString &text)
+{
+    if (text == QLatin1String("1") || text == QLatin1String("true")) {
+        return true;
+    }
+    if (text == QLatin1String("0") || text == QLatin1String("false")) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+} // namespace Cameras::ValueText

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/*! \brief How values are written as text and read from it, the same in every locale. */
+namespace Cameras::ValueText {
+
+/*! Returns \a value in the form of the GenICam \a representation. */
+QString fromInteger(qint64 value, const QString &representation);
+/*! Returns the shortest text that gives \a value again. */
+QString fromFloat(double value);
+
+/*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a representation. */
+std::optional<qint64> toInteger(const QString &text, const QString &representation);
+std::optional<double> toFloat(const QString &text);
+std::optional<bool> toBoolean(const QString &text);
+
+} // namespace Cameras::ValueText

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <cameras/camera.h>
+#include <cameras/description_p.h>
+
+#include <platform/core/exception.h>
+#include <platform/parametercollection/iparameter.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ParameterCollection;
+using namespace Cameras;
+
+namespace {
+
+QByteArray description(const QByteArray &nodes)
+{
+    return QByteArray("<?xml version=\"1.0\"?>\n<RegisterDescription ModelName=\"Model\" VendorName=\"Vendor\" "
+                      "StandardNameSpace=\"GEV\" SchemaMajorVersion=\"1\" SchemaMinorVersion=\"1\" "
+                      "SchemaSubMinorVersion=\"0\" MajorVersion=\"1\" MinorVersion=\"0\" SubMinorVersion=\"0\" "
+                      "xmlns=\"http://www.genicam.org/GenApi/Version_1_1\">\n")
+        + nodes + "\n<Port Name=\"Device\"/></RegisterDescription>\n";
+}
+
+QByteArray root(const QByteArray &features)
+{
+    QByteArray text = "<Category Name=\"Root\">";
+    for (const QByteArray &feature : features.split(' ')) {
+        text += "<pFeature>" + feature + "</pFeature>";
+    }
+    return text + "</Category>";
+}
+
+QByteArray integerRegister(const QByteArray &name, const QByteArray &address, const QByteArray &more = {})
+{
+    return "<IntReg Name=\"" + name + "\">" + more + "<Address>" + address
+        + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
+          "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
+}
+
+} // namespace
+
+class TestDescription : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void refusesBrokenFiles_data();
+    void refusesBrokenFiles();
+    void oneBadFeatureLeavesTheTree();
+    void circlesAreUnreadable();
+    void endlessCategoriesAreCut();
+    void dependentsFollowTheLinks();
+    void valuesLiveOnRegisters();
+    void groupsAndStructEntries();
+
+private:
+    QString saved(const QByteArray &contents);
+
+    QTemporaryDir m_directory;
+};
+
+QString TestDescription::saved(const QByteArray &contents)
+{
+    QFile file(m_directory.filePath(QStringLiteral("camera.xml")));
+    file.open(QIODevice::WriteOnly);
+    file.write(contents);
+    return file.fileName();
+}
+
+void TestDescription::refusesBrokenFiles_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("reason");
+    const QByteArray good = description(root("A") + "<Integer Name=\"A\"><Value>1</Value></Integer>");
+    QTest::newRow("no xml") << QByteArray("This is a letter.") << QStringLiteral("line 1");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("end of document");
+    QTest::newRow("truncated") << good.left(good.size() / 2) << QStringLiteral("end of document");
+    QTest::newRow("truncated at the end") << good.chopped(8) << QStringLiteral("end of document");
+    QTest::newRow("other xml") << QByteArray("<html/>") << QStringLiteral("no camera description");
+    QTest::newRow("no root") << description("<Integer Name=\"A\"><Value>1</Value></Integer>")
+                             << QStringLiteral("\"Root\"");
+    QTest::newRow("entities") << QByteArray("<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>") + good
+                              << QStringLiteral("document type");
+    QTest::newRow("broken archive") << QByteArray("PK\3\4 and nothing else") << QStringLiteral("archive");
+}
+
+void TestDescription::refusesBrokenFiles()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, reason);
+    const QString fileName = saved(contents);
+    for (const QString &name : {fileName, m_directory.path(), QStringLiteral("/no/such/file.xml")}) {
+        try {
+            Camera::openDescription(name);
+            QFAIL("opened");
+        } catch (const Core::Exception::BaseException &exception) {
+            const QString message = exception.getMessage();
+            QVERIFY2(message.contains(name), qPrintable(message));
+            QVERIFY2(name != fileName || message.contains(reason), qPrintable(message));
+            QVERIFY(!message.contains(QLatin1Char('\n')));
+        }
+    }
+}
+
+void TestDescription::oneBadFeatureLeavesTheTree()
+{
+    const auto camera = Camera::openDescription(saved(description(
+        root("Ratio Lost Good Nobody")
+        + "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
+          "<SwissKnife Name=\"Knife\"><pVariable Name=\"N\">Zero</pVariable><Formula>1.0 / N</Formula></SwissKnife>"
+          "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
+          "<Integer Name=\"Good\"><Value>7</Value></Integer>"
+        + integerRegister("Zero", "0x10"))));
+    const auto collection = camera->nodeMaps().first().collection;
+    QCOMPARE(collection->childNames(QStringLiteral("Root"), 0, false),
+             QStringList({QStringLiteral("Ratio"), QStringLiteral("Lost"), QStringLiteral("Good")}));
+    QVERIFY(!collection->parameter(QStringLiteral("Ratio"))->parameterData()->isReadable);
+    QVERIFY(!collection->parameter(QStringLiteral("Lost"))->parameterData()->isReadable);
+    const auto good = collection->parameter(QStringLiteral("Good"));
+    QCOMPARE(good->parameterData()->valueString, QStringLiteral("7"));
+    QCOMPARE(good->propertyAccess()->property(QStringLiteral("DisplayName")), QStringLiteral("Good"));
+    QCOMPARE(camera->info()->vendorName(), QStringLiteral("Vendor"));
+    QCOMPARE(collection->deviceClass(), QStringLiteral("GEV"));
+}
+
+void TestDescription::circlesAreUnreadable()
+{
+    const auto camera = Camera::openDescription(saved(description(
+        root("A Limited Switched Good")
+        + "<Integer Name=\"A\"><pValue>B</pValue></Integer><Integer Name=\"B\"><pValue>A</pValue></Integer>"
+          "<Integer Name=\"Limited\"><Value>1</Value><pMax>B</pMax></Integer>"
+          "<Integer Name=\"Switched\"><pIsAvailable>B</pIsAvailable><Value>1</Value></Integer>"
+          "<Integer Name=\"Good\"><Value>7</Value></Integer>")));
+    const auto collection = camera->nodeMaps().first().collection;
+    for (const char *name : {"A", "Limited", "Switched"}) {
+        const auto bad = collection->parameter(QString::fromLatin1(name));
+        QVERIFY2(!bad->parameterData()->isReadable, name);
+        QVERIFY_EXCEPTION_THROWN(bad->setValueFromString(QStringLiteral("1")), std::exception);
+    }
+    QVERIFY(collection->parameter(QStringLiteral("Good"))->parameterData()->isReadable);
+}
+
+void TestDescription::endlessCategoriesAreCut()
+{
+    const Description parsed(description(
+        root("Outer") + "<Category Name=\"Outer\"><pFeature>Inner</pFeature><pFeature>Value</pFeature></Category>"
+                        "<Category Name=\"Inner\"><pFeature>Outer</pFeature><pFeature>Value</pFeature></Category>"
+                        "<Integer Name=\"Value\"><Value>7</Value></Integer>"));
+    const int inner = parsed.indexOf(QStringLiteral("Inner"));
+    const int value = parsed.indexOf(QStringLiteral("Value"));
+    QCOMPARE(parsed.children(inner), QList<int>({value}));
+    QCOMPARE(parsed.children(parsed.indexOf(QStringLiteral("Outer"))), QList<int>({inner, value}));
+}
+
+void TestDescription::dependentsFollowTheLinks()
+{
+    const Description parsed(description(
+        root("Written Same Limited Chosen Selector Unrelated Kept Polled")
+        + "<Integer Name=\"Written\"><pValue>Register</pValue></Integer>"
+          "<Float Name=\"Same\"><pValue>Converted</pValue></Float>"
+          "<Converter Name=\"Converted\"><FormulaTo>FROM</FormulaTo><FormulaFrom>TO</FormulaFrom>"
+          "<pValue>Register</pValue></Converter>"
+          "<Integer Name=\"Limited\"><Value>1</Value><pMax>Knife</pMax></Integer>"
+          "<IntSwissKnife Name=\"Knife\"><pVariable Name=\"V\">Written</pVariable><Formula>V</Formula>"
+          "</IntSwissKnife>"
+          "<Enumeration Name=\"Selector\"><EnumEntry Name=\"E\"><pIsAvailable>Register</pIsAvailable>"
+          "<Value>0</Value></EnumEntry><Value>0</Value><pSelected>Chosen</pSelected></Enumeration>"
+          "<Integer Name=\"Chosen\"><Value>1</Value></Integer>"
+          "<Integer Name=\"Unrelated\"><pValue>Other</pValue></Integer>"
+          "<Integer Name=\"Kept\"><pValue>Invalidated</pValue></Integer>"
+          "<Integer Name=\"Polled\"><pValue>Clock</pValue></Integer>"
+        + integerRegister("Register", "0x10") + integerRegister("Other", "0x14")
+        + integerRegister("Clock", "0x18", "<PollingTime>250</PollingTime>")
+        + integerRegister("Invalidated", "0x1c", "<pInvalidator>Unrelated</pInvalidator>")));
+    const auto namesAfter = [&parsed](const char *written) {
+        QStringList names;
+        for (const int node : parsed.dependents(parsed.indexOf(QString::fromLatin1(written)))) {
+            names.append(parsed.name(node));
+        }
+        names.sort();
+        return names.join(QLatin1Char(' '));
+    };
+    QCOMPARE(namesAfter("Written"), QStringLiteral("Chosen Limited Same Selector"));
+    QCOMPARE(namesAfter("Same"), QStringLiteral("Chosen Limited Selector Written"));
+    QCOMPARE(namesAfter("Selector"), QStringLiteral("Chosen"));
+    QCOMPARE(namesAfter("Chosen"), QString());
+    QCOMPARE(namesAfter("Unrelated"), QStringLiteral("Kept"));
+    QCOMPARE(parsed.pollingTime(parsed.indexOf(QStringLiteral("Polled"))), 250);
+    QCOMPARE(parsed.pollingTime(parsed.indexOf(QStringLiteral("Kept"))), 0);
+}
+
+void TestDescription::valuesLiveOnRegisters()
+{
+    const auto camera = Camera::openDescription(saved(description(
+        root("Number Go")
+        + "<Integer Name=\"Number\"><pValue>Register</pValue><Representation>HexNumber</Representation></Integer>"
+          "<Command Name=\"Go\"><pValue>Trigger</pValue><CommandValue>1</CommandValue></Command>"
+        + integerRegister("Register", "0x10") + integerRegister("Trigger", "0x14"))));
+    const auto collection = camera->nodeMaps().first().collection;
+    const auto number = collection->parameter(QStringLiteral("Number"));
+    QCOMPARE(number->parameterData()->valueString, QStringLiteral("0x0"));
+    number->setValueFromString(QStringLiteral("0xCAFE"));
+    QCOMPARE(number->parameterData()->valueString, QStringLiteral("0xcafe"));
+    const auto go = qSharedPointerObjectCast<ICommandParameter>(collection->parameter(QStringLiteral("Go")));
+    go->execute(true);
+    QVERIFY(static_cast<const CommandParameterData &>(*go->parameterData()).isDone);
+}
+
+void TestDescription::groupsAndStructEntries()
+{
+    const auto camera = Camera::openDescription(saved(description(
+        "<Group Comment=\"all\">" + root("Low High")
+        + "<Integer Name=\"Low\"><pValue>LowBits</pValue></Integer>"
+          "<Integer Name=\"High\"><pValue>HighBits</pValue></Integer></Group>"
+          "<StructReg Comment=\"bits\"><Address>0x20</Address><Length>4</Length><AccessMode>RW</AccessMode>"
+          "<pPort>Device</pPort><Endianess>LittleEndian</Endianess>"
+          "<StructEntry Name=\"LowBits\"><LSB>0</LSB><MSB>7</MSB></StructEntry>"
+          "<StructEntry Name=\"HighBits\"><LSB>8</LSB><MSB>15</MSB></StructEntry></StructReg>")));
+    const auto collection = camera->nodeMaps().first().collection;
+    collection->parameter(QStringLiteral("High"))->setValueFromString(QStringLiteral("3"));
+    QCOMPARE(collection->parameter(QStringLiteral("High"))->parameterData()->valueString, QStringLiteral("3"));
+    QCOMPARE(collection->parameter(QStringLiteral("Low"))->parameterData()->valueString, QStringLiteral("0"));
+}
+
+QTEST_GUILESS_MAIN(TestDescription)
+#include "tst_description.moc"

@@ -1,0 +1,551 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <cameras/camera.h>
+#include <cameras/session_p.h>
+#include <cameras/simulatedregisters_p.h>
+
+#include <platform/genicam/genericexception.h>
+#include <platform/parametercollection/iparameter.h>
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace ParameterCollection;
+using namespace Cameras;
+
+namespace {
+
+const char *const changed = SIGNAL(
+    parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>));
+
+QString failureOf(IParameter &parameter, const QString &text)
+{
+    try {
+        parameter.setValueFromString(text);
+    } catch (const GenICam::GenericException &exception) {
+        return QString::fromUtf8(exception.what());
+    }
+    return {};
+}
+
+} // namespace
+
+class TestEmbeddedCamera : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void opensWithThreeNodeMaps();
+    void lookUps();
+    void categoriesAreListedInOrder();
+    void staticProperties();
+    void accessOfNodes_data();
+    void accessOfNodes();
+    void writesText_data();
+    void writesText();
+    void refusesText_data();
+    void refusesText();
+    void typedWrites();
+    void aliasFollowsItsFeature();
+    void writeReadsExactlyWhatDependsOnIt();
+    void selectorChangesWhatItSelects();
+    void publishingRules();
+    void pollHonoursPollingTimes();
+    void pollIsDroppedWhileOneRuns();
+    void commandTakesItsTime();
+    void userSetLoadPutsValuesBack();
+    void imposingLimitsButNeverGrants();
+    void imposingRefusesWrongTexts();
+    void hangingWriteLosesTheCameraOnce();
+    void parametersOutliveTheCamera();
+    void closingWhileAReadHangs();
+
+private:
+    QSharedPointer<IParameter> parameter(const char *name, int map = 0) const;
+    QString text(const char *name, int map = 0) const;
+    void write(const char *name, const QString &text);
+    void settle() const;
+
+    std::unique_ptr<Camera> m_camera;
+};
+
+void TestEmbeddedCamera::init()
+{
+    m_camera = Camera::openEmbedded();
+}
+
+void TestEmbeddedCamera::cleanup()
+{
+    m_camera.reset();
+}
+
+QSharedPointer<IParameter> TestEmbeddedCamera::parameter(const char *name, int map) const
+{
+    return m_camera->nodeMaps().at(map).collection->parameter(QString::fromLatin1(name));
+}
+
+QString TestEmbeddedCamera::text(const char *name, int map) const
+{
+    return parameter(name, map)->parameterData()->valueString;
+}
+
+void TestEmbeddedCamera::write(const char *name, const QString &text)
+{
+    parameter(name)->setValueFromString(text);
+}
+
+// Waits until the worker has read all that was asked for so far, and all is delivered.
+void TestEmbeddedCamera::settle() const
+{
+    auto last = parameter("LargeCounter");
+    QSignalSpy spy(last.data(), changed);
+    last->scheduleParameterDataChangedCheck(true);
+    QVERIFY(spy.wait());
+}
+
+void TestEmbeddedCamera::opensWithThreeNodeMaps()
+{
+    const QList<NodeMap> maps = m_camera->nodeMaps();
+    QCOMPARE(maps.size(), 3);
+    QCOMPARE(maps[0].name, QStringLiteral("@CameraDevice"));
+    QCOMPARE(maps[1].name, QStringLiteral("@DeviceTransportLayer"));
+    QCOMPARE(maps[2].name, QStringLiteral("@StreamGrabber0"));
+    int features = 0;
+    QSet<ParameterType> types;
+    QSet<GenApi::EVisibility> levels;
+    for (const NodeMap &map : maps) {
+        QCOMPARE(map.collection->deviceClass(), QStringLiteral("GEV"));
+        for (const QString &name : map.collection->childNames(QStringLiteral("Root"), 9, true)) {
+            const auto found = map.collection->parameter(name);
+            QVERIFY2(found && found->parameterData(), qPrintable(name));
+            QVERIFY(!found->isExcluded());
+            QCOMPARE(found->fullName(), name);
+            types.insert(found->type());
+            levels.insert(found->visibility());
+            features += found->type() != ParameterType::Category;
+        }
+    }
+    QVERIFY2(features >= 150, qPrintable(QString::number(features)));
+    QCOMPARE(types.size(), 7);
+    QCOMPARE(levels.size(), 4);
+}
+
+void TestEmbeddedCamera::lookUps()
+{
+    const auto collection = m_camera->nodeMaps().first().collection;
+    const auto exposure = collection->parameter(QStringLiteral("ExposureTime"));
+    QCOMPARE(collection->parameter(QStringLiteral("@CameraDevice/ExposureTime")), exposure);
+    const auto alias = collection->parameter(QStringLiteral("@CameraDevice/ExposureTime/Alias"));
+    QVERIFY(qSharedPointerObjectCast<IIntegerParameter>(alias));
+    QVERIFY(alias->isExcluded());
+    QCOMPARE(collection->parameter(QStringLiteral("ExposureTime/Alias")), alias);
+    QVERIFY(collection->hasParameter(QStringLiteral("Gain/Alias")));
+    for (const char *absent : {"", "Nothing", "@StreamGrabber0/ExposureTime", "Width/Alias", "/Alias",
+                               "WidthReg", "Device"}) {
+        QVERIFY2(!collection->hasParameter(QString::fromLatin1(absent)), absent);
+        QVERIFY(!collection->parameter(QString::fromLatin1(absent)));
+    }
+}
+
+void TestEmbeddedCamera::categoriesAreListedInOrder()
+{
+    const auto collection = m_camera->nodeMaps().at(1).collection;
+    const QStringList children = collection->childNames(QStringLiteral("@DeviceTransportLayer/Root"), 0, true);
+    QCOMPARE(children, QStringList({QStringLiteral("@DeviceTransportLayer/TransportLayerControl"),
+                                    QStringLiteral("@DeviceTransportLayer/DeviceEventControl")}));
+    const QStringList two = collection->childNames(QStringLiteral("Root"), 1, false);
+    QCOMPARE(two.mid(0, 3), QStringList({QStringLiteral("TransportLayerControl"),
+                                         QStringLiteral("DeviceEventControl"),
+                                         QStringLiteral("GevMACAddress")}));
+    QVERIFY(collection->childNames(QStringLiteral("GevCCP"), 0, true).isEmpty());
+}
+
+void TestEmbeddedCamera::staticProperties()
+{
+    const auto access = parameter("ExposureTime")->propertyAccess();
+    QCOMPARE(access->property(QStringLiteral("DisplayName")), QStringLiteral("Exposure Time"));
+    QCOMPARE(access->property(QStringLiteral("Unit")), QStringLiteral("us"));
+    QCOMPARE(access->property(QStringLiteral("Tooltip")), QStringLiteral("Duration of the exposure"));
+    QCOMPARE(access->property(QStringLiteral("Representation")), QStringLiteral("Logarithmic"));
+    QVERIFY(access->property(QStringLiteral("DocuURL")).startsWith(QLatin1String("https://")));
+    QCOMPARE(access->property(QStringLiteral("Nonsense"), QStringLiteral("none")), QStringLiteral("none"));
+    const auto data = parameter("DeviceTemperature")->parameterData();
+    const auto *typed = dynamic_cast<const FloatParameterData *>(data.data());
+    QVERIFY(typed);
+    QCOMPARE(typed->displayNotation, GenApi::fnFixed);
+    QCOMPARE(typed->displayPrecision, 4);
+    QCOMPARE(typed->increment, 0.0);
+    QCOMPARE(typed->representation, QStringLiteral("PureNumber"));
+}
+
+void TestEmbeddedCamera::accessOfNodes_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("access");
+    QTest::newRow("writable") << QByteArray("Width") << int(GenApi::RW);
+    QTest::newRow("read-only") << QByteArray("DeviceVendorName") << int(GenApi::RO);
+    QTest::newRow("write-only") << QByteArray("FileAccessPassword") << int(GenApi::WO);
+    QTest::newRow("locked") << QByteArray("AcquisitionFrameRate") << int(GenApi::RO);
+    QTest::newRow("not available") << QByteArray("ChunkEnable") << int(GenApi::NA);
+    QTest::newRow("not implemented") << QByteArray("BalanceWhiteAuto") << int(GenApi::NI);
+    QTest::newRow("command") << QByteArray("AcquisitionStart") << int(GenApi::WO);
+    QTest::newRow("locked command") << QByteArray("UserSetSave") << int(GenApi::NA);
+}
+
+void TestEmbeddedCamera::accessOfNodes()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(int, access);
+    const auto found = parameter(name.constData());
+    QCOMPARE(int(found->nodeAccessMode()), access);
+    const auto data = found->parameterData();
+    QCOMPARE(data->isImplemented, access != GenApi::NI);
+    QCOMPARE(data->isReadable, access == GenApi::RO || access == GenApi::RW);
+    QCOMPARE(data->isWritable, access == GenApi::WO || access == GenApi::RW);
+    QCOMPARE(data->valueString.isEmpty(), !data->isReadable);
+    QCOMPARE(found->isWritableNow(), data->isWritable);
+    if (!data->isWritable) {
+        QVERIFY_EXCEPTION_THROWN(found->setValueFromString(QStringLiteral("1")), GenICam::AccessException);
+    }
+}
+
+void TestEmbeddedCamera::writesText_data()
+{
+    QTest::addColumn<int>("map");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](int map, const char *name, const char *written, const char *shown) {
+        QTest::addRow("%s = %s", name, written)
+            << map << QByteArray(name) << QString::fromUtf8(written) << QString::fromUtf8(shown);
+    };
+    row(0, "Width", "640", "640");
+    row(0, "Width", " 0x280 ", "640");
+    row(0, "UserOutputValueAll", "0xA5", "0xa5");
+    row(0, "UserOutputValueAll", "17", "0x11");
+    row(0, "FileAccessOffset", "6000000001", "6000000001");
+    row(0, "TestBigRange", "9223372036854775807", "9223372036854775807");
+    row(0, "TestBigRange", "-9223372036854775807", "-9223372036854775807");
+    row(1, "GevPersistentIPAddress", "10.1.2.255", "10.1.2.255");
+    row(1, "GevPersistentIPAddress", "0x0A000001", "10.0.0.1");
+    row(1, "GevPersistentIPAddress", "4294967295", "255.255.255.255");
+    row(0, "ExposureTime", "0x10", "");
+    row(0, "ExposureTime", "1e3", "1000");
+    row(0, "ExposureTime", "20.5", "20.5");
+    row(0, "Gamma", "0.1", "0.1");
+    row(0, "Gamma", "3.3333333333333335", "3.3333333333333335");
+    row(0, "ReverseX", "true", "true");
+    row(0, "ReverseX", "1", "true");
+    row(0, "PixelFormat", "Mono12", "Mono12");
+    row(0, "DeviceUserID", "Prüfstand 7", "Prüfstand 7");
+}
+
+void TestEmbeddedCamera::writesText()
+{
+    QFETCH(int, map);
+    QFETCH(QByteArray, name);
+    QFETCH(QString, written);
+    QFETCH(QString, shown);
+    const auto found = parameter(name.constData(), map);
+    if (shown.isEmpty()) {
+        QVERIFY(!failureOf(*found, written).isEmpty());
+        return;
+    }
+    QSignalSpy spy(found.data(), changed);
+    found->setValueFromString(written);
+    QCOMPARE(text(name.constData(), map), shown);
+    QVERIFY2(spy.isEmpty(), "published from inside the call");
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.size(), 1);
+}
+
+void TestEmbeddedCamera::refusesText_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("allowed");
+    const auto row = [](const char *name, const char *written, const char *allowed) {
+        QTest::addRow("%s = %s", name, written)
+            << QByteArray(name) << QString::fromUtf8(written) << QString::fromUtf8(allowed);
+    };
+    row("Width", "abc", "an integer");
+    row("Width", "", "an integer");
+    row("Width", "12.5", "an integer");
+    row("Width", "8", "16 to 5320");
+    row("Width", "641", "multiple of 8");
+    row("Width", "99999999999999999999", "an integer");
+    row("UserOutputValueAll", "0x1ff", "0x0 to 0xff");
+    row("ExposureTime", "1,5", "a number");
+    row("ExposureTime", "nan", "a number");
+    row("ExposureTime", "5", "10 to 10000000");
+    row("ReverseX", "yes", "true, false");
+    row("PixelFormat", "RGB8", "Mono8, Mono12, Mono12Packed");
+    row("DeviceUserID", "a name that is much longer than the register", "32 bytes");
+    row("AcquisitionStart", "go", "no text");
+}
+
+void TestEmbeddedCamera::refusesText()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QString, written);
+    QFETCH(QString, allowed);
+    const auto found = parameter(name.constData());
+    const QString before = found->parameterData()->valueString;
+    const QString failure = failureOf(*found, written);
+    QVERIFY2(failure.contains(QString::fromLatin1(name)), qPrintable(failure));
+    QVERIFY2(failure.contains(QLatin1Char('"') + written + QLatin1Char('"')), qPrintable(failure));
+    QVERIFY2(failure.contains(allowed), qPrintable(failure));
+    QCOMPARE(found->parameterData()->valueString, before);
+}
+
+void TestEmbeddedCamera::typedWrites()
+{
+    qSharedPointerObjectCast<IIntegerParameter>(parameter("Width"))->setValue(800);
+    QCOMPARE(text("Width"), QStringLiteral("800"));
+    qSharedPointerObjectCast<IFloatParameter>(parameter("Gamma"))->setValue(0.5);
+    QCOMPARE(text("Gamma"), QStringLiteral("0.5"));
+    qSharedPointerObjectCast<IBooleanParameter>(parameter("ReverseY"))->setValue(true);
+    QCOMPARE(text("ReverseY"), QStringLiteral("true"));
+    qSharedPointerObjectCast<IEnumParameter>(parameter("TestPattern"))->setValue(QStringLiteral("Black"));
+    QCOMPARE(text("TestPattern"), QStringLiteral("Black"));
+    const auto width = qSharedPointerObjectCast<IIntegerParameter>(parameter("Width"));
+    QVERIFY_EXCEPTION_THROWN(width->setValue(1), GenICam::OutOfRangeException);
+}
+
+void TestEmbeddedCamera::aliasFollowsItsFeature()
+{
+    QCOMPARE(text("ExposureTime"), QStringLiteral("5000"));
+    QCOMPARE(text("ExposureTime/Alias"), QStringLiteral("5000000"));
+    QSignalSpy spy(parameter("ExposureTime").data(), changed);
+    qSharedPointerObjectCast<IIntegerParameter>(parameter("ExposureTime/Alias"))->setValue(123000);
+    QVERIFY(spy.wait());
+    QCOMPARE(text("ExposureTime"), QStringLiteral("123"));
+}
+
+void TestEmbeddedCamera::writeReadsExactlyWhatDependsOnIt()
+{
+    m_camera->session()->startReadLog();
+    write("Width", QStringLiteral("640"));
+    settle();
+    QStringList reads = m_camera->session()->readLog();
+    reads.sort();
+    QCOMPARE(reads, QStringList({QStringLiteral("LargeCounter"), QStringLiteral("OffsetX"),
+                                 QStringLiteral("Width")}));
+    const auto data = parameter("OffsetX")->parameterData();
+    QCOMPARE(static_cast<const IntegerParameterData &>(*data).maximum, 5320 - 640);
+
+    m_camera->session()->startReadLog();
+    write("BinningHorizontal", QStringLiteral("2"));
+    settle();
+    reads = m_camera->session()->readLog();
+    reads.sort();
+    QCOMPARE(reads,
+             QStringList({QStringLiteral("BinningHorizontal"), QStringLiteral("LargeCounter"),
+                          QStringLiteral("OffsetX"), QStringLiteral("Width"), QStringLiteral("WidthMax")}));
+}
+
+void TestEmbeddedCamera::selectorChangesWhatItSelects()
+{
+    QCOMPARE(text("Gain"), QStringLiteral("0"));
+    write("GainSelector", QStringLiteral("DigitalAll"));
+    settle();
+    QCOMPARE(text("Gain"), QStringLiteral("6"));
+    write("Gain", QStringLiteral("7.5"));
+    write("GainSelector", QStringLiteral("All"));
+    settle();
+    QCOMPARE(text("Gain"), QStringLiteral("0"));
+    write("GainSelector", QStringLiteral("DigitalAll"));
+    settle();
+    QCOMPARE(text("Gain"), QStringLiteral("7.5"));
+    write("AcquisitionMode", QStringLiteral("MultiFrame"));
+    settle();
+    QCOMPARE(text("AcquisitionFrameCount"), QStringLiteral("10"));
+}
+
+void TestEmbeddedCamera::publishingRules()
+{
+    const auto gamma = parameter("Gamma");
+    QSignalSpy spy(gamma.data(), changed);
+    gamma->scheduleParameterDataChangedCheck(false);
+    m_camera->nodeMaps().first().collection->refresh();
+    settle();
+    QCOMPARE(spy.size(), 0);
+    gamma->scheduleParameterDataChangedCheck(true);
+    settle();
+    QCOMPARE(spy.size(), 1);
+    write("Gamma", text("Gamma"));
+    settle();
+    QCOMPARE(spy.size(), 2);
+    QVERIFY(!failureOf(*gamma, QStringLiteral("-1")).isEmpty());
+    settle();
+    QCOMPARE(spy.size(), 3);
+}
+
+void TestEmbeddedCamera::pollHonoursPollingTimes()
+{
+    const auto collection = m_camera->nodeMaps().first().collection;
+    const auto readsAfter = [&](int elapsed) {
+        m_camera->session()->startReadLog();
+        collection->poll(elapsed);
+        settle();
+        return m_camera->session()->readLog();
+    };
+    QVERIFY(!readsAfter(400).contains(QStringLiteral("Timestamp")));
+    const QStringList second = readsAfter(100);
+    QVERIFY(second.contains(QStringLiteral("Timestamp")));
+    QVERIFY(!second.contains(QStringLiteral("DeviceTemperature")));
+    const QString before = text("DeviceTemperature");
+    const QStringList third = readsAfter(500);
+    QCOMPARE(third.count(QStringLiteral("DeviceTemperature")), 1);
+    QVERIFY(third.contains(QStringLiteral("Timestamp")));
+    QVERIFY(!third.contains(QStringLiteral("Width")));
+    QVERIFY(text("DeviceTemperature") != before);
+}
+
+void TestEmbeddedCamera::pollIsDroppedWhileOneRuns()
+{
+    const auto collection = m_camera->nodeMaps().first().collection;
+    m_camera->session()->startReadLog();
+    m_camera->session()->registers(0)->setDelay(5);
+    for (int i = 0; i < 5; ++i) {
+        collection->poll(1000);
+    }
+    m_camera->session()->registers(0)->setDelay(0);
+    settle();
+    QCOMPARE(m_camera->session()->readLog().count(QStringLiteral("Timestamp")), 1);
+}
+
+void TestEmbeddedCamera::commandTakesItsTime()
+{
+    const auto reset = qSharedPointerObjectCast<ICommandParameter>(parameter("DeviceReset"));
+    const auto isDone = [&reset] {
+        return static_cast<const CommandParameterData &>(*reset->parameterData()).isDone;
+    };
+    QVERIFY(isDone());
+    QElapsedTimer timer;
+    timer.start();
+    reset->execute(true);
+    QVERIFY(timer.elapsed() < 500);
+    QVERIFY(!isDone());
+    QVERIFY(reset->parameterData()->valueString.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT((reset->scheduleParameterDataChangedCheck(false), isDone()), 3000);
+    QVERIFY(timer.elapsed() >= 900);
+    const auto start = qSharedPointerObjectCast<ICommandParameter>(parameter("AcquisitionStart"));
+    start->execute(true);
+    QVERIFY(static_cast<const CommandParameterData &>(*start->parameterData()).isDone);
+}
+
+void TestEmbeddedCamera::userSetLoadPutsValuesBack()
+{
+    write("Gamma", QStringLiteral("2"));
+    write("Width", QStringLiteral("640"));
+    qSharedPointerObjectCast<ICommandParameter>(parameter("UserSetLoad"))->execute(true);
+    settle();
+    QCOMPARE(text("Gamma"), QStringLiteral("1"));
+    QCOMPARE(text("Width"), QStringLiteral("1920"));
+    const auto data = parameter("OffsetX")->parameterData();
+    QCOMPARE(static_cast<const IntegerParameterData &>(*data).maximum, 5320 - 1920);
+}
+
+void TestEmbeddedCamera::imposingLimitsButNeverGrants()
+{
+    const auto width = parameter("Width");
+    QSignalSpy spy(width.data(), changed);
+    width->propertyAccess()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RO"));
+    QVERIFY(spy.isEmpty());
+    QVERIFY(!width->isWritableNow());
+    QVERIFY(width->parameterData()->isReadable);
+    QCOMPARE(width->nodeAccessMode(), GenApi::RW);
+    QVERIFY(spy.wait());
+    width->setValueFromString(QStringLiteral("640"));
+    QCOMPARE(text("Width"), QStringLiteral("640"));
+    QVERIFY(!width->isWritableNow());
+    width->propertyAccess()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RW"));
+    QVERIFY(width->isWritableNow());
+
+    width->propertyAccess()->setProperty(QStringLiteral("Visibility"), QStringLiteral("Guru"));
+    QCOMPARE(width->visibility(), GenApi::Guru);
+    QCOMPARE(width->parameterData()->visibility, GenApi::Guru);
+    const auto hidden = parameter("TestInvisible");
+    hidden->propertyAccess()->setProperty(QStringLiteral("Visibility"), QStringLiteral("Beginner"));
+    QCOMPARE(hidden->visibility(), GenApi::Invisible);
+    const auto fixed = parameter("DeviceVendorName");
+    fixed->propertyAccess()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RW"));
+    QVERIFY(!fixed->isWritableNow());
+    fixed->propertyAccess()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("NI"));
+    QVERIFY(!fixed->parameterData()->isImplemented);
+    QVERIFY(fixed->parameterData()->valueString.isEmpty());
+}
+
+void TestEmbeddedCamera::imposingRefusesWrongTexts()
+{
+    const auto access = parameter("Width")->propertyAccess();
+    QVERIFY_EXCEPTION_THROWN(access->setProperty(QStringLiteral("Unit"), QStringLiteral("mm")),
+                             GenICam::InvalidArgumentException);
+    QVERIFY_EXCEPTION_THROWN(access->setProperty(QStringLiteral("Visibility"), QStringLiteral("Everybody")),
+                             GenICam::InvalidArgumentException);
+    QVERIFY_EXCEPTION_THROWN(access->setProperty(QStringLiteral("AccessMode"), QString()),
+                             GenICam::InvalidArgumentException);
+    QVERIFY(parameter("Width")->isWritableNow());
+}
+
+void TestEmbeddedCamera::hangingWriteLosesTheCameraOnce()
+{
+    QSignalSpy lost(m_camera.get(), SIGNAL(lost(QString)));
+    m_camera->session()->registers(0)->setDelay(2500);
+    const auto width = parameter("Width");
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("640")), GenICam::TimeoutException);
+    QVERIFY(timer.elapsed() >= 900 && timer.elapsed() < 2000);
+    QVERIFY(m_camera->isLost());
+    QVERIFY(lost.isEmpty());
+    timer.restart();
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("640")), GenICam::GenericException);
+    width->scheduleParameterDataChangedCheck(true);
+    m_camera->nodeMaps().first().collection->poll(5000);
+    m_camera->nodeMaps().first().collection->refresh();
+    QVERIFY(timer.elapsed() < 200);
+    QVERIFY(lost.wait(500));
+    QTest::qWait(100);
+    QCOMPARE(lost.size(), 1);
+    QCOMPARE(text("Width"), QStringLiteral("1920"));
+}
+
+void TestEmbeddedCamera::parametersOutliveTheCamera()
+{
+    const auto width = parameter("Width");
+    const auto collection = m_camera->nodeMaps().first().collection;
+    width->scheduleParameterDataChangedCheck(true);
+    m_camera.reset();
+    QCOMPARE(width->parameterData()->valueString, QStringLiteral("1920"));
+    QCOMPARE(width->propertyAccess()->property(QStringLiteral("DisplayName")), QStringLiteral("Width"));
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("640")), GenICam::GenericException);
+    collection->refresh();
+    collection->poll(1000);
+    width->scheduleParameterDataChangedCheck(true);
+    QCOMPARE(collection->childNames(QStringLiteral("Root"), 0, true).size(), 13);
+    QCoreApplication::processEvents();
+}
+
+void TestEmbeddedCamera::closingWhileAReadHangs()
+{
+    m_camera->session()->registers(0)->setDelay(2500);
+    parameter("Width")->scheduleParameterDataChangedCheck(true);
+    QTest::qWait(50);
+    QElapsedTimer timer;
+    timer.start();
+    m_camera.reset();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    m_camera = Camera::openEmbedded();
+    QCOMPARE(text("Width"), QStringLiteral("1920"));
+}
+
+QTEST_GUILESS_MAIN(TestEmbeddedCamera)
+#include "tst_embeddedcamera.moc"
