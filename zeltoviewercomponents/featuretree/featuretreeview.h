@@ -12,6 +12,8 @@
 #include <QStringList>
 #include <QTreeView>
 
+#include <functional>
+
 class FeatureTreeItem;
 class IFeatureTreeModelExtension;
 
@@ -47,6 +49,8 @@ public:
     void expandEverything();
     /*! Expands exactly the branches for which \a isExpanded says so, recording nothing. */
     void setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded);
+    /*! Lays out what is pending, so that expansion and geometry can be asked for. */
+    using QTreeView::executeDelayedItemsLayout;
 
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QList<int> &roles = QList<int>()) override;

@@ -70,7 +70,6 @@ public:
     void refreshTree();
     /*! Puts the tree, as filtered, on the clipboard as text. */
     void copyToClipboard();
-    void expandTree();
     void expandRootNodes();
 
     FeatureTreeItem *getDeepestSelectedItem() const;
@@ -101,6 +100,8 @@ public:
     QSize sizeHint() const override;
 
 public slots:
+    /*! Expands the tree to depth 2. */
+    void expandTree();
     void onCurrentChanged(const QModelIndex &index);
     void onFilterTextChanged(const QString &text);
     void onPollingStateChanged(bool polling);
