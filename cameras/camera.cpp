@@ -42,7 +42,8 @@ QString deviceClassOf(const QString &protocol)
 CameraRecord::Texts textsOf(unsigned int index)
 {
     return {QString::fromUtf8(arv_get_device_id(index)), QString::fromUtf8(arv_get_device_vendor(index)),
-            QString::fromUtf8(arv_get_device_model(index)), QString::fromUtf8(arv_get_device_serial_nbr(index)),
+            QString::fromUtf8(arv_get_device_model(index)),
+            QString::fromUtf8(arv_get_device_serial_nbr(index)),
             deviceClassOf(QString::fromUtf8(arv_get_device_protocol(index)))};
 }
 
@@ -124,9 +125,9 @@ Session::Source embeddedSource()
             QStringLiteral("streamgrabber0")},
     };
     Session::Source source;
-    source.info = CameraInfoPtr(new CameraRecord(
-        {QStringLiteral("embedded"), QStringLiteral("Zelto"), QStringLiteral("Simulated Camera"),
-         QStringLiteral("ZS-0001"), QStringLiteral("GEV")}));
+    source.info = CameraInfoPtr(new CameraRecord({QStringLiteral("embedded"), QStringLiteral("Zelto"),
+                                                  QStringLiteral("Simulated Camera"),
+                                                  QStringLiteral("ZS-0001"), QStringLiteral("GEV")}));
     for (const Map &map : maps) {
         source.maps.push_back(simulatedMap(map.name, map.title, resource(map.file + QLatin1String(".xml")),
                                            resource(map.file + QLatin1String(".registers"))));
@@ -143,9 +144,8 @@ Session::Source describedSource(const QString &fileName)
     Session::Source source;
     source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
     const Description &description = *source.maps.front().description;
-    source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(),
-                                                  description.modelName(), QString(),
-                                                  description.standardNameSpace()}));
+    source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
+                                                  QString(), description.standardNameSpace()}));
     return source;
 }
 
@@ -178,7 +178,8 @@ Session::Source liveSource(const QString &id, const std::weak_ptr<Session> &sess
     GError *error = nullptr;
     ArvDevice *device = arv_open_device(id.toUtf8().constData(), &error);
     if (!device) {
-        const QString reason = error ? QString::fromUtf8(error->message) : Camera::tr("there is no such camera");
+        const QString reason =
+            error ? QString::fromUtf8(error->message) : Camera::tr("there is no such camera");
         g_clear_error(&error);
         throw BaseException(reason);
     }
@@ -277,8 +278,8 @@ std::unique_ptr<Camera> Camera::openLive(const QString &id)
 {
     const auto session = std::make_shared<Session>();
     const std::weak_ptr<Session> weak = session;
-    return std::unique_ptr<Camera>(
-        new Camera(started(tr("the camera %1").arg(id), session, [id, weak] { return liveSource(id, weak); })));
+    return std::unique_ptr<Camera>(new Camera(
+        started(tr("the camera %1").arg(id), session, [id, weak] { return liveSource(id, weak); })));
 }
 
 CameraInfoPtr Camera::info() const

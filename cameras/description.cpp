@@ -26,10 +26,11 @@ QString tr(const char *text)
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)
 {
-    static const QStringView dropped[] = {
-        u"Value", u"Address", u"Length", u"Formula", u"FormulaTo", u"FormulaFrom", u"Expression", u"Constant",
-        u"LSB", u"MSB", u"Bit", u"Sign", u"Endianess", u"Endianness", u"ValueIndexed", u"ValueDefault",
-        u"Extension", u"AccessMode", u"Slope"};
+    static const QStringView dropped[] = {u"Value",     u"Address",     u"Length",       u"Formula",
+                                          u"FormulaTo", u"FormulaFrom", u"Expression",   u"Constant",
+                                          u"LSB",       u"MSB",         u"Bit",          u"Sign",
+                                          u"Endianess", u"Endianness",  u"ValueIndexed", u"ValueDefault",
+                                          u"Extension", u"AccessMode",  u"Slope"};
     return std::find(std::begin(dropped), std::end(dropped), tag) == std::end(dropped);
 }
 
@@ -49,7 +50,7 @@ Description::Description(const QByteArray &xml)
     }
     collectFeatures();
     collectDependencies();
-    collectCircles();
+    collectBroken();
     collectPollingTimes();
 }
 
@@ -61,19 +62,32 @@ Description::LinkKind Description::linkKind(QStringView tag)
         LinkKind kind;
     };
     static constexpr Entry table[] = {
-        {u"pInvalidator", LinkKind::Related},      {u"pVariable", LinkKind::Evaluated},
-        {u"pAddress", LinkKind::Evaluated},        {u"pPort", LinkKind::Ignored},
-        {u"pIsImplemented", LinkKind::Related},    {u"pIsAvailable", LinkKind::Related},
-        {u"pIsLocked", LinkKind::Related},         {u"pFeature", LinkKind::Feature},
-        {u"pValue", LinkKind::Value},              {u"pSelected", LinkKind::Selected},
-        {u"pMax", LinkKind::Related},              {u"pMin", LinkKind::Related},
-        {u"pInc", LinkKind::Related},              {u"pAlias", LinkKind::Alias},
-        {u"pCastAlias", LinkKind::Alias},          {u"pIndex", LinkKind::Evaluated},
-        {u"pLength", LinkKind::Evaluated},         {u"pValueIndexed", LinkKind::Value},
-        {u"pValueDefault", LinkKind::Value},       {u"pValueCopy", LinkKind::Value},
-        {u"pCommandValue", LinkKind::Related},     {u"pTerminal", LinkKind::Ignored},
-        {u"pDependent", LinkKind::Ignored},        {u"pSelecting", LinkKind::Ignored},
-        {u"pError", LinkKind::Ignored},            {u"pBlockPolling", LinkKind::Ignored},
+        {u"pInvalidator", LinkKind::Invalidator},
+        {u"pVariable", LinkKind::Evaluated},
+        {u"pAddress", LinkKind::Evaluated},
+        {u"pPort", LinkKind::Ignored},
+        {u"pIsImplemented", LinkKind::Related},
+        {u"pIsAvailable", LinkKind::Related},
+        {u"pIsLocked", LinkKind::Related},
+        {u"pFeature", LinkKind::Feature},
+        {u"pValue", LinkKind::Value},
+        {u"pSelected", LinkKind::Selected},
+        {u"pMax", LinkKind::Related},
+        {u"pMin", LinkKind::Related},
+        {u"pInc", LinkKind::Related},
+        {u"pAlias", LinkKind::Alias},
+        {u"pCastAlias", LinkKind::Alias},
+        {u"pIndex", LinkKind::Evaluated},
+        {u"pLength", LinkKind::Evaluated},
+        {u"pValueIndexed", LinkKind::Value},
+        {u"pValueDefault", LinkKind::Value},
+        {u"pValueCopy", LinkKind::Value},
+        {u"pCommandValue", LinkKind::Related},
+        {u"pTerminal", LinkKind::Ignored},
+        {u"pDependent", LinkKind::Ignored},
+        {u"pSelecting", LinkKind::Ignored},
+        {u"pError", LinkKind::Ignored},
+        {u"pBlockPolling", LinkKind::Ignored},
         {u"pVisibility", LinkKind::Ignored},
     };
     const auto *found = std::find_if(std::begin(table), std::end(table),
@@ -127,7 +141,11 @@ void Description::readNodes(QXmlStreamReader &xml, int depth)
             readNodes(xml, depth + 1);
             continue;
         }
-        const QString name = xml.attributes().value(QLatin1String("Name")).toString();
+        QString name = xml.attributes().value(QLatin1String("Name")).toString();
+        if (name.isEmpty() && xml.name() == QLatin1String("StructReg")) {
+            // Only the entries of such a register have names.
+            name = QStringLiteral("/StructReg%1").arg(m_nodes.size());
+        }
         if (name.isEmpty()) {
             xml.skipCurrentElement();
         } else {
@@ -157,7 +175,8 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
     if (tag == QLatin1String("EnumEntry") || tag == QLatin1String("StructEntry")) {
         const QString entry = xml.attributes().value(QLatin1String("Name")).toString();
         // Entries of different enumerations share their names.
-        readNode(xml, tag == QLatin1String("EnumEntry") ? m_nodes[node].name + QLatin1Char('/') + entry : entry,
+        readNode(xml,
+                 tag == QLatin1String("EnumEntry") ? m_nodes[node].name + QLatin1Char('/') + entry : entry,
                  node);
         return;
     }
@@ -239,25 +258,29 @@ void Description::collectDependencies()
     }
 }
 
-void Description::collectCircles()
+// Limits and access modes may lead into a circle, too: who depends on a broken node is broken.
+void Description::collectBroken()
 {
-    m_isCircular.assign(m_nodes.size(), 0);
+    m_isBroken.assign(m_nodes.size(), 0);
     std::vector<char> state(m_nodes.size(), 0);
+    std::vector<std::vector<int>> evaluators(m_nodes.size());
+    std::vector<int> broken;
     for (int node = 0; node < nodeCount(); ++node) {
-        findCircle(node, state, 0);
-    }
-    // Limits and access modes may lead into a circle, too: who depends on one is as bad.
-    std::vector<int> reached;
-    for (int node = 0; node < nodeCount(); ++node) {
-        if (m_isCircular[node]) {
-            reached.push_back(node);
+        for (const Link &link : m_nodes[node].links) {
+            if (link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated
+                || link.kind == LinkKind::Related) {
+                evaluators[link.target].push_back(node);
+            }
+        }
+        if (findCircle(node, state, 0)) {
+            broken.push_back(node);
         }
     }
-    for (size_t i = 0; i < reached.size(); ++i) {
-        for (const int reader : m_readers[reached[i]]) {
-            if (!m_isCircular[reader]) {
-                m_isCircular[reader] = 1;
-                reached.push_back(reader);
+    for (size_t i = 0; i < broken.size(); ++i) {
+        for (const int evaluator : evaluators[broken[i]]) {
+            if (!m_isBroken[evaluator]) {
+                m_isBroken[evaluator] = 1;
+                broken.push_back(evaluator);
             }
         }
     }
@@ -267,7 +290,7 @@ bool Description::findCircle(int node, std::vector<char> &state, int depth)
 {
     enum { Unseen, OnPath, Done };
     if (state[node] == Done) {
-        return m_isCircular[node];
+        return m_isBroken[node];
     }
     if (state[node] == OnPath || depth > deepestChain) {
         return true;
@@ -276,11 +299,11 @@ bool Description::findCircle(int node, std::vector<char> &state, int depth)
     bool found = false;
     for (const Link &link : m_nodes[node].links) {
         const bool isEvaluated = link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated;
-        if (isEvaluated && findCircle(link.target, state, depth + 1)) {
+        if (isEvaluated && (!m_nodes[link.target].isDefined || findCircle(link.target, state, depth + 1))) {
             found = true;
         }
     }
-    m_isCircular[node] = found;
+    m_isBroken[node] = found;
     state[node] = Done;
     return found;
 }
@@ -441,9 +464,9 @@ int Description::pollingTime(int node) const
     return m_pollingTimes[node];
 }
 
-bool Description::isCircular(int node) const
+bool Description::isBroken(int node) const
 {
-    return m_isCircular[node];
+    return m_isBroken[node];
 }
 
 } // namespace Cameras

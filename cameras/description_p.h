@@ -58,11 +58,11 @@ public:
     QList<int> dependents(int node) const;
     /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */
     int pollingTime(int node) const;
-    /*! Returns whether evaluating \a node leads into a circle of links. */
-    bool isCircular(int node) const;
+    /*! Returns whether evaluating \a node leads into a circle of links or to a node that is missing. */
+    bool isBroken(int node) const;
 
 private:
-    enum class LinkKind { Value, Evaluated, Related, Selected, Feature, Alias, Ignored };
+    enum class LinkKind { Value, Evaluated, Related, Invalidator, Selected, Feature, Alias, Ignored };
 
     struct Link
     {
@@ -87,7 +87,7 @@ private:
     void collectFeatures();
     void dropCategoryLoops(int category, std::vector<char> &onPath);
     void collectDependencies();
-    void collectCircles();
+    void collectBroken();
     void collectPollingTimes();
     bool findCircle(int node, std::vector<char> &state, int depth);
     QList<int> closure(std::vector<int> changed, int without) const;
@@ -100,7 +100,7 @@ private:
     QList<int> m_published;
     std::vector<char> m_isPublished;
     std::vector<char> m_isFeature;
-    std::vector<char> m_isCircular;
+    std::vector<char> m_isBroken;
     std::vector<int> m_pollingTimes;
     std::vector<std::vector<int>> m_readers; //!< of each node, those that are affected by it
 };

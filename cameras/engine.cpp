@@ -154,8 +154,7 @@ public:
             return false;
         }
         const bool isGone = m_error->domain == ARV_DEVICE_ERROR
-            && (m_error->code == ARV_DEVICE_ERROR_TIMEOUT
-                || m_error->code == ARV_DEVICE_ERROR_NOT_CONNECTED);
+            && (m_error->code == ARV_DEVICE_ERROR_TIMEOUT || m_error->code == ARV_DEVICE_ERROR_NOT_CONNECTED);
         if (isGone && m_engine->m_lossReason.isEmpty()) {
             m_engine->m_lossReason = QString::fromUtf8(m_error->message);
         }
@@ -232,9 +231,9 @@ Engine::Reading Engine::read(int node)
     }
     ParameterData &data = *reading.data;
     data.visibility = visibilityOf(found);
-    data.isCacheable = m_description->inheritedProperty(node, QStringLiteral("Cachable"))
-        != QLatin1String("NoCache");
-    reading.access = m_description->isCircular(node) ? GenApi::NA : readAccess(node);
+    data.isCacheable =
+        m_description->inheritedProperty(node, QStringLiteral("Cachable")) != QLatin1String("NoCache");
+    reading.access = m_description->isBroken(node) ? GenApi::NA : readAccess(node);
     data.isImplemented = reading.access != GenApi::NI;
     data.isReadable = reading.access == GenApi::RO || reading.access == GenApi::RW;
     data.isWritable = reading.access == GenApi::WO || reading.access == GenApi::RW;
@@ -288,43 +287,54 @@ GenApi::EAccessMode Engine::readAccess(int node)
     }
 }
 
-bool Engine::readLimits(int node, ParameterData &data)
+void Engine::readLimits(int node, ParameterData &data)
 {
-    const QString representation = m_description->inheritedProperty(node, QStringLiteral("Representation"));
-    Failure failure(this);
     if (data.type == ParameterType::Integer) {
-        auto &typed = static_cast<IntegerParameterData &>(data);
-        ArvGcInteger *integer = ARV_GC_INTEGER(m_nodes[node]);
-        typed.minimum = arv_gc_integer_get_min(integer, failure);
-        typed.minimum = failure.take() ? std::numeric_limits<qint64>::min() : typed.minimum;
-        typed.maximum = arv_gc_integer_get_max(integer, failure);
-        typed.maximum = failure.take() ? std::numeric_limits<qint64>::max() : typed.maximum;
-        typed.increment = arv_gc_integer_get_inc(integer, failure);
-        typed.increment = failure.take() ? 1 : std::max<qint64>(typed.increment, 1);
-        typed.representation = representation.isEmpty() ? QStringLiteral("PureNumber") : representation;
-        return true;
+        readIntegerLimits(node, static_cast<IntegerParameterData &>(data));
+    } else if (data.type == ParameterType::Float) {
+        readFloatLimits(node, static_cast<FloatParameterData &>(data));
+    } else if (data.type == ParameterType::Enumeration) {
+        readEnumEntries(node, static_cast<EnumParameterData &>(data));
     }
-    if (data.type == ParameterType::Float) {
-        auto &typed = static_cast<FloatParameterData &>(data);
-        ArvGcFloat *number = ARV_GC_FLOAT(m_nodes[node]);
-        typed.minimum = arv_gc_float_get_min(number, failure);
-        typed.minimum = failure.take() ? std::numeric_limits<double>::lowest() : typed.minimum;
-        typed.maximum = arv_gc_float_get_max(number, failure);
-        typed.maximum = failure.take() ? std::numeric_limits<double>::max() : typed.maximum;
-        typed.increment = arv_gc_float_get_inc(number, failure);
-        // The engine says "no increment" with the smallest number there is.
-        typed.increment = failure.take() || typed.increment <= DBL_MIN ? 0.0 : typed.increment;
-        typed.representation = representation.isEmpty() ? QStringLiteral("PureNumber") : representation;
-        typed.displayNotation
-            = notationOf(m_description->inheritedProperty(node, QStringLiteral("DisplayNotation")));
-        bool ok = false;
-        const int precision
-            = m_description->inheritedProperty(node, QStringLiteral("DisplayPrecision")).toInt(&ok);
-        typed.displayPrecision = ok ? precision : typed.displayPrecision;
-        return true;
-    }
-    return data.type != ParameterType::Enumeration
-        || readEnumEntries(node, static_cast<EnumParameterData &>(data));
+}
+
+QString Engine::representation(int node) const
+{
+    const QString text = m_description->inheritedProperty(node, QStringLiteral("Representation"));
+    return text.isEmpty() ? QStringLiteral("PureNumber") : text;
+}
+
+void Engine::readIntegerLimits(int node, IntegerParameterData &data)
+{
+    ArvGcInteger *integer = ARV_GC_INTEGER(m_nodes[node]);
+    Failure failure(this);
+    data.minimum = arv_gc_integer_get_min(integer, failure);
+    data.minimum = failure.take() ? std::numeric_limits<qint64>::min() : data.minimum;
+    data.maximum = arv_gc_integer_get_max(integer, failure);
+    data.maximum = failure.take() ? std::numeric_limits<qint64>::max() : data.maximum;
+    data.increment = arv_gc_integer_get_inc(integer, failure);
+    data.increment = failure.take() ? 1 : std::max<qint64>(data.increment, 1);
+    data.representation = representation(node);
+}
+
+void Engine::readFloatLimits(int node, FloatParameterData &data)
+{
+    ArvGcFloat *number = ARV_GC_FLOAT(m_nodes[node]);
+    Failure failure(this);
+    data.minimum = arv_gc_float_get_min(number, failure);
+    data.minimum = failure.take() ? std::numeric_limits<double>::lowest() : data.minimum;
+    data.maximum = arv_gc_float_get_max(number, failure);
+    data.maximum = failure.take() ? std::numeric_limits<double>::max() : data.maximum;
+    data.increment = arv_gc_float_get_inc(number, failure);
+    // The engine says "no increment" with the smallest number there is.
+    data.increment = failure.take() || data.increment <= DBL_MIN ? 0.0 : data.increment;
+    data.representation = representation(node);
+    data.displayNotation =
+        notationOf(m_description->inheritedProperty(node, QStringLiteral("DisplayNotation")));
+    bool ok = false;
+    const int precision =
+        m_description->inheritedProperty(node, QStringLiteral("DisplayPrecision")).toInt(&ok);
+    data.displayPrecision = ok ? precision : data.displayPrecision;
 }
 
 bool Engine::readValue(int node, ParameterData &data)
@@ -344,8 +354,7 @@ bool Engine::readValue(int node, ParameterData &data)
         return !failure.take();
     }
     case ParameterType::String:
-        data.valueString
-            = QString::fromUtf8(arv_gc_string_get_value(ARV_GC_STRING(m_nodes[node]), failure));
+        data.valueString = QString::fromUtf8(arv_gc_string_get_value(ARV_GC_STRING(m_nodes[node]), failure));
         return !failure.take();
     case ParameterType::Category:
         return true;
@@ -378,7 +387,7 @@ bool Engine::readEnum(int node, EnumParameterData &data)
     return !failure.take() && name;
 }
 
-bool Engine::readEnumEntries(int node, EnumParameterData &data)
+void Engine::readEnumEntries(int node, EnumParameterData &data)
 {
     ArvGcEnumeration *enumeration = ARV_GC_ENUMERATION(m_nodes[node]);
     Failure failure(this);
@@ -395,7 +404,6 @@ bool Engine::readEnumEntries(int node, EnumParameterData &data)
     }
     g_free(names);
     g_free(texts);
-    return hasNames;
 }
 
 // A command is done when its register no longer holds the command.
@@ -403,9 +411,9 @@ bool Engine::readCommandDone(int node)
 {
     const int valueNode = m_description->valueNode(node);
     bool hasCommandValue = false;
-    const qint64 command
-        = m_description->property(node, QStringLiteral("CommandValue")).toLongLong(&hasCommandValue, 0);
-    if (valueNode < 0 || !hasCommandValue || m_description->isCircular(node)) {
+    const qint64 command =
+        m_description->property(node, QStringLiteral("CommandValue")).toLongLong(&hasCommandValue, 0);
+    if (valueNode < 0 || !hasCommandValue || m_description->isBroken(node)) {
         return true;
     }
     ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
@@ -446,8 +454,8 @@ void Engine::write(int node, const NodeValue &value)
 {
     const QString name = m_description->name(node);
     const auto *command = std::get_if<ExecuteCommand>(&value);
-    const GenApi::EAccessMode access
-        = m_nodes[node] && !m_description->isCircular(node) ? readAccess(node) : GenApi::NI;
+    const GenApi::EAccessMode access =
+        m_nodes[node] && !m_description->isBroken(node) ? readAccess(node) : GenApi::NI;
     if (!m_lossReason.isEmpty()) {
         throw GenICam::TimeoutException(name + QLatin1String(": ") + m_lossReason);
     }
@@ -470,10 +478,9 @@ void Engine::write(int node, const NodeValue &value)
 
 void Engine::writeText(int node, const QString &text)
 {
-    const QString representation = m_description->inheritedProperty(node, QStringLiteral("Representation"));
     switch (m_types[node]) {
     case ParameterType::Integer:
-        if (const auto value = ValueText::toInteger(text, representation)) {
+        if (const auto value = ValueText::toInteger(text, representation(node))) {
             return writeInteger(node, *value, text);
         }
         refuse(node, text, tr("an integer"));
@@ -510,10 +517,9 @@ void Engine::writeInteger(int node, qint64 value, const QString &text)
     }
     // Unsigned, since the distance of two 64-bit numbers may need 64 bits.
     if ((quint64(value) - quint64(limits.minimum)) % quint64(limits.increment) != 0) {
-        throw GenICam::OutOfRangeException(
-            tr("%1: \"%2\" is not allowed, expected %3 plus a multiple of %4")
-                .arg(m_description->name(node), text, shown(limits.minimum))
-                .arg(limits.increment));
+        throw GenICam::OutOfRangeException(tr("%1: \"%2\" is not allowed, expected %3 plus a multiple of %4")
+                                               .arg(m_description->name(node), text, shown(limits.minimum))
+                                               .arg(limits.increment));
     }
     Failure failure(this);
     arv_gc_integer_set_value(ARV_GC_INTEGER(m_nodes[node]), value, failure);

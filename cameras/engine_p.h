@@ -64,12 +64,15 @@ private:
     class Failure;
 
     GenApi::EAccessMode readAccess(int node);
-    bool readLimits(int node, ParameterCollection::ParameterData &data);
+    void readLimits(int node, ParameterCollection::ParameterData &data);
+    void readIntegerLimits(int node, ParameterCollection::IntegerParameterData &data);
+    void readFloatLimits(int node, ParameterCollection::FloatParameterData &data);
+    QString representation(int node) const;
     bool readValue(int node, ParameterCollection::ParameterData &data);
     bool readInteger(int node, ParameterCollection::IntegerParameterData &data);
     bool readFloat(int node, ParameterCollection::FloatParameterData &data);
     bool readEnum(int node, ParameterCollection::EnumParameterData &data);
-    bool readEnumEntries(int node, ParameterCollection::EnumParameterData &data);
+    void readEnumEntries(int node, ParameterCollection::EnumParameterData &data);
     bool readCommandDone(int node);
     bool readRegister(int node, QString *text);
     void writeInteger(int node, qint64 value, const QString &text);

@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 using namespace ParameterCollection;
 using namespace std::chrono_literals;
@@ -90,8 +91,8 @@ void Session::start(const Opener &opener)
 {
     m_thread = std::thread([self = shared_from_this(), opener] { self->run(opener); });
     Lock lock(m_mutex);
-    const bool isInTime
-        = m_changed.wait_for(lock, openTime, [this] { return m_isOpen || m_openFailure || m_isFinished; });
+    const bool isInTime =
+        m_changed.wait_for(lock, openTime, [this] { return m_isOpen || m_openFailure || m_isFinished; });
     if (m_openFailure) {
         std::rethrow_exception(m_openFailure);
     }
@@ -197,9 +198,8 @@ void Session::work()
         const bool isPolled = std::exchange(state.isPolled, false);
         state.isQueued = false;
         lock.unlock();
-        Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to read a node"), [&] {
-            readNow(read.map, read.node, force);
-        });
+        Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to read a node"),
+                         [&] { readNow(read.map, read.node, force); });
         lock.lock();
         map.pollsUnderWay -= isPolled ? 1 : 0;
     }

@@ -40,9 +40,9 @@ struct NodeMapSource
 
 /*! \brief The inner side of an open camera: its worker thread and what it shares with the parameters.
  *
- * The worker alone touches the engines. It carries out waiting writes first, then one requested read after the
- * other. Snapshots are kept here, so that parameters can outlive the camera. All functions may be called on
- * any thread.
+ * The worker alone touches the engines. It carries out waiting writes first, then one requested read after
+ * the other. Snapshots are kept here, so that parameters can outlive the camera. All functions may be called
+ * on any thread.
  */
 class ZELTO_CAMERAS_EXPORT Session : public std::enable_shared_from_this<Session>
 {

@@ -15,7 +15,8 @@ QString fromInteger(qint64 value, const QString &representation);
 /*! Returns the shortest text that gives \a value again. */
 QString fromFloat(double value);
 
-/*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a representation. */
+/*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a
+ * representation. */
 std::optional<qint64> toInteger(const QString &text, const QString &representation);
 std::optional<double> toFloat(const QString &text);
 std::optional<bool> toBoolean(const QString &text);

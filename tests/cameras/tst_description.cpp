@@ -17,10 +17,11 @@ namespace {
 
 QByteArray description(const QByteArray &nodes)
 {
-    return QByteArray("<?xml version=\"1.0\"?>\n<RegisterDescription ModelName=\"Model\" VendorName=\"Vendor\" "
-                      "StandardNameSpace=\"GEV\" SchemaMajorVersion=\"1\" SchemaMinorVersion=\"1\" "
-                      "SchemaSubMinorVersion=\"0\" MajorVersion=\"1\" MinorVersion=\"0\" SubMinorVersion=\"0\" "
-                      "xmlns=\"http://www.genicam.org/GenApi/Version_1_1\">\n")
+    return QByteArray(
+               "<?xml version=\"1.0\"?>\n<RegisterDescription ModelName=\"Model\" VendorName=\"Vendor\" "
+               "StandardNameSpace=\"GEV\" SchemaMajorVersion=\"1\" SchemaMinorVersion=\"1\" "
+               "SchemaSubMinorVersion=\"0\" MajorVersion=\"1\" MinorVersion=\"0\" SubMinorVersion=\"0\" "
+               "xmlns=\"http://www.genicam.org/GenApi/Version_1_1\">\n")
         + nodes + "\n<Port Name=\"Device\"/></RegisterDescription>\n";
 }
 
@@ -107,17 +108,21 @@ void TestDescription::refusesBrokenFiles()
 
 void TestDescription::oneBadFeatureLeavesTheTree()
 {
-    const auto camera = Camera::openDescription(saved(description(
-        root("Ratio Lost Good Nobody")
-        + "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
-          "<SwissKnife Name=\"Knife\"><pVariable Name=\"N\">Zero</pVariable><Formula>1.0 / N</Formula></SwissKnife>"
-          "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
-          "<Integer Name=\"Good\"><Value>7</Value></Integer>"
-        + integerRegister("Zero", "0x10"))));
+    const auto camera = Camera::openDescription(saved(
+        description(root("NoEntry Ratio Lost Good Nobody")
+                    + "<Enumeration Name=\"NoEntry\"><EnumEntry Name=\"One\"><Value>1</Value></EnumEntry>"
+                      "<pValue>Zero</pValue></Enumeration>"
+                      "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
+                      "<SwissKnife Name=\"Knife\"><pVariable Name=\"N\">Zero</pVariable><Formula>1.0 / "
+                      "N</Formula></SwissKnife>"
+                      "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
+                      "<Integer Name=\"Good\"><pInvalidator>Lost</pInvalidator><Value>7</Value></Integer>"
+                    + integerRegister("Zero", "0x10"))));
     const auto collection = camera->nodeMaps().first().collection;
     QCOMPARE(collection->childNames(QStringLiteral("Root"), 0, false),
-             QStringList({QStringLiteral("Ratio"), QStringLiteral("Lost"), QStringLiteral("Good")}));
-    QVERIFY(!collection->parameter(QStringLiteral("Ratio"))->parameterData()->isReadable);
+             QStringList({QStringLiteral("NoEntry"), QStringLiteral("Ratio"), QStringLiteral("Lost"),
+                          QStringLiteral("Good")}));
+    QVERIFY(!collection->parameter(QStringLiteral("NoEntry"))->parameterData()->isReadable);
     QVERIFY(!collection->parameter(QStringLiteral("Lost"))->parameterData()->isReadable);
     const auto good = collection->parameter(QStringLiteral("Good"));
     QCOMPARE(good->parameterData()->valueString, QStringLiteral("7"));
@@ -146,9 +151,10 @@ void TestDescription::circlesAreUnreadable()
 void TestDescription::endlessCategoriesAreCut()
 {
     const Description parsed(description(
-        root("Outer") + "<Category Name=\"Outer\"><pFeature>Inner</pFeature><pFeature>Value</pFeature></Category>"
-                        "<Category Name=\"Inner\"><pFeature>Outer</pFeature><pFeature>Value</pFeature></Category>"
-                        "<Integer Name=\"Value\"><Value>7</Value></Integer>"));
+        root("Outer")
+        + "<Category Name=\"Outer\"><pFeature>Inner</pFeature><pFeature>Value</pFeature></Category>"
+          "<Category Name=\"Inner\"><pFeature>Outer</pFeature><pFeature>Value</pFeature></Category>"
+          "<Integer Name=\"Value\"><Value>7</Value></Integer>"));
     const int inner = parsed.indexOf(QStringLiteral("Inner"));
     const int value = parsed.indexOf(QStringLiteral("Value"));
     QCOMPARE(parsed.children(inner), QList<int>({value}));
@@ -196,7 +202,8 @@ void TestDescription::valuesLiveOnRegisters()
 {
     const auto camera = Camera::openDescription(saved(description(
         root("Number Go")
-        + "<Integer Name=\"Number\"><pValue>Register</pValue><Representation>HexNumber</Representation></Integer>"
+        + "<Integer "
+          "Name=\"Number\"><pValue>Register</pValue><Representation>HexNumber</Representation></Integer>"
           "<Command Name=\"Go\"><pValue>Trigger</pValue><CommandValue>1</CommandValue></Command>"
         + integerRegister("Register", "0x10") + integerRegister("Trigger", "0x14"))));
     const auto collection = camera->nodeMaps().first().collection;
@@ -221,7 +228,8 @@ void TestDescription::groupsAndStructEntries()
           "<StructEntry Name=\"HighBits\"><LSB>8</LSB><MSB>15</MSB></StructEntry></StructReg>")));
     const auto collection = camera->nodeMaps().first().collection;
     collection->parameter(QStringLiteral("High"))->setValueFromString(QStringLiteral("3"));
-    QCOMPARE(collection->parameter(QStringLiteral("High"))->parameterData()->valueString, QStringLiteral("3"));
+    QCOMPARE(collection->parameter(QStringLiteral("High"))->parameterData()->valueString,
+             QStringLiteral("3"));
     QCOMPARE(collection->parameter(QStringLiteral("Low"))->parameterData()->valueString, QStringLiteral("0"));
 }
 

@@ -19,8 +19,8 @@ using namespace Cameras;
 
 namespace {
 
-const char *const changed = SIGNAL(
-    parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>));
+const char *const changed =
+    SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>));
 
 QString failureOf(IParameter &parameter, const QString &text)
 {
@@ -146,8 +146,8 @@ void TestEmbeddedCamera::lookUps()
     QVERIFY(alias->isExcluded());
     QCOMPARE(collection->parameter(QStringLiteral("ExposureTime/Alias")), alias);
     QVERIFY(collection->hasParameter(QStringLiteral("Gain/Alias")));
-    for (const char *absent : {"", "Nothing", "@StreamGrabber0/ExposureTime", "Width/Alias", "/Alias",
-                               "WidthReg", "Device"}) {
+    for (const char *absent :
+         {"", "Nothing", "@StreamGrabber0/ExposureTime", "Width/Alias", "/Alias", "WidthReg", "Device"}) {
         QVERIFY2(!collection->hasParameter(QString::fromLatin1(absent)), absent);
         QVERIFY(!collection->parameter(QString::fromLatin1(absent)));
     }
@@ -156,13 +156,15 @@ void TestEmbeddedCamera::lookUps()
 void TestEmbeddedCamera::categoriesAreListedInOrder()
 {
     const auto collection = m_camera->nodeMaps().at(1).collection;
-    const QStringList children = collection->childNames(QStringLiteral("@DeviceTransportLayer/Root"), 0, true);
-    QCOMPARE(children, QStringList({QStringLiteral("@DeviceTransportLayer/TransportLayerControl"),
-                                    QStringLiteral("@DeviceTransportLayer/DeviceEventControl")}));
+    const QStringList children =
+        collection->childNames(QStringLiteral("@DeviceTransportLayer/Root"), 0, true);
+    QCOMPARE(children,
+             QStringList({QStringLiteral("@DeviceTransportLayer/TransportLayerControl"),
+                          QStringLiteral("@DeviceTransportLayer/DeviceEventControl")}));
     const QStringList two = collection->childNames(QStringLiteral("Root"), 1, false);
-    QCOMPARE(two.mid(0, 3), QStringList({QStringLiteral("TransportLayerControl"),
-                                         QStringLiteral("DeviceEventControl"),
-                                         QStringLiteral("GevMACAddress")}));
+    QCOMPARE(two.mid(0, 3),
+             QStringList({QStringLiteral("TransportLayerControl"), QStringLiteral("DeviceEventControl"),
+                          QStringLiteral("GevMACAddress")}));
     QVERIFY(collection->childNames(QStringLiteral("GevCCP"), 0, true).isEmpty());
 }
 
@@ -335,8 +337,9 @@ void TestEmbeddedCamera::writeReadsExactlyWhatDependsOnIt()
     settle();
     QStringList reads = m_camera->session()->readLog();
     reads.sort();
-    QCOMPARE(reads, QStringList({QStringLiteral("LargeCounter"), QStringLiteral("OffsetX"),
-                                 QStringLiteral("Width")}));
+    QCOMPARE(
+        reads,
+        QStringList({QStringLiteral("LargeCounter"), QStringLiteral("OffsetX"), QStringLiteral("Width")}));
     const auto data = parameter("OffsetX")->parameterData();
     QCOMPARE(static_cast<const IntegerParameterData &>(*data).maximum, 5320 - 640);
 
