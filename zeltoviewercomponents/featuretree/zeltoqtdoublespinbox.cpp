@@ -21,15 +21,28 @@ namespace {
 constexpr int allDecimals =
     std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
-// Returns the fewest digits that give back the value. A value that a 32-bit register holds needs only the
-// digits that tell it from its 32-bit neighbours; the others would be noise.
+// Returns the value with only the digits that tell it from its neighbours in a 32-bit register; as it is when
+// no such register holds it.
+double withoutRegisterNoise(double value)
+{
+    const auto held = static_cast<float>(value);
+    if (!std::isfinite(held) || static_cast<double>(held) != value) {
+        return value;
+    }
+    for (int digits = std::numeric_limits<float>::digits10; digits < std::numeric_limits<float>::max_digits10;
+         ++digits) {
+        const double shorter = QString::number(value, 'g', digits).toDouble();
+        if (static_cast<float>(shorter) == held) {
+            return shorter;
+        }
+    }
+    return value;
+}
+
+// Returns the fewest digits that give back the value.
 QString shortestText(double value, char format, const QLocale &locale)
 {
-    const auto narrow = static_cast<float>(value);
-    const double shown = static_cast<double>(narrow) == value && std::isfinite(narrow)
-        ? QString::number(narrow, 'g', QLocale::FloatingPointShortest).toDouble()
-        : value;
-    return locale.toString(shown, format, QLocale::FloatingPointShortest);
+    return locale.toString(withoutRegisterNoise(value), format, QLocale::FloatingPointShortest);
 }
 
 bool isUnfinishedNumber(const QString &text, const QLocale &locale)

@@ -29,6 +29,15 @@ void ZeltoQtSpinBox::stepBy(int steps)
     emit editingFinished();
 }
 
+void ZeltoQtSpinBox::fixup(QString &text) const
+{
+    bool ok = false;
+    const qint64 number = locale().toLongLong(text, &ok);
+    if (ok) {
+        text = textFromValue(qBound(minimum(), EditorHelpers::saturated(number), maximum()));
+    }
+}
+
 void ZeltoQtSpinBox::keyPressEvent(QKeyEvent *event)
 {
     m_pageKeyPressed = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;

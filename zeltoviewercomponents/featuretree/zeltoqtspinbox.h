@@ -21,6 +21,9 @@ public:
      * editing. */
     void stepBy(int steps) override;
 
+    /*! Limits a number that was typed; the base would go back to the previous value. */
+    void fixup(QString &text) const override;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 
