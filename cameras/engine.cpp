@@ -328,6 +328,9 @@ void Engine::readFloatLimits(int node, FloatParameterData &data)
     data.increment = arv_gc_float_get_inc(number, failure);
     // The engine says "no increment" with the smallest number there is.
     data.increment = failure.take() || data.increment <= DBL_MIN ? 0.0 : data.increment;
+    for (double *const limit : {&data.minimum, &data.maximum, &data.increment}) {
+        *limit = ValueText::withoutSinglePrecisionNoise(*limit);
+    }
     data.representation = representation(node);
     data.displayNotation =
         notationOf(m_description->inheritedProperty(node, QStringLiteral("DisplayNotation")));
@@ -374,7 +377,8 @@ bool Engine::readInteger(int node, IntegerParameterData &data)
 bool Engine::readFloat(int node, FloatParameterData &data)
 {
     Failure failure(this);
-    data.value = arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure);
+    data.value =
+        ValueText::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
     data.valueString = ValueText::fromFloat(data.value);
     return !failure.take() && std::isfinite(data.value);
 }

@@ -22,6 +22,7 @@ namespace {
 constexpr quint64 pageSize = 1024;
 constexpr quint32 largestRegister = 16 * 1024 * 1024;
 constexpr double driftPeriod = 20e9; // nanoseconds
+constexpr double driftSteps = 100.0; // of a unit: as fine as a sensor tells
 
 template <typename Number>
 QByteArray bigEndian(Number number)
@@ -177,7 +178,8 @@ void SimulatedRegisters::refreshLiving(quint64 address, quint32 size)
     QByteArray bytes;
     if (living->behaviour == Behaviour::Drift) {
         const double phase = 2.0 * M_PI * double(now) / driftPeriod + double(address);
-        bytes = encoded(living->type, living->value + living->argument * std::sin(phase));
+        const double value = living->value + living->argument * std::sin(phase);
+        bytes = encoded(living->type, std::round(value * driftSteps) / driftSteps);
     } else if (living->behaviour == Behaviour::Clock) {
         bytes = encoded(living->type, living->value + double(now));
     } else if (living->writtenAt < 0 || double(now - living->writtenAt) >= living->argument * 1e6) {

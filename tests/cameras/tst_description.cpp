@@ -55,6 +55,7 @@ private slots:
     void endlessCategoriesAreCut();
     void dependentsFollowTheLinks();
     void valuesLiveOnRegisters();
+    void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
 
 private:
@@ -214,6 +215,29 @@ void TestDescription::valuesLiveOnRegisters()
     const auto go = qSharedPointerObjectCast<ICommandParameter>(collection->parameter(QStringLiteral("Go")));
     go->execute(true);
     QVERIFY(static_cast<const CommandParameterData &>(*go->parameterData()).isDone);
+}
+
+void TestDescription::singlePrecisionIsShownAsItWasMeant()
+{
+    const auto floatRegister = [](const char *name, const char *address, const char *length) {
+        return QByteArray("<FloatReg Name=\"") + name + "\"><Address>" + address + "</Address><Length>"
+            + length
+            + "</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Endianess>LittleEndian</Endianess>"
+              "</FloatReg>";
+    };
+    const auto camera = Camera::openDescription(
+        saved(description(root("Single Double Large") + floatRegister("Single", "0x10", "4")
+                          + floatRegister("Double", "0x18", "8") + floatRegister("Large", "0x20", "4"))));
+    const auto collection = camera->nodeMaps().first().collection;
+    const auto written = [&collection](const char *name, const char *text) {
+        const auto parameter = collection->parameter(QString::fromLatin1(name));
+        parameter->setValueFromString(QString::fromLatin1(text));
+        return parameter->parameterData()->valueString;
+    };
+    QCOMPARE(written("Single", "0.1"), QStringLiteral("0.1"));
+    QCOMPARE(written("Single", "46.099998"), QStringLiteral("46.1"));
+    QCOMPARE(written("Double", "0.30000000000000004"), QStringLiteral("0.30000000000000004"));
+    QCOMPARE(written("Large", "123456792"), QStringLiteral("123456792"));
 }
 
 void TestDescription::groupsAndStructEntries()
