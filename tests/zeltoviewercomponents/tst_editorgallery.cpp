@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPalette>
 #include <QTest>
 
 #include <algorithm>
@@ -19,6 +20,7 @@ class TestEditorGallery : public QObject
 
 private slots:
     void showsAndWritesEachKind();
+    void nothingIsClipped_data();
     void nothingIsClipped();
 
 private:
@@ -62,8 +64,17 @@ void TestEditorGallery::showsAndWritesEachKind()
     }));
 }
 
+void TestEditorGallery::nothingIsClipped_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << QPalette(QColor(239, 239, 239));
+    QTest::newRow("dark") << QPalette(QColor(50, 50, 50));
+}
+
 void TestEditorGallery::nothingIsClipped()
 {
+    QFETCH(const QPalette, palette);
+    QApplication::setPalette(palette);
     const auto sample = collection();
     EditorGallery gallery({sample});
     gallery.resize(520, 460);
@@ -77,7 +88,8 @@ void TestEditorGallery::nothingIsClipped()
         }
     }
     if (qEnvironmentVariableIsSet("ZELTO_SCREENSHOT")) {
-        QVERIFY(gallery.grab().save(qEnvironmentVariable("ZELTO_SCREENSHOT")));
+        QVERIFY(gallery.grab().save(qEnvironmentVariable("ZELTO_SCREENSHOT") + QLatin1Char('-')
+                                    + QLatin1String(QTest::currentDataTag()) + QLatin1String(".png")));
     }
 }
 

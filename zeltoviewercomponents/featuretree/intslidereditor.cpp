@@ -66,6 +66,7 @@ void IntSliderEditor::setEditorData(EditorData data)
     const Core::GuardSite site{logCategory(), setEditorDataName};
     if (!data.ptrParameterData->isReadable) {
         Core::guardedRun(site, QStringLiteral("Failed to retrieve a node's name"), [this, &parameter, &data] {
+            m_keeper->keep(data);
             setEnabled(EditorHelpers::canBeChanged(*data.ptrParameterData));
             log(QStringLiteral("Non-readable slider: %1??????").arg(EditorHelpers::nodeName(*parameter)));
         });
