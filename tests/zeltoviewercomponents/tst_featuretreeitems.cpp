@@ -64,6 +64,7 @@ private slots:
     void nodeFlags();
     void writes_data();
     void writes();
+    void unknownBooleanIsWritten();
     void lockedWriteAsksForACheck();
     void commandIsExecuted();
     void clampsIntoLimits_data();
@@ -73,6 +74,7 @@ private slots:
     void namedItemDoesNotFollowItsParameter();
     void firstGoodSnapshotBringsItemToLife();
     void exceptionsStayInside();
+    void nodeWithoutProperties();
 
 private:
     FeatureTreeINodeItem *itemFor(const QSharedPointer<IParameter> &parameter, bool utf8 = false);
@@ -379,6 +381,10 @@ void TestFeatureTreeItems::toolTip()
     QCOMPARE(width->data(0, Qt::ToolTipRole).toString(),
              QStringLiteral("<nobr><b>Width (Width)</b></nobr><br><nobr><i>Breite</i></nobr>"));
     QCoreApplication::removeTranslator(&translator);
+    const auto foreign = m_collection->addInteger(QStringLiteral("Größe"), QStringLiteral("Root"));
+    foreign->properties.insert(QStringLiteral("Tooltip"), QStringLiteral("Size"));
+    QCOMPARE(itemFor(foreign)->data(0, Qt::ToolTipRole).toString(),
+             QStringLiteral("<nobr><b>Größe (Größe)</b></nobr><br><nobr>Size</nobr>"));
     auto *const category = itemFor(m_collection->parameter(QStringLiteral("DeviceControl")));
     QCOMPARE(category->data(0, Qt::ToolTipRole).toString(),
              QStringLiteral("<nobr><b>DeviceControl</b></nobr>"));
@@ -426,6 +432,7 @@ void TestFeatureTreeItems::writes_data()
         << "Width" << false << QVariant(656) << QStringList("656") << false;
     QTest::newRow("boolean changes") << "ReverseX" << false << QVariant("1") << QStringList("1") << false;
     QTest::newRow("boolean has the value") << "ReverseX" << false << QVariant("0") << nothing << false;
+    QTest::newRow("no boolean") << "ReverseX" << false << QVariant("off") << nothing << true;
 }
 
 void TestFeatureTreeItems::writes()
@@ -448,6 +455,15 @@ void TestFeatureTreeItems::writes()
     }
     QCOMPARE(thrown, refused);
     QCOMPARE(dynamic_cast<MemoryNode *>(parameter.data())->writes, written);
+}
+
+void TestFeatureTreeItems::unknownBooleanIsWritten()
+{
+    const auto parameter =
+        qSharedPointerDynamicCast<MemoryBoolean>(m_collection->parameter(QStringLiteral("ReverseX")));
+    parameter->snapshot->isReadable = false;
+    itemFor(parameter)->setData(1, QStringLiteral("0"), Qt::EditRole);
+    QCOMPARE(parameter->writes, QStringList(QStringLiteral("0")));
 }
 
 void TestFeatureTreeItems::lockedWriteAsksForACheck()
@@ -549,6 +565,13 @@ void TestFeatureTreeItems::clampNeverFights()
     QCOMPARE(attempts, 1);
     QCOMPARE(spy.count(), 2);
     QCOMPARE(item->getParameterData()->valueString, QStringLiteral("-3"));
+    // Another value is worth another attempt, even when it looks the same as text.
+    parameter->edit<IntegerParameterData>([](auto &data) { data.value = -4; });
+    {
+        LogCapture log;
+        parameter->publish();
+    }
+    QCOMPARE(attempts, 2);
 }
 
 void TestFeatureTreeItems::snapshotsAreDroppedWithoutCallbacks()
@@ -623,6 +646,22 @@ void TestFeatureTreeItems::exceptionsStayInside()
         item->ShowMe(GenApi::Guru);
         item->flags(1);
     }
+}
+
+void TestFeatureTreeItems::nodeWithoutProperties()
+{
+    class BareInteger : public MemoryInteger
+    {
+    public:
+        using MemoryInteger::MemoryInteger;
+        QSharedPointer<NodePropertyAccess> propertyAccess() const override { return {}; }
+    };
+    const auto parameter =
+        QSharedPointer<BareInteger>::create(QStringLiteral("Bare"), QStringLiteral("Bare"));
+    parameter->snapshot = QSharedPointer<IntegerParameterData>::create();
+    auto *const item = itemFor(parameter);
+    QCOMPARE(item->editorType(), FeatureTreeItem::Integer);
+    QCOMPARE(item->data(0, FeatureTreeItem::GenicamNameRole), QVariant(QStringLiteral("Bare")));
 }
 
 QTEST_MAIN(TestFeatureTreeItems)

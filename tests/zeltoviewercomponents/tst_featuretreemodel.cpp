@@ -49,9 +49,11 @@ private slots:
     void setDataReportsFailures_data();
     void setDataReportsFailures();
     void updatesSignalTheTwoCells();
+    void clearFromAnUpdate();
     void deadDeviceIsLeftAlone();
 
     void pollsTheFirstCollectionOnly();
+    void pollFailureIsLogged_data();
     void pollFailureIsLogged();
     void deadDeviceEndsPolling();
 
@@ -70,6 +72,8 @@ private slots:
     void favoriteWritesWithItsCollectionsEncoding();
     void favoritesNeedNoCollection();
     void exportsText();
+    void everyOperationMayThrow_data();
+    void everyOperationMayThrow();
 
 private:
     QModelIndex find(const QString &fullName, int column = 0) const;
@@ -421,6 +425,22 @@ void TestFeatureTreeModel::updatesSignalTheTwoCells()
     }
 }
 
+void TestFeatureTreeModel::clearFromAnUpdate()
+{
+    addSample();
+    feature(QStringLiteral("Gain"));
+    int updates = 0;
+    const auto clearTree = [this, &updates] {
+        ++updates;
+        m_model->clear();
+    };
+    connect(m_model.get(), &FeatureTreeModel::dataChanged, this, clearTree);
+    m_collection->parameter(QStringLiteral("Gain"))->scheduleParameterDataChangedCheck(true);
+    QTRY_COMPARE(updates, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(updates, 1);
+}
+
 void TestFeatureTreeModel::deadDeviceIsLeftAlone()
 {
     addSample();
@@ -460,9 +480,18 @@ void TestFeatureTreeModel::pollsTheFirstCollectionOnly()
     QVERIFY(!m_model->pollTimer()->isActive());
 }
 
+void TestFeatureTreeModel::pollFailureIsLogged_data()
+{
+    QTest::addColumn<bool>("monitor");
+    QTest::newRow("poll") << false;
+    QTest::newRow("monitor mode") << true;
+}
+
 void TestFeatureTreeModel::pollFailureIsLogged()
 {
+    QFETCH(const bool, monitor);
     addSample();
+    m_model->setMonitorMode(monitor);
     m_model->EnablePolling(true);
     m_collection->before = [](const QString &) { throw std::runtime_error("cable"); };
     LogCapture log;
@@ -510,9 +539,11 @@ void TestFeatureTreeModel::clearLeavesNothing()
     for (int round = 0; round < 2; ++round) {
         addSample();
         m_model->rebuildFavoriteItems();
-        visitAll(*m_model);
+        const QPersistentModelIndex kept = feature(QStringLiteral("Gain"));
+        QVERIFY(kept.isValid());
         m_collection->parameter(QStringLiteral("Gain"))->scheduleParameterDataChangedCheck(true);
         m_model->clear();
+        QVERIFY(!kept.isValid());
         QCoreApplication::processEvents();
         QCOMPARE(m_model->rowCount(), 0);
         QCOMPARE(m_model->getSearchHelpItem(), nullptr);
@@ -750,6 +781,63 @@ void TestFeatureTreeModel::exportsText()
                             "        TriggerSoftware\t\n"
                             "    DeviceControl\t\n"
                             "        DeviceUserID\ttwo lines\n"));
+}
+
+void TestFeatureTreeModel::everyOperationMayThrow_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<bool>("fromTheStart");
+    for (const char *operation : {"isExcluded", "isWritableNow", "visibility", "type", "fullName", "name",
+                                  "propertyAccess", "property", "parameterData",
+                                  "scheduleParameterDataChangedCheck", "setValueFromString", "execute"}) {
+        for (const bool fromTheStart : {true, false}) {
+            QTest::addRow("%s %s", operation, fromTheStart ? "always" : "later")
+                << QString::fromLatin1(operation) << fromTheStart;
+        }
+    }
+}
+
+void TestFeatureTreeModel::everyOperationMayThrow()
+{
+    QFETCH(const QString, failing);
+    QFETCH(const bool, fromTheStart);
+    LogCapture log;
+    const auto breakAll = [this, &failing] {
+        for (const QString &name :
+             m_collection->childNames(cameraDevice + QStringLiteral("/Root"), 9, true)) {
+            dynamic_cast<MemoryNode *>(m_collection->parameter(name).data())->before =
+                [&failing](const QString &operation) {
+                    if (operation == failing) {
+                        throw 1;
+                    }
+                };
+        }
+    };
+    if (fromTheStart) {
+        breakAll();
+    }
+    addSample();
+    m_model->rebuildFavoriteItems();
+    visitAll(*m_model);
+    breakAll();
+    for (const char *name : {"Gain", "ReverseX", "TriggerSoftware", "AcquisitionControl"}) {
+        const QString fullName = cameraDevice + QLatin1Char('/') + QString::fromLatin1(name);
+        const QModelIndex value = find(fullName, 1);
+        FeatureTreeItem *const item = m_model->getFeatureTreeItem(value);
+        m_model->setData(value, QStringLiteral("1"));
+        m_model->scheduleForcedParameterDataChangedCheck(item);
+        m_model->CanAddAsFavorite(value);
+        const std::unique_ptr<QMimeData> dragged(m_model->mimeData({value}));
+        m_model->dropMimeData(dragged.get(), Qt::MoveAction, -1, 0, QModelIndex());
+        m_model->AddFavorite(m_collection->parameter(fullName), 0);
+        m_model->flags(value);
+    }
+    m_model->rebuildFavoriteItems();
+    m_model->setGenICamCallbacksEnable(false);
+    m_model->setGenICamCallbacksEnable(true);
+    QCoreApplication::processEvents();
+    visitAll(*m_model);
+    QCOMPARE(m_model->rowCount(), 3);
 }
 
 QTEST_MAIN(TestFeatureTreeModel)

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 using namespace ParameterCollection;
 
@@ -57,7 +58,8 @@ QString nodeMapKindOf(const QString &fullName)
 
 bool hasSlider(const QSharedPointer<IParameter> &parameter)
 {
-    const QString representation = parameter->propertyAccess()->property(QStringLiteral("Representation"));
+    const QSharedPointer<NodePropertyAccess> access = parameter->propertyAccess();
+    const QString representation = access ? access->property(QStringLiteral("Representation")) : QString();
     return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
 }
 
@@ -87,9 +89,22 @@ bool isLatin1(const QString &text)
                        [](QChar character) { return character.unicode() <= 0xff; });
 }
 
-bool isTrue(const QString &text)
+std::optional<bool> booleanFrom(const QString &text)
 {
-    return text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+    if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0) {
+        return true;
+    }
+    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+// A value that cannot be read is not known to be the same.
+bool isSameBoolean(const ParameterData *snapshot, const QString &text)
+{
+    const auto *const boolean = dynamic_cast<const BooleanParameterData *>(snapshot);
+    return boolean && boolean->isReadable && booleanFrom(text) == boolean->value;
 }
 
 template <typename Number>
@@ -163,12 +178,13 @@ void FeatureTreeINodeItem::initInternal()
 
 void FeatureTreeINodeItem::readProperties()
 {
-    const QSharedPointer<NodePropertyAccess> access = m_parameter->propertyAccess();
-    m_unit = access->property(QStringLiteral("Unit"));
-    m_description = access->property(QStringLiteral("Description"));
-    m_tooltip = access->property(QStringLiteral("Tooltip"));
-    m_docuUrl = access->property(QStringLiteral("DocuURL"));
-    m_displayName = access->property(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+    if (const QSharedPointer<NodePropertyAccess> access = m_parameter->propertyAccess()) {
+        m_unit = access->property(QStringLiteral("Unit"));
+        m_description = access->property(QStringLiteral("Description"));
+        m_tooltip = access->property(QStringLiteral("Tooltip"));
+        m_docuUrl = access->property(QStringLiteral("DocuURL"));
+        m_displayName = access->property(QStringLiteral("DisplayName"), QStringLiteral("<unknown>"));
+    }
     m_nodeName = m_parameter->name();
 }
 
@@ -343,8 +359,8 @@ QString FeatureTreeINodeItem::toolTipHtml() const
         const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_nodeName).toLatin1();
         const QString translation =
             QCoreApplication::translate(m_nodeMapKind.toLatin1().constData(), key.constData());
-        const QString text =
-            translation == QString::fromLatin1(key) ? m_tooltip.toHtmlEscaped() : translation;
+        // An untranslated key comes back decoded as UTF-8.
+        const QString text = translation == QString::fromUtf8(key) ? m_tooltip.toHtmlEscaped() : translation;
 
         const bool nameAlone = m_nodeName.contains(FeatureTreeNames::root) || isCategory();
         const QString title =
@@ -447,8 +463,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         return;
     }
     const QString text = value.toString();
-    if (isOfType(ParameterType::Boolean)
-        && static_cast<const BooleanParameterData &>(*m_data).value == isTrue(text)) {
+    if (isSameBoolean(m_data.data(), text)) {
         return;
     }
     if (!m_useUtf8 && !isLatin1(text)) {
@@ -466,7 +481,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     }
     const auto headline = [this] { return QStringLiteral("Failed to adjust a node: %1").arg(m_nodeName); };
     if (Core::guarded(site("FeatureTreeINodeItem::onParameterDataChanged"), headline, false,
-                      [this, &ptrParameterData] { return clamp(*ptrParameterData); })) {
+                      [this, &ptrParameterData] { return clamp(ptrParameterData); })) {
         return;
     }
     const bool comesAlive = !m_data;
@@ -480,12 +495,12 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
 
 // Writes the limit that the value has left. Returns whether it did; the camera's answer brings the next
 // snapshot.
-bool FeatureTreeINodeItem::clamp(const ParameterData &snapshot)
+bool FeatureTreeINodeItem::clamp(const QSharedPointer<const ParameterData> &snapshot)
 {
-    if (!snapshot.isWritable) {
+    if (!snapshot->isWritable) {
         return false;
     }
-    switch (snapshot.type) {
+    switch (snapshot->type) {
     case ParameterType::Integer:
         return clampTyped<IIntegerParameter, IntegerParameterData>(snapshot);
     case ParameterType::Float:
@@ -496,23 +511,24 @@ bool FeatureTreeINodeItem::clamp(const ParameterData &snapshot)
 }
 
 template <typename Interface, typename Data>
-bool FeatureTreeINodeItem::clampTyped(const ParameterData &snapshot)
+bool FeatureTreeINodeItem::clampTyped(const QSharedPointer<const ParameterData> &snapshot)
 {
-    const auto *const typed = dynamic_cast<const Data *>(&snapshot);
+    const auto *const typed = dynamic_cast<const Data *>(snapshot.data());
     const auto parameter = qSharedPointerObjectCast<Interface>(m_parameter);
     if (!typed || !parameter || !isNumber(typed->minimum) || !isNumber(typed->maximum)
         || typed->minimum > typed->maximum) {
         return false;
     }
     if (!(typed->value < typed->minimum) && !(typed->value > typed->maximum)) {
-        m_clampedValue.reset();
+        m_clamped.reset();
         return false;
     }
     // A camera that insists on a value outside its own limits wins.
-    if (m_clampedValue == snapshot.valueString) {
+    const auto *const previous = dynamic_cast<const Data *>(m_clamped.data());
+    if (previous && previous->value == typed->value) {
         return false;
     }
-    m_clampedValue = snapshot.valueString;
+    m_clamped = snapshot;
     parameter->setValue(typed->value < typed->minimum ? typed->minimum : typed->maximum);
     return true;
 }

@@ -10,8 +10,6 @@
 
 #include <QSharedPointer>
 
-#include <optional>
-
 class FeatureTreeHighlighter;
 
 /*! \brief The row of one parameter.
@@ -99,9 +97,9 @@ private:
     /*! Returns the text that stands for a value that cannot be read, empty when it can. */
     QString placeholder() const;
     bool isOfType(ParameterCollection::ParameterType type) const;
-    bool clamp(const ParameterCollection::ParameterData &snapshot);
+    bool clamp(const QSharedPointer<const ParameterCollection::ParameterData> &snapshot);
     template <typename Interface, typename Data>
-    bool clampTyped(const ParameterCollection::ParameterData &snapshot);
+    bool clampTyped(const QSharedPointer<const ParameterCollection::ParameterData> &snapshot);
 
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
@@ -115,5 +113,6 @@ private:
     QString m_docuUrl;
     QString m_displayName;
     QString m_nodeName;
-    std::optional<QString> m_clampedValue; // the text of the value that was brought back into its limits last
+    // The one whose value was brought back into its limits last.
+    QSharedPointer<const ParameterCollection::ParameterData> m_clamped;
 };

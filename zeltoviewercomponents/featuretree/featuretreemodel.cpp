@@ -14,6 +14,7 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QMimeData>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QStringList>
 #include <QTimer>
@@ -218,8 +219,7 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
     const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
     if (item->editorType() == FeatureTreeItem::Command) {
-        Core::guardedRun(site("FeatureTreeModel::setData"), text,
-                         [this, item] { scheduleForcedParameterDataChangedCheck(item); });
+        scheduleForcedParameterDataChangedCheck(item);
     }
     if (!m_deviceAlive) {
         return;
@@ -386,10 +386,11 @@ void FeatureTreeModel::onTimerPoll()
     }
     Core::guardedRun(site("FeatureTreeModel::onTimerPoll"), QStringLiteral("Failed to run feature polling."),
                      [this] {
-                         if (m_monitorMode) {
-                             refresh();
-                         } else if (!m_collections.isEmpty() && m_collections.constFirst().collection) {
-                             m_collections.constFirst().collection->poll(m_pollInterval);
+                         const auto collection = firstCollection();
+                         if (collection && m_monitorMode) {
+                             collection->refresh();
+                         } else if (collection) {
+                             collection->poll(m_pollInterval);
                          }
                      });
     if (m_polling) {
@@ -536,20 +537,31 @@ void FeatureTreeModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)
     if (!m_deviceAlive || row < 0) {
         return;
     }
-    // One signal for each cell: views treat a change of a single cell specially.
+    // One signal for each cell: views treat a change of a single cell specially. What the first leads to may
+    // clear the tree.
+    const QPointer<FeatureTreeINodeItem> item(nodeItem);
     for (const int column : {FeatureTreeColumns::name, FeatureTreeColumns::value}) {
-        const QModelIndex cell = createIndex(row, column, nodeItem);
-        emit dataChanged(cell, cell);
+        if (item) {
+            const QModelIndex cell = createIndex(row, column, item.data());
+            emit dataChanged(cell, cell);
+        }
     }
 }
 
 void FeatureTreeModel::refresh()
 {
-    if (m_collections.isEmpty() || !m_collections.constFirst().collection) {
-        return;
-    }
     Core::guardedRun(site("FeatureTreeModel::refresh"), QStringLiteral("Failed to refresh the features."),
-                     [this] { m_collections.constFirst().collection->refresh(); });
+                     [this] {
+                         if (const auto collection = firstCollection()) {
+                             collection->refresh();
+                         }
+                     });
+}
+
+// A copy, which keeps the collection alive while it is at work: it may have the tree cleared.
+QSharedPointer<IParameterCollection> FeatureTreeModel::firstCollection() const
+{
+    return m_collections.value(0).collection;
 }
 
 void FeatureTreeModel::setVisibility(GenApi::EVisibility visibility)
@@ -581,9 +593,7 @@ void FeatureTreeModel::scheduleChecksBelow(FeatureTreeItem *item)
 {
     for (int row = 0; row < item->existingChildCount(); ++row) {
         FeatureTreeItem *const child = item->child(row);
-        Core::guardedRun(site("FeatureTreeModel::setGenICamCallbacksEnable"),
-                         QStringLiteral("Failed to ask for a re-read of %1").arg(child->getFullName()),
-                         [this, child] { scheduleForcedParameterDataChangedCheck(child); });
+        scheduleForcedParameterDataChangedCheck(child);
         scheduleChecksBelow(child);
     }
 }
@@ -634,6 +644,10 @@ void FeatureTreeModel::clear()
     m_favoritesRoot = nullptr;
     m_searchHelpItem = nullptr;
     m_collections.clear();
+    const QModelIndexList persistent = persistentIndexList();
+    for (const QModelIndex &index : persistent) {
+        changePersistentIndex(index, QModelIndex());
+    }
     m_rootItem->clearChildren();
 }
 
@@ -646,7 +660,12 @@ QString FeatureTreeModel::GetParameterCollectionName(QSharedPointer<IParameterCo
 void FeatureTreeModel::scheduleForcedParameterDataChangedCheck(FeatureTreeItem *item)
 {
     if (auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
-        nodeItem->scheduleForcedParameterDataChangedCheck();
+        Core::guardedRun(
+            site("FeatureTreeModel::scheduleForcedParameterDataChangedCheck"),
+            [nodeItem] {
+                return QStringLiteral("Failed to ask for a re-read of %1").arg(nodeItem->getFullName());
+            },
+            [nodeItem] { nodeItem->scheduleForcedParameterDataChangedCheck(); });
     }
 }
 
@@ -859,8 +878,9 @@ bool FeatureTreeModel::AddFavorite(QSharedPointer<IParameter> parameter, int row
                              }
                              FavoriteEntry entry;
                              entry.featureName = parameter->name();
-                             entry.displayName =
-                                 parameter->propertyAccess()->property(QStringLiteral("DisplayName"));
+                             if (const auto access = parameter->propertyAccess()) {
+                                 entry.displayName = access->property(QStringLiteral("DisplayName"));
+                             }
                              entry.nodeMapKey = firstSegment(parameter->fullName());
                              return row < m_favorites.count() ? m_favorites.insertEntry(row, entry)
                                                               : m_favorites.appendEntry(entry);

@@ -111,10 +111,11 @@ private:
     {
         QString nodeMapName;
         QSharedPointer<ParameterCollection::IParameterCollection> collection;
-        bool childNodeFlag;
+        bool childNodeFlag = false;
     };
 
     FeatureTreeItem *itemOrRoot(const QModelIndex &index) const;
+    QSharedPointer<ParameterCollection::IParameterCollection> firstCollection() const;
     void scheduleChecksBelow(FeatureTreeItem *item);
     void reportReadFailure() const;
     void reportWriteFailure(FeatureTreeItem *item);
