@@ -18,6 +18,7 @@ class TestErrorHandling : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void messageFunctionsLogAndQueue_data();
     void messageFunctionsLogAndQueue();
@@ -40,6 +41,15 @@ using Report = std::function<void()>;
 } // namespace
 
 Q_DECLARE_METATYPE(Report)
+
+void TestErrorHandling::initTestCase()
+{
+    // Every test then uses a queue that a worker asked for first.
+    QThread *const thread = QThread::create([] { GetTheGlobalAsyncErrorQueue(); });
+    thread->start();
+    QVERIFY(thread->wait());
+    delete thread;
+}
 
 void TestErrorHandling::init()
 {
