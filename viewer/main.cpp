@@ -5,16 +5,17 @@
 #include "mainwindow.h"
 #include "options.h"
 
-#include <platform/core/exception.h>
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
+#include <QLoggingCategory>
 #include <QTextStream>
+
+#include <cstdlib>
+#include <exception>
 
 namespace {
 
@@ -31,22 +32,27 @@ QStringList argumentsFrom(int argc, char **argv)
 
 int fail(const QString &reason)
 {
-    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << '\n';
+    QString line = reason;
+    line.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << line << '\n';
     return exitBadInput;
 }
 
-// Without a session there is no run-time directory, of which Qt warns on every start.
-void ensureRuntimeDirectory()
+// Keeps the start of the application silent. Where no window can be shown, the platform's layer would say so
+// in several lines and abort.
+void onMessageWhileStarting(QtMsgType type, const QMessageLogContext &, const QString &)
 {
-    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        return;
+    if (type == QtFatalMsg) {
+        std::_Exit(fail(QCoreApplication::translate("main", "There is no display to show a window on.")));
     }
-    const QString path = QDir::tempPath() + QStringLiteral("/zelto-viewer-")
-        + qEnvironmentVariable("USER", QStringLiteral("user"));
-    if (QDir().mkpath(path)) {
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        qputenv("XDG_RUNTIME_DIR", path.toLocal8Bit());
-    }
+}
+
+int finish(QTextStream &out)
+{
+    out.flush();
+    return out.status() == QTextStream::Ok
+        ? 0
+        : fail(QCoreApplication::translate("main", "Cannot write to the standard output."));
 }
 
 int listCameras()
@@ -57,7 +63,7 @@ int listCameras()
         out << camera->id() << '\t' << camera->vendorName() << ' ' << camera->modelName() << '\t'
             << camera->serialNumber() << '\t' << camera->deviceClass() << '\n';
     }
-    return 0;
+    return finish(out);
 }
 
 int dumpTree(MainWindow &window, const Options &options)
@@ -67,7 +73,7 @@ int dumpTree(MainWindow &window, const Options &options)
     const QModelIndex top =
         options.favorites ? view->getFeatureExtension()->GetFavoritesRootIndex() : QModelIndex();
     writeFeatureTree(out, *view->model(), top);
-    return 0;
+    return finish(out);
 }
 
 int renderTo(QWidget &widget, const QString &fileName)
@@ -76,7 +82,7 @@ int renderTo(QWidget &widget, const QString &fileName)
     for (int i = 0; i < 5; ++i) {
         QApplication::processEvents();
     }
-    return widget.grab().save(fileName)
+    return widget.grab().save(fileName, "PNG")
         ? 0
         : fail(QCoreApplication::translate("main", "Cannot write %1.").arg(fileName));
 }
@@ -136,12 +142,15 @@ int main(int argc, char **argv)
     }
     if (!options.isInteractive()) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        // That platform grumbles about what it cannot do with windows, which is nothing to a script.
+        QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     }
-    ensureRuntimeDirectory();
+    const QtMessageHandler standardHandler = qInstallMessageHandler(onMessageWhileStarting);
     QApplication application(argc, argv);
+    qInstallMessageHandler(standardHandler);
     try {
         return run(options);
-    } catch (const Core::Exception::BaseException &exception) {
-        return fail(exception.getMessage());
+    } catch (const std::exception &exception) {
+        return fail(QString::fromUtf8(exception.what()));
     }
 }

@@ -56,6 +56,13 @@ void addOptions(QCommandLineParser &parser)
 
 QString contradiction(const QCommandLineParser &parser)
 {
+    // An empty text, as from an unset variable of a script, must not pass for an option that was not given.
+    for (const char *const option : {"description", "camera", "screenshot"}) {
+        const QString name = QString::fromLatin1(option);
+        if (parser.isSet(name) && parser.value(name).isEmpty()) {
+            return QCoreApplication::translate("Options", "The value of --%1 is empty.").arg(name);
+        }
+    }
     if (!parser.positionalArguments().isEmpty()) {
         return QCoreApplication::translate("Options", "Unexpected argument '%1'.")
             .arg(parser.positionalArguments().constFirst());
@@ -83,7 +90,9 @@ ParsedOptions parseOptions(const QStringList &arguments)
         return parsed;
     }
     parsed.error = contradiction(parser);
-
+    if (!parsed.error.isEmpty()) {
+        return parsed;
+    }
     Options &options = parsed.options;
     if (parser.isSet(QStringLiteral("help"))) {
         options.helpText = parser.helpText();
