@@ -118,6 +118,9 @@ ParsedOptions parseOptions(const QStringList &arguments)
                     "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
                     .arg(level);
         }
+    } else if (options.dump) {
+        // What a script reads must not depend on the level that the window was left at.
+        options.visibility = GenApi::Guru;
     }
     return parsed;
 }

@@ -22,7 +22,7 @@ struct Options
     bool expand = false;
     QString search;
     QString screenshot;
-    std::optional<GenApi::EVisibility> visibility; //!< as remembered, when absent
+    std::optional<GenApi::EVisibility> visibility; //!< absent: as the window remembers it
     QString helpText; //!< when help or version is asked for, the answer
 
     /*! Returns whether the program shows a window to a person. */

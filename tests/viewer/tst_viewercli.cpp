@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -29,6 +30,7 @@ private slots:
     void dumpShowsValues();
     void dumpIsLimited_data();
     void dumpIsLimited();
+    void dumpForgetsTheWindow();
     void dumpsADescriptionFile();
     void dumpsSearchResults();
     void dumpsFavorites();
@@ -234,6 +236,17 @@ void TestViewerCli::dumpIsLimited()
     const auto below = rows(levels[more]);
     QVERIFY(below > 10);
     QVERIFY(rows(level) > below);
+}
+
+void TestViewerCli::dumpForgetsTheWindow()
+{
+    const QString guru =
+        run({QStringLiteral("--dump"), QStringLiteral("--visibility"), QStringLiteral("guru")}).out;
+    QSettings window(path(QStringLiteral("config/Zelto/zelto-viewer.conf")), QSettings::IniFormat);
+    window.setValue(QStringLiteral("MainWindow/Level"), 0);
+    window.sync();
+    const QString out = run({QStringLiteral("--dump")}).out;
+    QCOMPARE(out.count(QLatin1Char('\n')), guru.count(QLatin1Char('\n')));
 }
 
 void TestViewerCli::dumpsADescriptionFile()
