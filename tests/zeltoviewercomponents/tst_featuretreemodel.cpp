@@ -72,6 +72,7 @@ private slots:
     void favoriteWritesWithItsCollectionsEncoding();
     void favoritesNeedNoCollection();
     void exportsText();
+    void modelMayOutliveTheApplication();
     void everyOperationMayThrow_data();
     void everyOperationMayThrow();
 
@@ -88,6 +89,9 @@ private:
 namespace {
 
 const QString cameraDevice = QStringLiteral("@CameraDevice");
+
+// Dies at the end of the process, after the application and all that was made later than this pointer.
+std::unique_ptr<FeatureTreeModel> survivor;
 
 QByteArray payloadOf(const QList<const void *> &addresses)
 {
@@ -781,6 +785,15 @@ void TestFeatureTreeModel::exportsText()
                             "        TriggerSoftware\t\n"
                             "    DeviceControl\t\n"
                             "        DeviceUserID\ttwo lines\n"));
+}
+
+void TestFeatureTreeModel::modelMayOutliveTheApplication()
+{
+    survivor = std::move(m_model);
+    survivor->addParameterCollection(m_collection, QStringLiteral("Camera"), cameraDevice, false);
+    survivor->rebuildFavoriteItems();
+    QVERIFY(survivor->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    visitAll(*survivor);
 }
 
 void TestFeatureTreeModel::everyOperationMayThrow_data()

@@ -34,11 +34,12 @@ Core::GuardSite site(const char *function)
     return {logCategory(), function};
 }
 
-// The models of the process: a drag from another tree's model is as good as one from our own.
+// The models of the process: a drag from another tree's model is as good as one from our own. Never
+// destroyed: models may live until the end of the process.
 QList<const FeatureTreeItem *> &liveRoots()
 {
-    static QList<const FeatureTreeItem *> roots;
-    return roots;
+    static auto *const roots = new QList<const FeatureTreeItem *>;
+    return *roots;
 }
 
 bool isLive(const FeatureTreeItem *item)
