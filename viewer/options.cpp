@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <array>
 #include <utility>
 
 namespace {
@@ -67,8 +68,20 @@ QString contradiction(const QCommandLineParser &parser)
         return QCoreApplication::translate("Options", "Unexpected argument '%1'.")
             .arg(parser.positionalArguments().constFirst());
     }
-    if (parser.isSet(QStringLiteral("description")) && parser.isSet(QStringLiteral("camera"))) {
-        return QCoreApplication::translate("Options", "--description and --camera exclude each other.");
+    static constexpr std::array exclusive{
+        std::pair{"description", "camera"},   std::pair{"list", "dump"},
+        std::pair{"list", "favorites"},       std::pair{"list", "editors"},
+        std::pair{"list", "screenshot"},      std::pair{"dump", "editors"},
+        std::pair{"dump", "screenshot"},      std::pair{"favorites", "editors"},
+        std::pair{"favorites", "screenshot"},
+    };
+    for (const auto &[first, second] : exclusive) {
+        const QString one = QString::fromLatin1(first);
+        const QString other = QString::fromLatin1(second);
+        if (parser.isSet(one) && parser.isSet(other)) {
+            return QCoreApplication::translate("Options", "--%1 and --%2 exclude each other.")
+                .arg(one, other);
+        }
     }
     return {};
 }
@@ -118,7 +131,7 @@ ParsedOptions parseOptions(const QStringList &arguments)
                     "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
                     .arg(level);
         }
-    } else if (options.dump) {
+    } else if (options.dump || options.favorites) {
         // What a script reads must not depend on the level that the window was left at.
         options.visibility = GenApi::Guru;
     }

@@ -126,6 +126,8 @@ void TestViewerCli::failsInOneLine_data()
         {QStringLiteral("--dump"), QStringLiteral("--camera"), QStringLiteral("x"),
          QStringLiteral("--description"), QStringLiteral("y")},
         QStringLiteral("exclude each other"));
+    row("two answers", {QStringLiteral("--editors"), QStringLiteral("--dump")},
+        QStringLiteral("exclude each other"));
     row("no such file",
         {QStringLiteral("--dump"), QStringLiteral("--description"), QStringLiteral("missing.xml")},
         QStringLiteral("missing.xml"));
