@@ -55,6 +55,12 @@ void addOptions(QCommandLineParser &parser)
     add("version", QT_TRANSLATE_NOOP("Options", "Show the version."));
 }
 
+// Without an application object the parser does not know the program's name.
+QString helpText(const QCommandLineParser &parser)
+{
+    return parser.helpText().replace(QLatin1String("<executable_name>"), QCoreApplication::applicationName());
+}
+
 QString contradiction(const QCommandLineParser &parser)
 {
     // An empty text, as from an unset variable of a script, must not pass for an option that was not given.
@@ -108,7 +114,7 @@ ParsedOptions parseOptions(const QStringList &arguments)
     }
     Options &options = parsed.options;
     if (parser.isSet(QStringLiteral("help"))) {
-        options.helpText = parser.helpText();
+        options.helpText = helpText(parser);
     } else if (parser.isSet(QStringLiteral("version"))) {
         options.helpText = QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
                                                          QCoreApplication::applicationVersion());
