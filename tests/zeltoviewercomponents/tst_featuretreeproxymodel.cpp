@@ -158,6 +158,10 @@ private slots:
     void foreignPatternsWork();
     void acceptAllShowsEverything();
     void flippedRowsAreFilteredOnce();
+    void flippedRowsBelowCollapsedCategories();
+    void countsNeedNoView();
+    void favoriteOfAHiddenCategoryCountsOnce();
+    void rebuildingFiltersOnce();
     void searchRowNeedsASearch();
     void favoritesBranchStaysWithoutSearch();
     void hiddenPlaceholders();
@@ -452,6 +456,73 @@ void TestFeatureTreeProxyModel::flippedRowsAreFilteredOnce()
     integers[0]->publish(); // nothing flipped
     QCoreApplication::processEvents();
     QCOMPARE(layout.count(), 0);
+}
+
+void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories()
+{
+    m_collection->addCategory(QStringLiteral("Outer"), QStringLiteral("Root"));
+    m_collection->addCategory(QStringLiteral("Inner"), QStringLiteral("Outer"));
+    const auto only = m_collection->addInteger(QStringLiteral("Only"), QStringLiteral("Inner"));
+    addCamera();
+    const auto isOuterShown = [this] {
+        const QModelIndex root = find(QStringLiteral("@CameraDevice*Root"));
+        for (int row = 0; row < m_proxy->rowCount(root); ++row) {
+            if (m_proxy->index(row, 0, root).data(FeatureTreeItem::GenicamNameRole)
+                == QLatin1String("Outer")) {
+                return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(isOuterShown());
+    for (const bool implemented : {false, true, false}) {
+        only->edit<IntegerParameterData>([implemented](auto &data) { data.isImplemented = implemented; });
+        only->publish();
+        QTRY_COMPARE(isOuterShown(), implemented);
+    }
+}
+
+void TestFeatureTreeProxyModel::countsNeedNoView()
+{
+    addCamera();
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("Gain")).data())->snapshot->visibility =
+        GenApi::Guru;
+    m_proxy->clear();
+    addCamera();
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Gain")});
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->invalidate();
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>{QStringLiteral("Gain")});
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::favoriteOfAHiddenCategoryCountsOnce()
+{
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("AcquisitionControl")).data())
+        ->snapshot->visibility = GenApi::Expert;
+    addCamera();
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Gain")});
+    QVERIFY(m_proxy->hiddenMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::rebuildingFiltersOnce()
+{
+    addCamera();
+    for (const char *const name : {"Gain", "OffsetX", "Width"}) {
+        QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QString::fromLatin1(name)), 0));
+    }
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("zzz"));
+    QSignalSpy layout(m_proxy.get(), &QAbstractItemModel::layoutChanged);
+    m_proxy->rebuildFavoriteItems();
+    QCOMPARE(layout.count(), 1);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->rowCount(m_proxy->GetFavoritesRootIndex()), 1);
 }
 
 void TestFeatureTreeProxyModel::searchRowNeedsASearch()
