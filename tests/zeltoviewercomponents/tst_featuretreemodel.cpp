@@ -71,6 +71,7 @@ private slots:
     void placeholdersAndLiveRows();
     void favoriteWritesWithItsCollectionsEncoding();
     void favoritesNeedNoCollection();
+    void deferredListDoesNotMixUpRows();
     void exportsText();
     void modelMayOutliveTheApplication();
     void everyOperationMayThrow_data();
@@ -757,6 +758,24 @@ void TestFeatureTreeModel::favoritesNeedNoCollection()
     addSample();
     QVERIFY(!m_model->IsFavoriteTreeRoot(m_model->getFeatureTreeItem(m_model->index(0, 0))));
     QCOMPARE(m_model->getFavoritesIndexFromModelIndex(m_model->index(0, 0)), -1);
+}
+
+void TestFeatureTreeModel::deferredListDoesNotMixUpRows()
+{
+    addSample();
+    m_model->rebuildFavoriteItems();
+    FavoritesData &favorites = m_model->GetFavorites();
+    favorites.setDeferredUpdates(true);
+    QVERIFY(m_model->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    m_model->replaceFavoritesZombies(m_collection, m_collection->name());
+    const QModelIndex branch = m_model->GetFavoritesRootIndex();
+    QVERIFY(!qobject_cast<FeatureTreeINodeItem *>(m_model->getFeatureTreeItem(m_model->index(0, 0, branch))));
+    QVERIFY(favorites.insertEntry(0, {QStringLiteral("Missing"), QStringLiteral("Missing"), cameraDevice}));
+    m_model->rebuildFavoriteItems();
+    QVERIFY(m_model->AddFavorite(m_collection->parameter(QStringLiteral("Width")), 0));
+    m_model->replaceFavoritesZombies(m_collection, m_collection->name());
+    QCOMPARE(m_model->index(0, 0, branch).data().toString(), QStringLiteral("Missing"));
+    favorites.setDeferredUpdates(false);
 }
 
 void TestFeatureTreeModel::exportsText()

@@ -158,12 +158,16 @@ private slots:
     void foreignPatternsWork();
     void acceptAllShowsEverything();
     void flippedRowsAreFilteredOnce();
+    void flippedRowsBelowCollapsedCategories();
+    void countsNeedNoView();
+    void favoriteOfAHiddenCategoryCountsOnce();
+    void rebuildingFiltersOnce();
     void searchRowNeedsASearch();
     void favoritesBranchStaysWithoutSearch();
     void hiddenPlaceholders();
     void lateBranchMakesItsParentsPass();
     void indexesAreTheProxys();
-    void dropOnTheBranchAppends();
+    void dropsReachTheSourcesRows();
     void pollingStateIsTold();
     void clearResets();
     void defaultsWithoutAFeatureTreeModel();
@@ -454,6 +458,73 @@ void TestFeatureTreeProxyModel::flippedRowsAreFilteredOnce()
     QCOMPARE(layout.count(), 0);
 }
 
+void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories()
+{
+    m_collection->addCategory(QStringLiteral("Outer"), QStringLiteral("Root"));
+    m_collection->addCategory(QStringLiteral("Inner"), QStringLiteral("Outer"));
+    const auto only = m_collection->addInteger(QStringLiteral("Only"), QStringLiteral("Inner"));
+    addCamera();
+    const auto isOuterShown = [this] {
+        const QModelIndex root = find(QStringLiteral("@CameraDevice*Root"));
+        for (int row = 0; row < m_proxy->rowCount(root); ++row) {
+            if (m_proxy->index(row, 0, root).data(FeatureTreeItem::GenicamNameRole)
+                == QLatin1String("Outer")) {
+                return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(isOuterShown());
+    for (const bool implemented : {false, true, false}) {
+        only->edit<IntegerParameterData>([implemented](auto &data) { data.isImplemented = implemented; });
+        only->publish();
+        QTRY_COMPARE(isOuterShown(), implemented);
+    }
+}
+
+void TestFeatureTreeProxyModel::countsNeedNoView()
+{
+    addCamera();
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("Gain")).data())->snapshot->visibility =
+        GenApi::Guru;
+    m_proxy->clear();
+    addCamera();
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Gain")});
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->invalidate();
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>{QStringLiteral("Gain")});
+    QVERIFY(m_proxy->visibleMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::favoriteOfAHiddenCategoryCountsOnce()
+{
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("AcquisitionControl")).data())
+        ->snapshot->visibility = GenApi::Expert;
+    addCamera();
+    QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QStringLiteral("Gain")), 0));
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{QStringLiteral("Gain")});
+    QVERIFY(m_proxy->hiddenMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::rebuildingFiltersOnce()
+{
+    addCamera();
+    for (const char *const name : {"Gain", "OffsetX", "Width"}) {
+        QVERIFY(m_proxy->AddFavorite(m_collection->parameter(QString::fromLatin1(name)), 0));
+    }
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QStringLiteral("zzz"));
+    QSignalSpy layout(m_proxy.get(), &QAbstractItemModel::layoutChanged);
+    m_proxy->rebuildFavoriteItems();
+    QCOMPARE(layout.count(), 1);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->rowCount(m_proxy->GetFavoritesRootIndex()), 1);
+}
+
 void TestFeatureTreeProxyModel::searchRowNeedsASearch()
 {
     addCamera();
@@ -550,7 +621,7 @@ void TestFeatureTreeProxyModel::indexesAreTheProxys()
     QCOMPARE(m_proxy->GetFavorites().count(), 1);
 }
 
-void TestFeatureTreeProxyModel::dropOnTheBranchAppends()
+void TestFeatureTreeProxyModel::dropsReachTheSourcesRows()
 {
     addCamera();
     m_proxy->rebuildFavoriteItems();
@@ -561,7 +632,11 @@ void TestFeatureTreeProxyModel::dropOnTheBranchAppends()
         QVERIFY(m_proxy->dropMimeData(data.get(), Qt::MoveAction, -1, -1, m_proxy->GetFavoritesRootIndex()));
         m_proxy->rebuildFavoriteItems();
     }
-    QCOMPARE(m_proxy->GetFavorites().entryAt(4)->featureName, QStringLiteral("PixelFormat"));
+    // Onto the branch itself: at the number of the top rows, those that are filtered out included.
+    QCOMPARE(m_model->rowCount(), 3);
+    QCOMPARE(m_proxy->rowCount(), 2);
+    QCOMPARE(m_proxy->GetFavorites().entryAt(3)->featureName, QStringLiteral("PixelFormat"));
+    QCOMPARE(m_proxy->GetFavorites().entryAt(4)->featureName, QStringLiteral("ReverseX"));
     // Between rows of a filtered branch the row is the source's.
     m_proxy->setFilterFixedString(QStringLiteral("offset"));
     const std::unique_ptr<QMimeData> data(

@@ -155,6 +155,7 @@ private:
         GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
         bool isShownAtAll = false;
         bool isAccepted = false;
+        bool isJudged = false; // otherwise the row was looked at for another's sake
     };
 
     void adopt(FeatureTreeItem *child);

@@ -799,7 +799,9 @@ void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollecti
     const int count = std::min(m_favorites.count(), m_favoritesRoot->existingChildCount());
     for (int i = 0; i < count; ++i) {
         const FavoriteEntry entry = *m_favorites.entryAt(i);
-        if (entry.nodeMapKey != nodeMapName) {
+        // The list may be ahead of its rows while its updates are deferred.
+        if (entry.nodeMapKey != nodeMapName
+            || m_favoritesRoot->child(i)->getFullName() != favoritesRowName(entry)) {
             continue;
         }
         const QString fullName = entry.nodeMapKey + QLatin1Char('/') + entry.featureName;

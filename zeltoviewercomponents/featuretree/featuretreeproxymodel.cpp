@@ -121,16 +121,6 @@ Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
     return result;
 }
 
-bool FeatureTreeProxyModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
-                                         const QModelIndex &parent)
-{
-    if (row == -1 && IsFavoriteTreeRoot(getFeatureTreeItem(parent))) {
-        // Onto the branch itself: appended, wherever the top rows end.
-        return sourceModel()->dropMimeData(data, action, GetFavorites().count(), column, mapToSource(parent));
-    }
-    return QSortFilterProxyModel::dropMimeData(data, action, row, column, parent);
-}
-
 void FeatureTreeProxyModel::setAcceptAll(bool acceptAll)
 {
     m_acceptAll = acceptAll;
@@ -143,11 +133,13 @@ bool FeatureTreeProxyModel::acceptAll() const
 
 const QSet<QString> &FeatureTreeProxyModel::visibleMatches() const
 {
+    completePass();
     return m_visibleMatches;
 }
 
 const QSet<QString> &FeatureTreeProxyModel::hiddenMatches() const
 {
+    completePass();
     return m_hiddenMatches;
 }
 
@@ -173,6 +165,16 @@ void FeatureTreeProxyModel::refilter()
         judgeTree();
     }
     invalidate();
+}
+
+template <typename Work>
+void FeatureTreeProxyModel::rebuild(Work work)
+{
+    {
+        const QScopedValueRollback<bool> rebuilding(m_rebuilding, true);
+        work();
+    }
+    refilter();
 }
 
 void FeatureTreeProxyModel::startPass() const
@@ -217,9 +219,26 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     return accepts(item);
 }
 
-bool FeatureTreeProxyModel::isJudged(const FeatureTreeItem *item) const
+// Rows are asked for when a view comes to it; the names of the matches may be wanted before.
+void FeatureTreeProxyModel::completePass() const
+{
+    if (!model()) {
+        return;
+    }
+    noticePattern();
+    if (!m_pattern.isEmpty() && !m_treeJudged) {
+        judgeTree();
+    }
+}
+
+bool FeatureTreeProxyModel::isSeen(const FeatureTreeItem *item) const
 {
     return item->m_filterMark.pass == m_pass;
+}
+
+bool FeatureTreeProxyModel::isJudged(const FeatureTreeItem *item) const
+{
+    return isSeen(item) && item->m_filterMark.isJudged;
 }
 
 bool FeatureTreeProxyModel::accepts(FeatureTreeItem *item) const
@@ -291,7 +310,17 @@ bool FeatureTreeProxyModel::judge(FeatureTreeItem *item, bool ancestorMatches,
 
 void FeatureTreeProxyModel::mark(FeatureTreeItem *item, bool isAccepted) const
 {
-    item->m_filterMark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), isAccepted};
+    item->m_filterMark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), isAccepted, true};
+}
+
+// Remembers the state on which the verdict about a row above was founded.
+void FeatureTreeProxyModel::markSeen(FeatureTreeItem *item) const
+{
+    if (isSeen(item)) {
+        return;
+    }
+    FeatureTreeItem::FilterMark &mark = item->m_filterMark;
+    mark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), mark.isAccepted, false};
 }
 
 // A row that contains the search text; categories and collections' top rows never do.
@@ -318,15 +347,20 @@ bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
     return isHit(item);
 }
 
-void FeatureTreeProxyModel::countHit(const FeatureTreeItem *item, GenApi::EVisibility visibility) const
+void FeatureTreeProxyModel::countHit(FeatureTreeItem *item, GenApi::EVisibility visibility) const
 {
     if (!qobject_cast<const FeatureTreeINodeItem *>(item)) {
         return; // hints and placeholders are no results
     }
+    const QString name = item->nodeName();
     if (visibility <= m_level) {
-        m_visibleMatches.insert(item->nodeName());
-    } else if (visibility < GenApi::Invisible) {
-        m_hiddenMatches.insert(item->nodeName());
+        m_visibleMatches.insert(name);
+        return;
+    }
+    // Hidden by its category alone, it may be in sight among the favorites, which come first.
+    const bool isInSight = item->getVisibility() <= m_level && m_visibleMatches.contains(name);
+    if (visibility < GenApi::Invisible && !isInSight) {
+        m_hiddenMatches.insert(name);
     }
 }
 
@@ -345,6 +379,7 @@ bool FeatureTreeProxyModel::hasMatchBelow(FeatureTreeItem *item) const
 {
     loadChildren(item);
     for (int row = 0; row < item->existingChildCount(); ++row) {
+        markSeen(item->child(row));
         if (matches(item->child(row))) {
             return true;
         }
@@ -400,8 +435,9 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
     if (!parent.isValid() || !model()) {
         return;
     }
-    // The base lets rows below a filtered-out one pass by; one of them may make it pass.
-    if (!mapFromSource(parent).isValid()) {
+    // The base lets rows below a filtered-out one pass by; one of them may make it pass. What rebuilds
+    // branches filters at its end.
+    if (!m_rebuilding && !mapFromSource(parent).isValid()) {
         refilter();
     }
 }
@@ -410,7 +446,7 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
 {
     Q_UNUSED(bottomRight)
     FeatureTreeItem *const item = model() ? model()->getFeatureTreeItem(topLeft) : nullptr;
-    if (!item || m_refilterQueued || !isJudged(item)) {
+    if (!item || m_refilterQueued || !isSeen(item)) {
         return;
     }
     const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
@@ -525,24 +561,23 @@ void FeatureTreeProxyModel::addParameterCollection(
     const QString &nodeMapName, bool childNodeFlag)
 {
     if (model()) {
-        model()->addParameterCollection(std::move(collection), title, nodeMapName, childNodeFlag);
-        refilter();
+        rebuild([&] {
+            model()->addParameterCollection(std::move(collection), title, nodeMapName, childNodeFlag);
+        });
     }
 }
 
 void FeatureTreeProxyModel::rebuildFavoriteItems()
 {
     if (model()) {
-        model()->rebuildFavoriteItems();
-        refilter();
+        rebuild([this] { model()->rebuildFavoriteItems(); });
     }
 }
 
 void FeatureTreeProxyModel::CreateFavoritesRoot()
 {
     if (model()) {
-        model()->CreateFavoritesRoot();
-        refilter();
+        rebuild([this] { model()->CreateFavoritesRoot(); });
     }
 }
 
@@ -550,8 +585,7 @@ void FeatureTreeProxyModel::replaceFavoritesZombies(
     QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &nodeMapName)
 {
     if (model()) {
-        model()->replaceFavoritesZombies(std::move(collection), nodeMapName);
-        refilter();
+        rebuild([&] { model()->replaceFavoritesZombies(std::move(collection), nodeMapName); });
     }
 }
 

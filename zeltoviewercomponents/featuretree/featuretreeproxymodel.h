@@ -42,8 +42,6 @@ public:
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
-    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
-                      const QModelIndex &parent) override;
 
     /*! Sets whether every row passes; takes effect with the next invalidation. */
     void setAcceptAll(bool acceptAll);
@@ -123,6 +121,10 @@ private:
     FeatureTreeModel *model() const;
     FeatureTreeItem *rootItem() const;
 
+    template <typename Work>
+    void rebuild(Work work);
+    void completePass() const;
+    bool isSeen(const FeatureTreeItem *item) const;
     bool isJudged(const FeatureTreeItem *item) const;
     bool accepts(FeatureTreeItem *item) const;
     bool judgeAlone(FeatureTreeItem *item) const;
@@ -131,11 +133,12 @@ private:
     void judgeTree() const;
     void startPass() const;
     void mark(FeatureTreeItem *item, bool isAccepted) const;
+    void markSeen(FeatureTreeItem *item) const;
     bool matches(FeatureTreeItem *item) const;
     bool isHit(const FeatureTreeItem *item) const;
     bool hasMatchBelow(FeatureTreeItem *item) const;
     bool hasMatchAbove(FeatureTreeItem *item) const;
-    void countHit(const FeatureTreeItem *item, GenApi::EVisibility visibility) const;
+    void countHit(FeatureTreeItem *item, GenApi::EVisibility visibility) const;
     void loadChildren(FeatureTreeItem *item) const;
     void loadTree(FeatureTreeItem *item) const;
     void noticePattern() const;
@@ -156,6 +159,7 @@ private:
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
     bool m_rejectAll = false; // nothing passes while the tree is being cleared
     bool m_shiftTopRows = false; // the mapping is one top row behind the source
+    bool m_rebuilding = false; // the operation under way filters at its end
     bool m_refilterQueued = false;
     bool m_reportedPolling = false;
 };
