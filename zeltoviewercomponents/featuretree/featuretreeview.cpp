@@ -719,7 +719,27 @@ QModelIndex FeatureTreeView::rowOfEditor(const QWidget *focus) const
 bool FeatureTreeView::focusNextPrevChild(bool next)
 {
     const QModelIndex row = rowOfEditor(QApplication::focusWidget());
-    return (row.isValid() && editNeighbour(row, next)) || QTreeView::focusNextPrevChild(next);
+    if (!row.isValid()) {
+        return QTreeView::focusNextPrevChild(next);
+    }
+    return editNeighbour(row, next) || leaveEditors(next);
+}
+
+// The focus goes from the first editor back to the tree and from the last one to what comes after the tree.
+bool FeatureTreeView::leaveEditors(bool next)
+{
+    QWidget *target = this;
+    if (next) {
+        const auto takesFocus = [this](const QWidget *widget) {
+            return !isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
+                && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
+        };
+        do {
+            target = target->nextInFocusChain();
+        } while (target != this && !takesFocus(target));
+    }
+    target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -731,7 +751,9 @@ void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
     }
     // The base would go on in the column that happens to be the current one.
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    editNeighbour(currentIndex(), below);
+    if (!editNeighbour(currentIndex(), below)) {
+        leaveEditors(below);
+    }
 }
 
 // Goes to the nearest row below, or above, with something to edit. Returns whether there is one.
@@ -744,7 +766,8 @@ bool FeatureTreeView::editNeighbour(const QModelIndex &from, bool below)
     const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
     for (QModelIndex row = neighbour(from); row.isValid(); row = neighbour(row)) {
         const QModelIndex value = row.siblingAtColumn(FeatureTreeColumns::value);
-        if (!value.flags().testFlag(Qt::ItemIsEditable)) {
+        const FeatureTreeItem *const item = itemAt(value);
+        if (!item || item->isCategory() || !value.flags().testFlag(Qt::ItemIsEditable)) {
             continue;
         }
         scrollTo(value); // beyond the budget, its editor opens now

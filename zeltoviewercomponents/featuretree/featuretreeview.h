@@ -121,6 +121,7 @@ private:
     void closeFarEditors(const QModelIndexList &near);
     void orderEditors();
     QModelIndex rowOfEditor(const QWidget *focus) const;
+    bool leaveEditors(bool next);
     bool editNeighbour(const QModelIndex &from, bool below);
     void restoreFavorite(const QString &fullName, int row);
     void addEditor(const QModelIndex &index);
