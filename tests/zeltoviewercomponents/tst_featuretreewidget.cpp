@@ -13,8 +13,15 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QScopedPointer>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
@@ -22,6 +29,8 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -36,7 +45,7 @@ QtMessageHandler previousHandler = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (message.contains(QLatin1String("propagateSizeHints"))) {
+    if (message.contains(QLatin1String("This plugin does not support"))) {
         return; // the offscreen platform complains of itself
     }
     if (type != QtDebugMsg && type != QtInfoMsg && !QByteArray(context.category).startsWith("zelto")) {
@@ -54,6 +63,167 @@ QSharedPointer<MemoryCollection> flatCamera(int features)
     }
     return camera;
 }
+
+/*! \brief Uses a tree at random. */
+class Monkey
+{
+public:
+    Monkey(TreeBench &bench, quint32 seed)
+        : m_bench(bench)
+        , m_random(seed)
+    {
+    }
+
+    void step()
+    {
+        switch (m_random.bounded(14)) {
+        case 0:
+        case 1:
+        case 2:
+            click();
+            break;
+        case 3:
+        case 4:
+        case 5:
+        case 6:
+            press();
+            break;
+        case 7:
+            wheel();
+            break;
+        case 8:
+            m_bench.box()->setText(QStringLiteral("egainraw ").mid(m_random.bounded(6), m_random.bounded(3)));
+            break;
+        case 9:
+            rareThings();
+            break;
+        case 10:
+            changeFeature();
+            break;
+        case 11:
+            favorites();
+            break;
+        case 12:
+            openOrClose();
+            break;
+        default:
+            TreeBench::settle();
+        }
+    }
+
+private:
+    QWidget *target()
+    {
+        if (QWidget *const popup = QApplication::activePopupWidget()) {
+            return popup;
+        }
+        const QList<QWidget *> all = m_bench.widget.findChildren<QWidget *>();
+        QWidget *const widget = all.at(m_random.bounded(all.size()));
+        return widget->isVisible() ? widget : m_bench.view()->viewport();
+    }
+    void click()
+    {
+        QWidget *const widget = target();
+        const QPoint point(m_random.bounded(std::max(1, widget->width())),
+                           m_random.bounded(std::max(1, widget->height())));
+        QTest::mouseClick(widget, m_random.bounded(8) == 0 ? Qt::RightButton : Qt::LeftButton, {}, point);
+    }
+    void press()
+    {
+        static const QList<Qt::Key> keys{Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Left,    Qt::Key_Right,
+                                         Qt::Key_Tab,    Qt::Key_Escape, Qt::Key_F2,      Qt::Key_Return,
+                                         Qt::Key_Home,   Qt::Key_End,    Qt::Key_5,       Qt::Key_Space,
+                                         Qt::Key_Delete, Qt::Key_D,      Qt::Key_Backtab, Qt::Key_PageUp,
+                                         Qt::Key_F3,     Qt::Key_Plus,   Qt::Key_Minus,   Qt::Key_G};
+        QWidget *const focus = QApplication::focusWidget();
+        const Qt::Key key = keys.at(m_random.bounded(keys.size()));
+        const bool isChord = m_random.bounded(3) == 0;
+        QTest::keyClick(focus ? focus : m_bench.view(), key, isChord ? Qt::ControlModifier : Qt::NoModifier);
+    }
+    void wheel()
+    {
+        QPointer<QWidget> widget = target();
+        const QPoint center = widget->rect().center();
+        QWheelEvent event(center, widget->mapToGlobal(center), QPoint(),
+                          QPoint(0, m_random.bounded(2) == 0 ? 120 : -120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(widget, &event);
+    }
+    void rareThings()
+    {
+        switch (m_random.bounded(6)) {
+        case 0:
+            m_bench.widget.onVisibilityChanged(m_random.bounded(4));
+            break;
+        case 1:
+            m_bench.widget.clear();
+            m_bench.add(m_bench.camera);
+            break;
+        case 2:
+            m_bench.widget.deviceIsClosed();
+            break;
+        case 3:
+            m_bench.widget.Refresh();
+            break;
+        case 4:
+            m_bench.widget.setViewAllFavorites(m_random.bounded(2) == 0);
+            break;
+        default:
+            m_bench.widget.resize(200 + m_random.bounded(400), 150 + m_random.bounded(500));
+        }
+    }
+    void changeFeature()
+    {
+        const auto gain = m_bench.parameter<MemoryFloat>(QStringLiteral("Gain"));
+        const int state = m_random.bounded(4);
+        gain->edit<ParameterCollection::FloatParameterData>([state](auto &data) {
+            data.isImplemented = state != 0;
+            data.isReadable = state != 1;
+            data.isWritable = state > 1;
+            data.visibility = state == 3 ? GenApi::Expert : GenApi::Beginner;
+        });
+        gain->publish();
+        const auto offset = m_bench.parameter<MemoryInteger>(QStringLiteral("OffsetX"));
+        offset->edit<ParameterCollection::IntegerParameterData>(
+            [state](auto &data) { data.isWritable = state > 0; });
+        offset->publish();
+    }
+    void favorites()
+    {
+        static const QStringList names{QStringLiteral("Gain"), QStringLiteral("Width"),
+                                       QStringLiteral("ReverseX"), QStringLiteral("PixelFormat"),
+                                       QStringLiteral("OffsetX")};
+        FavoritesData &data = m_bench.favorites();
+        const int row = m_random.bounded(std::max(1, data.count()));
+        switch (m_random.bounded(3)) {
+        case 0:
+            m_bench.extension()->AddFavorite(
+                m_bench.camera->parameter(names.at(m_random.bounded(names.size()))), row);
+            break;
+        case 1:
+            data.removeEntry(row);
+            break;
+        default:
+            data.moveEntry(row, m_random.bounded(data.count() + 1));
+        }
+    }
+    void openOrClose()
+    {
+        QModelIndex index;
+        for (int depth = m_random.bounded(3); depth >= 0; --depth) {
+            const int count = m_bench.view()->model()->rowCount(index);
+            if (count == 0) {
+                break;
+            }
+            index = m_bench.view()->model()->index(m_random.bounded(count), 0, index);
+        }
+        m_bench.view()->setExpanded(index, m_random.bounded(3) > 0);
+    }
+
+    TreeBench &m_bench;
+    QRandomGenerator m_random;
+};
 
 } // namespace
 
@@ -82,6 +252,28 @@ private slots:
     void wheelScrollsTheTree();
     void escapeTwiceClearsTheSearch();
     void shortcutsReachTheSearchBox();
+    void contextMenuOffersWhatTheRowAllows();
+    void favoritesByShortcuts();
+    void favoritesByDragging();
+    void favoritesKeepTheirPlaceOnScreen();
+    void widgetsShareFavorites();
+    void unavailableFavorites();
+    void polls();
+    void switchesLevelWhileEditing();
+    void ignoresUnknownLevels();
+    void setsVisibilityTwice();
+    void closesDeviceWhileEditing();
+    void clearsAndFillsAgain();
+    void clearsFromInsideASearch();
+    void refreshesBelowAnOpenPopup();
+    void followsAvailability();
+    void hidesTheCurrentRow();
+    void tellsTheHostOfTheCurrentRow();
+    void copiesTheTree();
+    void keepsEditorsWithinTheBudget();
+    void budgetCountsOpenEditorsOnly();
+    void expandsChildrenOnly();
+    void standsRandomUse();
 };
 
 void TestFeatureTreeWidget::init()
@@ -550,6 +742,553 @@ void TestFeatureTreeWidget::shortcutsReachTheSearchBox()
     QTest::keyClick(bench.view(), Qt::Key_Plus, chord);
     QVERIFY(bench.shownRows().join(QLatin1Char('\n')).contains(QStringLiteral("Gain")));
     QVERIFY(bench.favorites().isExpanded());
+}
+
+void TestFeatureTreeWidget::contextMenuOffersWhatTheRowAllows()
+{
+    TreeBench bench;
+    QStringList texts;
+    QSharedPointer<QMenu> menu;
+    connect(&bench.widget, &FeatureTreeWidget::contextMenuRequested, &bench.widget,
+            [&](const QPoint &, const QSharedPointer<QMenu> &requested) {
+                menu = requested;
+                texts.clear();
+                const auto actions = menu->actions();
+                for (const QAction *action : actions) {
+                    texts.append(action->isSeparator() ? QStringLiteral("-") : action->iconText());
+                }
+            });
+    const auto rightClick = [&bench](const QModelIndex &index) {
+        const QPoint point = bench.view()->visualRect(index).center();
+        QTest::mouseClick(bench.view()->viewport(), Qt::RightButton, {}, point);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, point,
+                                bench.view()->viewport()->mapToGlobal(point));
+        QApplication::sendEvent(bench.view()->viewport(), &event);
+    };
+    bench.widget.contextualMenu(QPoint());
+    QVERIFY(!menu);
+    rightClick(bench.row(QStringLiteral("Gain")));
+    QCOMPARE(texts, QStringList("Add to Favorites"));
+    menu->actions().constFirst()->trigger();
+    QCOMPARE(bench.favoriteNames(), QStringList("Gain"));
+    QVERIFY(!menu->actions().constFirst()->isEnabled());
+
+    rightClick(bench.favorite(QStringLiteral("Gain")));
+    QCOMPARE(texts, QStringList({"Move Up", "Move Down", "-", "Remove"}));
+    QVERIFY(!menu->actions().at(0)->isEnabled() && !menu->actions().at(1)->isEnabled());
+    menu->actions().constLast()->trigger();
+    QCOMPARE(bench.favorites().count(), 0);
+    rightClick(bench.row(QStringLiteral("DeviceControl")));
+    QCOMPARE(texts, QStringList("Add to Favorites"));
+    QVERIFY(!menu->actions().constFirst()->isEnabled());
+}
+
+void TestFeatureTreeWidget::favoritesByShortcuts()
+{
+    TreeBench bench;
+    for (const QString &name :
+         {QStringLiteral("Width"), QStringLiteral("OffsetX"), QStringLiteral("PixelFormat"),
+          QStringLiteral("ReverseX"), QStringLiteral("Gain")}) {
+        bench.click(bench.row(name));
+        QTest::keyClick(bench.view(), Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(bench.view()->currentIndex(), bench.row(name));
+    }
+    QCOMPARE(bench.favoriteNames(), QStringList({"Width", "OffsetX", "PixelFormat", "ReverseX", "Gain"}));
+    QTest::keyClick(bench.view(), Qt::Key_D, Qt::ControlModifier); // it is one already
+    QCOMPARE(bench.favorites().count(), 5);
+
+    bench.click(bench.favorite(QStringLiteral("OffsetX")));
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(bench.view(), Qt::Key_Down, Qt::ControlModifier);
+    }
+    QCOMPARE(bench.favoriteNames(), QStringList({"Width", "PixelFormat", "ReverseX", "Gain", "OffsetX"}));
+    QCOMPARE(bench.view()->currentIndex(), bench.favorite(QStringLiteral("OffsetX")));
+    QVERIFY(bench.view()->selectionModel()->isSelected(bench.view()->currentIndex()));
+    QTest::keyClick(bench.view(), Qt::Key_Up, Qt::ControlModifier);
+    QCOMPARE(bench.favoriteNames(), QStringList({"Width", "PixelFormat", "ReverseX", "OffsetX", "Gain"}));
+
+    // The next row takes the place of the removed one, so that the key can be pressed again.
+    QTest::keyClick(bench.view(), Qt::Key_Delete);
+    QCOMPARE(bench.view()->currentIndex(), bench.favorite(QStringLiteral("Gain")));
+    QTest::keyClick(bench.view(), Qt::Key_Delete);
+    QCOMPARE(bench.view()->currentIndex(), bench.favorite(QStringLiteral("ReverseX")));
+    QCOMPARE(bench.favoriteNames(), QStringList({"Width", "PixelFormat", "ReverseX"}));
+
+    // A plain row of a favorite is no row of the branch.
+    bench.click(bench.row(QStringLiteral("Width")));
+    QTest::keyClick(bench.view(), Qt::Key_Delete);
+    QCOMPARE(bench.favorites().count(), 3);
+}
+
+void TestFeatureTreeWidget::favoritesByDragging()
+{
+    TreeBench bench;
+    QVERIFY(bench.view()->dragEnabled() && bench.view()->viewport()->acceptDrops());
+    const auto drag = [&bench](const QModelIndex &from, const QModelIndex &onto, double part) {
+        const QScopedPointer<QMimeData> data(bench.view()->model()->mimeData({from}));
+        const QRect rect = bench.view()->visualRect(onto);
+        const QPoint point(rect.center().x(), rect.top() + static_cast<int>(part * rect.height()));
+        QDragEnterEvent enter(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
+        QApplication::sendEvent(bench.view()->viewport(), &enter);
+        QDragMoveEvent move(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
+        QApplication::sendEvent(bench.view()->viewport(), &move);
+        if (!move.isAccepted()) {
+            QDragLeaveEvent leave;
+            QApplication::sendEvent(bench.view()->viewport(), &leave);
+            return false;
+        }
+        QDropEvent drop(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
+        QApplication::sendEvent(bench.view()->viewport(), &drop);
+        return true;
+    };
+    const auto branch = [&bench] { return bench.extension()->GetFavoritesRootIndex(); };
+    const auto hint = [&bench, &branch] { return bench.view()->model()->index(0, 0, branch()); };
+    QVERIFY(drag(bench.row(QStringLiteral("Width")), hint(), 0.5)); // the empty branch
+    QVERIFY(drag(bench.row(QStringLiteral("Gain")), branch(), 0.5)); // its head
+    QVERIFY(drag(bench.row(QStringLiteral("ReverseX")), bench.favorite(QStringLiteral("Gain")), 0.05));
+    QCOMPARE(bench.favoriteNames(), QStringList({"Width", "ReverseX", "Gain"}));
+    QVERIFY(drag(bench.favorite(QStringLiteral("Width")), bench.favorite(QStringLiteral("Gain")), 0.95));
+    QCOMPARE(bench.favoriteNames(), QStringList({"ReverseX", "Gain", "Width"}));
+    QVERIFY(!drag(bench.favorite(QStringLiteral("Width")), bench.row(QStringLiteral("Gain")), 0.5));
+    QCOMPARE(bench.favorites().count(), 3);
+}
+
+void TestFeatureTreeWidget::favoritesKeepTheirPlaceOnScreen()
+{
+    TreeBench bench(flatCamera(100));
+    bench.view()->verticalScrollBar()->setValue(50);
+    const QPersistentModelIndex top = bench.view()->indexAt(QPoint(0, 0));
+    bench.click(bench.view()->indexBelow(top));
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(bench.view(), Qt::Key_Down);
+        QTest::keyClick(bench.view(), Qt::Key_D, Qt::ControlModifier);
+    }
+    QCOMPARE(bench.favorites().count(), 3);
+    QCOMPARE(bench.view()->indexAt(QPoint(0, 0)), top);
+}
+
+void TestFeatureTreeWidget::widgetsShareFavorites()
+{
+    TreeBench one;
+    TreeBench other(MemoryCollection::createSample());
+    QApplication::setActiveWindow(&one.widget);
+    one.click(one.row(QStringLiteral("Gain")));
+    QTest::keyClick(one.view(), Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(other.favoriteNames(), QStringList("Gain"));
+    // Removing it there takes the action here along.
+    one.click(one.favorite(QStringLiteral("Gain")));
+    QVERIFY(one.widget.IsCurrentFavorite());
+    other.favorites().removeEntry(0);
+    QVERIFY(!one.widget.IsCurrentFavorite());
+    QTest::keyClick(one.view(), Qt::Key_Delete);
+
+    const QModelIndex branch = one.extension()->GetFavoritesRootIndex();
+    one.view()->collapse(branch);
+    QVERIFY(!other.view()->isExpanded(other.extension()->GetFavoritesRootIndex()));
+    one.type(QStringLiteral("gain"));
+    QVERIFY(!other.view()->isExpanded(other.extension()->GetFavoritesRootIndex()));
+    one.erase();
+    QVERIFY(!one.favorites().isExpanded());
+
+    auto *const box = one.widget.findChild<QCheckBox *>(QStringLiteral("checkBoxViewAllFavorites"));
+    auto *const otherBox = other.widget.findChild<QCheckBox *>(QStringLiteral("checkBoxViewAllFavorites"));
+    QSignalSpy states(&one.widget, SIGNAL(viewAllFavoritesStateChanged(bool)));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QCOMPARE(states.value(0), QVariantList({true}));
+    QVERIFY(one.favorites().viewAll() && otherBox->isChecked());
+    QVERIFY(TreeBench(nullptr)
+                .widget.findChild<QCheckBox *>(QStringLiteral("checkBoxViewAllFavorites"))
+                ->isChecked());
+}
+
+void TestFeatureTreeWidget::unavailableFavorites()
+{
+    TreeBench bench;
+    FavoriteEntry entry;
+    entry.featureName = QStringLiteral("Elsewhere");
+    entry.displayName = entry.featureName;
+    entry.nodeMapKey = QStringLiteral("@CameraDevice");
+    bench.favorites().appendEntry(entry);
+    QCOMPARE(bench.shownRows().filter(entry.featureName).size(), 0);
+    auto *const box = bench.widget.findChild<QCheckBox *>(QStringLiteral("checkBoxViewAllFavorites"));
+    box->click();
+    QCOMPARE(bench.shownRows().filter(entry.featureName).size(), 1);
+    box->click();
+    QCOMPARE(bench.shownRows().filter(entry.featureName).size(), 0);
+}
+
+void TestFeatureTreeWidget::polls()
+{
+    TreeBench bench;
+    QSignalSpy states(&bench.widget, SIGNAL(pollingStateChanged(bool)));
+    auto *const box = bench.widget.findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QVERIFY(bench.widget.getPolling());
+    QTRY_VERIFY(bench.camera->polls.size() >= 2);
+    QCOMPARE(bench.camera->polls.constFirst(), 300);
+    bench.widget.deviceIsClosed();
+    QTRY_VERIFY(!bench.widget.getPolling());
+    QVERIFY(!box->isChecked());
+    QCOMPARE(states, QList<QVariantList>({{true}, {false}}));
+}
+
+void TestFeatureTreeWidget::switchesLevelWhileEditing()
+{
+    auto camera = MemoryCollection::createSample();
+    for (const QString &name : {QStringLiteral("OffsetX"), QStringLiteral("Gain")}) {
+        const auto parameter = camera->parameter(name);
+        auto *const node = dynamic_cast<MemoryNode *>(parameter.data());
+        const_cast<ParameterCollection::ParameterData &>(*node->snapshot).visibility = GenApi::Expert;
+    }
+    TreeBench bench(camera);
+    bench.click(bench.value(QStringLiteral("DeviceUserID")));
+    QPointer<QLineEdit> edit(
+        qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID")))));
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("half"));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    bench.settle();
+    QVERIFY(edit && edit->hasFocus() && edit->text() == QLatin1String("half"));
+    QVERIFY(!bench.row(QStringLiteral("Gain")).isValid());
+
+    // An editor whose row goes is gone, and comes back with the row.
+    bench.widget.onVisibilityChanged(GenApi::Expert);
+    bench.settle();
+    QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
+    bench.click(bench.value(QStringLiteral("OffsetX")));
+    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    bench.settle();
+    QVERIFY(!bench.row(QStringLiteral("OffsetX")).isValid());
+    QVERIFY(!bench.widget.GetCurrentNode());
+    QVERIFY(bench.view()->hasFocus());
+}
+
+void TestFeatureTreeWidget::ignoresUnknownLevels()
+{
+    TreeBench bench;
+    QSignalSpy levels(&bench.widget, SIGNAL(visibilityChanged(GenApi::EVisibility)));
+    bench.widget.onVisibilityChanged(7);
+    bench.widget.onVisibilityChanged(-1);
+    QCOMPARE(bench.widget.visibility(), GenApi::Guru);
+    QCOMPARE(levels.size(), 0);
+    bench.widget.onVisibilityChanged(3);
+    QCOMPARE(bench.widget.visibility(), GenApi::Invisible);
+    QCOMPARE(levels.size(), 1);
+}
+
+void TestFeatureTreeWidget::setsVisibilityTwice()
+{
+    TreeBench one;
+    one.view()->setVisibility(GenApi::Expert);
+    const int refreshes = one.camera->refreshes;
+    one.view()->setVisibility(GenApi::Expert);
+    QCOMPARE(one.camera->refreshes, refreshes);
+    // Another view's call makes the next one count again.
+    TreeBench other(MemoryCollection::createSample());
+    other.view()->setVisibility(GenApi::Expert);
+    one.view()->setVisibility(GenApi::Expert);
+    QCOMPARE(one.camera->refreshes, refreshes + 1);
+}
+
+void TestFeatureTreeWidget::closesDeviceWhileEditing()
+{
+    TreeBench bench;
+    bench.click(bench.value(QStringLiteral("DeviceUserID")));
+    auto *const edit =
+        qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID"))));
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("late"));
+    bench.widget.deviceIsClosed();
+    QTest::keyClick(edit, Qt::Key_Return);
+    bench.settle();
+    QCOMPARE(bench.node(QStringLiteral("DeviceUserID"))->writes, QStringList());
+    QCOMPARE(bench.value(QStringLiteral("DeviceUserID")).data().toString(), QStringLiteral("left"));
+}
+
+void TestFeatureTreeWidget::clearsAndFillsAgain()
+{
+    TreeBench bench;
+    const QStringList before = bench.shownRows();
+    for (int i = 0; i < 3; ++i) {
+        bench.type(QStringLiteral("e"));
+        bench.click(bench.value(QStringLiteral("DeviceUserID")));
+        QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID"))));
+        bench.widget.clear();
+        QCOMPARE(bench.view()->model()->rowCount(), 0);
+        QCOMPARE(bench.box()->text(), QString());
+        QCOMPARE(bench.view()->getHightlighter()->text(), QString());
+        QVERIFY(!bench.widget.GetCurrentItem());
+        bench.settle();
+        QCOMPARE(bench.view()->viewport()->findChildren<QWidget *>().size(), 0);
+        QTest::keyClick(bench.view(), Qt::Key_D, Qt::ControlModifier);
+
+        bench.add(bench.camera);
+        bench.view()->expandEverything();
+        bench.settle();
+        QCOMPARE(bench.shownRows(), before);
+        QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+    }
+}
+
+void TestFeatureTreeWidget::clearsFromInsideASearch()
+{
+    TreeBench bench;
+    bench.widget.clear();
+    bench.add(bench.camera);
+    // The first search after a change of the tree lets events through.
+    QMetaObject::invokeMethod(
+        &bench.widget, [&bench] { bench.widget.clear(); }, Qt::QueuedConnection);
+    bench.box()->setText(QStringLiteral("gain"));
+    QCOMPARE(bench.box()->text(), QString());
+    QCOMPARE(bench.view()->getHightlighter()->text(), QString());
+    QVERIFY(!QApplication::overrideCursor());
+    bench.add(bench.camera);
+    bench.view()->expandEverything();
+    QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeWidget::refreshesBelowAnOpenPopup()
+{
+    TreeBench bench;
+    auto *const combo = bench.editor<EnumEditor>(QStringLiteral("PixelFormat"));
+    combo->showPopup();
+    QWidget *const popup = QApplication::activePopupWidget();
+    QVERIFY(popup);
+    const auto snapshot = bench.node(QStringLiteral("PixelFormat"))->snapshot;
+    auto changed = QSharedPointer<ParameterCollection::EnumParameterData>::create(
+        static_cast<const ParameterCollection::EnumParameterData &>(*snapshot));
+    changed->valueString = QStringLiteral("Mono12");
+    bench.node(QStringLiteral("PixelFormat"))->snapshot = changed;
+    bench.publish(QStringLiteral("PixelFormat"));
+    bench.widget.Refresh();
+    bench.settle();
+    QCOMPARE(QApplication::activePopupWidget(), popup);
+    QCOMPARE(combo->count(), 2);
+    combo->hidePopup();
+    QTRY_COMPARE(combo->currentText(), QStringLiteral("Mono12"));
+    // The tree may even go away below it.
+    combo->showPopup();
+    bench.widget.clear();
+    bench.settle();
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void TestFeatureTreeWidget::followsAvailability()
+{
+    TreeBench bench;
+    const auto gain = bench.parameter<MemoryFloat>(QStringLiteral("Gain"));
+    const auto set = [&](bool available) {
+        gain->edit<ParameterCollection::FloatParameterData>([available](auto &data) {
+            data.isReadable = available;
+            data.isWritable = available;
+        });
+        gain->publish();
+        bench.settle();
+    };
+    set(false);
+    QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("Gain"))));
+    QCOMPARE(bench.value(QStringLiteral("Gain")).data().toString(), QStringLiteral("<not available>"));
+    set(true);
+    QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
+
+    // What is locked while its text is edited loses the editor.
+    bench.click(bench.value(QStringLiteral("OffsetX")));
+    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+    const auto offset = bench.parameter<MemoryInteger>(QStringLiteral("OffsetX"));
+    offset->edit<ParameterCollection::IntegerParameterData>([](auto &data) { data.isWritable = false; });
+    offset->publish();
+    bench.settle();
+    QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+}
+
+void TestFeatureTreeWidget::hidesTheCurrentRow()
+{
+    TreeBench bench;
+    bench.click(bench.row(QStringLiteral("ReverseX")));
+    QSignalSpy current(bench.view(), SIGNAL(onCurrentChanged(QModelIndex)));
+    const auto reverse = bench.parameter<MemoryBoolean>(QStringLiteral("ReverseX"));
+    reverse->edit<ParameterCollection::BooleanParameterData>([](auto &data) { data.isImplemented = false; });
+    reverse->publish();
+    QVERIFY(!current.isEmpty() && !current.constLast().constFirst().toModelIndex().isValid());
+    bench.settle();
+    QVERIFY(!bench.widget.GetCurrentIndex().isValid());
+    QTest::keyClick(bench.view(), Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(bench.favorites().count(), 0);
+    QVERIFY(!bench.shownRows().join(QLatin1Char('\n')).contains(QStringLiteral("ReverseX")));
+
+    reverse->edit<ParameterCollection::BooleanParameterData>([](auto &data) { data.isImplemented = true; });
+    reverse->publish();
+    bench.settle();
+    QVERIFY(bench.shownRows().join(QLatin1Char('\n')).contains(QStringLiteral("ReverseX")));
+    QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeWidget::tellsTheHostOfTheCurrentRow()
+{
+    TreeBench bench;
+    QStringList features;
+    connect(&bench.widget, &FeatureTreeWidget::currentChanged, &bench.widget,
+            [&features](const auto &parameter) { features.append(parameter->name()); });
+    QSignalSpy texts(&bench.widget, SIGNAL(newText(QString)));
+    bench.click(bench.row(QStringLiteral("Gain")));
+    QCOMPARE(features, QStringList("Gain"));
+    bench.click(bench.extension()->GetFavoritesRootIndex());
+    QVERIFY(texts.value(0).value(0).toString().contains(QStringLiteral("Favorites")));
+    bench.click(bench.row(QStringLiteral("Width")));
+    features.clear();
+    bench.type(QStringLiteral("gain"));
+    bench.erase();
+    QCOMPARE(features, QStringList());
+    QVERIFY(bench.box()->hasFocus());
+}
+
+void TestFeatureTreeWidget::copiesTheTree()
+{
+    TreeBench bench;
+    bench.type(QStringLiteral("gain"));
+    bench.widget.copyToClipboard();
+    const QString text = QApplication::clipboard()->text();
+    QVERIFY(text.contains(QStringLiteral("Gain\t1.5")));
+    QVERIFY(!text.contains(QStringLiteral("Width")) && !text.contains(QLatin1Char('<')));
+}
+
+void TestFeatureTreeWidget::keepsEditorsWithinTheBudget()
+{
+    const int features = 600;
+    TreeBench bench(flatCamera(features));
+    const auto openEditors = [&bench] {
+        return bench.view()->viewport()->findChildren<CheckBoxEditor *>().size();
+    };
+    const auto allShownRowsHaveOne = [&bench] {
+        const QRect visible = bench.view()->viewport()->rect();
+        QModelIndex index = bench.view()->indexAt(QPoint(0, 0));
+        for (; index.isValid() && bench.view()->visualRect(index).intersects(visible);
+             index = bench.view()->indexBelow(index)) {
+            QWidget *const editor = bench.view()->indexWidget(index.siblingAtColumn(1));
+            const bool wanted = index.data(FeatureTreeItem::GenicamNameRole).toString().startsWith("Flag");
+            if (wanted != (editor && editor->isVisible())) {
+                return false;
+            }
+        }
+        return true;
+    };
+    QVERIFY(allShownRowsHaveOne());
+    // One that the user is working in stays, wherever it is.
+    auto *const worked = bench.editor<CheckBoxEditor>(QStringLiteral("Flag3"));
+    worked->setFocus();
+    QRandomGenerator random(11);
+    QScrollBar *const bar = bench.view()->verticalScrollBar();
+    for (int i = 0; i < 30; ++i) {
+        bar->setValue(random.bounded(bar->maximum() + 1));
+        TreeBench::settle();
+        QVERIFY(allShownRowsHaveOne());
+        QVERIFY2(openEditors() <= 201 + 60, qPrintable(QString::number(openEditors())));
+    }
+    QCOMPARE(bench.editor<CheckBoxEditor>(QStringLiteral("Flag3")), worked);
+
+    // A row beyond the budget gets its editor back, too, where it can be seen.
+    bar->setValue(400);
+    TreeBench::settle();
+    const QString name = bench.view()
+                             ->indexAt(QPoint(0, 50))
+                             .siblingAtColumn(0)
+                             .data(FeatureTreeItem::GenicamNameRole)
+                             .toString();
+    const auto flag = bench.parameter<MemoryBoolean>(name);
+    for (const bool available : {false, true}) {
+        flag->edit<ParameterCollection::BooleanParameterData>([available](auto &data) {
+            data.isReadable = available;
+            data.isWritable = available;
+        });
+        flag->publish();
+        TreeBench::settle();
+        QCOMPARE(bench.editor<CheckBoxEditor>(name) != nullptr, available);
+    }
+
+    // Tab goes on where rows come into view.
+    bench.view()->setFocus();
+    bench.editor<CheckBoxEditor>(name)->setFocus();
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    const int reached = QStringView(name).mid(4).toInt() + 40;
+    QCOMPARE(QApplication::focusWidget(),
+             bench.editor<CheckBoxEditor>(QStringLiteral("Flag%1").arg(reached)));
+}
+
+void TestFeatureTreeWidget::budgetCountsOpenEditorsOnly()
+{
+    TreeBench bench(flatCamera(150));
+    // The editors of rows that are filtered out leave room for those that come back.
+    for (int i = 0; i < 5; ++i) {
+        bench.type(QStringLiteral("flag1"));
+        bench.erase();
+    }
+    for (int i = 0; i < 150; ++i) {
+        QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("Flag%1").arg(i)));
+    }
+}
+
+void TestFeatureTreeWidget::expandsChildrenOnly()
+{
+    auto camera = QSharedPointer<MemoryCollection>::create();
+    camera->addCategory(QStringLiteral("Outer"));
+    camera->addBoolean(QStringLiteral("OuterFlag"), QStringLiteral("Outer"));
+    camera->addCategory(QStringLiteral("Inner"), QStringLiteral("Outer"));
+    camera->addBoolean(QStringLiteral("InnerFlag"), QStringLiteral("Inner"));
+    TreeBench bench(nullptr);
+    bench.camera = camera;
+    bench.add(camera);
+    bench.widget.expandRootNodes();
+    const auto hasEditor = [&bench](const char *name) {
+        return bench.view()->indexWidget(bench.value(QLatin1String(name))) != nullptr;
+    };
+    QVERIFY(!hasEditor("OuterFlag"));
+    bench.view()->expand(bench.row(QStringLiteral("Outer")));
+    QVERIFY(hasEditor("OuterFlag") && !hasEditor("InnerFlag"));
+    bench.view()->expand(bench.row(QStringLiteral("Inner")));
+    QVERIFY(hasEditor("InnerFlag"));
+    // What is collapsed keeps its editors, out of sight.
+    bench.view()->collapse(bench.row(QStringLiteral("Outer")));
+    bench.settle();
+    QVERIFY(hasEditor("OuterFlag"));
+    QVERIFY(!bench.editor<CheckBoxEditor>(QStringLiteral("OuterFlag"))->isVisible());
+}
+
+/* Set ZELTO_MONKEY_STEPS and ZELTO_MONKEY_SEED for longer and other runs. */
+void TestFeatureTreeWidget::standsRandomUse()
+{
+    const int steps = qEnvironmentVariableIsSet("ZELTO_MONKEY_STEPS")
+        ? qEnvironmentVariableIntValue("ZELTO_MONKEY_STEPS")
+        : 2000;
+    const auto seed = static_cast<quint32>(qEnvironmentVariableIsSet("ZELTO_MONKEY_SEED")
+                                               ? qEnvironmentVariableIntValue("ZELTO_MONKEY_SEED")
+                                               : 7);
+    auto camera = MemoryCollection::createSample();
+    camera->addCategory(QStringLiteral("Inner"), QStringLiteral("DeviceControl"));
+    camera->addBoolean(QStringLiteral("InnerFlag"), QStringLiteral("Inner"));
+    auto expert = camera->addInteger(QStringLiteral("GainRaw"), QStringLiteral("AcquisitionControl"));
+    expert->edit<ParameterCollection::IntegerParameterData>(
+        [](auto &data) { data.visibility = GenApi::Guru; });
+    TreeBench bench(camera);
+    Monkey monkey(bench, seed);
+    for (int i = 0; i < steps; ++i) {
+        monkey.step();
+    }
+    // Whatever happened, a tree that is filled anew works.
+    QWidget *const popup = QApplication::activePopupWidget();
+    delete popup;
+    bench.widget.clear();
+    bench.widget.onVisibilityChanged(GenApi::Guru);
+    bench.add(camera);
+    bench.view()->expandEverything();
+    bench.settle();
+    QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("InnerFlag")));
+    const int writes = static_cast<int>(bench.node(QStringLiteral("InnerFlag"))->writes.size());
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("InnerFlag"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QCOMPARE(bench.node(QStringLiteral("InnerFlag"))->writes.size(), writes + 1);
 }
 
 QTEST_MAIN(TestFeatureTreeWidget)

@@ -424,7 +424,37 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
     } else if (!isAvailable || isHidden) {
+        takeFocusFrom(editor);
         closePersistentEditor(index);
+    }
+}
+
+// Called before an editor goes, or else the focus would go on to another row.
+void FeatureTreeView::takeFocusFrom(const QWidget *editor)
+{
+    const QWidget *const focus = QApplication::focusWidget();
+    if (focus && (focus == editor || editor->isAncestorOf(focus))) {
+        setFocus();
+    }
+}
+
+void FeatureTreeView::takeFocusFromLostRow()
+{
+    QWidget *editor = QApplication::focusWidget();
+    if (!editor || !viewport()->isAncestorOf(editor)) {
+        return;
+    }
+    while (editor->parentWidget() != viewport()) {
+        editor = editor->parentWidget();
+    }
+    const auto permanent = std::find_if(m_editors.cbegin(), m_editors.cend(),
+                                        [editor](const Editor &entry) { return entry.widget == editor; });
+    // An editor that is not permanent belongs to the current row.
+    const bool isRowLeft =
+        permanent == m_editors.cend() ? currentIndex().isValid() : permanent->index.isValid();
+    if (!isRowLeft) {
+        editor->removeEventFilter(itemDelegate()); // it would commit to no row
+        setFocus();
     }
 }
 
@@ -436,6 +466,7 @@ void FeatureTreeView::onLayoutAboutToChange()
 
 void FeatureTreeView::onLayoutChanged()
 {
+    takeFocusFromLostRow();
     forgetClosedEditors();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     updateRows(QModelIndex());
@@ -554,6 +585,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
     if (isFavorite) {
         // The base would make one neighbour after the other the current row while the rows go.
+        takeFocusFrom(viewport());
         const QSignalBlocker blocker(selectionModel());
         selectionModel()->clear();
     }

@@ -109,6 +109,8 @@ private:
     void spanRow(const QModelIndex &index, const FeatureTreeItem &item);
     void updateValueCell(const QModelIndex &index);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
+    void takeFocusFrom(const QWidget *editor);
+    void takeFocusFromLostRow();
     void expandBranches(const QModelIndex &parent, int depth,
                         const std::function<bool(const QModelIndex &, int)> &isExpanded);
 
