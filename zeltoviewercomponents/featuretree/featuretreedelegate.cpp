@@ -219,8 +219,7 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
-    const QVariant value = itemEditor->editorData();
-    if (value.isValid() && !model->setData(index, value, Qt::EditRole)) {
+    if (!model->setData(index, itemEditor->editorData(), Qt::EditRole)) {
         setEditorData(editor, index); // refused: the real value stands
     }
 }

@@ -10,6 +10,7 @@
 #include <QFontMetricsF>
 #include <QPalette>
 #include <QSize>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 
@@ -116,6 +117,10 @@ QVariant FeatureTreeItem::data(int column, int role)
     switch (role) {
     case Qt::ToolTipRole:
         return GetToolTip();
+    case Qt::AccessibleTextRole: // rich text is not for reading out
+        return column == FeatureTreeColumns::name && m_isSpecialNode
+            ? QTextDocumentFragment::fromHtml(m_name).toPlainText()
+            : QVariant();
     case GenicamNameRole:
     case FullNodeNameRole:
         return m_fullName;

@@ -18,9 +18,11 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <map>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeView")
 
@@ -58,6 +60,8 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
     FavoritesData &favorites = getFeatureExtension()->GetFavorites();
     favorites.attach(QStringLiteral("Favorites"));
     connect(&favorites, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
+    connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
+            SLOT(onFocusChanged(QWidget *, QWidget *)));
     connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
 }
 
@@ -158,6 +162,7 @@ void FeatureTreeView::addEditor(const QModelIndex &index)
         return;
     }
     m_editors.append({index, editor});
+    m_isTabOrderStale = true;
     // When an editor's row is filtered out, the base releases the editor but keeps its address as that of a
     // permanent one; a later editor at the same address could never be closed.
     connect(editor, &QObject::destroyed, &m_editorWatch, [this](QObject *gone) { editorDestroyed(gone); });
@@ -176,6 +181,13 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
             openPersistentEditor(index);
         }
     }
+}
+
+bool FeatureTreeView::isNearViewport(const QModelIndex &index) const
+{
+    const QRect row = visualRect(index);
+    const int margin = rowsBeyondViewport * row.height();
+    return row.isValid() && viewport()->rect().adjusted(0, -margin, 0, margin).intersects(row);
 }
 
 QModelIndexList FeatureTreeView::rowsNearViewport() const
@@ -200,22 +212,27 @@ void FeatureTreeView::ensureEditors()
         return;
     }
     const QScopedValueRollback<bool> guard(m_isEnsuringEditors, true);
-    m_editors.removeIf([](const Editor &editor) { return !editor.index.isValid() || !editor.widget; });
+    forgetClosedEditors();
     const QModelIndexList near = rowsNearViewport();
-    bool opened = false;
     for (const QModelIndex &index : near) {
         FeatureTreeItem *const item = itemAt(index);
         if (item && wantsEditor(item) && item->ShowMe(m_visibility) && !indexWidget(index)) {
             addEditor(index);
-            opened = true;
         }
     }
     if (m_editors.size() > editorBudget) {
         closeFarEditors(near);
     }
-    if (opened) {
-        orderEditors(near);
+    if (m_isTabOrderStale) {
+        orderEditors();
     }
+}
+
+void FeatureTreeView::forgetClosedEditors()
+{
+    m_editors.removeIf([this](const Editor &editor) {
+        return !editor.index.isValid() || !editor.widget || indexWidget(editor.index) != editor.widget;
+    });
 }
 
 void FeatureTreeView::closeFarEditors(const QModelIndexList &near)
@@ -230,15 +247,26 @@ void FeatureTreeView::closeFarEditors(const QModelIndexList &near)
 }
 
 // The focus walks from top to bottom; the base leaves editors in the order in which they were opened.
-void FeatureTreeView::orderEditors(const QModelIndexList &rows)
+void FeatureTreeView::orderEditors()
 {
-    QWidget *previous = nullptr;
-    for (const QModelIndex &index : rows) {
-        QWidget *const editor = indexWidget(index);
-        if (editor && previous) {
-            setTabOrder(previous, editor);
+    m_isTabOrderStale = false;
+    const auto rowsTo = [](QModelIndex index) {
+        QList<int> rows;
+        for (; index.isValid(); index = index.parent()) {
+            rows.prepend(index.row());
         }
-        previous = editor ? editor : previous;
+        return rows;
+    };
+    std::map<QList<int>, QWidget *> sorted;
+    for (const Editor &editor : std::as_const(m_editors)) {
+        if (editor.widget && editor.widget->focusPolicy() != Qt::NoFocus) {
+            sorted.emplace(rowsTo(editor.index), editor.widget);
+        }
+    }
+    QWidget *previous = this;
+    for (const auto &[rows, editor] : sorted) {
+        setTabOrder(previous, editor);
+        previous = editor;
     }
 }
 
@@ -285,7 +313,7 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
         return;
     }
     if (isRowHidden(row, parent)) {
-        setRowHidden(row, parent, false);
+        unhideRow(row, parent);
     }
     if (item->usePersistentEditor() && !isBudgetSpent() && !indexWidget(index)) {
         openPersistentEditor(index);
@@ -301,6 +329,15 @@ void FeatureTreeView::hideRow(int row, const QModelIndex &parent)
     setRowHidden(row, parent, true);
     if (current.isValid() && current.row() == row && current.parent() == parent) {
         emit onCurrentChanged(QModelIndex());
+    }
+}
+
+void FeatureTreeView::unhideRow(int row, const QModelIndex &parent)
+{
+    setRowHidden(row, parent, false);
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.row() == row && current.parent() == parent) {
+        emit onCurrentChanged(current);
     }
 }
 
@@ -364,7 +401,7 @@ void FeatureTreeView::updateValueCell(const QModelIndex &index)
     if (!isShown) {
         hideRow(index.row(), index.parent());
     } else if (wasHidden) {
-        setRowHidden(index.row(), index.parent(), false);
+        unhideRow(index.row(), index.parent());
     }
     updateEditor(index, item, wasHidden && !isShown);
 }
@@ -376,7 +413,8 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
     const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
     QWidget *const editor = indexWidget(index);
     if (!editor) {
-        if (!isHidden && isAvailable && item->usePersistentEditor() && !isBudgetSpent()) {
+        if (!isHidden && isAvailable && item->usePersistentEditor()
+            && (!isBudgetSpent() || isNearViewport(index))) {
             openPersistentEditor(index);
         }
     } else if (wasHidden) {
@@ -386,7 +424,37 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
     } else if (!isAvailable || isHidden) {
+        takeFocusFrom(editor);
         closePersistentEditor(index);
+    }
+}
+
+// Called before an editor goes, or else the focus would go on to another row.
+void FeatureTreeView::takeFocusFrom(const QWidget *editor)
+{
+    const QWidget *const focus = QApplication::focusWidget();
+    if (focus && (focus == editor || editor->isAncestorOf(focus))) {
+        setFocus();
+    }
+}
+
+void FeatureTreeView::takeFocusFromLostRow()
+{
+    QWidget *editor = QApplication::focusWidget();
+    if (!editor || !viewport()->isAncestorOf(editor)) {
+        return;
+    }
+    while (editor->parentWidget() != viewport()) {
+        editor = editor->parentWidget();
+    }
+    const auto permanent = std::find_if(m_editors.cbegin(), m_editors.cend(),
+                                        [editor](const Editor &entry) { return entry.widget == editor; });
+    // An editor that is not permanent belongs to the current row.
+    const bool isRowLeft =
+        permanent == m_editors.cend() ? currentIndex().isValid() : permanent->index.isValid();
+    if (!isRowLeft) {
+        editor->removeEventFilter(itemDelegate()); // it would commit to no row
+        setFocus();
     }
 }
 
@@ -398,6 +466,8 @@ void FeatureTreeView::onLayoutAboutToChange()
 
 void FeatureTreeView::onLayoutChanged()
 {
+    takeFocusFromLostRow();
+    forgetClosedEditors();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     updateRows(QModelIndex());
     if (m_hadCurrent && !currentIndex().isValid()) {
@@ -497,12 +567,27 @@ void FeatureTreeView::onFavoriteDataUpdated()
     if (!extension) {
         return;
     }
-    const QString currentName = currentIndex().data(FeatureTreeItem::FullNodeNameRole).toString();
-    const int column = currentIndex().column();
+    const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
+    const QModelIndex branch = extension->GetFavoritesRootIndex();
+    const QModelIndex current = currentIndex();
+    // Rows outside the branch stay as they are; a name would find a feature in the first of its categories.
+    const bool isFavorite = current.isValid() && branch.isValid() && current.parent() == branch;
+    const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
+    const int row = current.row();
     QStringList selectedNames;
     const QModelIndexList selected = selectionModel()->selectedRows();
     for (const QModelIndex &index : selected) {
-        selectedNames.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+        if (branch.isValid() && index.parent() == branch) {
+            selectedNames.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+        }
+    }
+    const bool isScrolled = isVisible() && verticalScrollBar()->value() > 0;
+    const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
+    if (isFavorite) {
+        // The base would make one neighbour after the other the current row while the rows go.
+        takeFocusFrom(viewport());
+        const QSignalBlocker blocker(selectionModel());
+        selectionModel()->clear();
     }
 
     extension->rebuildFavoriteItems();
@@ -511,19 +596,36 @@ void FeatureTreeView::onFavoriteDataUpdated()
         const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
-    const QModelIndex current =
-        currentName.isEmpty() ? QModelIndex() : extension->findItemByFullName(currentName, nullptr, column);
-    if (current.isValid() && current != currentIndex()) {
-        setCurrentIndex(current);
-    }
     updateRows(QModelIndex());
-    onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
+    if (m_highlighter.text().isEmpty()) { // a search has its own expansion
+        onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
+    }
+    if (isFavorite) {
+        restoreFavorite(currentName, row);
+    } else if (top.isValid()) {
+        executeDelayedItemsLayout();
+        scrollTo(top, PositionAtTop); // rows that come and go above do not move what is looked at
+    }
+}
+
+// Makes the favorite of that name the current row, or else what took its place.
+void FeatureTreeView::restoreFavorite(const QString &fullName, int row)
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    const QModelIndex branch = extension->GetFavoritesRootIndex();
+    QModelIndex index = extension->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name);
+    if (!index.isValid()) {
+        const int last = model()->rowCount(branch) - 1;
+        index = model()->index(std::min(row, last), FeatureTreeColumns::name, branch);
+    }
+    const bool isUsable = index.flags().testFlag(Qt::ItemIsSelectable) && !isRowHidden(index.row(), branch);
+    setCurrentIndex(isUsable ? index : branch);
 }
 
 void FeatureTreeView::setVisibility(GenApi::EVisibility level)
 {
     // Shared by all views: another view's call makes the next one of this view do the full work again.
-    static QAbstractItemModel *recordedModel = nullptr;
+    static QPointer<QAbstractItemModel> recordedModel;
     if (level == m_visibility && model() == recordedModel) {
         return;
     }
@@ -599,7 +701,7 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
 
 void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 {
-    const QScopedValueRollback<bool> navigating(m_isNavigating, true);
+    const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && state() != EditingState && edit(currentIndex(), EditKeyPressed, event)) {
         event->accept();
@@ -610,7 +712,7 @@ void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 
 bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
-    if (trigger == CurrentChanged && m_isNavigating) {
+    if (trigger == CurrentChanged && m_keepsFocus) {
         return false; // keys walk over editors
     }
     if (trigger != EditKeyPressed && trigger != AnyKeyPressed) {
@@ -619,6 +721,100 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
     const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
     return indexWidget(value) ? activateEditor(value, trigger, event)
                               : QTreeView::edit(value, trigger, event);
+}
+
+// A row's editor is where the focus is, also when that is a part of the editor.
+void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
+{
+    Q_UNUSED(old)
+    const QModelIndex index = rowOfEditor(now);
+    const QModelIndex current = currentIndex();
+    if (index.isValid() && (index.row() != current.row() || index.parent() != current.parent())) {
+        const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
+        setCurrentIndex(index);
+    }
+}
+
+QModelIndex FeatureTreeView::rowOfEditor(const QWidget *focus) const
+{
+    if (!focus || !viewport()->isAncestorOf(focus)) {
+        return {};
+    }
+    for (const Editor &editor : m_editors) {
+        if (editor.widget && (editor.widget == focus || editor.widget->isAncestorOf(focus))) {
+            return editor.index;
+        }
+    }
+    return {};
+}
+
+bool FeatureTreeView::focusNextPrevChild(bool next)
+{
+    const QModelIndex row = rowOfEditor(QApplication::focusWidget());
+    if (!row.isValid()) {
+        return QTreeView::focusNextPrevChild(next);
+    }
+    return editNeighbour(row, next) || leaveEditors(next);
+}
+
+// The focus goes from the first editor back to the tree and from the last one to what comes after the tree.
+bool FeatureTreeView::leaveEditors(bool next)
+{
+    QWidget *target = this;
+    if (next) {
+        const auto takesFocus = [this](const QWidget *widget) {
+            return !isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
+                && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
+        };
+        do {
+            target = target->nextInFocusChain();
+        } while (target != this && !takesFocus(target));
+    }
+    target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const bool below = hint == QAbstractItemDelegate::EditNextItem;
+    if (!below && hint != QAbstractItemDelegate::EditPreviousItem) {
+        QTreeView::closeEditor(editor, hint);
+        return;
+    }
+    // The base would go on in the column that happens to be the current one.
+    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (!editNeighbour(currentIndex(), below)) {
+        leaveEditors(below);
+    }
+}
+
+// Goes to the nearest row below, or above, with something to edit. Returns whether there is one.
+bool FeatureTreeView::editNeighbour(const QModelIndex &from, bool below)
+{
+    const auto neighbour = [this, below](const QModelIndex &index) {
+        const QModelIndex name = index.siblingAtColumn(FeatureTreeColumns::name);
+        return below ? indexBelow(name) : indexAbove(name);
+    };
+    const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
+    for (QModelIndex row = neighbour(from); row.isValid(); row = neighbour(row)) {
+        const QModelIndex value = row.siblingAtColumn(FeatureTreeColumns::value);
+        const FeatureTreeItem *const item = itemAt(value);
+        if (!item || item->isCategory() || !value.flags().testFlag(Qt::ItemIsEditable)) {
+            continue;
+        }
+        scrollTo(value); // beyond the budget, its editor opens now
+        QWidget *const editor = indexWidget(value);
+        if (editor && (!editor->isEnabled() || editor->focusPolicy() == Qt::NoFocus)) {
+            continue;
+        }
+        setCurrentIndex(value);
+        if (!editor) {
+            return QTreeView::edit(value, EditKeyPressed, nullptr);
+        }
+        editor->setFocus(below ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
 }
 
 bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event)

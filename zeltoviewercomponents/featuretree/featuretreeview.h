@@ -8,6 +8,7 @@
 #include <platform/genicam/genapi.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QStringList>
 #include <QTreeView>
@@ -80,10 +81,15 @@ protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
 
+protected slots:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
 private slots:
+    void onFocusChanged(QWidget *old, QWidget *now);
     void onLayoutAboutToChange();
     void onLayoutChanged();
     void onModelReset();
@@ -99,18 +105,27 @@ private:
     bool isOpen(const QModelIndex &parent) const;
     void updateRow(int row, const QModelIndex &parent);
     void hideRow(int row, const QModelIndex &parent);
+    void unhideRow(int row, const QModelIndex &parent);
     void spanRow(const QModelIndex &index, const FeatureTreeItem &item);
     void updateValueCell(const QModelIndex &index);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
+    void takeFocusFrom(const QWidget *editor);
+    void takeFocusFromLostRow();
     void expandBranches(const QModelIndex &parent, int depth,
                         const std::function<bool(const QModelIndex &, int)> &isExpanded);
 
     bool wantsEditor(FeatureTreeItem *item) const;
     bool isBudgetSpent() const;
+    bool isNearViewport(const QModelIndex &index) const;
     QModelIndexList rowsNearViewport() const;
+    void forgetClosedEditors();
     void ensureEditors();
     void closeFarEditors(const QModelIndexList &near);
-    void orderEditors(const QModelIndexList &rows);
+    void orderEditors();
+    QModelIndex rowOfEditor(const QWidget *focus) const;
+    bool leaveEditors(bool next);
+    bool editNeighbour(const QModelIndex &from, bool below);
+    void restoreFavorite(const QString &fullName, int row);
     void addEditor(const QModelIndex &index);
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
 
@@ -122,5 +137,6 @@ private:
     bool m_hadCurrent = false;
     bool m_isBulkWork = false;
     bool m_isEnsuringEditors = false;
-    bool m_isNavigating = false;
+    bool m_isTabOrderStale = false;
+    bool m_keepsFocus = false; // no editor opens because another row becomes the current one
 };

@@ -19,7 +19,7 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTextStream>
 
@@ -30,7 +30,7 @@ namespace {
 constexpr int keyControl = 0x04000000;
 constexpr int keyAlt = 0x08000000;
 constexpr int keyShift = 0x02000000;
-constexpr int searchDepth = 2;
+constexpr int expandedDepth = 2;
 
 QString resource(const QString &name)
 {
@@ -47,11 +47,49 @@ QIcon refreshIcon()
     return icon;
 }
 
-// A row's unique id. Those of features are new at every call, so all rows are known by the hash of their full
-// name, as the others are by themselves.
-quint64 uniqueId(const QModelIndex &index)
+QStringList pathOf(const QModelIndex &index)
 {
-    return qHash(index.data(FeatureTreeItem::FullNodeNameRole).toString(), 0);
+    QStringList path;
+    for (QModelIndex row = index; row.isValid(); row = row.parent()) {
+        path.prepend(row.data(FeatureTreeItem::FullNodeNameRole).toString());
+    }
+    return path;
+}
+
+QString pathKey(const QModelIndex &index)
+{
+    return pathOf(index).join(QLatin1Char('\n'));
+}
+
+QModelIndex childNamed(const QAbstractItemModel &model, const QModelIndex &parent, const QString &fullName)
+{
+    const int count = model.rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = model.index(row, FeatureTreeColumns::name, parent);
+        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == fullName) {
+            return index;
+        }
+    }
+    return {};
+}
+
+QModelIndex rowAt(const QAbstractItemModel &model, const QStringList &path)
+{
+    QModelIndex index;
+    for (const QString &fullName : path) {
+        index = childNamed(model, index, fullName);
+        if (!index.isValid()) {
+            return {};
+        }
+    }
+    return index;
+}
+
+// Shared by all instances: the first Escape of two was pressed.
+bool &escapePressed()
+{
+    static bool pressed = false;
+    return pressed;
 }
 
 /*! \brief Shows the wait cursor while it lives. */
@@ -67,10 +105,9 @@ public:
 
 FeatureTreeWidget::FeatureTreeWidget(QString name,
                                      QSharedPointer<Core::AppCoreComponents::IBaseInfo> baseInfo,
-                                     QWidget *parent, GenApi::EVisibility visibility, bool expandOnRefresh)
+                                     QWidget *parent, GenApi::EVisibility visibility, bool pollingVisible)
     : TreeWidgetBase(parent)
     , m_ui(std::make_unique<Ui::FeatureTreeWidgetClass>())
-    , m_expandOnRefresh(expandOnRefresh)
     , m_baseInfo(std::move(baseInfo))
 {
     m_ui->setupUi(this);
@@ -83,11 +120,12 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_ui->resetButton->setIcon(refreshIcon());
     m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
+    setPollingVisible(pollingVisible);
 
     connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this,
             SLOT(onCurrentChanged(const QModelIndex &)));
     connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
-    connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(updateActions()));
+    connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(onFavoritesUpdated()));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
             SLOT(contextualMenu(const QPoint &)));
@@ -98,6 +136,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     setUpShortcuts();
     setPolling(false);
     setVisibility(visibility);
+    qApp->installEventFilter(this);
 }
 
 FeatureTreeWidget::~FeatureTreeWidget() = default;
@@ -216,6 +255,8 @@ void FeatureTreeWidget::clear()
     getFeatureExtension()->clear();
     m_expandedRows.clear();
     m_savedCurrent = QVariant();
+    m_savedScroll = QPoint();
+    m_ui->filterEdit->clear(); // and with it the filter and the highlighting
     m_actionTogglePolling->setEnabled(false);
     m_busy = true;
     updateActions();
@@ -248,10 +289,15 @@ void FeatureTreeWidget::refreshTree()
     model->setFilterFixedString(QString());
     model->setFilterFixedString(m_filterText);
     if (m_expandOnRefresh) {
-        expandTree();
+        m_ui->treeView->expandToDepth(expandedDepth);
     }
     model->invalidate();
     getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::setExpandOnRefresh(bool expand)
+{
+    m_expandOnRefresh = expand;
 }
 
 void FeatureTreeWidget::copyToClipboard()
@@ -264,7 +310,12 @@ void FeatureTreeWidget::copyToClipboard()
 
 void FeatureTreeWidget::expandTree()
 {
-    m_ui->treeView->expandToDepth(searchDepth);
+    m_ui->treeView->expandToDepth(expandedDepth);
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    const QModelIndex favorites = extension->GetFavoritesRootIndex();
+    if (favorites.isValid() && m_filterText.isEmpty()) {
+        extension->GetFavorites().setExpanded(m_ui->treeView->isExpanded(favorites));
+    }
 }
 
 void FeatureTreeWidget::expandRootNodes()
@@ -295,7 +346,10 @@ QString FeatureTreeWidget::cameraType() const
 
 QModelIndex FeatureTreeWidget::GetCurrentIndex() const
 {
-    return m_ui->treeView->currentIndex();
+    const QModelIndex index = m_ui->treeView->currentIndex();
+    // The view keeps a row that was hidden as its current one; for everybody else there is none.
+    return index.isValid() && m_ui->treeView->isRowHidden(index.row(), index.parent()) ? QModelIndex()
+                                                                                       : index;
 }
 
 FeatureTreeItem *FeatureTreeWidget::getDeepestSelectedItem() const
@@ -348,6 +402,12 @@ void FeatureTreeWidget::onCurrentChanged(const QModelIndex &index)
             emit newText(item->GetDescription());
         }
     }
+    updateActions();
+}
+
+void FeatureTreeWidget::onFavoritesUpdated()
+{
+    m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites()); // another view may have switched it
     updateActions();
 }
 
@@ -503,16 +563,18 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
 void FeatureTreeWidget::onFilterTextChanged(const QString &text)
 {
     m_filterText = text;
-    std::optional<WaitCursor> cursor;
-    if (m_busy) {
-        cursor.emplace();
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        std::optional<WaitCursor> cursor;
+        if (m_busy) {
+            cursor.emplace();
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            if (m_filterText != text) {
+                return; // the tree was cleared meanwhile, and the box with it
+            }
+        }
+        filter(text);
     }
-    filter(text);
-    if (cursor) {
-        cursor.reset();
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     m_busy = false;
 }
 
@@ -534,8 +596,11 @@ void FeatureTreeWidget::filter(const QString &text)
         restoreExpandedStatus();
         restoreSelectionStatus();
     }
-    m_ui->treeView->viewport()->update();
     getFeatureExtension()->refreshSpecialItems();
+    if (wasSearching && !isSearching) {
+        restoreScrollPosition();
+    }
+    m_ui->treeView->viewport()->update();
 }
 
 void FeatureTreeWidget::showCounts(const QString &text)
@@ -574,6 +639,8 @@ void FeatureTreeWidget::saveExpandedStatus()
 {
     m_expandedRows.clear();
     m_ui->treeView->executeDelayedItemsLayout();
+    m_savedScroll = {m_ui->treeView->horizontalScrollBar()->value(),
+                     m_ui->treeView->verticalScrollBar()->value()};
     const QAbstractItemModel *const model = m_ui->treeView->model();
     for (int row = 0; row < model->rowCount(); ++row) {
         saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name));
@@ -587,9 +654,10 @@ void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
         return;
     }
     if (m_ui->treeView->isExpanded(index)) {
-        m_expandedRows.insert(uniqueId(index));
+        m_expandedRows.insert(pathKey(index));
     }
-    for (int row = 0; row < model->rowCount(index); ++row) {
+    const int count = model->rowCount(index);
+    for (int row = 0; row < count; ++row) {
         saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name, index));
     }
 }
@@ -597,18 +665,23 @@ void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
 void FeatureTreeWidget::restoreExpandedStatus()
 {
     m_ui->treeView->setExpandedRows(
-        [this](const QModelIndex &index) { return m_expandedRows.contains(uniqueId(index)); });
+        [this](const QModelIndex &index) { return m_expandedRows.contains(pathKey(index)); });
 }
 
 void FeatureTreeWidget::restoreExpandedOnLevel(const QModelIndex &index)
 {
-    m_ui->treeView->setExpanded(index, m_expandedRows.contains(uniqueId(index)));
+    m_ui->treeView->setExpanded(index, m_expandedRows.contains(pathKey(index)));
+    const QAbstractItemModel *const model = m_ui->treeView->model();
+    const int count = model->hasChildren(index) ? model->rowCount(index) : 0;
+    for (int row = 0; row < count; ++row) {
+        restoreExpandedOnLevel(model->index(row, FeatureTreeColumns::name, index));
+    }
 }
 
 void FeatureTreeWidget::saveSelectionStatus()
 {
     const QModelIndex current = m_ui->treeView->selectionModel()->currentIndex();
-    m_savedCurrent = current.isValid() ? current.data(FeatureTreeItem::FullNodeNameRole) : QVariant();
+    m_savedCurrent = current.isValid() ? QVariant(pathOf(current)) : QVariant();
 }
 
 void FeatureTreeWidget::restoreSelectionStatus()
@@ -616,8 +689,7 @@ void FeatureTreeWidget::restoreSelectionStatus()
     if (!m_savedCurrent.isValid()) {
         return;
     }
-    const QModelIndex saved = getFeatureExtension()->findItemByFullName(m_savedCurrent.toString(), nullptr,
-                                                                        FeatureTreeColumns::name);
+    const QModelIndex saved = rowAt(*m_ui->treeView->model(), m_savedCurrent.toStringList());
     m_savedCurrent = QVariant();
     if (saved.isValid()) {
         // Scrolling to the row would expand its parents.
@@ -627,20 +699,34 @@ void FeatureTreeWidget::restoreSelectionStatus()
     }
 }
 
+void FeatureTreeWidget::restoreScrollPosition()
+{
+    m_ui->treeView->executeDelayedItemsLayout();
+    m_ui->treeView->horizontalScrollBar()->setValue(m_savedScroll.x());
+    m_ui->treeView->verticalScrollBar()->setValue(m_savedScroll.y());
+}
+
 // Events
 // ----------------------------------------------------------------------------------------------------------
 
+bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // Most keys and clicks end in a child, which tells nobody.
+    const bool isClick = event->type() == QEvent::MouseButtonPress;
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (isClick || (isKey && static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)) {
+        escapePressed() = false;
+    }
+    return TreeWidgetBase::eventFilter(watched, event);
+}
+
 void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
 {
-    // Shared by all instances.
-    static bool escapePressed = false;
-    if (event->key() != Qt::Key_Escape) {
-        escapePressed = false;
-    } else if (escapePressed) {
+    const bool isEscape = event->key() == Qt::Key_Escape;
+    if (isEscape && escapePressed()) {
         m_ui->filterEdit->clear();
-    } else {
-        escapePressed = true;
     }
+    escapePressed() = isEscape;
     TreeWidgetBase::keyPressEvent(event);
 }
 

@@ -12,6 +12,7 @@
 
 #include <QMenu>
 #include <QModelIndex>
+#include <QPoint>
 #include <QSet>
 #include <QSharedPointer>
 #include <QString>
@@ -40,14 +41,14 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeWidget : public TreeWidgetBa
 
 public:
     /*!
-     * \param name the widget's object name
+     * \param name the widget's object name, under which hosts keep its state
      * \param baseInfo the application's information service, held as long as the widget lives; may be null
      * \param visibility the user level to start with
-     * \param expandOnRefresh whether refreshTree() expands the tree to depth 2
+     * \param pollingVisible whether the polling check box is shown
      */
     explicit FeatureTreeWidget(QString name, QSharedPointer<Core::AppCoreComponents::IBaseInfo> baseInfo = {},
                                QWidget *parent = nullptr, GenApi::EVisibility visibility = GenApi::Guru,
-                               bool expandOnRefresh = false);
+                               bool pollingVisible = true);
     ~FeatureTreeWidget() override;
 
     /*! Applies the node map's filter file and appends the collection's rows.
@@ -68,6 +69,8 @@ public:
     void Refresh();
     /*! Filters the rows anew. */
     void refreshTree();
+    /*! Sets whether refreshTree() expands the tree to depth 2. */
+    void setExpandOnRefresh(bool expand);
     /*! Puts the tree, as filtered, on the clipboard as text. */
     void copyToClipboard();
     void expandRootNodes();
@@ -130,6 +133,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
     void saveExpandedStatus();
@@ -140,9 +144,10 @@ protected:
     void restoreSelectionStatus();
 
 private slots:
-    void updateActions();
+    void onFavoritesUpdated();
 
 private:
+    void updateActions();
     void setUpActions();
     QAction *addFavoritesAction(const QString &shortcut, const QString &icon, const QString &text,
                                 const char *slot);
@@ -152,6 +157,7 @@ private:
     void filter(const QString &text);
     void showCounts(const QString &text);
     void setSearchRow(const QString &message, bool isShown);
+    void restoreScrollPosition();
     void moveCurrentFavorite(bool up);
 
     std::unique_ptr<Ui::FeatureTreeWidgetClass> m_ui;
@@ -160,8 +166,10 @@ private:
     QAction *m_actionMoveFavouriteDown = nullptr;
     QAction *m_actionRemoveFavourite = nullptr;
     QAction *m_actionTogglePolling = nullptr;
-    QSet<quint64> m_expandedRows; // hashes of full names
+    // A row is known by the full names from the top down to it: a feature may stand in two categories.
+    QSet<QString> m_expandedRows;
     QVariant m_savedCurrent;
+    QPoint m_savedScroll;
     bool m_busy = false;
     QString m_filterText;
     bool m_expandOnRefresh = false;
