@@ -123,10 +123,6 @@ void growthOfSearch(benchmark::State &state)
     }
     state.SetLabel(text.toStdString());
 }
-BENCHMARK(growthOfSearch)
-    ->DenseRange(0, 3)
-    ->Iterations(9)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(growthOfSearch)->DenseRange(0, 3)->Iterations(9)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
