@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cameras/cameras_export.h>
+
 #include <QByteArray>
 
 #include <memory>
@@ -15,6 +17,7 @@ class SimulatedRegisters;
 
 /*! Returns a new device, owned by the caller, that serves the description \a xml from \a registers. It has no
  * genicam when the engine cannot read the description. */
-ArvDevice *newSimulatedDevice(const QByteArray &xml, const std::shared_ptr<SimulatedRegisters> &registers);
+ZELTO_CAMERAS_EXPORT ArvDevice *newSimulatedDevice(const QByteArray &xml,
+                                                   const std::shared_ptr<SimulatedRegisters> &registers);
 
 } // namespace Cameras

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+/*! \brief One figure: what the library takes and what its baselines take, measured in turns in the same run.
+ *
+ * The library's time is the benchmark's own (manual) time; the medians of all sides, in milliseconds, and the
+ * library's share of each baseline become counters.
+ */
+class Figure
+{
+public:
+    explicit Figure(benchmark::State &state)
+        : m_state(state)
+    {
+    }
+    ~Figure();
+    Figure(const Figure &) = delete;
+    Figure &operator=(const Figure &) = delete;
+
+    /*! Times \a work as the library's side of an iteration. */
+    template <typename Work>
+    void ours(Work work)
+    {
+        const double seconds = secondsOf(std::move(work));
+        m_ours.push_back(seconds);
+        m_state.SetIterationTime(seconds);
+    }
+
+    /*! Times \a work as the side of \a baseline, a word that names counters. */
+    template <typename Work>
+    void baseline(const std::string &baseline, Work work)
+    {
+        m_baselines[baseline].push_back(secondsOf(std::move(work)));
+    }
+
+    /*! Returns the seconds that \a work takes. */
+    template <typename Work>
+    static double secondsOf(Work work)
+    {
+        const auto begin = std::chrono::steady_clock::now();
+        work();
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    }
+
+private:
+    benchmark::State &m_state;
+    std::vector<double> m_ours;
+    std::map<std::string, std::vector<double>> m_baselines;
+};

@@ -1,0 +1,237 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "figure.h"
+#include "trees.h"
+
+#include <zeltoviewercomponents/featuretree/featuretreeproxymodel.h>
+#include <zeltoviewercomponents/featuretree/featuretreeview.h>
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+#include <zeltoviewercomponents/featuretree/searchedit.h>
+
+#include <QApplication>
+#include <QTreeView>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr QSize windowSize(500, 800);
+constexpr int cameraRows = 350;
+
+// Everything that is pending is laid out and painted.
+void paint(QTreeView &view)
+{
+    QCoreApplication::sendPostedEvents();
+    view.viewport()->repaint();
+}
+
+/*! \brief The library's widget, shown with everything expanded. */
+struct Window
+{
+    explicit Window(const QSharedPointer<MemoryCollection> &camera)
+    {
+        widget.resize(windowSize);
+        fill(camera);
+        view().expandEverything();
+        widget.show();
+        QApplication::processEvents();
+        search(QString());
+    }
+
+    void fill(const QSharedPointer<MemoryCollection> &camera)
+    {
+        widget.addParameterCollection(camera, QStringLiteral("Camera"), camera->name(), true);
+    }
+
+    FeatureTreeView &view() { return *widget.treeView(); }
+
+    void search(const QString &text)
+    {
+        widget.findChild<SearchEdit *>()->setText(text);
+        paint(view());
+    }
+
+    FeatureTreeWidget widget{QStringLiteral("benchmark")};
+};
+
+/*! \brief The stock view, shown with everything expanded. */
+struct StockWindow
+{
+    explicit StockWindow(const QAbstractItemModel &model)
+        : tree(model)
+    {
+        view.resize(windowSize);
+        view.setModel(tree.proxy());
+        view.expandAll();
+        view.show();
+        QApplication::processEvents();
+        paint(view);
+    }
+
+    void search(const QString &text)
+    {
+        tree.proxy()->setFilterFixedString(text);
+        view.expandAll();
+        paint(view);
+    }
+
+    StockTree tree;
+    QTreeView view;
+};
+
+const QAbstractItemModel &modelOf(Window &window)
+{
+    return *qobject_cast<FeatureTreeProxyModel *>(window.view().model())->sourceModel();
+}
+
+// The first key of a search until painted. The stock view is measured once; it takes a second.
+void searchKey(benchmark::State &state)
+{
+    Window window(makeCamera(featureNames(10000), static_cast<int>(state.range(0))));
+    Figure figure(state);
+    StockWindow stock(modelOf(window));
+    figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
+    for (auto _ : state) {
+        figure.ours([&] { window.search(QStringLiteral("t")); });
+        window.search(QString());
+    }
+}
+BENCHMARK(searchKey)
+    ->Arg(0)
+    ->Arg(4)
+    ->ArgName("editors_of_10")
+    ->Iterations(15)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// Clearing the search, with the expanded rows and the current row as before.
+void clearSearch(benchmark::State &state)
+{
+    Window window(makeCamera(featureNames(10000), static_cast<int>(state.range(0))));
+    StockWindow stock(modelOf(window));
+    stock.search(QStringLiteral("t"));
+    Figure figure(state);
+    figure.baseline("stock", [&] { stock.search(QString()); });
+    for (auto _ : state) {
+        window.search(QStringLiteral("t"));
+        figure.ours([&] { window.search(QString()); });
+    }
+}
+BENCHMARK(clearSearch)
+    ->Arg(0)
+    ->Arg(4)
+    ->ArgName("editors_of_10")
+    ->Iterations(15)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// A key, and clearing the search, on 100,000 rows beside 10,000.
+void growthOfSearchKey(benchmark::State &state)
+{
+    const bool isClearing = state.range(0) != 0;
+    Window large(makeCamera(featureNames(100000), 0));
+    Window small(makeCamera(featureNames(10000), 0));
+    const QString before = isClearing ? QStringLiteral("t") : QString();
+    const QString after = isClearing ? QString() : QStringLiteral("t");
+    Figure figure(state);
+    for (auto _ : state) {
+        large.search(before);
+        figure.ours([&] { large.search(after); });
+        small.search(before);
+        figure.baseline("tenth", [&] { small.search(after); });
+    }
+}
+BENCHMARK(growthOfSearchKey)
+    ->Arg(0)
+    ->Arg(1)
+    ->ArgName("clear")
+    ->Iterations(5)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// A camera of usual size with all its editors, beside the stock view without any.
+void searchKeyOnCamera(benchmark::State &state)
+{
+    Window window(makeCamera(featureNames(cameraRows), 4));
+    StockWindow stock(modelOf(window));
+    Figure figure(state);
+    for (auto _ : state) {
+        figure.ours([&] { window.search(QStringLiteral("t")); });
+        figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
+        window.search(QString());
+        stock.search(QString());
+    }
+}
+BENCHMARK(searchKeyOnCamera)->Iterations(25)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// Opening the window on a camera, expanded and painted, beside the same without editors.
+void openWindow(benchmark::State &state)
+{
+    const auto camera = makeCamera(featureNames(cameraRows), 4);
+    const auto withoutEditors = makeCamera(featureNames(cameraRows), 0);
+    Figure figure(state);
+    for (auto _ : state) {
+        figure.ours([&] { Window window(camera); });
+        figure.baseline("no_editors", [&] { Window window(withoutEditors); });
+    }
+}
+BENCHMARK(openWindow)->Iterations(9)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// 1,000 updates a second over all rows, painted 60 times a second: the share of the GUI thread's time.
+void updatesOfValues(benchmark::State &state)
+{
+    constexpr int framesPerSecond = 60;
+    constexpr int updatesPerSecond = 1000;
+    const QStringList names = featureNames(cameraRows);
+    const auto camera = makeCamera(names, 4);
+    Window window(camera);
+    QList<QSharedPointer<ParameterCollection::IParameter>> parameters;
+    for (const QString &name : names) {
+        parameters.append(camera->parameter(name));
+    }
+    int next = 0;
+    double busy = 0.0;
+    for (auto _ : state) {
+        const double seconds = Figure::secondsOf([&] {
+            for (int i = 0; i < updatesPerSecond; ++i) {
+                const auto &parameter = parameters[next++ % parameters.size()];
+                emit parameter->parameterDataChangedDecoupled(parameter->parameterData());
+                if (i % (updatesPerSecond / framesPerSecond) == 0) {
+                    QCoreApplication::sendPostedEvents();
+                    window.view().viewport()->repaint();
+                }
+            }
+        });
+        state.SetIterationTime(seconds);
+        busy += seconds;
+    }
+    state.counters["busy_share"] = busy / static_cast<double>(state.iterations());
+}
+BENCHMARK(updatesOfValues)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// Memory after the tenth and the last of 200 fillings of the same widget.
+void refill(benchmark::State &state)
+{
+    const auto camera = makeCamera(featureNames(cameraRows), 4);
+    Window window(camera);
+    const auto used = [] { return static_cast<double>(mallinfo2().uordblks); };
+    int fillings = 0;
+    double afterTen = 0.0;
+    for (auto _ : state) {
+        window.widget.clear();
+        window.fill(camera);
+        window.view().expandEverything();
+        paint(window.view());
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (++fillings == 10) {
+            afterTen = used();
+        }
+    }
+    state.counters["bytes_after_10"] = afterTen;
+    state.counters["bytes_grown"] = used() - afterTen;
+}
+BENCHMARK(refill)->Iterations(200)->Unit(benchmark::kMillisecond);
+
+} // namespace
