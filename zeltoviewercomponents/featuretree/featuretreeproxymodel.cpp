@@ -121,6 +121,16 @@ Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
     return result;
 }
 
+bool FeatureTreeProxyModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                                         const QModelIndex &parent)
+{
+    if (row == -1 && IsFavoriteTreeRoot(getFeatureTreeItem(parent))) {
+        // Onto the branch itself: appended, wherever the top rows end.
+        return sourceModel()->dropMimeData(data, action, GetFavorites().count(), column, mapToSource(parent));
+    }
+    return QSortFilterProxyModel::dropMimeData(data, action, row, column, parent);
+}
+
 void FeatureTreeProxyModel::setAcceptAll(bool acceptAll)
 {
     m_acceptAll = acceptAll;

@@ -42,6 +42,8 @@ public:
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
 
     /*! Sets whether every row passes; takes effect with the next invalidation. */
     void setAcceptAll(bool acceptAll);
