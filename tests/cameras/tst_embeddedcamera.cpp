@@ -408,7 +408,12 @@ void TestEmbeddedCamera::pollHonoursPollingTimes()
     QCOMPARE(third.count(QStringLiteral("DeviceTemperature")), 1);
     QVERIFY(third.contains(QStringLiteral("Timestamp")));
     QVERIFY(!third.contains(QStringLiteral("Width")));
-    QVERIFY(text("DeviceTemperature") != before);
+    // At the turning points of its drift the temperature stands still for a moment.
+    const auto hasMoved = [&] {
+        readsAfter(1000);
+        return text("DeviceTemperature") != before;
+    };
+    QTRY_VERIFY(hasMoved());
 }
 
 void TestEmbeddedCamera::pollIsDroppedWhileOneRuns()
