@@ -21,6 +21,9 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStaticText>
+#include <QTextOption>
+
+#include <cstdlib>
 
 using namespace ParameterCollection;
 
@@ -42,6 +45,19 @@ bool wantsSlider(const QString &representation)
 QString representationOf(const IParameter &parameter)
 {
     return parameter.propertyAccess()->property(QStringLiteral("Representation"));
+}
+
+constexpr int legibleDifference = 80; // of the grey values of letters and what they stand on
+
+void paintRichText(QPainter *painter, const QRect &target, const QString &html)
+{
+    QStaticText text(html);
+    text.setTextFormat(Qt::RichText);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    text.setTextOption(option);
+    painter->setClipRect(target, Qt::IntersectClip);
+    painter->drawStaticText(target.topLeft(), text);
 }
 
 } // namespace
@@ -74,6 +90,7 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
         static_cast<QWidget *>(nullptr),
         [this, item, parent, &option, &index] { return createEditorFor(item, parent, option, index); });
     if (editor) {
+        editor->setBackgroundRole(QPalette::Base); // that of the rows around it
         editor->setAccessibleName(item->getDisplayedName());
         editor->setAccessibleDescription(
             item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
@@ -241,13 +258,15 @@ bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
 void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {
+    QStyleOptionViewItem opt = option;
+    opt.state &= ~QStyle::State_HasFocus; // the view draws a frame around the whole row
     const bool isCategory =
         index.model() && index.model()->data(index, FeatureTreeItem::GenicamCategory).toBool();
     if (index.column() != FeatureTreeColumns::name || !m_highlighter || isCategory) {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyledItemDelegate::paint(painter, opt, index);
         return;
     }
-    paintName(painter, option, index);
+    paintName(painter, opt, index);
 }
 
 void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
@@ -259,17 +278,12 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt);
     const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
     QString text = index.data(Qt::DisplayRole).toString();
+    QRegion marked;
     if (!isSpecial) {
         // The width gives way by a pixel or two for each character of the search text.
         const int width = textRect.width() - 2 * m_highlighter->length();
         text = painter->fontMetrics().elidedText(text, Qt::ElideRight, width, 0);
-        const QFontMetrics metrics = painter->fontMetrics();
-        for (const auto &range : m_highlighter->matchRanges(text)) {
-            const int x0 = metrics.horizontalAdvance(text, static_cast<int>(range.first));
-            const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
-            painter->fillRect(QRect(textRect.left() + x0, textRect.top(), x1 - x0, textRect.height()),
-                              m_highlighter->color());
-        }
+        marked = paintMatches(painter, textRect, text);
     }
 
     // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
@@ -290,11 +304,39 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     painter->save();
     painter->setPen(color);
     if (isSpecial && Qt::mightBeRichText(text)) {
-        QStaticText richText(text);
-        richText.setTextFormat(Qt::RichText);
-        painter->drawStaticText(target.topLeft(), richText);
+        paintRichText(painter, target, text);
     } else {
         painter->drawText(target, 0, text);
+        paintOnMarks(painter, target, text, marked);
     }
     painter->restore();
+}
+
+// Marks the matches in the text. Returns where they are.
+QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QRect &textRect, const QString &text) const
+{
+    QRegion marked;
+    const QFontMetrics metrics = painter->fontMetrics();
+    for (const auto &range : m_highlighter->matchRanges(text)) {
+        const int x0 = metrics.horizontalAdvance(text, static_cast<int>(range.first));
+        const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
+        const QRect mark(textRect.left() + x0, textRect.top(), x1 - x0, textRect.height());
+        painter->fillRect(mark, m_highlighter->color());
+        marked += mark;
+    }
+    return marked;
+}
+
+// The light letters of a dark palette cannot be read on a light mark: there, they are drawn again.
+void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, const QString &text,
+                                       const QRegion &marked) const
+{
+    const int mark = qGray(m_highlighter->color().rgb());
+    if (marked.isEmpty() || std::abs(mark - qGray(painter->pen().color().rgb())) >= legibleDifference) {
+        return;
+    }
+    painter->setClipRegion(marked, Qt::IntersectClip);
+    painter->fillRect(target, m_highlighter->color());
+    painter->setPen(mark > 127 ? Qt::black : Qt::white);
+    painter->drawText(target, 0, text);
 }

@@ -6,6 +6,7 @@
 #include <platform/parametercollection/iparametercollection.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QRegion>
 #include <QSharedPointer>
 #include <QStyledItemDelegate>
 
@@ -63,6 +64,9 @@ private:
     FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
     QWidget *createEditorFor(FeatureTreeINodeItem *item, QWidget *parent, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const;
+    QRegion paintMatches(QPainter *painter, const QRect &textRect, const QString &text) const;
+    void paintOnMarks(QPainter *painter, const QRect &target, const QString &text,
+                      const QRegion &marked) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
     IFeatureTreeModelExtension *m_extension;

@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -160,6 +161,11 @@ void FeatureTreeView::addEditor(const QModelIndex &index)
     QWidget *const editor = indexWidget(index);
     if (!editor) {
         return;
+    }
+    // The base selects the text of what it opens, as if all of them were about to be edited.
+    const QList<QLineEdit *> lineEdits = editor->findChildren<QLineEdit *>();
+    for (QLineEdit *const lineEdit : lineEdits) {
+        lineEdit->deselect();
     }
     m_editors.append({index, editor});
     m_isTabOrderStale = true;
