@@ -57,6 +57,9 @@ private slots:
     void openDescriptionFile();
     void connectToCamera();
     void reconnect();
+    void configureIp();
+    void closeCameraIfWanted();
+    void showAllMessagesAgain();
     void about();
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
@@ -65,15 +68,22 @@ private slots:
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
     void copyTree();
+    void updateActions();
 
 private:
     void createMenus();
+    void createFileMenu();
+    void createViewMenu();
+    void createCameraMenu();
+    void createHelpMenu();
+    bool isLive() const;
+    QString ipObstacle() const;
+    bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
     void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void restoreState();
     void saveState() const;
-    void updateActions();
 
     std::unique_ptr<Cameras::Camera> m_camera;
     Options m_source; // how the camera was opened
@@ -86,5 +96,6 @@ private:
     QLabel *m_cameraName;
     QActionGroup *m_levels = nullptr;
     QAction *m_closeAction = nullptr;
+    QAction *m_ipAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };
