@@ -8,6 +8,7 @@
 
 #include <limits>
 #include <optional>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -16,6 +17,7 @@ ZELTO_LOG_CATEGORY("zelto.viewer.ipConfiguration")
 namespace {
 
 using Feature = QSharedPointer<IIntegerParameter>;
+using PreviousValues = QList<std::pair<Feature, qint64>>;
 
 constexpr int macOctets = 6;
 constexpr int bitsPerOctet = 8;
@@ -54,7 +56,15 @@ QString currentReason()
     } catch (const std::exception &exception) {
         return QString::fromUtf8(exception.what());
     } catch (...) {
-        return IpConfiguration::tr("unknown error");
+        return IpConfiguration::tr("The reason is not known.");
+    }
+}
+
+void putBack(const PreviousValues &values)
+{
+    for (const auto &[feature, value] : values) {
+        Core::guardedRun({logCategory(), "putBack"}, QStringLiteral("Failed to put a value back"),
+                         [&feature = feature, value = value] { feature->setValue(value); });
     }
 }
 
@@ -130,35 +140,23 @@ QString IpConfiguration::macAddress() const
 void IpConfiguration::write(const QHostAddress &ipAddress, const QHostAddress &subnetMask,
                             const QHostAddress &defaultGateway) const
 {
-    struct Change
-    {
-        Feature feature;
-        QHostAddress wanted;
-        std::optional<qint64> previous;
-    };
     if (!m_ipAddress) {
         throw Core::Exception::BaseException(obstacle());
     }
-    const Change changes[] = {{m_subnetMask, subnetMask, valueOf(m_subnetMask)},
-                              {m_defaultGateway, defaultGateway, valueOf(m_defaultGateway)},
-                              {m_ipAddress, ipAddress, valueOf(m_ipAddress)}};
-    QList<Change> written;
-    for (const Change &change : changes) {
+    const std::pair<Feature, QHostAddress> changes[] = {
+        {m_subnetMask, subnetMask}, {m_defaultGateway, defaultGateway}, {m_ipAddress, ipAddress}};
+    PreviousValues previous;
+    for (const auto &[feature, address] : changes) {
         try {
-            change.feature->setValue(change.wanted.toIPv4Address());
-            written.prepend(change);
+            const std::optional<qint64> value = valueOf(feature);
+            feature->setValue(address.toIPv4Address());
+            if (value) {
+                previous.prepend({feature, *value});
+            }
         } catch (...) {
             const QString reason = currentReason();
-            for (const Change &done : std::as_const(written)) {
-                Core::guardedRun({logCategory(), "IpConfiguration::write"},
-                                 QStringLiteral("Failed to put a value back"), [&done] {
-                                     if (done.previous) {
-                                         done.feature->setValue(*done.previous);
-                                     }
-                                 });
-            }
-            throw Core::Exception::BaseException(
-                tr("The IP configuration was not changed. %1: %2").arg(change.feature->name(), reason));
+            putBack(previous);
+            throw Core::Exception::BaseException(tr("The IP configuration was not changed. %1").arg(reason));
         }
     }
 }

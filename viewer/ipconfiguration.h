@@ -38,7 +38,7 @@ public:
     QString macAddress() const;
 
     /*! Writes the three values, or as good as none: when one is refused, those written before it are put
-     * back. Throws Core::Exception::BaseException that names the feature and the reason. */
+     * back. Throws Core::Exception::BaseException that names the reason. */
     void write(const QHostAddress &ipAddress, const QHostAddress &subnetMask,
                const QHostAddress &defaultGateway) const;
 
