@@ -155,6 +155,7 @@ DescriptionPane::DescriptionPane(QWidget *parent)
     m_text->setAccessibleName(tr("Description of the current feature"));
     m_help->setContentsMargins(textMargin, 0, textMargin, textMargin);
     m_help->hide();
+    setFocusProxy(m_text);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text, 1);

@@ -7,6 +7,12 @@
 #include "descriptionpane.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
+#include "plugins/pluginhost.h"
+#include "services/cameracontrolservice.h"
+#include "services/camerastatusservice.h"
+#include "services/featuretreecontrolservice.h"
+#include "services/featuretreestatusservice.h"
+#include "services/workbenchservice.h"
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
@@ -14,9 +20,11 @@
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
+#include <zeltoviewercomponents/plugin/names.h>
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -50,6 +58,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_splitter(new QSplitter(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
+    , m_services(new QObject)
 {
     m_splitter->addWidget(m_tree);
     m_splitter->addWidget(m_description);
@@ -63,6 +72,8 @@ MainWindow::MainWindow(QWidget *parent)
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
     createMenus();
+    createServices();
+    createPanels();
 
     connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), m_description,
             SLOT(showParameter(QSharedPointer<ParameterCollection::IParameter>)));
@@ -96,6 +107,42 @@ FeatureTreeWidget *MainWindow::featureTree() const
     return m_tree;
 }
 
+QObject *MainWindow::services() const
+{
+    return m_services;
+}
+
+void MainWindow::createServices()
+{
+    new FeatureTreeControlService(m_tree, m_services);
+    new FeatureTreeStatusService(m_tree, m_services);
+    (new CameraControlService(this, m_services))->setObjectName(Plugin::ServiceName::Device);
+    new CameraStatusService(this, m_services);
+    m_workbench = new WorkbenchService(this, m_services);
+    m_workbench->setObjectName(Plugin::ServiceName::Workbench);
+    m_tree->setWindowTitle(tr("Features"));
+    m_tree->setFocusProxy(m_tree->treeView());
+    m_workbench->addPage(m_tree);
+    m_description->setObjectName(QStringLiteral("description"));
+    m_description->setWindowTitle(tr("Description"));
+    m_workbench->addPage(m_description);
+}
+
+void MainWindow::createPanels()
+{
+    const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
+    for (QWidget *const panel : panels) {
+        auto *const dock = new QDockWidget(panel->windowTitle(), this);
+        dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
+        dock->setWidget(panel);
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        m_panels->addAction(dock->toggleViewAction());
+        m_panels->menuAction()->setVisible(true);
+        m_workbench->addPage(panel);
+    }
+    m_services->setParent(this); // the last child, so that panels go first
+}
+
 void MainWindow::createMenus()
 {
     createFileMenu();
@@ -124,6 +171,8 @@ void MainWindow::createViewMenu()
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     view->setToolTipsVisible(true);
     createLevelMenu(view);
+    m_panels = view->addMenu(tr("&Panels"));
+    m_panels->menuAction()->setVisible(false);
     view->addSeparator();
     m_monitorAction = view->addAction(tr("&Monitor Mode"));
     m_monitorAction->setCheckable(true);
@@ -197,6 +246,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
     m_messages->dismiss();
     updateActions();
+    emit cameraOpened(info);
 }
 
 void MainWindow::closeCamera()
@@ -267,14 +317,15 @@ void MainWindow::reconnect()
     }
 }
 
-bool MainWindow::isLive() const
+bool MainWindow::isCameraOpen() const
 {
-    return m_camera && !m_camera->isLost() && !m_source.camera.isEmpty();
+    return m_camera && !m_camera->isLost();
 }
 
 void MainWindow::closeCameraIfWanted()
 {
-    const bool isWanted = !isLive()
+    const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
+    const bool isWanted = !isLive
         || confirm(
             QStringLiteral("CloseLiveCamera"), tr("Close Camera"),
             tr("Close the camera %1?\nChanges that were not saved to one of its user sets last until it "
@@ -417,6 +468,7 @@ void MainWindow::restoreState()
     if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
         m_splitter->setSizes({640, 360});
     }
+    QMainWindow::restoreState(settings.value(QStringLiteral("Panels")).toByteArray(), stateVersion);
     if (!m_tree->restoreState(settings.value(QStringLiteral("Tree")).toByteArray(), stateVersion)) {
         m_tree->treeView()->header()->resizeSection(0, 320);
     }
@@ -433,6 +485,7 @@ void MainWindow::saveState() const
     settings.beginGroup(windowGroup());
     settings.setValue(QStringLiteral("Geometry"), saveGeometry());
     settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
+    settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
     settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
     settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
 }

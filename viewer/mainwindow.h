@@ -6,6 +6,7 @@
 #include "options.h"
 
 #include <cameras/camera.h>
+#include <platform/core/camerainfo.h>
 #include <platform/genicam/genapi.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 
@@ -22,6 +23,7 @@ class QActionGroup;
 class QLabel;
 class QMenu;
 class QSplitter;
+class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
  * messages.
@@ -46,9 +48,18 @@ public:
     /*! Sets level, search and expansion as \a options ask. */
     void applyOptions(const Options &options);
     FeatureTreeWidget *featureTree() const;
+    /*! Returns whether a camera is open and answers. */
+    bool isCameraOpen() const;
+    /*! Returns the parent of the services that plug-ins find. */
+    QObject *services() const;
 
 public slots:
     void closeCamera();
+    /*! Opens the camera that was open last; a failure is shown. */
+    void reconnect();
+
+signals:
+    void cameraOpened(const Core::CameraPoolComponents::CameraInfoPtr &camera);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -56,7 +67,6 @@ protected:
 private slots:
     void openDescriptionFile();
     void connectToCamera();
-    void reconnect();
     void configureIp();
     void closeCameraIfWanted();
     void showAllMessagesAgain();
@@ -71,12 +81,13 @@ private slots:
     void updateActions();
 
 private:
+    void createServices();
+    void createPanels();
     void createMenus();
     void createFileMenu();
     void createViewMenu();
     void createCameraMenu();
     void createHelpMenu();
-    bool isLive() const;
     QString ipObstacle() const;
     bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
@@ -94,6 +105,9 @@ private:
     QSplitter *m_splitter;
     QLabel *m_matches;
     QLabel *m_cameraName;
+    QObject *m_services;
+    WorkbenchService *m_workbench = nullptr;
+    QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
     QAction *m_closeAction = nullptr;
     QAction *m_ipAction = nullptr;
