@@ -136,6 +136,7 @@ void MainWindow::createPanels()
         dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
         dock->setWidget(panel);
         addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide(); // the tree has the room until the user asks for the panel
         m_panels->addAction(dock->toggleViewAction());
         m_panels->menuAction()->setVisible(true);
         m_workbench->addPage(panel);

@@ -9,6 +9,7 @@
 #include <QDockWidget>
 #include <QEvent>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Plugin::Workbench;
@@ -27,7 +28,7 @@ void WorkbenchService::addPage(QWidget *page)
 {
     const auto item = QSharedPointer<WorkbenchItem>::create(page);
     m_items.append(item);
-    connect(page, SIGNAL(destroyed()), this, SLOT(onPageDestroyed()));
+    connect(page, SIGNAL(destroyed(QObject *)), this, SLOT(onPageDestroyed(QObject *)));
     emit itemCreated(item);
 }
 
@@ -69,19 +70,19 @@ void WorkbenchService::onFocusChanged(QWidget *old, QWidget *now)
     }
 }
 
-void WorkbenchService::onPageDestroyed()
+void WorkbenchService::onPageDestroyed(QObject *page)
 {
-    const auto items = std::exchange(m_items, {});
-    for (const WorkbenchBaseInfoPtr &item : items) {
-        if (item->widget()) {
-            m_items.append(item);
-            continue;
-        }
-        if (item == m_selected) {
-            select(nullptr);
-        }
-        emit itemDestroyed(item);
+    const auto isPage = [page](const WorkbenchBaseInfoPtr &item) { return item->widget() == page; };
+    const auto found = std::find_if(m_items.cbegin(), m_items.cend(), isPage);
+    if (found == m_items.cend()) {
+        return;
     }
+    const WorkbenchBaseInfoPtr item = *found;
+    m_items.erase(found);
+    if (item == m_selected) {
+        select(nullptr);
+    }
+    emit itemDestroyed(item);
 }
 
 void WorkbenchService::select(const WorkbenchBaseInfoPtr &item)

@@ -29,7 +29,7 @@ protected:
 
 private slots:
     void onFocusChanged(QWidget *old, QWidget *now);
-    void onPageDestroyed();
+    void onPageDestroyed(QObject *page);
 
 private:
     void select(const Plugin::Workbench::WorkbenchBaseInfoPtr &item);
