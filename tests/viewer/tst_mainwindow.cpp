@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QDockWidget>
 #include <QHostAddress>
 #include <QMenu>
 #include <QMenuBar>
@@ -18,8 +17,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 
 namespace {
@@ -34,13 +31,6 @@ QList<QAction *> leaves(const QMenu &menu)
     return found;
 }
 
-// Menu texts alone stand for letters on the keyboard.
-QChar mnemonic(const QString &text)
-{
-    const auto ampersand = text.indexOf(QLatin1Char('&'));
-    return ampersand < 0 ? QChar() : text.at(ampersand + 1).toLower();
-}
-
 } // namespace
 
 class TestMainWindow : public QObject
@@ -50,7 +40,6 @@ class TestMainWindow : public QObject
 private slots:
     void init();
     void cleanup();
-    void mnemonicsAreUnique();
     void ipConfigurationNeedsAnAbleCamera();
     void ipConfigurationIsWritten();
     void silencedMessageComesBack();
@@ -93,28 +82,6 @@ QAction *TestMainWindow::action(const char *text) const
         }
     }
     return nullptr;
-}
-
-void TestMainWindow::mnemonicsAreUnique()
-{
-    QWidgetList menus{m_window->menuBar()};
-    const auto pullDowns = m_window->menuBar()->findChildren<QMenu *>();
-    std::copy(pullDowns.cbegin(), pullDowns.cend(), std::back_inserter(menus));
-    int checked = 0;
-    for (const QWidget *const menu : std::as_const(menus)) {
-        QString seen;
-        const auto actions = menu->actions();
-        for (const QAction *const action : actions) {
-            const QChar letter = mnemonic(action->text());
-            if (action->isSeparator() || qobject_cast<QDockWidget *>(action->parent())) {
-                continue; // a panel's title is its own
-            }
-            QVERIFY2(!letter.isNull() && !seen.contains(letter), qPrintable(action->text()));
-            seen.append(letter);
-            ++checked;
-        }
-    }
-    QVERIFY(checked > 10);
 }
 
 void TestMainWindow::ipConfigurationNeedsAnAbleCamera()

@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>P&amp;olling</source>
-        <translation>A&amp;bfragen</translation>
+        <translation>Abf&amp;ragen</translation>
     </message>
     <message>
         <source>Refresh</source>
