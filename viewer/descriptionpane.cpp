@@ -5,6 +5,11 @@
 
 #include <platform/core/formatdoublevalue.h>
 #include <platform/core/guard.h>
+#include <zeltoviewercomponents/errorhandling/helplink.h>
+
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
 
 using namespace ParameterCollection;
 
@@ -13,6 +18,7 @@ ZELTO_LOG_CATEGORY("zelto.viewer.descriptionPane")
 namespace {
 
 constexpr int limitDecimals = 6;
+constexpr int textMargin = 4; // a text document's own
 
 class Page
 {
@@ -29,13 +35,6 @@ public:
         if (!text.isEmpty()) {
             m_rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
                           .arg(label.toHtmlEscaped(), text.toHtmlEscaped());
-        }
-    }
-    void link(const QString &label, const QString &address)
-    {
-        if (!address.isEmpty()) {
-            m_rows += QStringLiteral("<tr><td></td><td><a href=\"%1\">%2</a></td></tr>")
-                          .arg(address.toHtmlEscaped(), label.toHtmlEscaped());
         }
     }
     QString html() const { return m_html + QStringLiteral("<table>%1</table>").arg(m_rows); }
@@ -136,18 +135,31 @@ QString describe(const IParameter &parameter)
         page.row(DescriptionPane::tr("Visibility"), visibilityText(data->visibility));
     }
     page.row(DescriptionPane::tr("Unit"), access->property(QStringLiteral("Unit")));
-    page.link(DescriptionPane::tr("Documentation"), access->property(QStringLiteral("DocuURL")));
     return page.html();
+}
+
+QUrl documentation(const IParameter &parameter)
+{
+    return QUrl(parameter.propertyAccess()->property(QStringLiteral("DocuURL")));
 }
 
 } // namespace
 
 DescriptionPane::DescriptionPane(QWidget *parent)
-    : QTextBrowser(parent)
+    : QWidget(parent)
+    , m_text(new QTextBrowser(this))
+    , m_help(new HelpLink(this))
 {
-    setOpenExternalLinks(true);
-    setFrameShape(QFrame::NoFrame);
-    setAccessibleName(tr("Description of the current feature"));
+    m_text->setFrameShape(QFrame::NoFrame);
+    m_text->setOpenExternalLinks(true);
+    m_text->setAccessibleName(tr("Description of the current feature"));
+    m_help->setContentsMargins(textMargin, 0, textMargin, textMargin);
+    m_help->hide();
+    setFocusProxy(m_text);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_help);
 }
 
 DescriptionPane::~DescriptionPane() = default;
@@ -169,19 +181,31 @@ void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter)
 
 void DescriptionPane::refresh()
 {
-    const QString page = Core::guarded({logCategory(), "DescriptionPane::refresh"},
-                                       QStringLiteral("Failed to describe a feature"), QString(),
-                                       [this] { return m_parameter ? describe(*m_parameter) : QString(); });
-    if (page == m_page) {
-        return; // values that poll leave selection and scrolling alone
-    }
-    m_page = page;
-    setHtml(page);
+    QString page;
+    QUrl help;
+    Core::guardedRun({logCategory(), "DescriptionPane::refresh"},
+                     QStringLiteral("Failed to describe a feature"), [this, &page, &help] {
+                         if (m_parameter) {
+                             page = describe(*m_parameter);
+                             help = documentation(*m_parameter);
+                         }
+                     });
+    display(page, help);
 }
 
 void DescriptionPane::showText(const QString &text)
 {
     showParameter(nullptr);
-    m_page = text;
-    setHtml(text);
+    display(text, QUrl());
+}
+
+void DescriptionPane::display(const QString &page, const QUrl &help)
+{
+    m_help->setAddress(help);
+    m_help->setVisible(!m_help->address().isEmpty());
+    if (page == m_page) {
+        return; // values that poll leave selection and scrolling alone
+    }
+    m_page = page;
+    m_text->setHtml(page);
 }

@@ -7,11 +7,15 @@
 
 #include <QSharedPointer>
 #include <QString>
-#include <QTextBrowser>
+#include <QWidget>
 
-/*! \brief Tells about the current feature: name, tool tip, description, type, access, range, unit,
- * documentation. */
-class DescriptionPane : public QTextBrowser
+class HelpLink;
+class QTextBrowser;
+class QUrl;
+
+/*! \brief Tells about the current feature: name, tool tip, description, type, access, range, unit; below it,
+ * the link to the documentation. */
+class DescriptionPane : public QWidget
 {
     Q_OBJECT
 
@@ -28,6 +32,10 @@ private slots:
     void refresh();
 
 private:
+    void display(const QString &page, const QUrl &help);
+
+    QTextBrowser *m_text;
+    HelpLink *m_help;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
     QString m_page;
 };

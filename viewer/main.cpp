@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editorgallery.h"
+#include "languages.h"
 #include "mainwindow.h"
 #include "options.h"
 
@@ -11,6 +12,7 @@
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
 
@@ -148,6 +150,7 @@ int main(int argc, char **argv)
     const QtMessageHandler standardHandler = qInstallMessageHandler(onMessageWhileStarting);
     QApplication application(argc, argv);
     qInstallMessageHandler(standardHandler);
+    installTranslations(QLocale());
     try {
         return run(options);
     } catch (const std::exception &exception) {

@@ -5,15 +5,26 @@
 
 #include "cameradialog.h"
 #include "descriptionpane.h"
+#include "ipconfiguration.h"
 #include "messagebar.h"
+#include "plugins/pluginhost.h"
+#include "services/cameracontrolservice.h"
+#include "services/camerastatusservice.h"
+#include "services/featuretreecontrolservice.h"
+#include "services/featuretreestatusservice.h"
+#include "services/workbenchservice.h"
 
 #include <platform/core/exception.h>
+#include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+#include <zeltoviewercomponents/network/ipaddresswidget.h>
+#include <zeltoviewercomponents/plugin/names.h>
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -24,11 +35,13 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int stateVersion = 1;
+constexpr int statusTime = 5000;
 
 QString windowGroup()
 {
@@ -45,6 +58,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_splitter(new QSplitter(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
+    , m_services(new QObject)
 {
     m_splitter->addWidget(m_tree);
     m_splitter->addWidget(m_description);
@@ -58,6 +72,8 @@ MainWindow::MainWindow(QWidget *parent)
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
     createMenus();
+    createServices();
+    createPanels();
 
     connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), m_description,
             SLOT(showParameter(QSharedPointer<ParameterCollection::IParameter>)));
@@ -91,27 +107,101 @@ FeatureTreeWidget *MainWindow::featureTree() const
     return m_tree;
 }
 
+QObject *MainWindow::services() const
+{
+    return m_services;
+}
+
+void MainWindow::createServices()
+{
+    new FeatureTreeControlService(m_tree, m_services);
+    new FeatureTreeStatusService(m_tree, m_services);
+    (new CameraControlService(this, m_services))->setObjectName(Plugin::ServiceName::Device);
+    new CameraStatusService(this, m_services);
+    m_workbench = new WorkbenchService(this, m_services);
+    m_workbench->setObjectName(Plugin::ServiceName::Workbench);
+    m_tree->setWindowTitle(tr("Features"));
+    m_tree->setFocusProxy(m_tree->treeView());
+    m_workbench->addPage(m_tree);
+    m_description->setObjectName(QStringLiteral("description"));
+    m_description->setWindowTitle(tr("Description"));
+    m_workbench->addPage(m_description);
+}
+
+void MainWindow::createPanels()
+{
+    const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
+    for (QWidget *const panel : panels) {
+        auto *const dock = new QDockWidget(panel->windowTitle(), this);
+        dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
+        dock->setWidget(panel);
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        dock->hide(); // the tree has the room until the user asks for the panel
+        m_panels->addAction(dock->toggleViewAction());
+        m_panels->menuAction()->setVisible(true);
+        m_workbench->addPage(panel);
+    }
+    m_services->setParent(this); // the last child, so that panels go first
+}
+
 void MainWindow::createMenus()
 {
-    QMenu *const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open Description File…"), QKeySequence::Open, this, SLOT(openDescriptionFile()));
-    file->addAction(tr("&Connect to Camera…"), QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
-    m_closeAction = file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCamera()));
-    file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
-
+    createFileMenu();
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
     edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this, SLOT(copyTree()));
+    createViewMenu();
+    createCameraMenu();
+    createHelpMenu();
+}
 
+void MainWindow::createFileMenu()
+{
+    QMenu *const file = menuBar()->addMenu(tr("&File"));
+    file->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open Description File…"),
+                    QKeySequence::Open, this, SLOT(openDescriptionFile()));
+    file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
+                    QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
+    m_closeAction =
+        file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
+}
+
+void MainWindow::createViewMenu()
+{
     QMenu *const view = menuBar()->addMenu(tr("&View"));
+    view->setToolTipsVisible(true);
     createLevelMenu(view);
+    m_panels = view->addMenu(tr("&Panels"));
+    m_panels->menuAction()->setVisible(false);
     view->addSeparator();
     m_monitorAction = view->addAction(tr("&Monitor Mode"));
     m_monitorAction->setCheckable(true);
     m_monitorAction->setToolTip(tr("Polling re-reads all features, not only the volatile ones"));
+    m_monitorAction->setStatusTip(m_monitorAction->toolTip());
     connect(m_monitorAction, &QAction::toggled, m_tree, &FeatureTreeWidget::setMonitorMode);
+}
 
-    menuBar()->addMenu(tr("&Help"))->addAction(tr("&About…"), this, SLOT(about()));
+void MainWindow::createCameraMenu()
+{
+    QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
+    camera->setToolTipsVisible(true);
+    m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
+    // Whether a camera lets itself be configured changes with what it is doing.
+    connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
+}
+
+void MainWindow::createHelpMenu()
+{
+    QMenu *const help = menuBar()->addMenu(tr("&Help"));
+    help->setToolTipsVisible(true);
+    QAction *const again =
+        help->addAction(tr("&Show All Messages Again"), this, SLOT(showAllMessagesAgain()));
+    again->setToolTip(tr("Brings back the messages that were silenced"));
+    again->setStatusTip(again->toolTip());
+    help->addSeparator();
+    help->addAction(style()->standardIcon(QStyle::SP_MessageBoxInformation), tr("&About…"), this,
+                    SLOT(about()));
 }
 
 QMenu *MainWindow::createLevelMenu(QMenu *parent)
@@ -157,6 +247,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
     m_messages->dismiss();
     updateActions();
+    emit cameraOpened(info);
 }
 
 void MainWindow::closeCamera()
@@ -212,6 +303,7 @@ void MainWindow::onCameraLost(const QString &reason)
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
     m_messages->showAction(tr("The camera was lost: %1").arg(reason), tr("Reconnect"));
+    updateActions();
 }
 
 void MainWindow::reconnect()
@@ -226,12 +318,73 @@ void MainWindow::reconnect()
     }
 }
 
+bool MainWindow::isCameraOpen() const
+{
+    return m_camera && !m_camera->isLost();
+}
+
+void MainWindow::closeCameraIfWanted()
+{
+    const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
+    const bool isWanted = !isLive
+        || confirm(
+            QStringLiteral("CloseLiveCamera"), tr("Close Camera"),
+            tr("Close the camera %1?\nChanges that were not saved to one of its user sets last until it "
+               "is switched off.")
+                .arg(m_camera->info()->modelName()));
+    if (isWanted) {
+        closeCamera();
+    }
+}
+
+// A message box that waits for yes or no; the user may have it say yes from then on.
+bool MainWindow::confirm(const QString &key, const QString &title, const QString &text)
+{
+    MessageBoxCheckable box(key, QMessageBox::Question, title, text, QMessageBox::Ok | QMessageBox::Cancel,
+                            this);
+    box.setSaveResultOnButton(QMessageBox::Ok);
+    return box.exec() == QMessageBox::Ok;
+}
+
+void MainWindow::configureIp()
+{
+    const IpConfiguration configuration(m_camera->nodeMaps());
+    IpAddressWidget dialog(this);
+    dialog.setIpAddress(configuration.ipAddress());
+    dialog.setSubnetMask(configuration.subnetMask());
+    dialog.setDefaultGateway(configuration.defaultGateway());
+    dialog.setMacAddress(configuration.macAddress());
+    if (dialog.exec() != QDialog::Accepted
+        || !confirm(QStringLiteral("WriteIpConfiguration"), tr("IP Configuration"),
+                    tr("The new IP configuration takes effect after the camera restarts."))) {
+        return;
+    }
+    try {
+        configuration.write(dialog.ipAddress(), dialog.subnetMask(), dialog.defaultGateway());
+    } catch (const Core::Exception::BaseException &exception) {
+        m_messages->showMessage(exception.getMessage(), QString());
+    }
+}
+
 void MainWindow::updateActions()
 {
     m_closeAction->setEnabled(m_camera != nullptr);
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
+    const QString obstacle = ipObstacle();
+    m_ipAction->setEnabled(obstacle.isEmpty());
+    m_ipAction->setToolTip(obstacle.isEmpty() ? tr("Address, mask and gateway that the camera starts with")
+                                              : obstacle);
+    m_ipAction->setStatusTip(m_ipAction->toolTip());
+}
+
+QString MainWindow::ipObstacle() const
+{
+    if (!m_camera) {
+        return tr("No camera is open");
+    }
+    return m_camera->isLost() ? tr("The camera was lost") : IpConfiguration(m_camera->nodeMaps()).obstacle();
 }
 
 // Tree
@@ -289,6 +442,12 @@ void MainWindow::copyTree()
     m_tree->copyToClipboard();
 }
 
+void MainWindow::showAllMessagesAgain()
+{
+    MessageBoxCheckable::resetAll();
+    statusBar()->showMessage(tr("All messages are shown again."), statusTime);
+}
+
 void MainWindow::about()
 {
     QMessageBox::about(
@@ -310,6 +469,7 @@ void MainWindow::restoreState()
     if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
         m_splitter->setSizes({640, 360});
     }
+    QMainWindow::restoreState(settings.value(QStringLiteral("Panels")).toByteArray(), stateVersion);
     if (!m_tree->restoreState(settings.value(QStringLiteral("Tree")).toByteArray(), stateVersion)) {
         m_tree->treeView()->header()->resizeSection(0, 320);
     }
@@ -326,6 +486,7 @@ void MainWindow::saveState() const
     settings.beginGroup(windowGroup());
     settings.setValue(QStringLiteral("Geometry"), saveGeometry());
     settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
+    settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
     settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
     settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
 }

@@ -6,6 +6,7 @@
 #include "options.h"
 
 #include <cameras/camera.h>
+#include <platform/core/camerainfo.h>
 #include <platform/genicam/genapi.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 
@@ -22,6 +23,7 @@ class QActionGroup;
 class QLabel;
 class QMenu;
 class QSplitter;
+class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
  * messages.
@@ -46,9 +48,18 @@ public:
     /*! Sets level, search and expansion as \a options ask. */
     void applyOptions(const Options &options);
     FeatureTreeWidget *featureTree() const;
+    /*! Returns whether a camera is open and answers. */
+    bool isCameraOpen() const;
+    /*! Returns the parent of the services that plug-ins find. */
+    QObject *services() const;
 
 public slots:
     void closeCamera();
+    /*! Opens the camera that was open last; a failure is shown. */
+    void reconnect();
+
+signals:
+    void cameraOpened(const Core::CameraPoolComponents::CameraInfoPtr &camera);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -56,7 +67,9 @@ protected:
 private slots:
     void openDescriptionFile();
     void connectToCamera();
-    void reconnect();
+    void configureIp();
+    void closeCameraIfWanted();
+    void showAllMessagesAgain();
     void about();
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
@@ -65,15 +78,23 @@ private slots:
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
     void copyTree();
+    void updateActions();
 
 private:
+    void createServices();
+    void createPanels();
     void createMenus();
+    void createFileMenu();
+    void createViewMenu();
+    void createCameraMenu();
+    void createHelpMenu();
+    QString ipObstacle() const;
+    bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
     void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void restoreState();
     void saveState() const;
-    void updateActions();
 
     std::unique_ptr<Cameras::Camera> m_camera;
     Options m_source; // how the camera was opened
@@ -84,7 +105,11 @@ private:
     QSplitter *m_splitter;
     QLabel *m_matches;
     QLabel *m_cameraName;
+    QObject *m_services;
+    WorkbenchService *m_workbench = nullptr;
+    QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
     QAction *m_closeAction = nullptr;
+    QAction *m_ipAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };

@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <support/logcapture.h>
+#include <viewer/mainwindow.h>
+#include <viewer/plugins/pluginhost.h>
+
+#include <zeltoviewercomponents/errorhandling/helplink.h>
+#include <zeltoviewercomponents/featuretree/featuretreeview.h>
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+#include <zeltoviewercomponents/plugin/FeatureTree/ifeaturetreecontrolservice.h>
+#include <zeltoviewercomponents/plugin/FeatureTree/ifeaturetreestatusservice.h>
+#include <zeltoviewercomponents/plugin/Workbench/iworkbenchservice.h>
+#include <zeltoviewercomponents/plugin/ZeltoViewer/izeltoviewercontrolledcameracontrolservice.h>
+#include <zeltoviewercomponents/plugin/ZeltoViewer/izeltoviewercontrolledcamerastatusservice.h>
+#include <zeltoviewercomponents/plugin/names.h>
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Plugin;
+
+namespace {
+
+QString feature(const char *name)
+{
+    return QStringLiteral("@CameraDevice/") + QLatin1String(name);
+}
+
+} // namespace
+
+class TestPlugins : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void showsFeatures_data();
+    void showsFeatures();
+    void searchGivesWay();
+    void statusFollowsTheTree();
+    void levelAndPolling();
+    void cameraClosesAndOpens();
+    void visitsAreListed();
+    void listIsLimitedToTwenty();
+    void visitsLeadBack();
+    void goneFeaturesAreSurvived();
+    void workbenchSelectsPages();
+    void brokenPluginsAreLeftOut();
+    void helpLinkFollowsTheFeature();
+
+private:
+    template <typename Service>
+    Service *service() const
+    {
+        return m_window->services()->findChild<Service *>();
+    }
+    bool show(const char *name) const;
+    QListWidget *visits() const;
+    QStringList visitedNames() const;
+
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void TestPlugins::init()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("ZeltoTest"));
+    QCoreApplication::setApplicationName(QStringLiteral("tst_plugins"));
+    QSettings().clear();
+    m_window = std::make_unique<MainWindow>();
+    m_window->openCamera(Options());
+    m_window->findChild<QDockWidget *>()->show();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestPlugins::cleanup()
+{
+    m_window.reset();
+}
+
+bool TestPlugins::show(const char *name) const
+{
+    return service<FeatureTree::IFeatureTreeControlService>()->showFeature(feature(name));
+}
+
+QListWidget *TestPlugins::visits() const
+{
+    return m_window->findChild<QWidget *>(QStringLiteral("visitedFeatures"))->findChild<QListWidget *>();
+}
+
+QStringList TestPlugins::visitedNames() const
+{
+    QStringList names;
+    for (int row = 0; row < visits()->count(); ++row) {
+        names.append(visits()->item(row)->data(Qt::UserRole).toString());
+    }
+    return names;
+}
+
+void TestPlugins::showsFeatures_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<QString>("fullName");
+    QTest::addColumn<bool>("isShown");
+
+    const QString guruFeature = QStringLiteral("@DeviceTransportLayer/GevPersistentIPAddress");
+    QTest::newRow("usual") << int(GenApi::Beginner) << feature("Width") << true;
+    QTest::newRow("another node map") << int(GenApi::Guru) << guruFeature << true;
+    QTest::newRow("above the level") << int(GenApi::Beginner) << feature("DeviceReset") << false;
+    QTest::newRow("unknown") << int(GenApi::Guru) << feature("Nothing") << false;
+    QTest::newRow("empty") << int(GenApi::Guru) << QString() << false;
+}
+
+void TestPlugins::showsFeatures()
+{
+    QFETCH(int, level);
+    QFETCH(QString, fullName);
+    auto *const control = service<FeatureTree::IFeatureTreeControlService>();
+    control->setVisibility(static_cast<GenApi::EVisibility>(level));
+    QTEST(control->showFeature(fullName), "isShown");
+    const auto node = m_window->featureTree()->GetCurrentNode();
+    QTEST(node && node->fullName() == fullName, "isShown");
+}
+
+void TestPlugins::searchGivesWay()
+{
+    auto *const search = m_window->featureTree()->findChild<QLineEdit *>(QStringLiteral("filterEdit"));
+    search->setText(QStringLiteral("exposure"));
+    QVERIFY(show("ExposureTime"));
+    QCOMPARE(search->text(), QStringLiteral("exposure"));
+    QVERIFY(show("Width"));
+    QCOMPARE(search->text(), QString());
+    QCOMPARE(m_window->featureTree()->GetCurrentNode()->fullName(), feature("Width"));
+}
+
+void TestPlugins::statusFollowsTheTree()
+{
+    auto *const status = service<FeatureTree::IFeatureTreeStatusService>();
+    QSignalSpy current(status, &FeatureTree::IFeatureTreeStatusService::currentChanged);
+    QSignalSpy level(status, &FeatureTree::IFeatureTreeStatusService::visibilityChanged);
+    QVERIFY(show("Width"));
+    QCOMPARE(current.size(), 1);
+    const auto parameter = current.first().first().value<QSharedPointer<ParameterCollection::IParameter>>();
+    QCOMPARE(parameter->name(), QStringLiteral("Width"));
+    m_window->featureTree()->onVisibilityChanged(GenApi::Expert);
+    QCOMPARE(level.size(), 1);
+}
+
+void TestPlugins::levelAndPolling()
+{
+    auto *const control = service<FeatureTree::IFeatureTreeControlService>();
+    control->setPolling(true);
+    QVERIFY(m_window->featureTree()->getPolling());
+    control->setPolling(false);
+    QVERIFY(!m_window->featureTree()->getPolling());
+    control->setVisibility(GenApi::Expert);
+    QCOMPARE(m_window->featureTree()->visibility(), GenApi::Expert);
+    control->refresh();
+}
+
+void TestPlugins::cameraClosesAndOpens()
+{
+    auto *const control = service<ZeltoViewer::IZeltoViewerControlledCameraControlService>();
+    QCOMPARE(control->objectName(), ServiceName::Device);
+    QSignalSpy opened(service<ZeltoViewer::IZeltoViewerControlledCameraStatusService>(),
+                      &ZeltoViewer::IZeltoViewerControlledCameraStatusService::cameraFullyInitialized);
+    QVERIFY(control->setCameraOpen(false));
+    QVERIFY(!m_window->isCameraOpen());
+    QVERIFY(control->setCameraOpen(false));
+    QVERIFY(opened.isEmpty());
+    QVERIFY(!show("Width"));
+
+    QVERIFY(control->setCameraOpen(true));
+    QVERIFY(m_window->isCameraOpen());
+    QVERIFY(control->setCameraOpen(true));
+    QCOMPARE(opened.size(), 1);
+    QVERIFY(show("Width"));
+}
+
+void TestPlugins::visitsAreListed()
+{
+    QCOMPARE(visitedNames(), QStringList());
+    for (const char *const name : {"Width", "Height", "Gain", "Width"}) {
+        QVERIFY(show(name));
+    }
+    QCOMPARE(visitedNames(), QStringList({feature("Width"), feature("Gain"), feature("Height")}));
+    QCOMPARE(visits()->item(0)->text(), QStringLiteral("Width"));
+
+    m_window->closeCamera();
+    m_window->openCamera(Options());
+    QCOMPARE(visits()->count(), 3);
+}
+
+void TestPlugins::listIsLimitedToTwenty()
+{
+    auto *const tree = m_window->featureTree();
+    QVERIFY(show("Width"));
+    QStringList walked;
+    while (walked.size() < 25) {
+        QTest::keyClick(tree->treeView(), Qt::Key_Down);
+        const auto node = tree->GetCurrentNode();
+        QVERIFY(node);
+        walked.prepend(node->fullName());
+    }
+    QCOMPARE(visitedNames(), walked.mid(0, 20));
+}
+
+void TestPlugins::visitsLeadBack()
+{
+    QVERIFY(show("Width"));
+    QVERIFY(show("Height"));
+    QVERIFY(show("Gain"));
+    QListWidget *const list = visits();
+    const QPoint last = list->visualItemRect(list->item(2)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, last);
+    QCOMPARE(m_window->featureTree()->GetCurrentNode()->fullName(), feature("Width"));
+    QCOMPARE(visitedNames().first(), feature("Width"));
+
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(m_window->featureTree()->GetCurrentNode()->fullName(), feature("Gain"));
+    QCOMPARE(list->currentRow(), 0);
+}
+
+void TestPlugins::goneFeaturesAreSurvived()
+{
+    QVERIFY(show("Width"));
+    m_window->closeCamera();
+    QListWidget *const list = visits();
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(visitedNames(), QStringList{feature("Width")});
+}
+
+void TestPlugins::workbenchSelectsPages()
+{
+    auto *const workbench = service<Workbench::IWorkbenchService>();
+    QCOMPARE(workbench->objectName(), ServiceName::Workbench);
+    QSignalSpy selected(workbench, &Workbench::IWorkbenchService::selectedItemChanged);
+    QSignalSpy destroyed(workbench, &Workbench::IWorkbenchService::itemDestroyed);
+    auto *const dock = m_window->findChild<QDockWidget *>();
+    dock->hide();
+
+    QVERIFY(workbench->selectItem(QStringLiteral("visitedFeatures")));
+    QVERIFY(dock->isVisible());
+    QVERIFY(visits()->hasFocus());
+    const auto item = selected.last().first().value<Workbench::WorkbenchBaseInfoPtr>();
+    QCOMPARE(item->title(), QStringLiteral("Visited Features"));
+    QCOMPARE(item->widget(), visits()->parentWidget());
+
+    QVERIFY(workbench->selectItem(QStringLiteral("featureTree")));
+    QVERIFY(m_window->featureTree()->isAncestorOf(QApplication::focusWidget()));
+    QVERIFY(!workbench->selectItem(QStringLiteral("nothing")));
+    QCOMPARE(selected.last().first().value<Workbench::WorkbenchBaseInfoPtr>()->id(),
+             QStringLiteral("featureTree"));
+
+    delete dock;
+    QCOMPARE(destroyed.size(), 1);
+    QCOMPARE(item->widget(), nullptr);
+    QVERIFY(!workbench->selectItem(QStringLiteral("visitedFeatures")));
+}
+
+void TestPlugins::brokenPluginsAreLeftOut()
+{
+    const QTemporaryDir folder;
+    QFile broken(folder.filePath(QStringLiteral("libbroken.so")));
+    QVERIFY(broken.open(QFile::WriteOnly));
+    broken.write("no library");
+    broken.close();
+    QFile text(folder.filePath(QStringLiteral("readme.txt")));
+    QVERIFY(text.open(QFile::WriteOnly));
+
+    LogCapture log;
+    QObject services; // none that the panel could do with
+    QWidget parent;
+    const QStringList folders{folder.path(), folder.filePath(QStringLiteral("missing"))};
+    QVERIFY(PluginHost::createPanels(folders + PluginHost::folders(), &services, &parent).isEmpty());
+    QCOMPARE(log.messages().size(), 1);
+    QVERIFY(log.messages().first().contains(QLatin1String("libbroken.so")));
+}
+
+void TestPlugins::helpLinkFollowsTheFeature()
+{
+    auto *const link = m_window->findChild<HelpLink *>();
+    QVERIFY(!link->isVisible());
+    QVERIFY(show("Width"));
+    QVERIFY(link->isVisible());
+    QCOMPARE(link->address(), QUrl(QStringLiteral("https://example.org/features/width")));
+    QVERIFY(show("Height"));
+    QVERIFY(!link->isVisible());
+}
+
+QTEST_MAIN(TestPlugins)
+#include "tst_plugins.moc"

@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <viewer/languages.h>
+#include <viewer/mainwindow.h>
+
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+
+#include <QAction>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTest>
+#include <QTranslator>
+#include <QTreeView>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+namespace {
+
+// Menu texts alone stand for letters on the keyboard.
+QChar mnemonic(const QString &text)
+{
+    const auto ampersand = text.indexOf(QLatin1Char('&'));
+    return ampersand < 0 ? QChar() : text.at(ampersand + 1).toLower();
+}
+
+// The marks that stand for values and the tags of rich text, which a translation has to keep.
+QStringList marks(const QString &text)
+{
+    static const QRegularExpression mark(QStringLiteral("%[0-9n]|</?[a-z0-9]+>"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    QStringList found;
+    auto match = mark.globalMatch(text);
+    while (match.hasNext()) {
+        found.append(match.next().captured());
+    }
+    found.sort();
+    return found;
+}
+
+} // namespace
+
+class TestTranslations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void filesAreComplete_data();
+    void filesAreComplete();
+    void countsHaveTheirPlural_data();
+    void countsHaveTheirPlural();
+    void libraryIsTranslated();
+    void mnemonicsAreUnique_data();
+    void mnemonicsAreUnique();
+};
+
+void TestTranslations::init()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("ZeltoTest"));
+    QCoreApplication::setApplicationName(QStringLiteral("tst_translations"));
+    QSettings().clear();
+}
+
+void TestTranslations::cleanup()
+{
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+}
+
+void TestTranslations::filesAreComplete_data()
+{
+    QTest::addColumn<QString>("fileName");
+    for (const char *const folder : {"zeltoviewercomponents", "viewer"}) {
+        const QDir dir(QStringLiteral(ZELTO_SOURCE_DIR "/%1/translations").arg(QLatin1String(folder)));
+        const auto files = dir.entryInfoList({QStringLiteral("*.ts")});
+        for (const QFileInfo &file : files) {
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+        }
+    }
+}
+
+void TestTranslations::filesAreComplete()
+{
+    QFETCH(QString, fileName);
+    QFile file(fileName);
+    QVERIFY(file.open(QFile::ReadOnly));
+    QXmlStreamReader reader(&file);
+    QString source;
+    int translations = 0;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (reader.name() == QLatin1String("source")) {
+            source = reader.readElementText();
+        } else if (reader.name() == QLatin1String("translation")) {
+            QVERIFY2(!reader.attributes().hasAttribute(QLatin1String("type")), qPrintable(source));
+            if (!source.contains(QLatin1String("%n"))) {
+                QCOMPARE(marks(reader.readElementText()), marks(source));
+            }
+            ++translations;
+        } else if (reader.name() == QLatin1String("numerusform")) {
+            QCOMPARE(marks(reader.readElementText()), marks(source));
+        }
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+    QVERIFY(translations > 0);
+}
+
+void TestTranslations::countsHaveTheirPlural_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("one, English") << QLocale(QLocale::English) << QStringLiteral("ExposureMode")
+                                  << QStringLiteral("1 result");
+    QTest::newRow("many, C") << QLocale::c() << QStringLiteral("exposure") << QStringLiteral("5 results");
+    QTest::newRow("many, German") << QLocale(QLocale::German) << QStringLiteral("exposure")
+                                  << QStringLiteral("5 Treffer");
+    QTest::newRow("untranslated language")
+        << QLocale(QLocale::Icelandic) << QStringLiteral("exposure") << QStringLiteral("5 results");
+}
+
+void TestTranslations::countsHaveTheirPlural()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, search);
+    QFETCH(QString, shown);
+    installTranslations(locale);
+    MainWindow window;
+    window.openCamera(Options());
+    Options options;
+    options.search = search;
+    window.applyOptions(options);
+    const auto labels = window.statusBar()->findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.cbegin(), labels.cend(),
+                        [&shown](const QLabel *label) { return label->text() == shown; }));
+}
+
+void TestTranslations::libraryIsTranslated()
+{
+    installTranslations(QLocale(QLocale::German, QLocale::Austria));
+    MainWindow window;
+    const auto *const tree = window.featureTree();
+    QCOMPARE(tree->treeView()->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Merkmal"));
+}
+
+void TestTranslations::mnemonicsAreUnique_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("English") << QLocale(QLocale::English);
+    QTest::newRow("German") << QLocale(QLocale::German);
+}
+
+void TestTranslations::mnemonicsAreUnique()
+{
+    QFETCH(QLocale, locale);
+    installTranslations(locale);
+    const MainWindow window;
+    QWidgetList menus{window.menuBar()};
+    const auto pullDowns = window.menuBar()->findChildren<QMenu *>();
+    std::copy(pullDowns.cbegin(), pullDowns.cend(), std::back_inserter(menus));
+    int checked = 0;
+    for (const QWidget *const menu : std::as_const(menus)) {
+        QString seen;
+        const auto actions = menu->actions();
+        for (const QAction *const action : actions) {
+            const QChar letter = mnemonic(action->text());
+            if (action->isSeparator() || qobject_cast<QDockWidget *>(action->parent())) {
+                continue; // a panel's title is its own
+            }
+            QVERIFY2(!letter.isNull() && !seen.contains(letter), qPrintable(action->text()));
+            seen.append(letter);
+            ++checked;
+        }
+    }
+    QVERIFY(checked > 10);
+}
+
+QTEST_MAIN(TestTranslations)
+#include "tst_translations.moc"

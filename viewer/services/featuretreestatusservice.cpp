@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreestatusservice.h"
+
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+
+FeatureTreeStatusService::FeatureTreeStatusService(const FeatureTreeWidget *tree, QObject *parent)
+    : IFeatureTreeStatusService(parent)
+{
+    connect(tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
+            SIGNAL(visibilityChanged(GenApi::EVisibility)));
+    connect(tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(tree, SIGNAL(newText(QString)), this, SIGNAL(newText(QString)));
+}
+
+FeatureTreeStatusService::~FeatureTreeStatusService() = default;

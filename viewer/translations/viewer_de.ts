@@ -1,0 +1,395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CameraDialog</name>
+    <message>
+        <source>Connect to Camera</source>
+        <translation>Mit Kamera verbinden</translation>
+    </message>
+    <message>
+        <source>Reachable cameras</source>
+        <translation>Erreichbare Kameras</translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Rescan</source>
+        <translation>&amp;Neu suchen</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3), %4</source>
+        <translation>%1 %2 (%3), %4</translation>
+    </message>
+    <message>
+        <source>No camera answers. Check its power, its cable and the network interface, then rescan.</source>
+        <translation>Keine Kamera antwortet. Prüfen Sie Stromversorgung, Kabel und Netzwerkschnittstelle und suchen Sie neu.</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionPane</name>
+    <message>
+        <source>Integer</source>
+        <translation>Ganzzahl</translation>
+    </message>
+    <message>
+        <source>Boolean</source>
+        <translation>Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>Floating-point number</source>
+        <translation>Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Enumeration</source>
+        <translation>Aufzählung</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Not implemented</source>
+        <translation>Nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Read and write</source>
+        <translation>Lesen und schreiben</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Nur lesen</translation>
+    </message>
+    <message>
+        <source>Write only</source>
+        <translation>Nur schreiben</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Beginner</source>
+        <translation>Einsteiger</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Experte</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>Guru</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
+    <message>
+        <source>%1 to %2%3</source>
+        <translation>%1 bis %2%3</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Increment</source>
+        <translation>Schrittweite</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation>Zugriff</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>Sichtbarkeit</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Description of the current feature</source>
+        <translation>Beschreibung des aktuellen Merkmals</translation>
+    </message>
+</context>
+<context>
+    <name>EditorGallery</name>
+    <message>
+        <source>Value editors</source>
+        <translation>Werteditoren</translation>
+    </message>
+</context>
+<context>
+    <name>IpConfiguration</name>
+    <message>
+        <source>The reason is not known.</source>
+        <translation>Der Grund ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>This camera has no features for an IP configuration</source>
+        <translation>Diese Kamera hat keine Merkmale für eine IP-Konfiguration</translation>
+    </message>
+    <message>
+        <source>The camera does not allow its IP configuration to be changed now</source>
+        <translation>Die Kamera erlaubt jetzt keine Änderung ihrer IP-Konfiguration</translation>
+    </message>
+    <message>
+        <source>The IP configuration was not changed. %1</source>
+        <translation>Die IP-Konfiguration wurde nicht geändert. %1</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Features</source>
+        <translation>Merkmale</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Tree to Clipboard</source>
+        <translation>&amp;Baum in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open Description File…</source>
+        <translation>Beschreibungsdatei ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Connect to Camera…</source>
+        <translation>Mit Kamera &amp;verbinden…</translation>
+    </message>
+    <message>
+        <source>Ctrl+K</source>
+        <translation>Ctrl+K</translation>
+    </message>
+    <message>
+        <source>C&amp;lose Camera</source>
+        <translation>Kamera &amp;schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Monitor Mode</source>
+        <translation>&amp;Überwachungsmodus</translation>
+    </message>
+    <message>
+        <source>Polling re-reads all features, not only the volatile ones</source>
+        <translation>Beim Abfragen werden alle Merkmale neu gelesen, nicht nur die veränderlichen</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>&amp;Kamera</translation>
+    </message>
+    <message>
+        <source>&amp;IP Configuration…</source>
+        <translation>&amp;IP-Konfiguration…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Show All Messages Again</source>
+        <translation>Alle Meldungen &amp;wieder zeigen</translation>
+    </message>
+    <message>
+        <source>Brings back the messages that were silenced</source>
+        <translation>Holt die Meldungen zurück, die abgestellt wurden</translation>
+    </message>
+    <message>
+        <source>&amp;About…</source>
+        <translation>Ü&amp;ber…</translation>
+    </message>
+    <message>
+        <source>&amp;Level</source>
+        <translation>&amp;Stufe</translation>
+    </message>
+    <message>
+        <source>&amp;Beginner</source>
+        <translation>&amp;Einsteiger</translation>
+    </message>
+    <message>
+        <source>&amp;Expert</source>
+        <translation>E&amp;xperte</translation>
+    </message>
+    <message>
+        <source>&amp;Guru</source>
+        <translation>&amp;Guru</translation>
+    </message>
+    <message>
+        <source>&amp;All Features</source>
+        <translation>&amp;Alle Merkmale</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 – Zelto Viewer</source>
+        <translation>%1 – Zelto Viewer</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Keine Kamera</translation>
+    </message>
+    <message>
+        <source>Zelto Viewer</source>
+        <translation>Zelto Viewer</translation>
+    </message>
+    <message>
+        <source>Open Description File</source>
+        <translation>Beschreibungsdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Camera descriptions (*.xml *.zip);;All files (*)</source>
+        <translation>Kamerabeschreibungen (*.xml *.zip);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The camera was lost: %1</source>
+        <translation>Die Verbindung zur Kamera ist abgebrochen: %1</translation>
+    </message>
+    <message>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Close Camera</source>
+        <translation>Kamera schließen</translation>
+    </message>
+    <message>
+        <source>Close the camera %1?
+Changes that were not saved to one of its user sets last until it is switched off.</source>
+        <translation>Die Kamera %1 schließen?
+Änderungen, die in keinem ihrer Benutzersätze gespeichert sind, bleiben nur bis zum Ausschalten.</translation>
+    </message>
+    <message>
+        <source>IP Configuration</source>
+        <translation>IP-Konfiguration</translation>
+    </message>
+    <message>
+        <source>The new IP configuration takes effect after the camera restarts.</source>
+        <translation>Die neue IP-Konfiguration gilt, sobald die Kamera neu gestartet ist.</translation>
+    </message>
+    <message>
+        <source>Address, mask and gateway that the camera starts with</source>
+        <translation>Adresse, Maske und Gateway, mit denen die Kamera startet</translation>
+    </message>
+    <message>
+        <source>No camera is open</source>
+        <translation>Es ist keine Kamera geöffnet</translation>
+    </message>
+    <message>
+        <source>The camera was lost</source>
+        <translation>Die Verbindung zur Kamera ist abgebrochen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s)</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s), %1 of them at a higher level</source>
+        <translation>
+            <numerusform>%n Treffer, davon %1 auf höherer Stufe</numerusform>
+            <numerusform>%n Treffer, davon %1 auf höherer Stufe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All messages are shown again.</source>
+        <translation>Alle Meldungen werden wieder gezeigt.</translation>
+    </message>
+    <message>
+        <source>About Zelto Viewer</source>
+        <translation>Über Zelto Viewer</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Zelto Viewer %1&lt;/b&gt;&lt;p&gt;Shows a camera&apos;s features in a tree, for GigE Vision and USB3 Vision cameras and for any GenICam camera description file.</source>
+        <translation>&lt;b&gt;Zelto Viewer %1&lt;/b&gt;&lt;p&gt;Zeigt die Merkmale einer Kamera als Baum, für GigE-Vision- und USB3-Vision-Kameras und für jede GenICam-Kamerabeschreibung.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n earlier message(s))</source>
+        <translation>
+            <numerusform>(%n frühere Meldung)</numerusform>
+            <numerusform>(%n frühere Meldungen)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>VisitedFeaturesPanel</name>
+    <message>
+        <source>Visited Features</source>
+        <translation>Besuchte Merkmale</translation>
+    </message>
+    <message>
+        <source>The features you visited last; a click goes back</source>
+        <translation>Die zuletzt besuchten Merkmale; ein Klick führt zurück</translation>
+    </message>
+    <message>
+        <source>This feature is not shown at the current level</source>
+        <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+</TS>

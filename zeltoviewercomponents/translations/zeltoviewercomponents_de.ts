@@ -1,0 +1,376 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AddressValidator</name>
+    <message>
+        <source>There are blanks in the address.</source>
+        <translation>Die Adresse enthält Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>There are more than four numbers.</source>
+        <translation>Das sind mehr als vier Zahlen.</translation>
+    </message>
+    <message>
+        <source>Only digits and dots are allowed.</source>
+        <translation>Nur Ziffern und Punkte sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>Write %1 without leading zeros.</source>
+        <translation>Schreiben Sie %1 ohne führende Nullen.</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 255.</source>
+        <translation>%1 ist größer als 255.</translation>
+    </message>
+    <message>
+        <source>Enter four numbers with dots between them.</source>
+        <translation>Geben Sie vier Zahlen mit Punkten dazwischen ein.</translation>
+    </message>
+</context>
+<context>
+    <name>ComboSlider</name>
+    <message>
+        <source>Range: %1..%2 (Increment: %3)</source>
+        <translation>Bereich: %1..%2 (Schrittweite: %3)</translation>
+    </message>
+    <message>
+        <source>Range: %1..%2</source>
+        <translation>Bereich: %1..%2</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleComboSlider</name>
+    <message>
+        <source>Range: %1..%2</source>
+        <translation>Bereich: %1..%2</translation>
+    </message>
+</context>
+<context>
+    <name>DoubleSpinBox</name>
+    <message>
+        <source>Range: %1..%2</source>
+        <translation>Bereich: %1..%2</translation>
+    </message>
+    <message>
+        <source>Range: %1..%2 (Increment: %3)</source>
+        <translation>Bereich: %1..%2 (Schrittweite: %3)</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeINodeItem</name>
+    <message>
+        <source>&lt;not implemented&gt;</source>
+        <translation>&lt;nicht vorhanden&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;not available&gt;</source>
+        <translation>&lt;nicht verfügbar&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; has characters outside Latin-1, which this camera cannot store.</source>
+        <translation>%1: „%2“ enthält Zeichen außerhalb von Latin-1, die diese Kamera nicht speichern kann.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeModel</name>
+    <message>
+        <source>Failed to get a feature value</source>
+        <translation>Der Wert eines Merkmals konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Failed to set a feature value.</source>
+        <translation>Der Wert eines Merkmals konnte nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Merkmal</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Failed to get the node &apos;Root&apos; from the node map</source>
+        <translation>Der Knoten „Root“ fehlt in der Knotentabelle</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Favorites&lt;/h3&gt;&lt;b&gt;This node contains a list of features selected by the user&lt;/b&gt;&lt;br&gt;&lt;br&gt;To add a feature, right-click the feature and choose &apos;Add to Favorites&apos; from the context menu. You can also use drag and drop to add features to your favorites.&lt;br&gt;Favorites can be moved up and down within the list as well as removed from the list by right-clicking an item and choosing the appropriate option from the context menu.</source>
+        <translation>&lt;h3&gt;Favoriten&lt;/h3&gt;&lt;b&gt;Dieser Zweig enthält die Merkmale, die Sie ausgewählt haben&lt;/b&gt;&lt;br&gt;&lt;br&gt;Um ein Merkmal hinzuzufügen, klicken Sie es mit der rechten Maustaste an und wählen im Kontextmenü „Zu den Favoriten hinzufügen“. Sie können Merkmale auch auf die Favoriten ziehen.&lt;br&gt;Favoriten lassen sich in der Liste nach oben und unten verschieben und daraus entfernen: Klicken Sie einen Eintrag mit der rechten Maustaste an und wählen Sie den passenden Befehl im Kontextmenü.</translation>
+    </message>
+    <message>
+        <source>Add favorites by right-clicking a feature below.</source>
+        <translation>Fügen Sie Favoriten durch Rechtsklick auf ein Merkmal hinzu.</translation>
+    </message>
+    <message>
+        <source>To add a feature, right-click the feature and choose &apos;Add to Favorites&apos; from the context menu. You can also use drag and drop to add features to your favorites.</source>
+        <translation>Um ein Merkmal hinzuzufügen, klicken Sie es mit der rechten Maustaste an und wählen im Kontextmenü „Zu den Favoriten hinzufügen“. Sie können Merkmale auch auf die Favoriten ziehen.</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3 is unavailable for the current camera)</source>
+        <translation>%1 %2 (%3 ist bei der aktuellen Kamera nicht verfügbar)</translation>
+    </message>
+    <message>
+        <source>%1 %2 (%3 are unavailable for the current camera)</source>
+        <translation>%1 %2 (%3 sind bei der aktuellen Kamera nicht verfügbar)</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeView</name>
+    <message>
+        <source>No search results found.</source>
+        <translation>Keine Treffer gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeWidget</name>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Add to Favorites</source>
+        <translation>Zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Up</source>
+        <translation>Ctrl+Up</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Ctrl+Down</source>
+        <translation>Ctrl+Down</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Polling</source>
+        <translation>Abfragen</translation>
+    </message>
+    <message>
+        <source>Search (%1)</source>
+        <translation>Suchen (%1)</translation>
+    </message>
+    <message>
+        <source>&lt;B&gt;%1 search results (%2 of them visible at higher user level)&lt;/B&gt;</source>
+        <translation>&lt;B&gt;%1 Treffer (%2 davon erst auf höherer Benutzerstufe sichtbar)&lt;/B&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTreeWidgetClass</name>
+    <message>
+        <source>FeatureTreeWidget</source>
+        <translation>Merkmalsbaum</translation>
+    </message>
+    <message>
+        <source>Show Unavailable Favorites</source>
+        <translation>Nicht verfügbare Favoriten zeigen</translation>
+    </message>
+    <message>
+        <source>P&amp;olling</source>
+        <translation>Abf&amp;ragen</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Refreshes the  feature tree</source>
+        <translation>Aktualisiert den Merkmalsbaum</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+</context>
+<context>
+    <name>FloatEditor</name>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>FloatSliderEditor</name>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>HelpLink</name>
+    <message>
+        <source>Get help</source>
+        <translation>Hilfe öffnen</translation>
+    </message>
+    <message>
+        <source>The help page could not be opened.</source>
+        <translation>Die Hilfeseite konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Copy Link Location</source>
+        <translation>Linkadresse kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>IntEditor</name>
+    <message>
+        <source>Range: 0x%1..0x%2</source>
+        <translation>Bereich: 0x%1..0x%2</translation>
+    </message>
+    <message>
+        <source>Range: %1..%2</source>
+        <translation>Bereich: %1..%2</translation>
+    </message>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>IpAddressWidget</name>
+    <message>
+        <source>IP Configuration</source>
+        <translation>IP-Konfiguration</translation>
+    </message>
+    <message>
+        <source>&amp;IP address:</source>
+        <translation>&amp;IP-Adresse:</translation>
+    </message>
+    <message>
+        <source>&amp;Subnet mask:</source>
+        <translation>&amp;Subnetzmaske:</translation>
+    </message>
+    <message>
+        <source>Default &amp;gateway:</source>
+        <translation>Standard-&amp;Gateway:</translation>
+    </message>
+    <message>
+        <source>&amp;MAC address:</source>
+        <translation>&amp;MAC-Adresse:</translation>
+    </message>
+    <message>
+        <source>Prefix length %1</source>
+        <translation>Präfixlänge %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxCheckable</name>
+    <message>
+        <source>&amp;Don&apos;t show this dialog again</source>
+        <translation>&amp;Diesen Dialog nicht mehr zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>QIpAddressValidator</name>
+    <message>
+        <source>This is the broadcast address, no device can have it.</source>
+        <translation>Das ist die Broadcast-Adresse, kein Gerät kann sie haben.</translation>
+    </message>
+    <message>
+        <source>Addresses that begin with 0 stand for no device.</source>
+        <translation>Adressen, die mit 0 beginnen, stehen für kein Gerät.</translation>
+    </message>
+    <message>
+        <source>Addresses that begin with 127 stay inside the computer.</source>
+        <translation>Adressen, die mit 127 beginnen, bleiben im Rechner.</translation>
+    </message>
+    <message>
+        <source>Addresses from 240.0.0.0 on are reserved.</source>
+        <translation>Adressen ab 240.0.0.0 sind reserviert.</translation>
+    </message>
+    <message>
+        <source>Addresses from 224.0.0.0 on are for groups of devices (multicast).</source>
+        <translation>Adressen ab 224.0.0.0 sind für Gruppen von Geräten (Multicast).</translation>
+    </message>
+</context>
+<context>
+    <name>QIpAddressWithNetmaskValidator</name>
+    <message>
+        <source>The gateway cannot be the device itself. Enter 0.0.0.0 for none.</source>
+        <translation>Das Gateway kann nicht das Gerät selbst sein. Geben Sie 0.0.0.0 für keines ein.</translation>
+    </message>
+    <message>
+        <source>The gateway is not in the device&apos;s subnet. Enter 0.0.0.0 for none.</source>
+        <translation>Das Gateway ist nicht im Subnetz des Geräts. Geben Sie 0.0.0.0 für keines ein.</translation>
+    </message>
+    <message>
+        <source>With this mask, this is the address of the network itself.</source>
+        <translation>Mit dieser Maske ist das die Adresse des Netzes selbst.</translation>
+    </message>
+    <message>
+        <source>With this mask, this is the broadcast address of the network.</source>
+        <translation>Mit dieser Maske ist das die Broadcast-Adresse des Netzes.</translation>
+    </message>
+</context>
+<context>
+    <name>QIpNetmaskValidator</name>
+    <message>
+        <source>The mask 0.0.0.0 tells no network from another.</source>
+        <translation>Die Maske 0.0.0.0 unterscheidet keine Netze.</translation>
+    </message>
+    <message>
+        <source>This is no mask: its ones must stand together, as in 255.255.255.0.</source>
+        <translation>Das ist keine Maske: Ihre Einsen müssen zusammenstehen wie bei 255.255.255.0.</translation>
+    </message>
+    <message>
+        <source>Enter a number from 1 to 32 after the slash.</source>
+        <translation>Geben Sie nach dem Schrägstrich eine Zahl von 1 bis 32 ein.</translation>
+    </message>
+    <message>
+        <source>Only a number from 1 to 32 can follow the slash.</source>
+        <translation>Auf den Schrägstrich kann nur eine Zahl von 1 bis 32 folgen.</translation>
+    </message>
+</context>
+<context>
+    <name>QMacAddressValidator</name>
+    <message>
+        <source>This address is for a group of devices (multicast).</source>
+        <translation>Diese Adresse ist für eine Gruppe von Geräten (Multicast).</translation>
+    </message>
+    <message>
+        <source>An address of nothing but zeros stands for no device.</source>
+        <translation>Eine Adresse nur aus Nullen steht für kein Gerät.</translation>
+    </message>
+    <message>
+        <source>Only the digits 0 to 9 and A to F are allowed, with colons or hyphens.</source>
+        <translation>Nur die Ziffern 0 bis 9 und A bis F sind erlaubt, mit Doppelpunkten oder Bindestrichen.</translation>
+    </message>
+    <message>
+        <source>There are more than six numbers of two digits.</source>
+        <translation>Das sind mehr als sechs zweistellige Zahlen.</translation>
+    </message>
+    <message>
+        <source>Enter six numbers of two digits, such as 00:1B:2C:3D:4E:5F.</source>
+        <translation>Geben Sie sechs zweistellige Zahlen ein, etwa 00:1B:2C:3D:4E:5F.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolButtonEditor</name>
+    <message>
+        <source>Execute</source>
+        <translation>Ausführen</translation>
+    </message>
+</context>
+</TS>
