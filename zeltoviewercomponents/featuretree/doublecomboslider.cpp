@@ -33,6 +33,7 @@ DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     m_slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     connect(m_spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
     connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
+    DoubleComboSlider::updateToolTip();
 }
 
 DoubleComboSlider::~DoubleComboSlider() = default;

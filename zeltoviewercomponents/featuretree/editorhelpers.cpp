@@ -148,6 +148,8 @@ void setUpComposite(QWidget *editor, QAbstractSpinBox *spinBox)
     editor->setFocusProxy(spinBox);
     editor->setFocusPolicy(Qt::StrongFocus);
     editor->setAutoFillBackground(true);
+    // The beginning of a number is not yet a value, and going back to it later would enter it.
+    spinBox->setKeyboardTracking(false);
     new WheelGuard(editor, spinBox);
 }
 
@@ -198,6 +200,8 @@ TypedText::TypedText(QLineEdit *lineEdit)
     : m_lineEdit(lineEdit)
     , m_text(lineEdit->text())
     , m_cursor(lineEdit->cursorPosition())
+    , m_selectionStart(lineEdit->selectionStart())
+    , m_selectionLength(lineEdit->selectionLength())
 {
 }
 
@@ -206,6 +210,9 @@ TypedText::~TypedText()
     if (m_lineEdit->text() != m_text) {
         m_lineEdit->setText(m_text);
         m_lineEdit->setCursorPosition(m_cursor);
+        if (m_selectionStart >= 0) {
+            m_lineEdit->setSelection(m_selectionStart, m_selectionLength);
+        }
     }
     m_lineEdit->setModified(true);
 }

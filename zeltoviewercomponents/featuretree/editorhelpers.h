@@ -93,7 +93,7 @@ void selectAllLater(QLineEdit *lineEdit);
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press);
 
-/*! \brief Leaves the text that is being typed into a line edit as it is while the range around it changes. */
+/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes. */
 class TypedText
 {
 public:
@@ -106,6 +106,8 @@ private:
     QLineEdit *m_lineEdit;
     QString m_text;
     int m_cursor;
+    int m_selectionStart;
+    int m_selectionLength;
 };
 
 } // namespace EditorHelpers

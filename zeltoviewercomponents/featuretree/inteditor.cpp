@@ -93,10 +93,10 @@ void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
 
 void IntEditor::showText(const QString &text)
 {
+    m_settledText = text;
     if (EditorHelpers::isBeingTyped(*this, *this)) {
         return;
     }
-    m_settledText = text;
     if (this->text() != text) {
         setText(text);
     }
