@@ -162,28 +162,37 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
     if (m_isShowing) {
         return;
     }
+    const bool hadValue = !spinBox()->hasSubstitute();
     spinBox()->setSubstitute(QString());
     const int trimmed = trimSliderValue(position);
     showPosition(trimmed);
     // The end of the slider is the limit, although the last step may fall short of it.
-    enter(EditorHelpers::withoutNoise(valueFromPosition(position == intMaximum() ? position : trimmed)));
+    const double reached = valueFromPosition(position == intMaximum() ? position : trimmed);
+    const double entered = usable(EditorHelpers::withoutNoise(reached));
+    if (!hadValue || entered != value()) {
+        enter(entered);
+    }
 }
 
 void TwoModeDoubleComboSlider::onStepTriggered(int steps)
 {
     // A position may be less than an increment away: a step changes the value all the same.
-    if (m_increment > 0.0 && value() == m_valueBeforeStep) {
+    if (value() == m_valueBeforeStep) {
         enter(value() + std::copysign(m_increment, steps));
         showPosition(positionFromValue(value()));
     }
     m_valueBeforeStep = value();
 }
 
+double TwoModeDoubleComboSlider::usable(double value) const
+{
+    return EditorHelpers::snappedToGrid(value, m_minimum, m_maximum, m_increment);
+}
+
 void TwoModeDoubleComboSlider::enter(double value)
 {
-    const double usable = EditorHelpers::snappedToGrid(value, m_minimum, m_maximum, m_increment);
     spinBox()->setRange(m_minimum, m_maximum);
-    setValue(usable);
+    setValue(usable(value));
     enableUpdate(true);
     if (EditorHelpers::lineEditOf(*spinBox())->text() != m_settledText) {
         m_isUnannounced = true;

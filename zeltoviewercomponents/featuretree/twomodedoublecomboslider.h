@@ -67,6 +67,7 @@ private slots:
 
 private:
     bool isLogarithmic() const;
+    double usable(double value) const;
     void enter(double value);
     void showPosition(int position);
 
