@@ -13,13 +13,6 @@
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleComboSlider")
 
-namespace {
-
-// What Qt asks for on Page Up and Page Down.
-constexpr int pageKeySteps = 10;
-
-} // namespace
-
 DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtDoubleSpinBox(this))
@@ -247,9 +240,9 @@ void DoubleComboSlider::updateToolTip()
 void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
 {
     m_updateExpected = true;
-    const qint64 distance = steps == pageKeySteps ? m_slider->pageStep()
-        : steps == -pageKeySteps                  ? -qint64(m_slider->pageStep())
-                                                  : qint64(steps) * m_intIncrement;
+    const qint64 distance = steps == EditorHelpers::pageKeySteps ? m_slider->pageStep()
+        : steps == -EditorHelpers::pageKeySteps                  ? -qint64(m_slider->pageStep())
+                                                                 : qint64(steps) * m_intIncrement;
     m_slider->setValue(EditorHelpers::saturated(m_slider->value() + distance));
 }
 

@@ -173,11 +173,6 @@ bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
     return owner.hasFocus() && lineEdit.isModified();
 }
 
-void selectAllLater(QLineEdit *lineEdit)
-{
-    QMetaObject::invokeMethod(lineEdit, "selectAll", Qt::QueuedConnection);
-}
-
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press)
 {

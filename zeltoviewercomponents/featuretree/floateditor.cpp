@@ -24,9 +24,6 @@ namespace {
 
 constexpr char setEditorDataName[] = "FloatEditor::setEditorData";
 
-// What Qt asks for on Page Up and Page Down.
-constexpr int pageKeySteps = 10;
-
 } // namespace
 
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
@@ -126,7 +123,7 @@ void FloatEditor::onStepTriggered(int steps)
     if (spinBox()->hasSubstitute()) {
         return;
     }
-    const bool isPage = std::abs(steps) == pageKeySteps;
+    const bool isPage = std::abs(steps) == EditorHelpers::pageKeySteps;
     const double distance = isPage ? std::copysign(spinBox()->pageStep(), steps) : stepWidth() * steps;
     if (std::isfinite(distance)) {
         commit(EditorHelpers::withoutNoise(value() + distance));

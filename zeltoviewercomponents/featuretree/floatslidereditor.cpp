@@ -103,8 +103,9 @@ void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterDa
                                                   : spinBox()->locale().toString(snapshot.value));
     if (isNumber) {
         showValue(snapshot.value);
+    } else {
+        settle();
     }
-    settle();
     m_isChanged = false;
 }
 

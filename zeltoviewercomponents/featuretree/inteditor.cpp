@@ -118,7 +118,8 @@ void IntEditor::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
     if (text() == notReadable()) {
-        EditorHelpers::selectAllLater(this);
+        // Not before the click that gave the focus is over.
+        QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
     }
 }
 
