@@ -45,7 +45,7 @@ Choice createEditor(const QSharedPointer<IParameterCollection> &collection, cons
         return {new IntEditor(parent), SIGNAL(editingFinished())};
     case ParameterType::Float:
         if (hasSlider(representation)
-            && collection->hasParameter(parameter.name() + QLatin1String("/Alias"))) {
+            && collection->hasParameter(parameter.fullName() + QLatin1String("/Alias"))) {
             return {new FloatSliderEditor(collection, parent), SIGNAL(boxValueChanged())};
         }
         return {new FloatEditor(parent, representation), SIGNAL(boxValueChanged())};

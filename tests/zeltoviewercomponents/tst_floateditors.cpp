@@ -47,6 +47,10 @@ private slots:
     void entriesFollowTheLocale();
     void stepsStayOnTheGrid();
     void refreshesLeaveTypingAlone();
+    void unfinishedTextIsNoValue_data();
+    void unfinishedTextIsNoValue();
+    void entryOfTheValueBeforeARefresh();
+    void typedTextCountsBeforeAStep();
     void leavingAndRefreshingWriteNothing();
     void oddSnapshots_data();
     void oddSnapshots();
@@ -115,6 +119,7 @@ void TestFloatEditors::pageStepsAndToolTips()
     QCOMPARE(spinBox->buttonSymbols(), QAbstractSpinBox::NoButtons);
 
     DoubleComboSlider slider(nullptr);
+    QCOMPARE(slider.toolTip(), QStringLiteral("Range: 0..99.99"));
     auto *const handle = slider.findChild<QSlider *>();
     QSignalSpy ranges(&slider, SIGNAL(rangeChanged(int, int)));
     slider.setRangeStepAndIncrement(0, 1000, 30);
@@ -141,6 +146,8 @@ void TestFloatEditors::shownTextGivesBackTheValue_data()
     QTest::newRow("a third") << 1.0 / 3.0 << automatic << QStringLiteral("0.3333333333333333");
     QTest::newRow("integral") << 5000.0 << automatic << QStringLiteral("5000");
     QTest::newRow("of a 32-bit register") << double(0.1F) << automatic << QStringLiteral("0.1");
+    QTest::newRow("whole, fits 32 bits") << 134217728.0 << automatic << QStringLiteral("134217728");
+    QTest::newRow("few digits, fits 32 bits") << 5.0009765625 << automatic << QStringLiteral("5.0009765625");
     QTest::newRow("small") << 1.5e-9 << automatic << QStringLiteral("1.5e-09");
     QTest::newRow("small and fixed") << 1.5e-9 << int(GenApi::fnFixed) << QStringLiteral("0.0000000015");
     QTest::newRow("large") << 6.02e23 << automatic << QStringLiteral("6.02e+23");
@@ -187,6 +194,9 @@ void TestFloatEditors::entriesFollowTheLocale_data()
     QTest::newRow("point in German") << german << QStringLiteral("1.5e2") << QStringList();
     QTest::newRow("groups in German") << german << QStringLiteral("1.500") << QStringList();
     QTest::newRow("unfinished exponent") << english << QStringLiteral("1e") << QStringList();
+    const QLocale swedish(QLocale::Swedish, QLocale::Sweden);
+    QTest::newRow("Swedish minus") << swedish << QString::fromUtf8("\u22121,5")
+                                   << QStringList(QStringLiteral("-1.5"));
     QTest::newRow("too large") << english << QStringLiteral("1e9") << QStringList(QStringLiteral("2000"));
     QTest::newRow("infinity") << english << QStringLiteral("inf") << QStringList();
 }
@@ -209,6 +219,13 @@ void TestFloatEditors::entriesFollowTheLocale()
     QCOMPARE(parameter->writes, writes);
     if (writes.isEmpty()) {
         QCOMPARE(line->text(), shown);
+        return;
+    }
+    while (!line->text().isEmpty()) { // what is shown can be deleted step by step
+        const auto length = line->text().size();
+        line->end(false);
+        QTest::keyClick(editor->focusProxy(), Qt::Key_Backspace);
+        QVERIFY2(line->text().size() < length, qPrintable(line->text()));
     }
 }
 
@@ -287,6 +304,94 @@ void TestFloatEditors::refreshesLeaveTypingAlone()
     }
 }
 
+void TestFloatEditors::unfinishedTextIsNoValue_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("readable");
+    for (const bool readable : {true, false}) {
+        const char *const suffix = readable ? "" : ", write-only";
+        QTest::addRow("exponent%s", suffix) << QStringLiteral("1e") << readable;
+        QTest::addRow("deleted again%s", suffix) << QStringLiteral("77\b\b") << readable;
+    }
+}
+
+void TestFloatEditors::unfinishedTextIsNoValue()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const bool, readable);
+    const auto parameter = feature(10.0, 0.0, 1000.0);
+    parameter->edit<FloatParameterData>([readable](auto &data) { data.isReadable = readable; });
+    for (QWidget *editor :
+         {static_cast<QWidget *>(floatEditor(parameter)), static_cast<QWidget *>(sliderEditor(parameter))}) {
+        showBench();
+        auto *const line = editor->findChild<QLineEdit *>();
+        const QString shown = line->text();
+        for (const bool withRefresh : {false, true}) {
+            editor->setFocus();
+            line->selectAll();
+            for (const QChar c : typed) {
+                QTest::sendKeyEvent(QTest::Click, editor->focusProxy(),
+                                    c == QLatin1Char('\b') ? Qt::Key_Backspace : Qt::Key_unknown,
+                                    c == QLatin1Char('\b') ? QString() : QString(c), Qt::NoModifier);
+            }
+            const QString entered = line->text();
+            if (withRefresh) {
+                m_bench->refresh();
+                QCoreApplication::processEvents();
+                QCOMPARE(line->text(), entered);
+                QVERIFY(!line->hasSelectedText());
+            }
+            QTest::keyClick(editor->focusProxy(), Qt::Key_Return);
+            QCOMPARE(line->text(), shown);
+            QVERIFY2(parameter->writes.isEmpty(), qPrintable(parameter->writes.join(QLatin1Char(' '))));
+        }
+    }
+}
+
+void TestFloatEditors::entryOfTheValueBeforeARefresh()
+{
+    const auto parameter = feature(10.0, 0.0, 1000.0);
+    for (const bool withSlider : {false, true}) {
+        parameter->edit<FloatParameterData>([](auto &data) { data.value = 10.0; });
+        parameter->writes.clear();
+        QWidget *const editor = withSlider ? static_cast<QWidget *>(sliderEditor(parameter))
+                                           : static_cast<QWidget *>(floatEditor(parameter));
+        showBench();
+        editor->setFocus();
+        auto *const line = editor->findChild<QLineEdit *>();
+        line->selectAll();
+        QTest::keyClicks(editor->focusProxy(), QStringLiteral("10"));
+        line->setSelection(1, 1);
+        parameter->edit<FloatParameterData>([](auto &data) {
+            data.value = 50.0;
+            data.displayNotation = GenApi::fnFixed;
+        });
+        m_bench->refresh();
+        QCOMPARE(line->text(), QStringLiteral("10"));
+        QCOMPARE(line->selectedText(), QStringLiteral("0"));
+        QTest::keyClick(editor->focusProxy(), Qt::Key_Return);
+        QCOMPARE(parameter->writes, QStringList(QStringLiteral("10")));
+        editor->setEnabled(false);
+    }
+}
+
+void TestFloatEditors::typedTextCountsBeforeAStep()
+{
+    const auto parameter = feature(10.0, 0.0, 1000.0, 5.0);
+    for (QWidget *editor :
+         {static_cast<QWidget *>(floatEditor(parameter)), static_cast<QWidget *>(sliderEditor(parameter))}) {
+        parameter->setValue(10.0);
+        parameter->writes.clear();
+        m_bench->refresh();
+        showBench();
+        editor->setFocus();
+        editor->findChild<QLineEdit *>()->selectAll();
+        QTest::keyClicks(editor->focusProxy(), QStringLiteral("300"));
+        QTest::keyClick(editor->focusProxy(), Qt::Key_Up);
+        QTRY_COMPARE(parameter->writes.join(QLatin1Char(' ')), QStringLiteral("305"));
+    }
+}
+
 void TestFloatEditors::leavingAndRefreshingWriteNothing()
 {
     const auto parameter = feature(double(0.7F), 0.0, 1.0, 0.2);
@@ -349,6 +454,14 @@ void TestFloatEditors::oddSnapshots()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     }
     QVERIFY(parameter->writes.isEmpty());
+    if (!std::isfinite(value)) {
+        // What was shown before counts as an entry all the same.
+        withSlider->setFocus();
+        withSlider->findChild<QLineEdit *>()->selectAll();
+        QTest::keyClicks(withSlider->focusProxy(), QStringLiteral("1"));
+        QTest::keyClick(withSlider->focusProxy(), Qt::Key_Return);
+        QCOMPARE(parameter->writes, QStringList(QStringLiteral("1")));
+    }
     if (!readable) {
         plain->setFocus();
         QTRY_VERIFY(plain->findChild<QLineEdit *>()->hasSelectedText());
@@ -373,6 +486,8 @@ void TestFloatEditors::positionsAreRecovered_data()
     QTest::newRow("logarithmic") << int(Mode::Logarithmic) << 10.0 << 1e6 << 10 << 100000;
     QTest::newRow("logarithmic from 0") << int(Mode::Logarithmic) << 0.0 << 1e6 << 0 << 100000;
     QTest::newRow("many decades") << int(Mode::Logarithmic) << 1e-150 << 1e150 << -50000 << 50000;
+    QTest::newRow("no upper limit") << int(Mode::Logarithmic) << 1e-5 << std::numeric_limits<double>::max()
+                                    << 0 << 100000;
     QTest::newRow("all doubles") << int(Mode::Linear) << std::numeric_limits<double>::lowest()
                                  << std::numeric_limits<double>::max() << 0 << 100000;
     QTest::newRow("32 bits, linear") << int(Mode::Linear) << 0.0 << 1.0 << -full - 1 << full;

@@ -62,6 +62,7 @@ private slots:
     void intEditorCommitsOnce();
     void intEditorUnderADelegate();
     void typingSurvivesRefreshes();
+    void entryOfTheValueBeforeARefresh();
     void hexValidator_data();
     void hexValidator();
     void sliderGridAndKeys();
@@ -419,6 +420,43 @@ void TestValueEditors::typingSurvivesRefreshes()
     }
 }
 
+void TestValueEditors::entryOfTheValueBeforeARefresh()
+{
+    const auto parameter = integer(10, 0, 1000);
+    for (const bool withSlider : {false, true}) {
+        const auto setCamera = [&](qint64 value) {
+            parameter->edit<IntegerParameterData>([value](auto &data) {
+                data.value = value;
+                data.valueString = QString::number(value);
+            });
+            m_bench->refresh();
+        };
+        setCamera(10);
+        parameter->writes.clear();
+        QWidget *const editor = withSlider
+            ? static_cast<QWidget *>(sliderEditor(parameter))
+            : m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(returnPressed()));
+        auto *const line = withSlider ? editor->findChild<QLineEdit *>() : qobject_cast<QLineEdit *>(editor);
+        showBench();
+        type(editor, QStringLiteral("10"));
+        setCamera(50);
+        QCOMPARE(line->text(), QStringLiteral("10"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(parameter->writes, QStringList(QStringLiteral("10")));
+        editor->setEnabled(false);
+    }
+
+    // Typing that was deleted again is no value.
+    auto *const editor = sliderEditor(parameter);
+    parameter->writes.clear();
+    type(editor, QStringLiteral("77"));
+    QTest::keyClick(editor->focusProxy(), Qt::Key_Backspace);
+    QTest::keyClick(editor->focusProxy(), Qt::Key_Backspace);
+    QTest::keyClick(editor->focusProxy(), Qt::Key_Return);
+    QCOMPARE(editor->findChild<QLineEdit *>()->text(), QStringLiteral("10"));
+    QVERIFY(parameter->writes.isEmpty());
+}
+
 void TestValueEditors::hexValidator_data()
 {
     QTest::addColumn<QString>("input");
@@ -549,6 +587,9 @@ void TestValueEditors::sliderFollowsTheCamera()
     LogCapture log;
     m_bench->refresh();
     QCOMPARE(log.messages(), QStringList(QStringLiteral("Non-readable slider: Number??????")));
+    IntSliderEditor untouched(nullptr);
+    untouched.setEditorData({parameter, parameter->parameterData()});
+    QVERIFY(!untouched.editorData().isValid());
 }
 
 void TestValueEditors::leavingWritesNothing()

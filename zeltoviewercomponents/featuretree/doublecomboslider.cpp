@@ -13,13 +13,6 @@
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleComboSlider")
 
-namespace {
-
-// What Qt asks for on Page Up and Page Down.
-constexpr int pageKeySteps = 10;
-
-} // namespace
-
 DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtDoubleSpinBox(this))
@@ -33,6 +26,7 @@ DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     m_slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     connect(m_spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
     connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
+    DoubleComboSlider::updateToolTip();
 }
 
 DoubleComboSlider::~DoubleComboSlider() = default;
@@ -246,9 +240,9 @@ void DoubleComboSlider::updateToolTip()
 void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
 {
     m_updateExpected = true;
-    const qint64 distance = steps == pageKeySteps ? m_slider->pageStep()
-        : steps == -pageKeySteps                  ? -qint64(m_slider->pageStep())
-                                                  : qint64(steps) * m_intIncrement;
+    const qint64 distance = steps == EditorHelpers::pageKeySteps ? m_slider->pageStep()
+        : steps == -EditorHelpers::pageKeySteps                  ? -qint64(m_slider->pageStep())
+                                                                 : qint64(steps) * m_intIncrement;
     m_slider->setValue(EditorHelpers::saturated(m_slider->value() + distance));
 }
 

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleSpinBox")
 
@@ -119,8 +120,10 @@ double DoubleSpinBox::increment() const
 
 int DoubleSpinBox::pageStep() const
 {
-    return static_cast<int>(std::clamp<double>(m_spinBox->pageStep(), std::numeric_limits<int>::min(),
-                                               std::numeric_limits<int>::max()));
+    const double step = m_spinBox->pageStep();
+    return std::isnan(step) ? 0
+                            : static_cast<int>(std::clamp<double>(step, std::numeric_limits<int>::min(),
+                                                                  std::numeric_limits<int>::max()));
 }
 
 int DoubleSpinBox::editBoxWidth() const

@@ -148,6 +148,8 @@ void setUpComposite(QWidget *editor, QAbstractSpinBox *spinBox)
     editor->setFocusProxy(spinBox);
     editor->setFocusPolicy(Qt::StrongFocus);
     editor->setAutoFillBackground(true);
+    // The beginning of a number is not yet a value, and going back to it later would enter it.
+    spinBox->setKeyboardTracking(false);
     new WheelGuard(editor, spinBox);
 }
 
@@ -169,11 +171,6 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox)
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
 {
     return owner.hasFocus() && lineEdit.isModified();
-}
-
-void selectAllLater(QLineEdit *lineEdit)
-{
-    QMetaObject::invokeMethod(lineEdit, "selectAll", Qt::QueuedConnection);
 }
 
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
@@ -198,6 +195,8 @@ TypedText::TypedText(QLineEdit *lineEdit)
     : m_lineEdit(lineEdit)
     , m_text(lineEdit->text())
     , m_cursor(lineEdit->cursorPosition())
+    , m_selectionStart(lineEdit->selectionStart())
+    , m_selectionLength(lineEdit->selectionLength())
 {
 }
 
@@ -206,6 +205,9 @@ TypedText::~TypedText()
     if (m_lineEdit->text() != m_text) {
         m_lineEdit->setText(m_text);
         m_lineEdit->setCursorPosition(m_cursor);
+        if (m_selectionStart >= 0) {
+            m_lineEdit->setSelection(m_selectionStart, m_selectionLength);
+        }
     }
     m_lineEdit->setModified(true);
 }

@@ -20,6 +20,9 @@ class QWidget;
 /*! \brief What the value editors and their controls share. */
 namespace EditorHelpers {
 
+/*! The steps that Qt asks a spin box for on Page Up and, negative, on Page Down. */
+constexpr int pageKeySteps = 10;
+
 /*! Returns \a value, limited to the signed 32-bit range of Qt's integer controls. */
 int saturated(qint64 value);
 
@@ -84,16 +87,13 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
 /*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has. */
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
 
-/*! Selects the text of \a lineEdit when the current event, such as the click that gave the focus, is over. */
-void selectAllLater(QLineEdit *lineEdit);
-
 /*! Makes the press of Escape mean "undo" and that of Return or Enter stop here, so that neither closes the
  * editor around a spin box. To be called after the spin box itself saw \a event; \a press hands it a further
  * key press. */
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press);
 
-/*! \brief Leaves the text that is being typed into a line edit as it is while the range around it changes. */
+/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes. */
 class TypedText
 {
 public:
@@ -106,6 +106,8 @@ private:
     QLineEdit *m_lineEdit;
     QString m_text;
     int m_cursor;
+    int m_selectionStart;
+    int m_selectionLength;
 };
 
 } // namespace EditorHelpers

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using namespace ParameterCollection;
 using Core::Logging::ELogLevel;
@@ -22,9 +23,6 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
 namespace {
 
 constexpr char setEditorDataName[] = "FloatEditor::setEditorData";
-
-// What Qt asks for on Page Up and Page Down.
-constexpr int pageKeySteps = 10;
 
 } // namespace
 
@@ -67,11 +65,10 @@ void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
     m_minimum = limits.minimum;
     m_maximum = limits.maximum;
     QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
+    // The value below a typed text is the camera's too: the text is compared with it when it is entered.
+    std::optional<EditorHelpers::TypedText> typed;
     if (hasFocus() && !isUpdateExspected() && lineEdit->isModified()) {
-        const EditorHelpers::TypedText typed(lineEdit);
-        setRangeStepAndIncrement(limits.minimum, limits.maximum, limits.increment);
-        updateToolTip();
-        return;
+        typed.emplace(lineEdit);
     }
     spinBox()->showFeatureValues(snapshot.displayNotation);
     initControls(limits.minimum, limits.maximum, snapshot.value, limits.increment);
@@ -126,8 +123,7 @@ void FloatEditor::onStepTriggered(int steps)
     if (spinBox()->hasSubstitute()) {
         return;
     }
-    spinBox()->interpretText();
-    const bool isPage = std::abs(steps) == pageKeySteps;
+    const bool isPage = std::abs(steps) == EditorHelpers::pageKeySteps;
     const double distance = isPage ? std::copysign(spinBox()->pageStep(), steps) : stepWidth() * steps;
     if (std::isfinite(distance)) {
         commit(EditorHelpers::withoutNoise(value() + distance));

@@ -14,6 +14,7 @@
 #include <QSlider>
 
 #include <cmath>
+#include <optional>
 #include <utility>
 
 using namespace ParameterCollection;
@@ -79,21 +80,21 @@ void FloatSliderEditor::setEditorData(EditorData data)
         m_keeper->keep(data);
         const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
         EditorHelpers::logInconsistency(logCategory(), setEditorDataName, *data.ptrParameter, snapshot);
-        showSnapshot(data.ptrParameter->name(), snapshot);
+        showSnapshot(data.ptrParameter->fullName(), snapshot);
     });
 }
 
 void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
 {
     setEnabled(EditorHelpers::canBeChanged(snapshot));
-    spinBox()->showFeatureValues(snapshot.displayNotation);
+    // The value below a typed text is the camera's too: the text is compared with it when it is entered.
+    std::optional<EditorHelpers::TypedText> typed;
     if (isBeingTyped()) {
-        const EditorHelpers::TypedText typed(EditorHelpers::lineEditOf(*spinBox()));
-        showLimits(name, snapshot);
-        return;
+        typed.emplace(EditorHelpers::lineEditOf(*spinBox()));
     }
+    spinBox()->showFeatureValues(snapshot.displayNotation);
     showLimits(name, snapshot);
-    if (isBeingEdited()) {
+    if (isBeingMoved()) {
         return;
     }
     const bool isNumber = std::isfinite(snapshot.value);
@@ -102,6 +103,8 @@ void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterDa
                                                   : spinBox()->locale().toString(snapshot.value));
     if (isNumber) {
         showValue(snapshot.value);
+    } else {
+        settle();
     }
     m_isChanged = false;
 }

@@ -93,10 +93,10 @@ void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
 
 void IntEditor::showText(const QString &text)
 {
+    m_settledText = text;
     if (EditorHelpers::isBeingTyped(*this, *this)) {
         return;
     }
-    m_settledText = text;
     if (this->text() != text) {
         setText(text);
     }
@@ -118,7 +118,8 @@ void IntEditor::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
     if (text() == notReadable()) {
-        EditorHelpers::selectAllLater(this);
+        // Not before the click that gave the focus is over.
+        QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
     }
 }
 

@@ -68,6 +68,7 @@ void IntSliderEditor::setEditorData(EditorData data)
         Core::guardedRun(site, QStringLiteral("Failed to retrieve a node's name"), [this, &parameter, &data] {
             m_keeper->keep(data);
             setEnabled(EditorHelpers::canBeChanged(*data.ptrParameterData));
+            m_settled = value();
             log(QStringLiteral("Non-readable slider: %1??????").arg(EditorHelpers::nodeName(*parameter)));
         });
         return;
@@ -87,26 +88,20 @@ void IntSliderEditor::showSnapshot(const EditorData &data)
     const int increment = EditorHelpers::saturated(snapshot.increment);
     logInconsistency(*data.ptrParameter, value, minimum, maximum);
     setEnabled(EditorHelpers::canBeChanged(snapshot));
-    const bool isTyped = EditorHelpers::isBeingTyped(*spinBox(), *EditorHelpers::lineEditOf(*spinBox()));
-    showRange(minimum, maximum, increment, isTyped);
-    if (!isTyped && !slider()->isSliderDown()) {
+    // The value below a typed text is the camera's too: the text is compared with it when it is entered.
+    std::optional<EditorHelpers::TypedText> typed;
+    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
+    if (EditorHelpers::isBeingTyped(*spinBox(), *lineEdit)) {
+        typed.emplace(lineEdit);
+    }
+    if (minimum != this->minimum() || maximum != this->maximum() || increment != singleStep()) {
+        setRangeAndStep(minimum, maximum, increment);
+    }
+    if (!slider()->isSliderDown() && (!typed || m_settled != trimValue(value))) {
         setValue(value);
         m_settled = this->value();
     }
     setPageStep(EditorHelpers::pageStep(minimum, maximum, increment));
-}
-
-void IntSliderEditor::showRange(int minimum, int maximum, int increment, bool isTyped)
-{
-    if (minimum == this->minimum() && maximum == this->maximum() && increment == singleStep()) {
-        return;
-    }
-    if (isTyped) {
-        const EditorHelpers::TypedText typed(EditorHelpers::lineEditOf(*spinBox()));
-        setRangeAndStep(minimum, maximum, increment);
-    } else {
-        setRangeAndStep(minimum, maximum, increment);
-    }
 }
 
 QVariant IntSliderEditor::editorData()

@@ -25,7 +25,6 @@ public:
 
 private:
     void showSnapshot(const EditorData &data);
-    void showRange(int minimum, int maximum, int increment, bool isTyped);
 
     EditorDataKeeper *m_keeper;
     std::optional<int> m_settled; //!< what was last shown or handed out

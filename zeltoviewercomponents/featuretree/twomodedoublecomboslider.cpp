@@ -26,6 +26,7 @@ TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     m_pause.setSingleShot(true);
     connect(&m_pause, SIGNAL(timeout()), this, SLOT(announceNow()));
     connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
+    connect(spinBox(), SIGNAL(valueChanged(double)), this, SLOT(onValueChanged(double)));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     // After the base's slot, which moves the slider.
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
@@ -93,7 +94,8 @@ double TwoModeDoubleComboSlider::valueFromPosition(int position) const
         return m_maximum;
     }
     const double part = (double(position) - intMinimum()) / distance;
-    return isLogarithmic() ? m_minimum * std::exp(part * (std::log(m_maximum) - std::log(m_minimum)))
+    // In this form no step in between is larger than the result.
+    return isLogarithmic() ? std::exp(std::log(m_minimum) * (1.0 - part) + std::log(m_maximum) * part)
                            : m_minimum * (1.0 - part) + m_maximum * part;
 }
 
@@ -118,9 +120,9 @@ bool TwoModeDoubleComboSlider::isBeingTyped() const
     return hasFocus() && !isUpdateExspected() && EditorHelpers::lineEditOf(*spinBox())->isModified();
 }
 
-bool TwoModeDoubleComboSlider::isBeingEdited() const
+bool TwoModeDoubleComboSlider::isBeingMoved() const
 {
-    return isBeingTyped() || slider()->isSliderDown() || m_isUnannounced;
+    return slider()->isSliderDown() || m_isUnannounced;
 }
 
 void TwoModeDoubleComboSlider::showPosition(int position)
@@ -132,6 +134,15 @@ void TwoModeDoubleComboSlider::showPosition(int position)
 void TwoModeDoubleComboSlider::onTextEdited()
 {
     enableUpdate(false);
+}
+
+void TwoModeDoubleComboSlider::onValueChanged(double value)
+{
+    // A step goes on from what was typed before it.
+    if (hasFocus() && !isUpdateExspected()) {
+        showPosition(positionFromValue(value));
+        m_valueBeforeStep = value;
+    }
 }
 
 void TwoModeDoubleComboSlider::onEditingFinished()
@@ -151,28 +162,37 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
     if (m_isShowing) {
         return;
     }
+    const bool hadValue = !spinBox()->hasSubstitute();
     spinBox()->setSubstitute(QString());
     const int trimmed = trimSliderValue(position);
     showPosition(trimmed);
     // The end of the slider is the limit, although the last step may fall short of it.
-    enter(EditorHelpers::withoutNoise(valueFromPosition(position == intMaximum() ? position : trimmed)));
+    const double reached = valueFromPosition(position == intMaximum() ? position : trimmed);
+    const double entered = usable(EditorHelpers::withoutNoise(reached));
+    if (!hadValue || entered != value()) {
+        enter(entered);
+    }
 }
 
 void TwoModeDoubleComboSlider::onStepTriggered(int steps)
 {
     // A position may be less than an increment away: a step changes the value all the same.
-    if (m_increment > 0.0 && value() == m_valueBeforeStep) {
+    if (value() == m_valueBeforeStep) {
         enter(value() + std::copysign(m_increment, steps));
         showPosition(positionFromValue(value()));
     }
     m_valueBeforeStep = value();
 }
 
+double TwoModeDoubleComboSlider::usable(double value) const
+{
+    return EditorHelpers::snappedToGrid(value, m_minimum, m_maximum, m_increment);
+}
+
 void TwoModeDoubleComboSlider::enter(double value)
 {
-    const double usable = EditorHelpers::snappedToGrid(value, m_minimum, m_maximum, m_increment);
     spinBox()->setRange(m_minimum, m_maximum);
-    setValue(usable);
+    setValue(usable(value));
     enableUpdate(true);
     if (EditorHelpers::lineEditOf(*spinBox())->text() != m_settledText) {
         m_isUnannounced = true;

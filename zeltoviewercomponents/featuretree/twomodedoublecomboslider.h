@@ -50,12 +50,16 @@ signals:
     void boxValueChanged();
 
 protected:
-    /*! Returns whether the user is entering a value that a refresh must not take away. */
-    bool isBeingEdited() const;
+    /*! Returns whether the user is moving the slider, or has and the change is not announced yet. */
+    bool isBeingMoved() const;
+    /*! Returns whether the user is typing a value. */
     bool isBeingTyped() const;
+    /*! Makes what is shown the base that the user's next change is compared with. */
+    void settle();
 
 private slots:
     void onTextEdited();
+    void onValueChanged(double value);
     void onEditingFinished();
     void onSliderMoved(int position);
     void onStepTriggered(int steps);
@@ -63,9 +67,9 @@ private slots:
 
 private:
     bool isLogarithmic() const;
+    double usable(double value) const;
     void enter(double value);
     void showPosition(int position);
-    void settle();
 
     ETwoModeDoubleComboSliderMode m_mode = ETwoModeDoubleComboSliderMode::Linear;
     double m_increment = 0.0;

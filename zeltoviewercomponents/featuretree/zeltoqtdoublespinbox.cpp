@@ -21,12 +21,16 @@ namespace {
 constexpr int allDecimals =
     std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
+// More than numbers have that people enter, less than a 32-bit register adds to them.
+constexpr int intendedDigits = 12;
+
 // Returns the value with only the digits that tell it from its neighbours in a 32-bit register; as it is when
-// no such register holds it.
+// no such register holds it, or when it has no noise: a whole number, or one of few digits.
 double withoutRegisterNoise(double value)
 {
     const auto held = static_cast<float>(value);
-    if (!std::isfinite(held) || static_cast<double>(held) != value) {
+    if (!std::isfinite(held) || static_cast<double>(held) != value || std::trunc(value) == value
+        || QString::number(value, 'g', intendedDigits).toDouble() == value) {
         return value;
     }
     for (int digits = std::numeric_limits<float>::digits10; digits < std::numeric_limits<float>::max_digits10;
@@ -45,8 +49,11 @@ QString shortestText(double value, char format, const QLocale &locale)
     return locale.toString(withoutRegisterNoise(value), format, QLocale::FloatingPointShortest);
 }
 
-bool isUnfinishedNumber(const QString &text, const QLocale &locale)
+bool isUnfinishedNumber(QString text, const QLocale &locale)
 {
+    text.replace(locale.negativeSign(), QLatin1String("-"));
+    text.replace(locale.positiveSign(), QLatin1String("+"));
+    text.replace(locale.exponential(), QLatin1String("e"), Qt::CaseInsensitive);
     static const QRegularExpression sign(QStringLiteral("^[+-]?$"));
     const QString point = QRegularExpression::escape(locale.decimalPoint());
     const QRegularExpression startsOfNumbers(
@@ -60,7 +67,7 @@ bool isUnfinishedNumber(const QString &text, const QLocale &locale)
 ZeltoQtDoubleSpinBox::ZeltoQtDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
-    connect(lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
+    connect(lineEdit(), SIGNAL(textChanged(QString)), this, SLOT(onTextChanged(QString)));
 }
 
 ZeltoQtDoubleSpinBox::~ZeltoQtDoubleSpinBox() = default;
@@ -89,22 +96,25 @@ void ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation)
 void ZeltoQtDoubleSpinBox::setSubstitute(const QString &text)
 {
     m_substitute = text;
+    m_isNumberTyped = false;
     const QString shown = textFromValue(value());
     if (lineEdit()->text() != shown) {
         lineEdit()->setText(shown);
     }
-    if (!text.isEmpty() && hasFocus()) {
-        EditorHelpers::selectAllLater(lineEdit());
+    if (hasFocus()) {
+        selectSubstituteLater();
     }
 }
 
 bool ZeltoQtDoubleSpinBox::hasSubstitute() const
 {
-    return !m_substitute.isEmpty();
+    return !m_substitute.isEmpty() && !m_isNumberTyped;
 }
 
 void ZeltoQtDoubleSpinBox::stepBy(int steps)
 {
+    // What is typed counts before the step.
+    interpretText();
     emit stepTriggered(steps);
 }
 
@@ -133,9 +143,7 @@ QString ZeltoQtDoubleSpinBox::numberText(double value) const
 
 double ZeltoQtDoubleSpinBox::valueFromText(const QString &text) const
 {
-    bool ok = false;
-    const double number = strictLocale().toDouble(text.trimmed(), &ok);
-    return ok ? number : value();
+    return numberFrom(text).value_or(value());
 }
 
 QValidator::State ZeltoQtDoubleSpinBox::validate(QString &text, int &) const
@@ -144,21 +152,18 @@ QValidator::State ZeltoQtDoubleSpinBox::validate(QString &text, int &) const
     if (hasSubstitute() && trimmed == m_substitute) {
         return QValidator::Acceptable;
     }
-    bool ok = false;
-    const double number = strictLocale().toDouble(trimmed, &ok);
-    if (ok && std::isfinite(number)) {
-        return number >= minimum() && number <= maximum() ? QValidator::Acceptable : QValidator::Intermediate;
+    if (const auto number = numberFrom(text)) {
+        return *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
+                                                            : QValidator::Intermediate;
     }
     return isUnfinishedNumber(trimmed, strictLocale()) ? QValidator::Intermediate : QValidator::Invalid;
 }
 
 void ZeltoQtDoubleSpinBox::fixup(QString &text) const
 {
-    bool ok = false;
-    const double number = strictLocale().toDouble(text.trimmed(), &ok);
-    if (ok && std::isfinite(number)) {
+    if (const auto number = numberFrom(text)) {
         // In full, since a text with the digits that are shown may lie beyond the limit.
-        text = strictLocale().toString(qBound(minimum(), number, maximum()), 'g', 17);
+        text = strictLocale().toString(qBound(minimum(), *number, maximum()), 'g', 17);
     }
 }
 
@@ -172,14 +177,33 @@ void ZeltoQtDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 void ZeltoQtDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
     QDoubleSpinBox::focusInEvent(event);
-    if (hasSubstitute()) {
-        EditorHelpers::selectAllLater(lineEdit());
+    selectSubstituteLater();
+}
+
+void ZeltoQtDoubleSpinBox::onTextChanged(const QString &text)
+{
+    // The beginning of a number is no reason to forget that there is no value.
+    m_isNumberTyped = numberFrom(text).has_value();
+}
+
+// Not before the click that gave the focus is over.
+void ZeltoQtDoubleSpinBox::selectSubstituteLater()
+{
+    QMetaObject::invokeMethod(this, "selectSubstitute", Qt::QueuedConnection);
+}
+
+void ZeltoQtDoubleSpinBox::selectSubstitute()
+{
+    if (hasSubstitute() && lineEdit()->text() == m_substitute) {
+        lineEdit()->selectAll();
     }
 }
 
-void ZeltoQtDoubleSpinBox::onTextEdited()
+std::optional<double> ZeltoQtDoubleSpinBox::numberFrom(const QString &text) const
 {
-    m_substitute.clear();
+    bool ok = false;
+    const double number = strictLocale().toDouble(text.trimmed(), &ok);
+    return ok && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
 }
 
 QLocale ZeltoQtDoubleSpinBox::strictLocale() const

@@ -8,6 +8,8 @@
 
 #include <QDoubleSpinBox>
 
+#include <optional>
+
 /*! \brief A spin box for doubles that reports step requests instead of stepping.
  *
  * It shows plain decimals until showFeatureValues() makes it show as many digits as a feature's values need.
@@ -28,14 +30,14 @@ public:
     /*! Shows values with the digits that identify them, in \a notation. */
     void showFeatureValues(GenApi::EDisplayNotation notation);
 
-    /*! Shows \a text instead of the value until the user types; an empty text shows the value. */
+    /*! Shows \a text instead of the value until the user types a number; an empty text shows the value. */
     void setSubstitute(const QString &text);
     bool hasSubstitute() const;
 
     /*! Returns \a value as the spin box shows numbers. */
     QString numberText(double value) const;
 
-    /*! Emits stepTriggered(); the value stays. */
+    /*! Takes over a typed text, then emits stepTriggered(). */
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
     double valueFromText(const QString &text) const override;
@@ -51,12 +53,16 @@ protected:
     StepEnabled stepEnabled() const override;
 
 private slots:
-    void onTextEdited();
+    void onTextChanged(const QString &text);
+    void selectSubstitute();
 
 private:
+    void selectSubstituteLater();
+    std::optional<double> numberFrom(const QString &text) const;
     QLocale strictLocale() const;
 
     double m_pageStep = 0.0;
     GenApi::EDisplayNotation m_notation = GenApi::UndefinedDisplayNotation;
     QString m_substitute;
+    bool m_isNumberTyped = false; //!< instead of the substitute
 };

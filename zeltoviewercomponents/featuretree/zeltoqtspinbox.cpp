@@ -23,7 +23,7 @@ void ZeltoQtSpinBox::stepBy(int steps)
 {
     if (m_pageKeyPressed) {
         m_pageKeyPressed = false;
-        steps = steps < 0 ? -m_pageStep : m_pageStep;
+        steps = steps < 0 ? EditorHelpers::wrappingDifference(0, m_pageStep) : m_pageStep;
     }
     QAbstractSpinBox::stepBy(steps);
     emit editingFinished();
