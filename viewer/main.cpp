@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int exitBadInput = 2;
+constexpr QSize gallerySize(640, 720);
 
 QStringList argumentsFrom(int argc, char **argv)
 {
@@ -107,6 +108,8 @@ int showGallery(const Options &options)
         collections.append(nodeMap.collection);
     }
     EditorGallery gallery(collections);
+    gallery.setWindowTitle(QCoreApplication::translate("main", "Value Editors – Zelto Viewer"));
+    gallery.resize(gallerySize);
     return show(gallery, options);
 }
 
