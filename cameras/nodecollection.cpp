@@ -85,12 +85,14 @@ QString NodeCollection::deviceClass() const
 
 void NodeCollection::deliver()
 {
-    // A receiver may drop the collection; the parameters of this delivery stay.
-    const auto parameters = m_parameters;
-    for (const Session::Published &published : m_session->takePublished(m_map)) {
-        if (const auto parameter = parameters.value(published.node)) {
-            emit parameter->parameterDataChangedDecoupled(published.data);
-        }
+    // One at a time, so that their order is kept even when a receiver runs an event loop.
+    const auto published = m_session->takePublished(m_map);
+    if (!published) {
+        return;
+    }
+    // A receiver may drop the collection.
+    if (const auto parameter = m_parameters.value(published->node)) {
+        emit parameter->parameterDataChangedDecoupled(published->data);
     }
 }
 

@@ -184,7 +184,6 @@ void Session::work()
         if (!m_calls.empty()) {
             const std::shared_ptr<Call> call = m_calls.front();
             m_calls.pop_front();
-            call->isBegun = true;
             lock.unlock();
             carryOut(call);
             lock.lock();
@@ -295,15 +294,13 @@ void Session::publish(int mapIndex, int node)
     if (!map.listener) {
         return;
     }
-    map.published.append({node, map.nodes[size_t(node)].shown});
-    if (map.published.size() == 1) {
-        QMetaObject::invokeMethod(map.listener, "deliver", Qt::QueuedConnection);
-    }
+    map.published.push_back({node, map.nodes[size_t(node)].shown});
+    QMetaObject::invokeMethod(map.listener, "deliver", Qt::QueuedConnection);
 }
 
 void Session::write(int map, int node, const NodeValue &value)
 {
-    auto call = std::make_shared<Call>(Call{map, node, value, false, false, nullptr});
+    auto call = std::make_shared<Call>(Call{map, node, value, false, nullptr});
     const QString name = description(map)->name(node);
     Lock lock(m_mutex);
     if (m_isLost) {
@@ -403,10 +400,16 @@ void Session::setListener(int map, QObject *listener)
     m_maps[size_t(map)]->published.clear();
 }
 
-QList<Session::Published> Session::takePublished(int map)
+std::optional<Session::Published> Session::takePublished(int map)
 {
     const Lock lock(m_mutex);
-    return std::exchange(m_maps[size_t(map)]->published, {});
+    std::deque<Published> &published = m_maps[size_t(map)]->published;
+    if (published.empty()) {
+        return std::nullopt;
+    }
+    const Published oldest = published.front();
+    published.pop_front();
+    return oldest;
 }
 
 void Session::setLossListener(QObject *listener)

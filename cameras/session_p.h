@@ -89,9 +89,11 @@ public:
     void refresh(int map);
     void poll(int map, int elapsedMilliseconds);
 
-    /*! Names the object whose slot deliver() is invoked when takePublished() has something to give. */
+    /*! Names the object whose slot deliver() is invoked for each snapshot that takePublished() has to give.
+     */
     void setListener(int map, QObject *listener);
-    QList<Published> takePublished(int map);
+    /*! Returns the oldest snapshot that was not taken yet. */
+    std::optional<Published> takePublished(int map);
 
     /*! Names the object whose slot reportLoss(QString) is invoked when the camera has gone. */
     void setLossListener(QObject *listener);
@@ -123,7 +125,7 @@ private:
         std::unique_ptr<Engine> engine;
         std::vector<NodeState> nodes;
         QObject *listener = nullptr;
-        QList<Published> published;
+        std::deque<Published> published;
         int pollsUnderWay = 0;
     };
 
@@ -132,7 +134,6 @@ private:
         int map;
         int node;
         NodeValue value;
-        bool isBegun = false;
         bool isDone = false;
         std::exception_ptr failure;
     };
@@ -152,7 +153,6 @@ private:
     void carryOutWrite(int map, int node, const NodeValue &value);
     void readNow(int map, int node, bool force);
     void enqueue(int map, int node, bool force, bool first = false);
-    void dropReads();
     void show(NodeState &state) const;
     void publish(int map, int node);
     void loseLocked(const QString &reason);
