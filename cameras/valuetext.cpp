@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -26,17 +27,26 @@ QString joinedBytes(quint64 value, int count, int base, int width, QChar separat
     return parts.join(separator);
 }
 
+bool isDigits(const QString &text, int base)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [base](QChar digit) {
+        const bool isDecimal = digit >= QLatin1Char('0') && digit <= QLatin1Char('9');
+        const QChar lower = digit.toLower();
+        return isDecimal || (base == 16 && lower >= QLatin1Char('a') && lower <= QLatin1Char('f'));
+    });
+}
+
 std::optional<qint64> fromBytes(const QString &text, QChar separator, int count, int base)
 {
     const QStringList parts = text.split(separator);
     if (parts.size() != count) {
         return std::nullopt;
     }
+    const int longest = base == 16 ? 2 : 3;
     quint64 value = 0;
     for (const QString &part : parts) {
-        bool ok = false;
-        const uint byte = part.toUInt(&ok, base);
-        if (!ok || byte > 0xff || part.size() > 3) {
+        const uint byte = part.toUInt(nullptr, base);
+        if (!isDigits(part, base) || part.size() > longest || byte > 0xff) {
             return std::nullopt;
         }
         value = (value << 8) | byte;
@@ -86,8 +96,9 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
     const QString trimmed = text.trimmed();
     bool ok = false;
     if (trimmed.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
-        const quint64 value = trimmed.mid(2).toULongLong(&ok, 16);
-        return ok ? std::optional(qint64(value)) : std::nullopt;
+        const QString digits = trimmed.mid(2);
+        const quint64 value = digits.toULongLong(&ok, 16);
+        return ok && isDigits(digits, 16) ? std::optional(qint64(value)) : std::nullopt;
     }
     if (representation == QLatin1String("IPV4Address") && trimmed.contains(QLatin1Char('.'))) {
         return fromBytes(trimmed, QLatin1Char('.'), 4, 10);
