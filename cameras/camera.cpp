@@ -65,8 +65,13 @@ NodeMapSource simulatedMap(const QString &name, const QString &title, const QByt
 
 QByteArray fileContents(const QString &fileName)
 {
-    if (QFileInfo(fileName).isDir()) {
+    const QFileInfo entry(fileName);
+    if (entry.isDir()) {
         throw BaseException(Camera::tr("it is a directory"));
+    }
+    if (entry.exists() && !entry.isFile()) {
+        // Reading a pipe or a device might never end.
+        throw BaseException(Camera::tr("it is no regular file"));
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
