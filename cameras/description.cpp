@@ -26,21 +26,35 @@ QString tr(const char *text)
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)
 {
-    static const QStringView dropped[] = {u"Value",     u"Address",     u"Length",       u"Formula",
-                                          u"FormulaTo", u"FormulaFrom", u"Expression",   u"Constant",
-                                          u"LSB",       u"MSB",         u"Bit",          u"Sign",
-                                          u"Endianess", u"Endianness",  u"ValueIndexed", u"ValueDefault",
-                                          u"Extension", u"AccessMode",  u"Slope"};
+    static const QStringView dropped[] = {
+        u"Value",      u"Address",      u"Formula",      u"FormulaTo", u"FormulaFrom", u"Expression",
+        u"Constant",   u"LSB",          u"MSB",          u"Bit",       u"Sign",        u"Endianess",
+        u"Endianness", u"ValueIndexed", u"ValueDefault", u"Extension", u"AccessMode",  u"Slope"};
     return std::find(std::begin(dropped), std::end(dropped), tag) == std::end(dropped);
+}
+
+// Returns where the edges lead to from the nodes, which come first.
+std::vector<int> reached(std::vector<int> nodes, const std::vector<std::vector<int>> &edges)
+{
+    std::vector<char> isReached(edges.size(), 0);
+    for (const int node : nodes) {
+        isReached[node] = 1;
+    }
+    for (size_t i = 0; i < nodes.size(); ++i) {
+        for (const int next : edges[nodes[i]]) {
+            if (!isReached[next]) {
+                isReached[next] = 1;
+                nodes.push_back(next);
+            }
+        }
+    }
+    return nodes;
 }
 
 } // namespace
 
 Description::Description(const QByteArray &xml)
 {
-    if (xml.contains("<!DOCTYPE")) {
-        throw Core::Exception::BaseException(tr("document type declarations are not allowed"));
-    }
     m_nodes.reserve(xml.size() / 250);
     QXmlStreamReader reader(xml);
     readDocument(reader);
@@ -110,10 +124,12 @@ int Description::intern(const QString &name)
 
 void Description::readDocument(QXmlStreamReader &xml)
 {
-    if (!xml.readNextStartElement()) {
-        if (!xml.hasError()) {
-            xml.raiseError(tr("there is no element"));
+    while (!xml.atEnd() && !xml.isStartElement()) {
+        if (xml.readNext() == QXmlStreamReader::DTD) {
+            xml.raiseError(tr("document type declarations are not allowed"));
         }
+    }
+    if (xml.hasError()) {
         return;
     }
     if (xml.name() != QLatin1String("RegisterDescription")) {
@@ -165,7 +181,14 @@ void Description::readNode(QXmlStreamReader &xml, const QString &name, int owner
         m_nodes[owner].links.push_back({LinkKind::Related, node});
     }
     while (xml.readNextStartElement()) {
-        readNodeElement(xml, node);
+        const bool isEntry =
+            xml.name() == QLatin1String("EnumEntry") || xml.name() == QLatin1String("StructEntry");
+        if (isEntry && owner >= 0) {
+            // Entries have no entries.
+            xml.skipCurrentElement();
+        } else {
+            readNodeElement(xml, node);
+        }
     }
 }
 
@@ -191,6 +214,7 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
             xml.skipCurrentElement();
             return;
         }
+        m_nodes[node].hasLinkedLength = m_nodes[node].hasLinkedLength || tag == QLatin1String("pLength");
         const int target = intern(xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed());
         m_nodes[node].links.push_back({kind, target});
         return;
@@ -258,32 +282,57 @@ void Description::collectDependencies()
     }
 }
 
-// Limits and access modes may lead into a circle, too: who depends on a broken node is broken.
-void Description::collectBroken()
+// Who evaluates a node comes to grief with it, be it for a limit or an access mode alone.
+std::vector<std::vector<int>> Description::evaluators() const
 {
-    m_isBroken.assign(m_nodes.size(), 0);
-    std::vector<char> state(m_nodes.size(), 0);
-    std::vector<std::vector<int>> evaluators(m_nodes.size());
-    std::vector<int> broken;
+    std::vector<std::vector<int>> found(m_nodes.size());
     for (int node = 0; node < nodeCount(); ++node) {
         for (const Link &link : m_nodes[node].links) {
             if (link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated
                 || link.kind == LinkKind::Related) {
-                evaluators[link.target].push_back(node);
+                found[link.target].push_back(node);
             }
         }
+    }
+    return found;
+}
+
+void Description::collectBroken()
+{
+    const auto edges = evaluators();
+    m_sizedRegisters.resize(m_nodes.size());
+    for (int node = 0; node < nodeCount(); ++node) {
+        if (m_nodes[node].hasLinkedLength) {
+            for (const int reader : reached({node}, edges)) {
+                m_sizedRegisters[reader].append(node);
+            }
+        }
+    }
+    m_isBroken.assign(m_nodes.size(), 0);
+    std::vector<char> state(m_nodes.size(), 0);
+    std::vector<int> broken;
+    for (int node = 0; node < nodeCount(); ++node) {
         if (findCircle(node, state, 0)) {
             broken.push_back(node);
         }
     }
-    for (size_t i = 0; i < broken.size(); ++i) {
-        for (const int evaluator : evaluators[broken[i]]) {
-            if (!m_isBroken[evaluator]) {
-                m_isBroken[evaluator] = 1;
-                broken.push_back(evaluator);
-            }
+    for (const int node : reached(std::move(broken), edges)) {
+        m_isBroken[node] = 1;
+    }
+}
+
+// The engine allocates what a length says, and ends the program when it cannot.
+bool Description::hasBadLength(int node) const
+{
+    for (const auto &[key, text] : m_nodes[node].properties) {
+        bool ok = true;
+        const qint64 length = key == QLatin1String("Length") ? text.toLongLong(&ok, 0) : 0;
+        if (!ok || length < 0 || length > largestRegister) {
+            return true;
         }
     }
+    // Nobody could tell which of two lengths to look at first.
+    return m_nodes[node].hasLinkedLength && m_sizedRegisters[node].size() > 1;
 }
 
 bool Description::findCircle(int node, std::vector<char> &state, int depth)
@@ -296,7 +345,7 @@ bool Description::findCircle(int node, std::vector<char> &state, int depth)
         return true;
     }
     state[node] = OnPath;
-    bool found = false;
+    bool found = hasBadLength(node);
     for (const Link &link : m_nodes[node].links) {
         const bool isEvaluated = link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated;
         if (isEvaluated && (!m_nodes[link.target].isDefined || findCircle(link.target, state, depth + 1))) {
@@ -438,20 +487,8 @@ QList<int> Description::dependents(int node) const
 
 QList<int> Description::closure(std::vector<int> changed, int without) const
 {
-    std::vector<char> isChanged(m_nodes.size(), 0);
-    for (const int node : changed) {
-        isChanged[node] = 1;
-    }
-    for (size_t i = 0; i < changed.size(); ++i) {
-        for (const int reader : m_readers[changed[i]]) {
-            if (!isChanged[reader]) {
-                isChanged[reader] = 1;
-                changed.push_back(reader);
-            }
-        }
-    }
     QList<int> found;
-    for (const int node : changed) {
+    for (const int node : reached(std::move(changed), m_readers)) {
         if (node != without && m_isPublished[node]) {
             found.append(node);
         }
@@ -462,6 +499,11 @@ QList<int> Description::closure(std::vector<int> changed, int without) const
 int Description::pollingTime(int node) const
 {
     return m_pollingTimes[node];
+}
+
+const QList<int> &Description::sizedRegisters(int node) const
+{
+    return m_sizedRegisters[node];
 }
 
 bool Description::isBroken(int node) const

@@ -17,6 +17,9 @@ class QXmlStreamReader;
 
 namespace Cameras {
 
+/*! In bytes; no camera has one of that size. */
+constexpr qint64 largestRegister = 16 * 1024 * 1024;
+
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *
  * It complements the engine, which evaluates values, formulas and access modes but hands out neither all
@@ -58,7 +61,10 @@ public:
     QList<int> dependents(int node) const;
     /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */
     int pollingTime(int node) const;
-    /*! Returns whether evaluating \a node leads into a circle of links or to a node that is missing. */
+    /*! Returns the registers behind \a node whose length is the value of another node. */
+    const QList<int> &sizedRegisters(int node) const;
+    /*! Returns whether evaluating \a node leads into a circle of links, to a node that is missing or to a
+     * register of an impossible length. */
     bool isBroken(int node) const;
 
 private:
@@ -76,6 +82,7 @@ private:
         std::vector<std::pair<QString, QString>> properties;
         std::vector<Link> links;
         bool isDefined = false;
+        bool hasLinkedLength = false;
     };
 
     static LinkKind linkKind(QStringView tag);
@@ -87,6 +94,8 @@ private:
     void collectFeatures();
     void dropCategoryLoops(int category, std::vector<char> &onPath);
     void collectDependencies();
+    std::vector<std::vector<int>> evaluators() const;
+    bool hasBadLength(int node) const;
     void collectBroken();
     void collectPollingTimes();
     bool findCircle(int node, std::vector<char> &state, int depth);
@@ -101,6 +110,7 @@ private:
     std::vector<char> m_isPublished;
     std::vector<char> m_isFeature;
     std::vector<char> m_isBroken;
+    std::vector<QList<int>> m_sizedRegisters;
     std::vector<int> m_pollingTimes;
     std::vector<std::vector<int>> m_readers; //!< of each node, those that are affected by it
 };

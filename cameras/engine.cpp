@@ -233,7 +233,7 @@ Engine::Reading Engine::read(int node)
     data.visibility = visibilityOf(found);
     data.isCacheable =
         m_description->inheritedProperty(node, QStringLiteral("Cachable")) != QLatin1String("NoCache");
-    reading.access = m_description->isBroken(node) ? GenApi::NA : readAccess(node);
+    reading.access = isEvaluable(node) ? readAccess(node) : GenApi::NA;
     data.isImplemented = reading.access != GenApi::NI;
     data.isReadable = reading.access == GenApi::RO || reading.access == GenApi::RW;
     data.isWritable = reading.access == GenApi::WO || reading.access == GenApi::RW;
@@ -241,6 +241,10 @@ Engine::Reading Engine::read(int node)
         return reading;
     }
     readLimits(node, data);
+    if (!m_lossReason.isEmpty()) {
+        // Every further access would wait for an answer again.
+        return reading;
+    }
     if (data.type == ParameterType::Command) {
         static_cast<CommandParameterData &>(data).isDone = readCommandDone(node);
         data.isReadable = false;
@@ -251,6 +255,19 @@ Engine::Reading Engine::read(int node)
         data.valueString.clear();
     }
     return reading;
+}
+
+bool Engine::isEvaluable(int node)
+{
+    const QList<int> &sized = m_description->sizedRegisters(node);
+    return !m_description->isBroken(node) && std::all_of(sized.begin(), sized.end(), [this](int sizedNode) {
+        ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
+                                           m_description->name(sizedNode).toUtf8().constData());
+        Failure failure(this);
+        const bool isSane = !ARV_IS_GC_REGISTER(found)
+            || arv_gc_register_get_length(ARV_GC_REGISTER(found), failure) <= guint64(largestRegister);
+        return !failure.take() && isSane;
+    });
 }
 
 GenApi::EAccessMode Engine::readAccess(int node)
@@ -458,8 +475,7 @@ void Engine::write(int node, const NodeValue &value)
 {
     const QString name = m_description->name(node);
     const auto *command = std::get_if<ExecuteCommand>(&value);
-    const GenApi::EAccessMode access =
-        m_nodes[node] && !m_description->isBroken(node) ? readAccess(node) : GenApi::NI;
+    const GenApi::EAccessMode access = m_nodes[node] && isEvaluable(node) ? readAccess(node) : GenApi::NI;
     if (!m_lossReason.isEmpty()) {
         throw GenICam::TimeoutException(name + QLatin1String(": ") + m_lossReason);
     }
@@ -562,6 +578,10 @@ void Engine::writeString(int node, const QString &text)
 {
     ArvGcString *string = ARV_GC_STRING(m_nodes[node]);
     const QByteArray bytes = text.toUtf8();
+    if (bytes.contains('\0')) {
+        // It would end the text, and the message, too.
+        refuse(node, QString(text).replace(QChar(0), QChar(0x2400)), tr("no null characters"));
+    }
     Failure failure(this);
     const gint64 longest = arv_gc_string_get_max_length(string, failure);
     if (!failure.take() && longest > 0 && bytes.size() > longest) {

@@ -63,6 +63,7 @@ public:
 private:
     class Failure;
 
+    bool isEvaluable(int node);
     GenApi::EAccessMode readAccess(int node);
     void readLimits(int node, ParameterCollection::ParameterData &data);
     void readIntegerLimits(int node, ParameterCollection::IntegerParameterData &data);

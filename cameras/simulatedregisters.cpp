@@ -3,6 +3,8 @@
 
 #include "simulatedregisters_p.h"
 
+#include "description_p.h"
+
 #include <platform/core/exception.h>
 
 #include <QList>
@@ -20,7 +22,6 @@ namespace Cameras {
 namespace {
 
 constexpr quint64 pageSize = 1024;
-constexpr quint32 largestRegister = 16 * 1024 * 1024;
 constexpr double driftPeriod = 20e9; // nanoseconds
 constexpr double driftSteps = 100.0; // of a unit: as fine as a sensor tells
 

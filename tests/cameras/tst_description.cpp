@@ -7,6 +7,7 @@
 #include <platform/core/exception.h>
 #include <platform/parametercollection/iparameter.h>
 
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -52,7 +53,8 @@ private slots:
     void refusesBrokenFiles();
     void oneBadFeatureLeavesTheTree();
     void circlesAreUnreadable();
-    void endlessCategoriesAreCut();
+    void impossibleLengthsAreUnreadable();
+    void endlessNestingIsCut();
     void dependentsFollowTheLinks();
     void valuesLiveOnRegisters();
     void singlePrecisionIsShownAsItWasMeant();
@@ -86,6 +88,14 @@ void TestDescription::refusesBrokenFiles_data()
                              << QStringLiteral("\"Root\"");
     QTest::newRow("entities") << QByteArray("<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>") + good
                               << QStringLiteral("document type");
+    const QString wide = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE a>\n")
+        + QString::fromUtf8(good.mid(good.indexOf("<RegisterDescription")));
+    QTest::newRow("entities in UTF-16")
+        << QStringEncoder(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom)
+               .encode(wide)
+               .
+               operator QByteArray()
+        << QStringLiteral("document type");
     QTest::newRow("broken archive") << QByteArray("PK\3\4 and nothing else") << QStringLiteral("archive");
 }
 
@@ -94,7 +104,8 @@ void TestDescription::refusesBrokenFiles()
     QFETCH(QByteArray, contents);
     QFETCH(QString, reason);
     const QString fileName = saved(contents);
-    for (const QString &name : {fileName, m_directory.path(), QStringLiteral("/no/such/file.xml")}) {
+    for (const QString &name :
+         {fileName, m_directory.path(), QStringLiteral("/no/such/file.xml"), QStringLiteral("/dev/zero")}) {
         try {
             Camera::openDescription(name);
             QFAIL("opened");
@@ -149,7 +160,44 @@ void TestDescription::circlesAreUnreadable()
     QVERIFY(collection->parameter(QStringLiteral("Good"))->parameterData()->isReadable);
 }
 
-void TestDescription::endlessCategoriesAreCut()
+// The engine would end the program over such an allocation.
+void TestDescription::impossibleLengthsAreUnreadable()
+{
+    const auto text = [](const char *name, const QByteArray &length) {
+        return QByteArray("<StringReg Name=\"") + name + "\"><Address>0x20</Address>" + length
+            + "<AccessMode>RW</AccessMode><pPort>Device</pPort></StringReg>";
+    };
+    const auto camera = Camera::openDescription(saved(description(
+        root("Negative Huge Sized Size User Chained") + text("Negative", "<Length>-5</Length>")
+        + text("Huge", "<Length>0x5af3107a3fff</Length>") + text("Sized", "<pLength>Size</pLength>")
+        + "<Integer Name=\"Size\"><pValue>SizeRegister</pValue></Integer>"
+          "<String Name=\"User\"><pValue>Sized</pValue></String>"
+          "<IntReg Name=\"Chained\"><Address>0x80</Address><pLength>Sizing</pLength>"
+          "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
+          "<IntReg Name=\"Sizing\"><Address>0x80</Address><pLength>Size</pLength>"
+          "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
+        + integerRegister("SizeRegister", "0x10"))));
+    const auto collection = camera->nodeMaps().first().collection;
+    const auto parameter = [&collection](const char *name) {
+        return collection->parameter(QString::fromLatin1(name));
+    };
+    const auto isReadable = [&parameter](const char *name) {
+        return parameter(name)->parameterData()->isReadable;
+    };
+    QVERIFY(!isReadable("Negative"));
+    QVERIFY(!isReadable("Huge"));
+    QVERIFY(!isReadable("Chained"));
+    parameter("Size")->setValueFromString(QStringLiteral("8"));
+    QTRY_VERIFY(isReadable("Sized") && isReadable("User"));
+    parameter("User")->setValueFromString(QStringLiteral("abc"));
+    QCOMPARE(parameter("User")->parameterData()->valueString, QStringLiteral("abc"));
+    parameter("Size")->setValueFromString(QStringLiteral("4294967295"));
+    QTRY_VERIFY(!isReadable("Sized") && !isReadable("User"));
+    QVERIFY_EXCEPTION_THROWN(parameter("User")->setValueFromString(QStringLiteral("abc")), std::exception);
+    QVERIFY(isReadable("Size"));
+}
+
+void TestDescription::endlessNestingIsCut()
 {
     const Description parsed(description(
         root("Outer")
@@ -160,6 +208,11 @@ void TestDescription::endlessCategoriesAreCut()
     const int value = parsed.indexOf(QStringLiteral("Value"));
     QCOMPARE(parsed.children(inner), QList<int>({value}));
     QCOMPARE(parsed.children(parsed.indexOf(QStringLiteral("Outer"))), QList<int>({inner, value}));
+
+    const auto camera = Camera::openDescription(saved(description(
+        root("A") + "<Enumeration Name=\"A\">" + QByteArray("<EnumEntry Name=\"E\">").repeated(50000)
+        + QByteArray("</EnumEntry>").repeated(50000) + "</Enumeration>")));
+    QVERIFY(camera->nodeMaps().first().collection->hasParameter(QStringLiteral("A")));
 }
 
 void TestDescription::dependentsFollowTheLinks()

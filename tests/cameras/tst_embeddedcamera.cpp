@@ -56,6 +56,7 @@ private slots:
     void writeReadsExactlyWhatDependsOnIt();
     void selectorChangesWhatItSelects();
     void publishingRules();
+    void orderIsKeptWhenAReceiverRunsAnEventLoop();
     void pollHonoursPollingTimes();
     void pollIsDroppedWhileOneRuns();
     void commandTakesItsTime();
@@ -237,6 +238,10 @@ void TestEmbeddedCamera::writesText_data()
     row(1, "GevPersistentIPAddress", "10.1.2.255", "10.1.2.255");
     row(1, "GevPersistentIPAddress", "0x0A000001", "10.0.0.1");
     row(1, "GevPersistentIPAddress", "4294967295", "255.255.255.255");
+    row(1, "GevPersistentIPAddress", "0xa.1.2.3", "");
+    row(1, "GevPersistentIPAddress", "10.1.2.+3", "");
+    row(1, "GevPersistentIPAddress", "10.1. 2.3", "");
+    row(1, "GevPersistentIPAddress", "10.1.2", "");
     row(0, "ExposureTime", "0x10", "");
     row(0, "ExposureTime", "1e3", "1000");
     row(0, "ExposureTime", "20.5", "20.5");
@@ -283,6 +288,8 @@ void TestEmbeddedCamera::refusesText_data()
     row("Width", "641", "multiple of 8");
     row("Width", "99999999999999999999", "an integer");
     row("UserOutputValueAll", "0x1ff", "0x0 to 0xff");
+    row("Width", "0x0x280", "an integer");
+    row("Width", "0x 280", "an integer");
     row("ExposureTime", "1,5", "a number");
     row("ExposureTime", "nan", "a number");
     row("ExposureTime", "5", "10 to 10000000");
@@ -318,6 +325,9 @@ void TestEmbeddedCamera::typedWrites()
     QCOMPARE(text("TestPattern"), QStringLiteral("Black"));
     const auto width = qSharedPointerObjectCast<IIntegerParameter>(parameter("Width"));
     QVERIFY_EXCEPTION_THROWN(width->setValue(1), GenICam::OutOfRangeException);
+    const QString failure =
+        failureOf(*parameter("DeviceUserID"), QStringLiteral("a") + QChar(0) + QLatin1Char('b'));
+    QVERIFY2(failure.contains(QLatin1String("no null characters")), qPrintable(failure));
 }
 
 void TestEmbeddedCamera::aliasFollowsItsFeature()
@@ -388,6 +398,24 @@ void TestEmbeddedCamera::publishingRules()
     QVERIFY(!failureOf(*gamma, QStringLiteral("-1")).isEmpty());
     settle();
     QCOMPARE(spy.size(), 3);
+}
+
+void TestEmbeddedCamera::orderIsKeptWhenAReceiverRunsAnEventLoop()
+{
+    const auto gamma = parameter("Gamma");
+    const auto width = parameter("Width");
+    QStringList seen;
+    connect(gamma.data(), &IParameter::parameterDataChangedDecoupled, this,
+            [&seen](const ParameterDataPtr &data) { seen.append(data->valueString); });
+    const auto connection = connect(width.data(), &IParameter::parameterDataChangedDecoupled, this, [this] {
+        write("Gamma", QStringLiteral("3"));
+        settle();
+    });
+    write("Width", text("Width"));
+    write("Gamma", QStringLiteral("2"));
+    settle();
+    disconnect(connection);
+    QCOMPARE(seen, QStringList({QStringLiteral("2"), QStringLiteral("3")}));
 }
 
 void TestEmbeddedCamera::pollHonoursPollingTimes()
