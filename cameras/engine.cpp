@@ -373,9 +373,15 @@ bool Engine::readValue(int node, ParameterData &data)
         typed.valueString = typed.value ? QStringLiteral("true") : QStringLiteral("false");
         return !failure.take();
     }
-    case ParameterType::String:
-        data.valueString = QString::fromUtf8(arv_gc_string_get_value(ARV_GC_STRING(m_nodes[node]), failure));
-        return !failure.take();
+    case ParameterType::String: {
+        const char *text = arv_gc_string_get_value(ARV_GC_STRING(m_nodes[node]), failure);
+        if (failure.take()) {
+            // The engine hands out its buffer as it was, without an end.
+            return false;
+        }
+        data.valueString = QString::fromUtf8(text);
+        return true;
+    }
     case ParameterType::Category:
         return true;
     default:

@@ -121,7 +121,7 @@ void TestDescription::refusesBrokenFiles()
 void TestDescription::oneBadFeatureLeavesTheTree()
 {
     const auto camera = Camera::openDescription(saved(
-        description(root("NoEntry Ratio Lost Good Nobody")
+        description(root("NoEntry Ratio Lost Good Portless Nobody")
                     + "<Enumeration Name=\"NoEntry\"><EnumEntry Name=\"One\"><Value>1</Value></EnumEntry>"
                       "<pValue>Zero</pValue></Enumeration>"
                       "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
@@ -129,11 +129,13 @@ void TestDescription::oneBadFeatureLeavesTheTree()
                       "N</Formula></SwissKnife>"
                       "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
                       "<Integer Name=\"Good\"><pInvalidator>Lost</pInvalidator><Value>7</Value></Integer>"
+                    + "<StringReg Name=\"Portless\"><Address>0x20</Address><Length>4</Length></StringReg>"
                     + integerRegister("Zero", "0x10"))));
     const auto collection = camera->nodeMaps().first().collection;
     QCOMPARE(collection->childNames(QStringLiteral("Root"), 0, false),
              QStringList({QStringLiteral("NoEntry"), QStringLiteral("Ratio"), QStringLiteral("Lost"),
-                          QStringLiteral("Good")}));
+                          QStringLiteral("Good"), QStringLiteral("Portless")}));
+    QVERIFY(!collection->parameter(QStringLiteral("Portless"))->parameterData()->isReadable);
     QVERIFY(!collection->parameter(QStringLiteral("NoEntry"))->parameterData()->isReadable);
     QVERIFY(!collection->parameter(QStringLiteral("Lost"))->parameterData()->isReadable);
     const auto good = collection->parameter(QStringLiteral("Good"));

@@ -251,6 +251,7 @@ void TestEmbeddedCamera::writesText_data()
     row(0, "ReverseX", "1", "true");
     row(0, "PixelFormat", "Mono12", "Mono12");
     row(0, "DeviceUserID", "Prüfstand 7", "Prüfstand 7");
+    row(0, "DeviceUserID", "exactly as long as the register.", "exactly as long as the register.");
 }
 
 void TestEmbeddedCamera::writesText()
