@@ -249,6 +249,7 @@ private slots:
     void tabWalksEditors();
     void keysEditTheValueColumn_data();
     void keysEditTheValueColumn();
+    void unusedKeysSearchRows();
     void wheelScrollsTheTree();
     void escapeTwiceClearsTheSearch();
     void shortcutsReachTheSearchBox();
@@ -678,6 +679,21 @@ void TestFeatureTreeWidget::keysEditTheValueColumn()
     }
     bench.settle();
     QCOMPARE(bench.node(name)->writes, QStringList(written));
+}
+
+void TestFeatureTreeWidget::unusedKeysSearchRows()
+{
+    TreeBench bench;
+    bench.click(bench.row(QStringLiteral("ReverseX")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_G); // nothing that a box could do
+    QCOMPARE(bench.view()->currentIndex().siblingAtColumn(0), bench.row(QStringLiteral("Gain")));
+    QVERIFY(bench.view()->hasFocus());
+    // Nor can an editor that is out of sight.
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("ReverseX")));
+    bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"))->hide();
+    QTest::keyClick(bench.view(), Qt::Key_Space);
+    QCOMPARE(bench.node(QStringLiteral("ReverseX"))->writes, QStringList());
 }
 
 void TestFeatureTreeWidget::wheelScrollsTheTree()

@@ -91,6 +91,7 @@ void FeatureTreeView::createModel()
         this, SLOT(onLayoutAboutToChange()));
     connect(proxy, SIGNAL(layoutChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
             this, SLOT(onLayoutChanged()));
+    connect(proxy, SIGNAL(modelAboutToBeReset()), this, SLOT(abandonFocusedEditor()));
     connect(proxy, SIGNAL(modelReset()), this, SLOT(onModelReset()));
 }
 
@@ -444,22 +445,37 @@ void FeatureTreeView::takeFocusFrom(const QWidget *editor)
     }
 }
 
-void FeatureTreeView::takeFocusFromLostRow()
+QWidget *FeatureTreeView::focusedEditor() const
 {
     QWidget *editor = QApplication::focusWidget();
     if (!editor || !viewport()->isAncestorOf(editor)) {
-        return;
+        return nullptr;
     }
     while (editor->parentWidget() != viewport()) {
         editor = editor->parentWidget();
     }
+    return editor;
+}
+
+void FeatureTreeView::takeFocusFromLostRow()
+{
+    QWidget *const editor = focusedEditor();
     const auto permanent = std::find_if(m_editors.cbegin(), m_editors.cend(),
                                         [editor](const Editor &entry) { return entry.widget == editor; });
     // An editor that is not permanent belongs to the current row.
     const bool isRowLeft =
         permanent == m_editors.cend() ? currentIndex().isValid() : permanent->index.isValid();
-    if (!isRowLeft) {
-        editor->removeEventFilter(itemDelegate()); // it would commit to no row
+    if (editor && !isRowLeft) {
+        abandonFocusedEditor();
+    }
+}
+
+// Takes the focus from an editor that has no row to commit to.
+void FeatureTreeView::abandonFocusedEditor()
+{
+    if (QWidget *const editor = focusedEditor()) {
+        editor->removeEventFilter(itemDelegate());
+        editor->blockSignals(true);
         setFocus();
     }
 }
@@ -718,6 +734,12 @@ void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 
 bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
+    if (trigger == AnyKeyPressed && m_isForwardingKey) {
+        // The editor has no use for the key; the names are searched for it.
+        m_isForwardingKey = false;
+        setCurrentIndex(index.siblingAtColumn(FeatureTreeColumns::name));
+        return false;
+    }
     if (trigger == CurrentChanged && m_keepsFocus) {
         return false; // keys walk over editors
     }
@@ -826,7 +848,7 @@ bool FeatureTreeView::editNeighbour(const QModelIndex &from, bool below)
 bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event)
 {
     QWidget *const editor = indexWidget(value);
-    if (!editor->isEnabled()) {
+    if (!editor->isEnabled() || !editor->isVisible()) {
         return false;
     }
     if (auto *const button = qobject_cast<QAbstractButton *>(editor); button && trigger == EditKeyPressed) {
@@ -837,9 +859,14 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
         return false;
     }
     editor->setFocus(Qt::TabFocusReason);
-    QWidget *const focus = QApplication::focusWidget();
-    if (trigger == AnyKeyPressed && focus && event) {
-        QCoreApplication::sendEvent(focus, event);
+    if (trigger == AnyKeyPressed && event && focusedEditor() == editor) {
+        // What the editor ignores comes back here, where the row is searched for by it.
+        m_isForwardingKey = true;
+        QCoreApplication::sendEvent(QApplication::focusWidget(), event);
+        if (!m_isForwardingKey) {
+            setFocus();
+        }
+        m_isForwardingKey = false;
     }
     return true;
 }

@@ -92,6 +92,7 @@ private slots:
     void onFocusChanged(QWidget *old, QWidget *now);
     void onLayoutAboutToChange();
     void onLayoutChanged();
+    void abandonFocusedEditor();
     void onModelReset();
 
 private:
@@ -111,6 +112,7 @@ private:
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void takeFocusFrom(const QWidget *editor);
     void takeFocusFromLostRow();
+    QWidget *focusedEditor() const;
     void expandBranches(const QModelIndex &parent, int depth,
                         const std::function<bool(const QModelIndex &, int)> &isExpanded);
 
@@ -138,5 +140,6 @@ private:
     bool m_isBulkWork = false;
     bool m_isEnsuringEditors = false;
     bool m_isTabOrderStale = false;
+    bool m_isForwardingKey = false;
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
 };
