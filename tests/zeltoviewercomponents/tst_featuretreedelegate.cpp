@@ -40,7 +40,7 @@ public:
 QStyleOptionViewItem optionFor(FeatureTreeView *view, int width, int height = 24)
 {
     QStyleOptionViewItem option;
-    static_cast<View *>(view)->initViewItemOption(&option);
+    (view->*(&View::initViewItemOption))(&option);
     option.rect = QRect(0, 0, width, height);
     option.widget = view;
     option.state = QStyle::State_Enabled | QStyle::State_Active;
