@@ -391,5 +391,13 @@ Changes that were not saved to one of its user sets last until it is switched of
         <source>Cannot write %1.</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>There is no display to show a window on.</source>
+        <translation>Es gibt keinen Bildschirm, auf dem ein Fenster gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>Cannot write to the standard output.</source>
+        <translation>Die Standardausgabe kann nicht beschrieben werden.</translation>
+    </message>
 </context>
 </TS>
