@@ -72,7 +72,6 @@ struct StockWindow
     void search(const QString &text)
     {
         tree.proxy()->setFilterFixedString(text);
-        view.expandAll();
         paint(view);
     }
 
