@@ -13,8 +13,8 @@
 
 /*! \brief One figure: what the library takes and what its baselines take, measured in turns in the same run.
  *
- * The library's time is the benchmark's own (manual) time; the medians of all sides, in milliseconds, and the
- * library's share of each baseline become counters.
+ * The library's time is the benchmark's own (manual) time; the best turn of each side, in milliseconds, and
+ * the library's share of each baseline become counters.
  */
 class Figure
 {
