@@ -252,8 +252,9 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     if (m_acceptAll || !model()) {
         return true;
     }
-    FeatureTreeItem *const item =
-        model()->getFeatureTreeItem(model()->index(sourceRow, FeatureTreeColumns::name, sourceParent));
+    // Asked once a row at every key: straight to the item.
+    const auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    FeatureTreeItem *const item = (parent ? parent : rootItem())->child(sourceRow);
     if (!item) {
         return false;
     }
