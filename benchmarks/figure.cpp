@@ -4,6 +4,7 @@
 #include "figure.h"
 
 #include <algorithm>
+#include <ctime>
 
 namespace {
 
@@ -29,4 +30,12 @@ Figure::~Figure()
         m_state.counters[name + "_ms"] = theirs * millisecondsPerSecond;
         m_state.counters["ratio_" + name] = ours / theirs;
     }
+}
+
+double Figure::processorSeconds()
+{
+    constexpr double nanosecondsPerSecond = 1e9;
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / nanosecondsPerSecond;
 }
