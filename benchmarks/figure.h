@@ -5,7 +5,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <map>
 #include <string>
 #include <utility>
@@ -13,8 +12,8 @@
 
 /*! \brief One figure: what the library takes and what its baselines take, measured in turns in the same run.
  *
- * The library's time is the benchmark's own (manual) time; the medians of all sides, in milliseconds, and the
- * library's share of each baseline become counters.
+ * The library's time is the benchmark's own (manual) time; the best turn of each side, in milliseconds, and
+ * the library's share of each baseline become counters.
  */
 class Figure
 {
@@ -43,16 +42,19 @@ public:
         m_baselines[baseline].push_back(secondsOf(std::move(work)));
     }
 
-    /*! Returns the seconds that \a work takes. */
+    /*! Returns the processor time, in seconds, that \a work takes in all threads: on a busy machine it tells
+     * more than the clock on the wall. */
     template <typename Work>
     static double secondsOf(Work work)
     {
-        const auto begin = std::chrono::steady_clock::now();
+        const double begin = processorSeconds();
         work();
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+        return processorSeconds() - begin;
     }
 
 private:
+    static double processorSeconds();
+
     benchmark::State &m_state;
     std::vector<double> m_ours;
     std::map<std::string, std::vector<double>> m_baselines;

@@ -192,6 +192,7 @@ void FeatureTreeINodeItem::takeSnapshot(const QSharedPointer<const ParameterData
 {
     const bool first = !m_data;
     m_data = snapshot;
+    m_type = m_data ? m_data->type : ParameterType::Unknown;
     if (first && m_data) {
         m_childrenLoaded = m_data->type != ParameterType::Category;
     }
@@ -239,7 +240,7 @@ int FeatureTreeINodeItem::childCount()
 
 bool FeatureTreeINodeItem::isOfType(ParameterType type) const
 {
-    return m_data && m_data->type == type;
+    return m_data && m_type == type;
 }
 
 bool FeatureTreeINodeItem::isCategory() const

@@ -104,6 +104,8 @@ private:
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
     QSharedPointer<const ParameterCollection::ParameterData> m_data;
+    ParameterCollection::ParameterType m_type =
+        ParameterCollection::ParameterType::Unknown; // of the snapshot
     bool m_useUtf8 = false;
     QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;

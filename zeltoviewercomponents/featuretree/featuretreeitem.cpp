@@ -19,6 +19,8 @@ namespace {
 // Integer (0), String (6), Reserved8 (8) and Category (10) open no permanent editor; all others do.
 constexpr unsigned transientEditorTypes = 1345;
 
+quint64 revision = 1;
+
 QSize rowSizeHint()
 {
     const double height = QFontMetricsF(QApplication::font()).height() + 10.0;
@@ -57,6 +59,7 @@ void FeatureTreeItem::insertChild(FeatureTreeItem *child, int position)
 {
     adopt(child);
     m_children.insert(position, child);
+    ++revision;
     child->m_rowHint = position;
 }
 
@@ -67,6 +70,7 @@ FeatureTreeItem *FeatureTreeItem::removeChild(int row)
         return nullptr;
     }
     m_children.removeAt(row);
+    ++revision;
     removed->m_parent = nullptr;
     removed->setParent(nullptr);
     return removed;
@@ -89,8 +93,12 @@ int FeatureTreeItem::columnCount() const
 
 void FeatureTreeItem::clearChildren()
 {
+    if (m_children.isEmpty()) {
+        return;
+    }
     qDeleteAll(m_children);
     m_children.clear();
+    ++revision;
 }
 
 int FeatureTreeItem::childCount()
@@ -296,7 +304,9 @@ QString FeatureTreeItem::getDisplayedName() const
 void FeatureTreeItem::setDisplayedName(const QString &name)
 {
     m_name = name;
-    m_foldedSearchText.clear();
+    if (m_searchIndexId != 0 && !m_isSpecialNode) {
+        ++revision;
+    }
 }
 
 QString FeatureTreeItem::getFullName() const
@@ -354,13 +364,9 @@ QString FeatureTreeItem::nodeName() const
     return m_fullName;
 }
 
-const QString &FeatureTreeItem::foldedSearchText() const
+quint64 FeatureTreeItem::treeRevision()
 {
-    if (m_foldedSearchText.isEmpty()) {
-        // No text holds the noncharacter between the two, so nothing matches across them.
-        m_foldedSearchText = foldedForSearch(displayText() + QChar(0xffff) + nodeName());
-    }
-    return m_foldedSearchText;
+    return revision;
 }
 
 QString FeatureTreeItem::foldedForSearch(QString text)

@@ -129,9 +129,9 @@ public:
     void SetIsFullRowItem(bool isFullRowItem);
     void SetIsSpecialNode(bool isSpecialNode);
 
-    /*! Returns what a search looks into: displayText() and nodeName(), folded by foldedForSearch() and kept
-     * apart. */
-    const QString &foldedSearchText() const;
+    /*! Returns a number that is another one once any item of the process has come, gone or changed a name
+     * that a search looks into. */
+    static quint64 treeRevision();
     /*! Returns \a text with the case of each character folded, as case-insensitive comparisons of QString do.
      */
     static QString foldedForSearch(QString text);
@@ -147,6 +147,7 @@ protected:
 
 private:
     friend class FeatureTreeProxyModel;
+    friend class FeatureTreeSearchIndex;
 
     /*! \brief What the filter found out about the item in its last pass. */
     struct FilterMark
@@ -170,7 +171,7 @@ private:
     bool m_isFullRowItem = false;
     bool m_isSpecialNode = false;
     IFeatureTreeModelExtension *m_extension = nullptr;
-    mutable QString m_foldedSearchText; // empty until a search asks for it
+    quint64 m_searchIndexId = 0; // the search index that knows the item
     FilterMark m_filterMark;
     mutable int m_rowHint = 0; // where the item was last found among its parent's children
 };

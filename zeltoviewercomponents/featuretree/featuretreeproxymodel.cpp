@@ -141,16 +141,51 @@ bool FeatureTreeProxyModel::acceptAll() const
     return m_acceptAll;
 }
 
-const QSet<QString> &FeatureTreeProxyModel::visibleMatches() const
+QSet<QString> FeatureTreeProxyModel::visibleMatches() const
 {
     completePass();
-    return m_visibleMatches;
+    return namesOf(m_visibleMatches);
 }
 
-const QSet<QString> &FeatureTreeProxyModel::hiddenMatches() const
+int FeatureTreeProxyModel::visibleMatchCount() const
 {
     completePass();
-    return m_hiddenMatches;
+    return m_visibleMatches.count;
+}
+
+QSet<QString> FeatureTreeProxyModel::hiddenMatches() const
+{
+    completePass();
+    return namesOf(m_hiddenMatches);
+}
+
+int FeatureTreeProxyModel::hiddenMatchCount() const
+{
+    completePass();
+    return m_hiddenMatches.count;
+}
+
+QSet<QString> FeatureTreeProxyModel::namesOf(const Matches &matches) const
+{
+    QSet<QString> names;
+    for (qsizetype i = 0; i < matches.isCounted.size(); ++i) {
+        if (matches.isCounted[i]) {
+            names.insert(m_index.names().at(i));
+        }
+    }
+    return names;
+}
+
+void FeatureTreeProxyModel::Matches::clear(qsizetype nameCount)
+{
+    isCounted.fill(false, nameCount);
+    count = 0;
+}
+
+void FeatureTreeProxyModel::Matches::add(int name)
+{
+    count += isCounted[name] ? 0 : 1;
+    isCounted[name] = true;
 }
 
 void FeatureTreeProxyModel::setFilterFixedString(const QString &pattern)
@@ -191,8 +226,8 @@ void FeatureTreeProxyModel::startPass() const
 {
     m_pass = nextPass();
     m_treeJudged = false;
-    m_visibleMatches.clear();
-    m_hiddenMatches.clear();
+    m_visibleMatches.clear(0);
+    m_hiddenMatches.clear(0);
 }
 
 void FeatureTreeProxyModel::noticePattern() const
@@ -217,13 +252,14 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     if (m_acceptAll || !model()) {
         return true;
     }
-    FeatureTreeItem *const item =
-        model()->getFeatureTreeItem(model()->index(sourceRow, FeatureTreeColumns::name, sourceParent));
+    // Asked once a row at every key: straight to the item.
+    const auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    FeatureTreeItem *const item = (parent ? parent : rootItem())->child(sourceRow);
     if (!item) {
         return false;
     }
     if (m_frozen) {
-        return item->m_filterMark.isAccepted;
+        return item->m_filterMark.pass == m_markedPass && item->m_filterMark.isAccepted;
     }
     noticePattern();
     return accepts(item);
@@ -259,13 +295,13 @@ bool FeatureTreeProxyModel::accepts(FeatureTreeItem *item) const
     if (m_pattern.isEmpty()) {
         return judgeAlone(item);
     }
+    if (m_treeJudged && !m_index.holds(item)) {
+        startPass(); // it came after the pass
+    }
     if (!m_treeJudged) {
         judgeTree();
     }
-    if (!isJudged(item)) {
-        judgeBelow(item); // it came after the pass
-    }
-    return item->m_filterMark.isAccepted;
+    return isJudged(item) && item->m_filterMark.isAccepted;
 }
 
 bool FeatureTreeProxyModel::judgeAlone(FeatureTreeItem *item) const
@@ -276,6 +312,7 @@ bool FeatureTreeProxyModel::judgeAlone(FeatureTreeItem *item) const
     return isAccepted;
 }
 
+// Marks what the search text is found in, all ancestors of that, and nothing else: other rows do not pass.
 void FeatureTreeProxyModel::judgeTree() const
 {
     m_treeJudged = true;
@@ -283,43 +320,65 @@ void FeatureTreeProxyModel::judgeTree() const
     if (!root) {
         return;
     }
-    loadTree(root);
-    for (int row = 0; row < root->existingChildCount(); ++row) {
-        judge(root->child(row), false, GenApi::Beginner);
+    if (!m_index.isCurrent()) {
+        loadTree(root);
+        m_index.build(*root);
+    }
+    m_visibleMatches.clear(m_index.names().size());
+    m_hiddenMatches.clear(m_index.names().size());
+    if (FeatureTreeItem *const searchRow = getSearchHelpItem()) {
+        mark(searchRow, matches(searchRow));
+    }
+    const FeatureTreeItem *parent = nullptr;
+    GenApi::EVisibility visibilityAbove = GenApi::Beginner;
+    const auto judge = [this, &parent, &visibilityAbove](const FeatureTreeSearchIndex::Row &row) {
+        if (row.item->parent() != parent) {
+            parent = row.item->parent();
+            visibilityAbove = judgeAncestors(row.item->parent());
+        }
+        judgeHit(row, visibilityAbove);
+    };
+    if (m_foldedText) {
+        m_index.forEachHit(*m_foldedText, judge);
+        return;
+    }
+    for (const FeatureTreeSearchIndex::Row &row : m_index.rows()) {
+        if (isHit(row.item)) {
+            judge(row);
+        }
     }
 }
 
-void FeatureTreeProxyModel::judgeBelow(FeatureTreeItem *item) const
+// Marks the ancestors as not passing unless they do already. Returns the highest visibility among them.
+GenApi::EVisibility FeatureTreeProxyModel::judgeAncestors(FeatureTreeItem *parent) const
 {
-    GenApi::EVisibility above = GenApi::Beginner;
-    for (FeatureTreeItem *ancestor = item->parent(); ancestor && ancestor->parent();
+    GenApi::EVisibility highest = GenApi::Beginner;
+    for (FeatureTreeItem *ancestor = parent; ancestor && ancestor->parent(); ancestor = ancestor->parent()) {
+        highest = std::max(highest, effectiveVisibility(ancestor, m_level));
+        if (!isJudged(ancestor)) {
+            mark(ancestor, false);
+        }
+    }
+    return highest;
+}
+
+void FeatureTreeProxyModel::judgeHit(const FeatureTreeSearchIndex::Row &row,
+                                     GenApi::EVisibility visibilityAbove) const
+{
+    FeatureTreeItem *const item = row.item;
+    countHit(row, std::max(visibilityAbove, effectiveVisibility(item, m_level)));
+    const bool isMatch = passesLevel(item);
+    mark(item, isMatch);
+    for (FeatureTreeItem *ancestor = item->parent();
+         isMatch && ancestor && ancestor->parent() && !ancestor->m_filterMark.isAccepted;
          ancestor = ancestor->parent()) {
-        above = std::max(above, effectiveVisibility(ancestor, m_level));
+        ancestor->m_filterMark.isAccepted = true;
     }
-    loadTree(item);
-    judge(item, hasMatchAbove(item), above);
-}
-
-// Marks the item and all below it. Returns whether one of them matches.
-bool FeatureTreeProxyModel::judge(FeatureTreeItem *item, bool ancestorMatches,
-                                  GenApi::EVisibility ancestorVisibility) const
-{
-    const bool hit = isHit(item);
-    const bool match = matches(item);
-    const GenApi::EVisibility visibility = std::max(ancestorVisibility, effectiveVisibility(item, m_level));
-    if (hit) {
-        countHit(item, visibility);
-    }
-    bool matchBelow = false;
-    for (int row = 0; row < item->existingChildCount(); ++row) {
-        matchBelow |= judge(item->child(row), ancestorMatches || match, visibility);
-    }
-    mark(item, match || ancestorMatches || matchBelow);
-    return match || matchBelow;
 }
 
 void FeatureTreeProxyModel::mark(FeatureTreeItem *item, bool isAccepted) const
 {
+    m_markedPass = m_pass;
     item->m_filterMark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), isAccepted, true};
 }
 
@@ -339,16 +398,20 @@ bool FeatureTreeProxyModel::isHit(const FeatureTreeItem *item) const
     if (item->isCategory()) {
         return false;
     }
-    const bool found = m_foldedText ? item->foldedSearchText().contains(*m_foldedText)
-                                    : item->displayText().contains(filterRegularExpression())
-            || item->nodeName().contains(filterRegularExpression());
+    const bool found = m_pattern.isEmpty() || item->displayText().contains(filterRegularExpression())
+        || item->nodeName().contains(filterRegularExpression());
     return found && item->nodeName() != FeatureTreeNames::root;
+}
+
+bool FeatureTreeProxyModel::passesLevel(FeatureTreeItem *item) const
+{
+    const bool isShown = m_level == GenApi::Invisible || item->ShowMe(GenApi::Guru);
+    return isShown && item->getVisibility() <= m_level;
 }
 
 bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
 {
-    const bool isShown = m_level == GenApi::Invisible || item->ShowMe(GenApi::Guru);
-    if (!isShown || item->getVisibility() > m_level) {
+    if (!passesLevel(item)) {
         return false;
     }
     if (item->getFullName() == FeatureTreeNames::search) {
@@ -357,20 +420,20 @@ bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
     return isHit(item);
 }
 
-void FeatureTreeProxyModel::countHit(FeatureTreeItem *item, GenApi::EVisibility visibility) const
+void FeatureTreeProxyModel::countHit(const FeatureTreeSearchIndex::Row &row,
+                                     GenApi::EVisibility visibility) const
 {
-    if (!qobject_cast<const FeatureTreeINodeItem *>(item)) {
-        return; // hints and placeholders are no results
+    if (row.name < 0) {
+        return;
     }
-    const QString name = item->nodeName();
     if (visibility <= m_level) {
-        m_visibleMatches.insert(name);
+        m_visibleMatches.add(row.name);
         return;
     }
     // Hidden by its category alone, it may be in sight among the favorites, which come first.
-    const bool isInSight = item->getVisibility() <= m_level && m_visibleMatches.contains(name);
+    const bool isInSight = row.item->getVisibility() <= m_level && m_visibleMatches.isCounted[row.name];
     if (visibility < GenApi::Invisible && !isInSight) {
-        m_hiddenMatches.insert(name);
+        m_hiddenMatches.add(row.name);
     }
 }
 

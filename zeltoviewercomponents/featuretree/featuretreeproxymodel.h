@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "featuretreesearchindex.h"
 #include "ifeaturetreemodelextension.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
@@ -51,9 +52,12 @@ public:
 
     /*! Returns the names of the features that match the search text within the level; empty without a text.
      */
-    const QSet<QString> &visibleMatches() const;
+    QSet<QString> visibleMatches() const;
+    /*! Returns the number of visibleMatches(), which is known without collecting them. */
+    int visibleMatchCount() const;
     /*! Returns the names of the features that would match at a higher level, Invisible ones apart. */
-    const QSet<QString> &hiddenMatches() const;
+    QSet<QString> hiddenMatches() const;
+    int hiddenMatchCount() const;
 
     bool IsFavoriteTreeItem(const FeatureTreeItem *item) const override;
     bool IsFavoriteTreeRoot(const FeatureTreeItem *item) const override;
@@ -130,9 +134,9 @@ private:
     bool isJudged(const FeatureTreeItem *item) const;
     bool accepts(FeatureTreeItem *item) const;
     bool judgeAlone(FeatureTreeItem *item) const;
-    void judgeBelow(FeatureTreeItem *item) const;
-    bool judge(FeatureTreeItem *item, bool ancestorMatches, GenApi::EVisibility ancestorVisibility) const;
     void judgeTree() const;
+    void judgeHit(const FeatureTreeSearchIndex::Row &row, GenApi::EVisibility visibilityAbove) const;
+    GenApi::EVisibility judgeAncestors(FeatureTreeItem *parent) const;
     void startPass() const;
     void mark(FeatureTreeItem *item, bool isAccepted) const;
     void markSeen(FeatureTreeItem *item) const;
@@ -140,7 +144,8 @@ private:
     bool isHit(const FeatureTreeItem *item) const;
     bool hasMatchBelow(FeatureTreeItem *item) const;
     bool hasMatchAbove(FeatureTreeItem *item) const;
-    void countHit(FeatureTreeItem *item, GenApi::EVisibility visibility) const;
+    bool passesLevel(FeatureTreeItem *item) const;
+    void countHit(const FeatureTreeSearchIndex::Row &row, GenApi::EVisibility visibility) const;
     void loadChildren(FeatureTreeItem *item) const;
     void loadTree(FeatureTreeItem *item) const;
     void noticePattern() const;
@@ -148,14 +153,28 @@ private:
 
     bool m_acceptAll = false;
     GenApi::EVisibility m_level = GenApi::Guru;
-    mutable QSet<QString> m_visibleMatches;
-    mutable QSet<QString> m_hiddenMatches;
+
+    /*! \brief Names that were counted, once each. */
+    struct Matches
+    {
+        void clear(qsizetype nameCount);
+        void add(int name);
+
+        QList<bool> isCounted; // by the search index's number of the name
+        int count = 0;
+    };
+    QSet<QString> namesOf(const Matches &matches) const;
+
+    mutable FeatureTreeSearchIndex m_index;
+    mutable Matches m_visibleMatches;
+    mutable Matches m_hiddenMatches;
 
     // The pattern that the verdicts belong to. The base's may be changed by others, who may also set an
     // expression that is no literal text; the folded text is absent then.
     mutable QString m_pattern;
     mutable std::optional<QString> m_foldedText = QString();
     mutable quint64 m_pass = 0;
+    mutable quint64 m_markedPass = 0; // the last pass that left marks
     mutable bool m_treeJudged = false;
 
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern

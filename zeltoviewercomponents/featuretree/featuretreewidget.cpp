@@ -610,8 +610,8 @@ void FeatureTreeWidget::showCounts(const QString &text)
         emit filterMatchesChanged(0, 0);
         return;
     }
-    const auto hidden = static_cast<int>(proxy()->hiddenMatches().size());
-    const int total = hidden + static_cast<int>(proxy()->visibleMatches().size());
+    const int hidden = proxy()->hiddenMatchCount();
+    const int total = hidden + proxy()->visibleMatchCount();
     const QString message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>");
     setSearchRow(message.arg(total).arg(hidden), hidden > 0);
     emit filterMatchesChanged(total, hidden);
