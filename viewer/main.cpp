@@ -22,7 +22,7 @@
 namespace {
 
 constexpr int exitBadInput = 2;
-constexpr QSize gallerySize(640, 720);
+constexpr QSize gallerySize(640, 480);
 
 QStringList argumentsFrom(int argc, char **argv)
 {
