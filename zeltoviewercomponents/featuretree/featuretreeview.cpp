@@ -40,6 +40,21 @@ bool isInUse(const QWidget *editor)
     return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
 }
 
+// Returns the colours in which a selected row looks like any other.
+QPalette unselectedPalette(QPalette colors)
+{
+    QColor activeText = colors.color(QPalette::Active, QPalette::Text);
+    activeText.setAlpha(128);
+    colors.setBrush(QPalette::Active, QPalette::HighlightedText, activeText);
+    for (const auto group : {QPalette::Disabled, QPalette::Inactive}) {
+        colors.setBrush(group, QPalette::HighlightedText, colors.color(group, QPalette::Text));
+    }
+    for (const auto group : {QPalette::Active, QPalette::Disabled, QPalette::Inactive}) {
+        colors.setBrush(group, QPalette::Highlight, QColor(0, 0, 0, 0));
+    }
+    return colors;
+}
+
 } // namespace
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
@@ -700,16 +715,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
 void FeatureTreeView::initViewItemOption(QStyleOptionViewItem *option) const
 {
     QTreeView::initViewItemOption(option);
-    QPalette &colors = option->palette;
-    QColor activeText = colors.color(QPalette::Active, QPalette::Text);
-    activeText.setAlpha(128);
-    colors.setBrush(QPalette::Active, QPalette::HighlightedText, activeText);
-    for (const auto group : {QPalette::Disabled, QPalette::Inactive}) {
-        colors.setBrush(group, QPalette::HighlightedText, colors.color(group, QPalette::Text));
+    // Kept until the palette changes: styles cache what they draw by the palette, and a new one at each
+    // painting would fill the cache of pixmaps with copies of the same arrows.
+    if (!m_rowPalette || m_rowPaletteSource != option->palette.cacheKey()) {
+        m_rowPaletteSource = option->palette.cacheKey();
+        m_rowPalette = unselectedPalette(option->palette);
     }
-    for (const auto group : {QPalette::Active, QPalette::Disabled, QPalette::Inactive}) {
-        colors.setBrush(group, QPalette::Highlight, QColor(0, 0, 0, 0));
-    }
+    option->palette = *m_rowPalette;
 }
 
 // Keyboard

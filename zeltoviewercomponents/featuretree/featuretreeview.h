@@ -8,12 +8,14 @@
 #include <platform/genicam/genapi.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QPalette>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QStringList>
 #include <QTreeView>
 
 #include <functional>
+#include <optional>
 
 class FeatureTreeItem;
 class IFeatureTreeModelExtension;
@@ -141,5 +143,7 @@ private:
     bool m_isEnsuringEditors = false;
     bool m_isTabOrderStale = false;
     bool m_isForwardingKey = false;
+    mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below
+    mutable qint64 m_rowPaletteSource = 0;
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
 };
