@@ -27,6 +27,25 @@ int wrapped(quint32 bits)
     return static_cast<int>(bits);
 }
 
+// Logs limits that are not finite, not in order, or do not contain the value.
+void logInconsistency(Core::Logging::CategoryId category, const char *function,
+                      const ParameterCollection::IParameter &parameter,
+                      const ParameterCollection::FloatParameterData &data)
+{
+    const bool isValueGood = !data.isReadable || (data.minimum <= data.value && data.value <= data.maximum);
+    if (std::isfinite(data.minimum) && std::isfinite(data.maximum) && data.minimum <= data.maximum
+        && isValueGood) {
+        return;
+    }
+    Core::Logging::createLogEntry(
+        Core::Logging::ELogLevel::Debug, category,
+        QStringLiteral("%1: Feature %2: value %3 and limits %4..%5 do not fit together")
+            .arg(QLatin1String(function), nodeName(parameter))
+            .arg(data.value)
+            .arg(data.minimum)
+            .arg(data.maximum));
+}
+
 } // namespace
 
 int saturated(qint64 value)
@@ -86,22 +105,27 @@ FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data)
     return limits;
 }
 
-void logInconsistency(Core::Logging::CategoryId category, const char *function,
-                      const ParameterCollection::IParameter &parameter,
-                      const ParameterCollection::FloatParameterData &data)
+void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::EditorData &data,
+                   const std::function<void(const ParameterCollection::FloatParameterData &)> &show)
 {
-    const bool isValueGood = !data.isReadable || (data.minimum <= data.value && data.value <= data.maximum);
-    if (std::isfinite(data.minimum) && std::isfinite(data.maximum) && data.minimum <= data.maximum
-        && isValueGood) {
+    using ParameterCollection::FloatParameterData;
+    const auto parameter = qSharedPointerObjectCast<ParameterCollection::IFloatParameter>(data.ptrParameter);
+    if (!parameter || !data.ptrParameterData
+        || data.ptrParameterData->type != ParameterCollection::ParameterType::Float) {
+        Core::Logging::createLogEntry(
+            Core::Logging::ELogLevel::Debug, site.category,
+            QStringLiteral("%1 is called with non-float node????").arg(QLatin1String(site.function)));
         return;
     }
-    Core::Logging::createLogEntry(
-        Core::Logging::ELogLevel::Debug, category,
-        QStringLiteral("%1: Feature %2: value %3 and limits %4..%5 do not fit together")
-            .arg(QLatin1String(function), nodeName(parameter))
-            .arg(data.value)
-            .arg(data.minimum)
-            .arg(data.maximum));
+    const auto headline = [&parameter] {
+        return QStringLiteral("Failed to update the floating-point value editor for node %1")
+            .arg(nodeName(*parameter));
+    };
+    Core::guardedRun(site, headline, [&] {
+        const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
+        show(snapshot);
+        logInconsistency(site.category, site.function, *parameter, snapshot);
+    });
 }
 
 QString nodeName(const ParameterCollection::IParameter &parameter)

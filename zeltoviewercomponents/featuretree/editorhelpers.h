@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <platform/core/guard.h>
 #include <platform/core/logging.h>
 #include <platform/parametercollection/parameterdata.h>
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
@@ -56,11 +57,11 @@ struct FloatLimits
  * order leave only the value itself, so that nothing can be entered. */
 FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
 
-/*! Logs to \a category when the limits of \a data are not finite, not in order, or do not contain the value.
+/*! Hands a floating-point editor its \a data: calls \a show with the snapshot, guarded, and logs limits that
+ * are not finite, not in order, or do not contain the value. Data of another kind is logged and left alone.
  */
-void logInconsistency(Core::Logging::CategoryId category, const char *function,
-                      const ParameterCollection::IParameter &parameter,
-                      const ParameterCollection::FloatParameterData &data);
+void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::EditorData &data,
+                   const std::function<void(const ParameterCollection::FloatParameterData &)> &show);
 
 /*! Returns the name of \a parameter as log entries show it. */
 QString nodeName(const ParameterCollection::IParameter &parameter);

@@ -16,15 +16,8 @@
 #include <optional>
 
 using namespace ParameterCollection;
-using Core::Logging::ELogLevel;
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
-
-namespace {
-
-constexpr char setEditorDataName[] = "FloatEditor::setEditorData";
-
-} // namespace
 
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
     : DoubleSpinBox(parent, representation)
@@ -39,23 +32,11 @@ FloatEditor::~FloatEditor() = default;
 
 void FloatEditor::setEditorData(EditorData data)
 {
-    const auto parameter = qSharedPointerObjectCast<IFloatParameter>(data.ptrParameter);
-    if (!parameter || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Float) {
-        Core::Logging::createLogEntry(
-            ELogLevel::Debug, logCategory(),
-            QStringLiteral("%1 is called with non-float node????").arg(QLatin1String(setEditorDataName)));
-        return;
-    }
-    const auto headline = [&parameter] {
-        return QStringLiteral("Failed to update the floating-point value editor for node %1")
-            .arg(EditorHelpers::nodeName(*parameter));
-    };
-    Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
+    const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
-        const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
-        EditorHelpers::logInconsistency(logCategory(), setEditorDataName, *data.ptrParameter, snapshot);
         showSnapshot(snapshot);
-    });
+    };
+    EditorHelpers::takeFloatData({logCategory(), "FloatEditor::setEditorData"}, data, show);
 }
 
 void FloatEditor::showSnapshot(const FloatParameterData &snapshot)

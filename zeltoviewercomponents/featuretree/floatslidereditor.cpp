@@ -18,13 +18,10 @@
 #include <utility>
 
 using namespace ParameterCollection;
-using Core::Logging::ELogLevel;
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatSliderEditor")
 
 namespace {
-
-constexpr char setEditorDataName[] = "FloatSliderEditor::setEditorData";
 
 struct Positions
 {
@@ -65,23 +62,11 @@ FloatSliderEditor::~FloatSliderEditor() = default;
 
 void FloatSliderEditor::setEditorData(EditorData data)
 {
-    const auto parameter = qSharedPointerObjectCast<IFloatParameter>(data.ptrParameter);
-    if (!parameter || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Float) {
-        Core::Logging::createLogEntry(
-            ELogLevel::Debug, logCategory(),
-            QStringLiteral("%1 is called with non-float node????").arg(QLatin1String(setEditorDataName)));
-        return;
-    }
-    const auto headline = [&parameter] {
-        return QStringLiteral("Failed to update the floating-point value editor for node %1")
-            .arg(EditorHelpers::nodeName(*parameter));
-    };
-    Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
+    const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
-        const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
-        EditorHelpers::logInconsistency(logCategory(), setEditorDataName, *data.ptrParameter, snapshot);
         showSnapshot(data.ptrParameter->fullName(), snapshot);
-    });
+    };
+    EditorHelpers::takeFloatData({logCategory(), "FloatSliderEditor::setEditorData"}, data, show);
 }
 
 void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
