@@ -2,15 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "figure.h"
-#include "trees.h"
-
-#include <zeltoviewercomponents/featuretree/featuretreeproxymodel.h>
-#include <zeltoviewercomponents/featuretree/featuretreeview.h>
-#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
-#include <zeltoviewercomponents/featuretree/searchedit.h>
+#include "windows.h"
 
 #include <QApplication>
-#include <QTreeView>
 
 #include <malloc.h>
 
@@ -19,80 +13,14 @@
 
 namespace {
 
-constexpr QSize windowSize(500, 800);
 constexpr int cameraRows = 350;
-
-// Everything that is pending is laid out and painted.
-void paint(QTreeView &view)
-{
-    QCoreApplication::sendPostedEvents();
-    view.viewport()->repaint();
-}
-
-/*! \brief The library's widget, shown with everything expanded. */
-struct Window
-{
-    explicit Window(const QSharedPointer<MemoryCollection> &camera)
-    {
-        widget.resize(windowSize);
-        fill(camera);
-        view().expandEverything();
-        widget.show();
-        QApplication::processEvents();
-        search(QString());
-    }
-
-    void fill(const QSharedPointer<MemoryCollection> &camera)
-    {
-        widget.addParameterCollection(camera, QStringLiteral("Camera"), camera->name(), true);
-    }
-
-    FeatureTreeView &view() { return *widget.treeView(); }
-
-    void search(const QString &text)
-    {
-        widget.findChild<SearchEdit *>()->setText(text);
-        paint(view());
-    }
-
-    FeatureTreeWidget widget{QStringLiteral("benchmark")};
-};
-
-/*! \brief The stock view, shown with everything expanded. */
-struct StockWindow
-{
-    explicit StockWindow(const QAbstractItemModel &model)
-        : tree(model)
-    {
-        view.resize(windowSize);
-        view.setModel(tree.proxy());
-        view.expandAll();
-        view.show();
-        QApplication::processEvents();
-        paint(view);
-    }
-
-    void search(const QString &text)
-    {
-        tree.proxy()->setFilterFixedString(text);
-        paint(view);
-    }
-
-    StockTree tree;
-    QTreeView view;
-};
-
-const QAbstractItemModel &modelOf(Window &window)
-{
-    return *qobject_cast<FeatureTreeProxyModel *>(window.view().model())->sourceModel();
-}
 
 // The first key of a search until painted. The stock view is measured once; it takes a second.
 void searchKey(benchmark::State &state)
 {
     Window window(makeCamera(featureNames(10000), static_cast<int>(state.range(0))));
     Figure figure(state);
-    StockWindow stock(modelOf(window));
+    StockWindow stock(window);
     figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
     for (auto _ : state) {
         figure.ours([&] { window.search(QStringLiteral("t")); });
@@ -111,7 +39,7 @@ BENCHMARK(searchKey)
 void clearSearch(benchmark::State &state)
 {
     Window window(makeCamera(featureNames(10000), static_cast<int>(state.range(0))));
-    StockWindow stock(modelOf(window));
+    StockWindow stock(window);
     stock.search(QStringLiteral("t"));
     Figure figure(state);
     figure.baseline("stock", [&] { stock.search(QString()); });
@@ -156,7 +84,7 @@ BENCHMARK(growthOfSearchKey)
 void searchKeyOnCamera(benchmark::State &state)
 {
     Window window(makeCamera(featureNames(cameraRows), 4));
-    StockWindow stock(modelOf(window));
+    StockWindow stock(window);
     Figure figure(state);
     for (auto _ : state) {
         figure.ours([&] { window.search(QStringLiteral("t")); });
@@ -200,8 +128,7 @@ void updatesOfValues(benchmark::State &state)
                 const auto &parameter = parameters[next++ % parameters.size()];
                 emit parameter->parameterDataChangedDecoupled(parameter->parameterData());
                 if (i % (updatesPerSecond / framesPerSecond) == 0) {
-                    QCoreApplication::sendPostedEvents();
-                    window.view().viewport()->repaint();
+                    settle();
                 }
             }
         });
@@ -220,11 +147,10 @@ void refill(benchmark::State &state)
     Window window(camera);
     std::vector<double> used;
     for (auto _ : state) {
-        window.widget.clear();
-        window.fill(camera);
+        window.widget().clear();
+        window.fill(camera, camera->name());
         window.view().expandEverything();
-        paint(window.view());
-        QApplication::processEvents();
+        settle();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         used.push_back(static_cast<double>(mallinfo2().uordblks));
     }

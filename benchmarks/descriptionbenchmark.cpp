@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "figure.h"
+#include "windows.h"
 
 #include <cameras/aravis_p.h>
 #include <cameras/camera.h>
@@ -91,14 +92,20 @@ qsizetype openTree(const QString &fileName)
     return text.count(QLatin1Char('\n'));
 }
 
-// From the file to a filled and dumped tree, beside the engine's own parsing and reading of the same file.
-void openDescription(benchmark::State &state)
+// The file that the environment names; skips the benchmark without one.
+QString descriptionFor(benchmark::State &state)
 {
     const QString fileName = qEnvironmentVariable("ZELTO_BENCHMARK_DESCRIPTION");
     if (!QFile::exists(fileName)) {
         state.SkipWithError("ZELTO_BENCHMARK_DESCRIPTION names no camera description");
-        return;
     }
+    return fileName;
+}
+
+// From the file to a filled and dumped tree, beside the engine's own parsing and reading of the same file.
+void openDescription(benchmark::State &state)
+{
+    const QString fileName = descriptionFor(state);
     qsizetype rows = 0;
     Figure figure(state);
     for (auto _ : state) {
@@ -109,5 +116,29 @@ void openDescription(benchmark::State &state)
     state.counters["rows"] = static_cast<double>(rows);
 }
 BENCHMARK(openDescription)->Iterations(15)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// One key of a search on that camera, with all its editors, beside the stock view without any.
+void searchKeyOnDescription(benchmark::State &state)
+{
+    const QString fileName = descriptionFor(state);
+    if (state.error_occurred()) {
+        return;
+    }
+    const auto camera = Cameras::Camera::openDescription(fileName);
+    const Cameras::NodeMap &nodeMap = camera->nodeMaps().constFirst();
+    Window window(nodeMap.collection, nodeMap.name);
+    StockWindow stock(window);
+    Figure figure(state);
+    for (auto _ : state) {
+        figure.ours([&] { window.search(QStringLiteral("t")); });
+        figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
+        window.search(QString());
+        stock.search(QString());
+    }
+    state.counters["rows"] = visitRows(window.model());
+    state.counters["editors"] =
+        window.view().viewport()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly).size();
+}
+BENCHMARK(searchKeyOnDescription)->Iterations(25)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
