@@ -15,6 +15,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -290,6 +291,15 @@ void FeatureTreeView::orderEditors()
         setTabOrder(previous, editor);
         previous = editor;
     }
+}
+
+void FeatureTreeView::doItemsLayout()
+{
+    // The header forgets its widths with each layout and finds the same ones again. Told as news, they would
+    // have the value column painted twice.
+    const QSignalBlocker blocker(header());
+    QTreeView::doItemsLayout();
+    header()->sectionSize(FeatureTreeColumns::value);
 }
 
 void FeatureTreeView::updateGeometries()

@@ -59,6 +59,7 @@ public:
                      const QList<int> &roles = QList<int>()) override;
 
 public slots:
+    void doItemsLayout() override;
     void setVisibility(GenApi::EVisibility level);
     void onSelfExpanded(const QModelIndex &index);
     void onSelfCollapsed(const QModelIndex &index);
