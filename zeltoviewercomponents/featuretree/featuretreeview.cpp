@@ -534,33 +534,29 @@ void FeatureTreeView::onModelReset()
 
 void FeatureTreeView::expandToDepth(int depth)
 {
-    const auto isAbove = [depth](const QModelIndex &, int level) { return level <= depth; };
-    scheduleDelayedItemsLayout(); // so that expanding merely stores the state
-    expandBranches(QModelIndex(), 0, isAbove);
-    updateRows(QModelIndex());
+    expandBranches([depth](const QModelIndex &, int level) { return level <= depth; });
 }
 
 void FeatureTreeView::expandEverything()
 {
-    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
-    scheduleDelayedItemsLayout();
-    expandBranches(QModelIndex(), 0, [](const QModelIndex &, int) { return true; });
-    updateRows(QModelIndex());
+    expandBranches([](const QModelIndex &, int) { return true; });
 }
 
 void FeatureTreeView::setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded)
 {
-    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
-    scheduleDelayedItemsLayout();
-    expandBranches(QModelIndex(), 0,
-                   [&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
-    updateRows(QModelIndex());
+    expandBranches([&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
 }
 
-void FeatureTreeView::expandBranches(const QModelIndex &parent, int depth,
-                                     const std::function<bool(const QModelIndex &, int)> &isExpanded)
+void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
 {
     const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
+    scheduleDelayedItemsLayout(); // so that expanding merely stores the state
+    expandBranchesBelow(QModelIndex(), 0, true, isExpanded);
+}
+
+void FeatureTreeView::expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
+                                          const ExpansionRule &isExpanded)
+{
     const int count = model()->rowCount(parent);
     for (int row = 0; row < count; ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
@@ -570,8 +566,11 @@ void FeatureTreeView::expandBranches(const QModelIndex &parent, int depth,
         const bool expand = isExpanded(index, depth);
         if (expand != this->isExpanded(index)) {
             setExpanded(index, expand);
+            if (expand && isReachable) {
+                updateRows(index);
+            }
         }
-        expandBranches(index, depth + 1, isExpanded);
+        expandBranchesBelow(index, depth + 1, isReachable && expand, isExpanded);
     }
 }
 

@@ -105,6 +105,8 @@ private:
         QPointer<QWidget> widget;
     };
 
+    using ExpansionRule = std::function<bool(const QModelIndex &index, int depth)>;
+
     FeatureTreeItem *itemAt(const QModelIndex &index) const;
     bool isOpen(const QModelIndex &parent) const;
     void updateRow(int row, const QModelIndex &parent);
@@ -116,8 +118,9 @@ private:
     void takeFocusFrom(const QWidget *editor);
     void takeFocusFromLostRow();
     QWidget *focusedEditor() const;
-    void expandBranches(const QModelIndex &parent, int depth,
-                        const std::function<bool(const QModelIndex &, int)> &isExpanded);
+    void expandBranches(const ExpansionRule &isExpanded);
+    void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
+                             const ExpansionRule &isExpanded);
 
     bool wantsEditor(FeatureTreeItem *item) const;
     bool isBudgetSpent() const;
