@@ -21,6 +21,20 @@ namespace {
 
 constexpr char setEditorDataName[] = "EnumEditor::setEditorData";
 
+/*! \brief Keeps the news of a new style from a combo box that is being set up, for which it would build the
+ * whole list of entries long before anybody opens it.
+ */
+class StyleChangeFilter : public QObject
+{
+public:
+    explicit StyleChangeFilter(QComboBox *comboBox) { comboBox->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        return event->type() == QEvent::StyleChange || QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 EnumEditor::EnumEditor(QWidget *parent)
@@ -28,8 +42,11 @@ EnumEditor::EnumEditor(QWidget *parent)
     , m_keeper(new EditorDataKeeper(this, this))
 {
     setEditable(false);
-    setStyleSheet(QStringLiteral(
-        "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+    {
+        const StyleChangeFilter filter(this);
+        setStyleSheet(QStringLiteral(
+            "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+    }
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     new WheelGuard(this, this);
