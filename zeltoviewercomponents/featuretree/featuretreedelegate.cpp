@@ -200,7 +200,7 @@ QWidget *FeatureTreeDelegate::createToolButtonEditor(QWidget *parent, const QSty
 void FeatureTreeDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
 {
     Q_UNUSED(index)
-    disconnect(editor, nullptr, this, nullptr); // an open list outlives the row, and may still be chosen from
+    editor->blockSignals(true); // an open list outlives the row, and may still be chosen from
     editor->deleteLater();
 }
 

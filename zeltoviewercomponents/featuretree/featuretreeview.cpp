@@ -823,8 +823,19 @@ bool FeatureTreeView::leaveEditors(bool next)
     return true;
 }
 
+// An editor's keys take effect a little later, when it may have lost its row.
+void FeatureTreeView::commitData(QWidget *editor)
+{
+    if (editor && !editor->signalsBlocked()) {
+        QTreeView::commitData(editor);
+    }
+}
+
 void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    if (editor->signalsBlocked()) {
+        return;
+    }
     const bool below = hint == QAbstractItemDelegate::EditNextItem;
     if (!below && hint != QAbstractItemDelegate::EditPreviousItem) {
         QTreeView::closeEditor(editor, hint);

@@ -89,6 +89,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 protected slots:
+    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private slots:

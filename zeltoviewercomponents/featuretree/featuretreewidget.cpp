@@ -581,6 +581,8 @@ void FeatureTreeWidget::onFilterTextChanged(const QString &text)
 void FeatureTreeWidget::filter(const QString &text)
 {
     FeatureTreeProxyModel *const model = proxy();
+    // What Return has just entered is written before its row may go.
+    QCoreApplication::sendPostedEvents(m_ui->treeView->itemDelegate(), QEvent::MetaCall);
     const bool wasSearching = !model->filterRegularExpression().pattern().isEmpty();
     const bool isSearching = !text.isEmpty();
     if (!wasSearching && isSearching) {
