@@ -61,9 +61,7 @@ QPalette unselectedPalette(QPalette colors)
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
 {
-    QPalette tuned = palette();
-    tuned.setBrush(QPalette::Disabled, QPalette::Base, tuned.brush(QPalette::Active, QPalette::Base));
-    setPalette(tuned);
+    keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
     createModel();
     connect(this, SIGNAL(expanded(const QModelIndex &)), this, SLOT(onSelfExpanded(const QModelIndex &)));
@@ -86,6 +84,24 @@ FeatureTreeView::~FeatureTreeView()
 {
     if (IFeatureTreeModelExtension *const extension = getFeatureExtension()) {
         extension->GetFavorites().detach(this);
+    }
+}
+
+void FeatureTreeView::changeEvent(QEvent *event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        keepBackgroundWhenDisabled();
+    }
+}
+
+void FeatureTreeView::keepBackgroundWhenDisabled()
+{
+    QPalette tuned = palette();
+    const QBrush background = tuned.brush(QPalette::Active, QPalette::Base);
+    if (tuned.brush(QPalette::Disabled, QPalette::Base) != background) {
+        tuned.setBrush(QPalette::Disabled, QPalette::Base, background);
+        setPalette(tuned);
     }
 }
 

@@ -76,6 +76,7 @@ protected:
     /*! Shows, hides and equips the rows below \a parent, if it is expanded; the invalid index always is. */
     void updateRows(const QModelIndex &parent);
 
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void drawRow(QPainter *painter, const QStyleOptionViewItem &options,
                  const QModelIndex &index) const override;
@@ -108,6 +109,7 @@ private:
 
     using ExpansionRule = std::function<bool(const QModelIndex &index, int depth)>;
 
+    void keepBackgroundWhenDisabled();
     FeatureTreeItem *itemAt(const QModelIndex &index) const;
     bool isOpen(const QModelIndex &parent) const;
     void updateRow(int row, const QModelIndex &parent);

@@ -147,6 +147,7 @@ private slots:
     void onFavoritesUpdated();
 
 private:
+    void renewStyleSheets();
     void updateActions();
     void setUpActions();
     QAction *addFavoritesAction(const QString &shortcut, const QString &icon, const QString &text,
