@@ -29,7 +29,7 @@ void CheckBoxEditor::setEditorData(EditorData data)
     }
     const auto headline = [&data] {
         return QStringLiteral("!! Failed to initialize checkbox data for node %1")
-            .arg(EditorHelpers::nodeName(*data.ptrParameter));
+            .arg(EditorHelpers::nodeName(data.ptrParameter.data()));
     };
     Core::guardedRun({logCategory(), "CheckBoxEditor::setEditorData"}, headline, [this, &data] {
         const auto &snapshot = static_cast<const BooleanParameterData &>(*data.ptrParameterData);

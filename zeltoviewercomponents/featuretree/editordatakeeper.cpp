@@ -65,7 +65,7 @@ void EditorDataKeeper::showAgainSoon()
 
 void EditorDataKeeper::showAgain()
 {
-    if (m_data.ptrParameter) {
+    if (m_data.ptrParameterData) {
         m_editor->setEditorData(m_data);
     }
 }

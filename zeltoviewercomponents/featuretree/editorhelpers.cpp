@@ -40,7 +40,7 @@ void logInconsistency(Core::Logging::CategoryId category, const char *function,
     Core::Logging::createLogEntry(
         Core::Logging::ELogLevel::Debug, category,
         QStringLiteral("%1: Feature %2: value %3 and limits %4..%5 do not fit together")
-            .arg(QLatin1String(function), nodeName(parameter))
+            .arg(QLatin1String(function), nodeName(&parameter))
             .arg(data.value)
             .arg(data.minimum)
             .arg(data.maximum));
@@ -119,7 +119,7 @@ void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::Editor
     }
     const auto headline = [&parameter] {
         return QStringLiteral("Failed to update the floating-point value editor for node %1")
-            .arg(nodeName(*parameter));
+            .arg(nodeName(parameter.data()));
     };
     Core::guardedRun(site, headline, [&] {
         const auto &snapshot = static_cast<const FloatParameterData &>(*data.ptrParameterData);
@@ -128,9 +128,9 @@ void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::Editor
     });
 }
 
-QString nodeName(const ParameterCollection::IParameter &parameter)
+QString nodeName(const ParameterCollection::IParameter *parameter)
 {
-    return QString::fromUtf8(parameter.name().toUtf8());
+    return parameter ? QString::fromUtf8(parameter->name().toUtf8()) : QString();
 }
 
 bool canBeChanged(const ParameterCollection::ParameterData &data)
@@ -209,10 +209,13 @@ void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
     }
     event->accept();
     // A line edit undoes typing and deleting one by one; the user wants back what was there before both.
+    // Where the desktop undoes with another key, nothing changes.
+    QString text;
     do {
+        text = lineEdit.text();
         QKeyEvent undo(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(), false, 1);
         press(&undo);
-    } while (lineEdit.isUndoAvailable());
+    } while (lineEdit.isUndoAvailable() && lineEdit.text() != text);
 }
 
 TypedText::TypedText(QLineEdit *lineEdit)

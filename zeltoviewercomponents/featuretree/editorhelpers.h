@@ -63,8 +63,8 @@ FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
 void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::EditorData &data,
                    const std::function<void(const ParameterCollection::FloatParameterData &)> &show);
 
-/*! Returns the name of \a parameter as log entries show it. */
-QString nodeName(const ParameterCollection::IParameter &parameter);
+/*! Returns the name of \a parameter as log entries show it; empty for a null one. */
+QString nodeName(const ParameterCollection::IParameter *parameter);
 
 /*! Returns whether the tree may change what \a data shows: implemented and writable. */
 bool canBeChanged(const ParameterCollection::ParameterData &data);

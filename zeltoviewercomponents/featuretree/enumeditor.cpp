@@ -65,7 +65,7 @@ void EnumEditor::setEditorData(EditorData data)
 {
     const auto headline = [&data] {
         return QStringLiteral("!! Failed to retrieve entries for enumeration %1")
-            .arg(EditorHelpers::nodeName(*data.ptrParameter));
+            .arg(EditorHelpers::nodeName(data.ptrParameter.data()));
     };
     Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
         if (isPopupVisible()) {
@@ -79,16 +79,17 @@ void EnumEditor::setEditorData(EditorData data)
 void EnumEditor::showSnapshot(const EditorData &data)
 {
     clear();
+    m_keeper->keep(data);
     if (!data.ptrParameterData || data.ptrParameterData->type != ParameterType::Enumeration) {
         Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(),
                                       QStringLiteral("%1 is called with non-enumeration node????")
                                           .arg(QLatin1String(setEditorDataName)));
         return;
     }
-    m_keeper->keep(data);
     const auto &snapshot = static_cast<const EnumParameterData &>(*data.ptrParameterData);
     for (qsizetype i = 0; i < snapshot.symbolicNames.size(); ++i) {
-        insertItem(count(), QIcon(), snapshot.displayTexts.at(i), snapshot.symbolicNames.at(i));
+        const QString &name = snapshot.symbolicNames.at(i);
+        insertItem(count(), QIcon(), snapshot.displayTexts.value(i, name), name);
     }
     setCurrentIndex(shownIndex(data));
     m_settled = currentData(Qt::UserRole);
@@ -107,7 +108,8 @@ int EnumEditor::shownIndex(const EditorData &data) const
         Core::Logging::createLogEntry(
             ELogLevel::Debug, logCategory(),
             QStringLiteral("%1: %2. No entry in the combo box matches the current value %3")
-                .arg(QLatin1String(setEditorDataName), EditorHelpers::nodeName(*data.ptrParameter), value));
+                .arg(QLatin1String(setEditorDataName), EditorHelpers::nodeName(data.ptrParameter.data()),
+                     value));
     }
     return index;
 }

@@ -31,9 +31,9 @@ struct Positions
 };
 
 // Returns the positions that the alias gives; a thousand when it gives none.
-Positions aliasPositions(const IParameterCollection &collection, const QString &name)
+Positions aliasPositions(const QSharedPointer<IParameterCollection> &collection, const QString &name)
 {
-    const auto alias = collection.parameter(name + QLatin1String("/Alias"));
+    const auto alias = collection ? collection->parameter(name + QLatin1String("/Alias")) : nullptr;
     const auto data = alias ? alias->parameterData() : nullptr;
     if (!data || data->type != ParameterType::Integer) {
         return {};
@@ -97,7 +97,7 @@ void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterDa
 void FloatSliderEditor::showLimits(const QString &name, const FloatParameterData &snapshot)
 {
     const EditorHelpers::FloatLimits limits = EditorHelpers::usableLimits(snapshot);
-    const Positions positions = aliasPositions(*m_collection, name);
+    const Positions positions = aliasPositions(m_collection, name);
     setMode(snapshot.representation == QLatin1String("Logarithmic")
                 ? ETwoModeDoubleComboSliderMode::Logarithmic
                 : ETwoModeDoubleComboSliderMode::Linear);

@@ -53,7 +53,7 @@ void IntEditor::setEditorData(EditorData data)
     }
     const auto headline = [&parameter] {
         return QStringLiteral("Failed to update the integer value editor for node %1")
-            .arg(EditorHelpers::nodeName(*parameter));
+            .arg(EditorHelpers::nodeName(parameter.data()));
     };
     Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
         m_keeper->keep(data);

@@ -31,13 +31,13 @@ void logInconsistency(const IParameter &parameter, int value, int minimum, int m
     const QString function = QString::fromLatin1(setEditorDataName);
     if (minimum > maximum) {
         log(QStringLiteral("%1: Feature %2: min value %3 > max value %4???")
-                .arg(function, EditorHelpers::nodeName(parameter))
+                .arg(function, EditorHelpers::nodeName(&parameter))
                 .arg(minimum)
                 .arg(maximum));
     }
     if (value < minimum || value > maximum) {
         log(QStringLiteral("%1: Feature %2: value %3 out of range??? min = %4, max = %5")
-                .arg(function, EditorHelpers::nodeName(parameter))
+                .arg(function, EditorHelpers::nodeName(&parameter))
                 .arg(value)
                 .arg(minimum)
                 .arg(maximum));
@@ -69,7 +69,8 @@ void IntSliderEditor::setEditorData(EditorData data)
             m_keeper->keep(data);
             setEnabled(EditorHelpers::canBeChanged(*data.ptrParameterData));
             m_settled = value();
-            log(QStringLiteral("Non-readable slider: %1??????").arg(EditorHelpers::nodeName(*parameter)));
+            log(QStringLiteral("Non-readable slider: %1??????")
+                    .arg(EditorHelpers::nodeName(parameter.data())));
         });
         return;
     }
