@@ -13,6 +13,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 
 #include <exception>
@@ -145,6 +146,10 @@ void EditorGallery::commit()
 
 void EditorGallery::write(QWidget *editor, const ParameterPtr &parameter)
 {
+    const auto *const text = qobject_cast<QLineEdit *>(editor);
+    if (text && !text->isModified()) {
+        return;
+    }
     const QVariant value = dynamic_cast<AbstractItemEditor *>(editor)->editorData();
     if (!value.isValid()) {
         return;

@@ -7,6 +7,7 @@
 
 #include <support/memorycollection.h>
 
+#include <QLineEdit>
 #include <QStringList>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -66,6 +67,10 @@ private:
 
     void write(const Row &row)
     {
+        const auto *const text = qobject_cast<QLineEdit *>(row.widget);
+        if (text && !text->isModified()) {
+            return;
+        }
         const QVariant value = row.editor->editorData();
         if (!value.isValid()) {
             return;

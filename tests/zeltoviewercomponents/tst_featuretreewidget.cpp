@@ -626,6 +626,9 @@ void TestFeatureTreeWidget::tabWalksEditors()
         back.prepend(focusedRow());
     }
     QCOMPARE(back, all.mid(0, 6));
+    for (const QString &name : all) {
+        QVERIFY2(bench.node(name)->writes.isEmpty(), qPrintable(name));
+    }
 }
 
 void TestFeatureTreeWidget::keysEditTheValueColumn_data()

@@ -33,8 +33,7 @@ public:
     /*! Shows the snapshot. Never throws, and never takes away what is being typed. */
     virtual void setEditorData(EditorData data) = 0;
 
-    /*! Returns what the user entered since the last snapshot, once; invalid when there is nothing to write.
-     */
+    /*! Returns the value to write; invalid when there is none. */
     virtual QVariant editorData() = 0;
 
     virtual ~AbstractItemEditor();

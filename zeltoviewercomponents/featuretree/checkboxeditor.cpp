@@ -35,17 +35,12 @@ void CheckBoxEditor::setEditorData(EditorData data)
         const auto &snapshot = static_cast<const BooleanParameterData &>(*data.ptrParameterData);
         m_keeper->keep(data);
         setChecked(snapshot.value);
-        m_settled = snapshot.value;
         setEnabled(EditorHelpers::canBeChanged(snapshot));
     });
 }
 
 QVariant CheckBoxEditor::editorData()
 {
-    if (m_settled == isChecked()) {
-        return {};
-    }
-    m_settled = isChecked();
     m_keeper->showAgainAfterCommit();
     return isChecked() ? QStringLiteral("1") : QStringLiteral("0");
 }

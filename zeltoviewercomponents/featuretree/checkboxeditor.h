@@ -8,8 +8,6 @@
 
 #include <QCheckBox>
 
-#include <optional>
-
 class EditorDataKeeper;
 
 /*! \brief Edits a boolean feature; hands out "1" or "0". */
@@ -26,5 +24,4 @@ public:
 
 private:
     EditorDataKeeper *m_keeper;
-    std::optional<bool> m_settled; //!< what was last shown or handed out
 };

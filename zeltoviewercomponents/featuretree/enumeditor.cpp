@@ -50,7 +50,6 @@ EnumEditor::EnumEditor(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     new WheelGuard(this, this);
-    connect(this, SIGNAL(activated(int)), this, SLOT(onActivated()));
 }
 
 EnumEditor::~EnumEditor()
@@ -92,8 +91,6 @@ void EnumEditor::showSnapshot(const EditorData &data)
         insertItem(count(), QIcon(), snapshot.displayTexts.value(i, name), name);
     }
     setCurrentIndex(shownIndex(data));
-    m_settled = currentData(Qt::UserRole);
-    m_activated = false;
     setEnabled(EditorHelpers::canBeChanged(snapshot));
 }
 
@@ -116,14 +113,8 @@ int EnumEditor::shownIndex(const EditorData &data) const
 
 QVariant EnumEditor::editorData()
 {
-    const QVariant chosen = currentData(Qt::UserRole);
-    if (!m_activated && m_settled == chosen) {
-        return {};
-    }
-    m_settled = chosen;
-    m_activated = false;
     m_keeper->showAgainAfterCommit();
-    return chosen;
+    return currentData(Qt::UserRole);
 }
 
 void EnumEditor::showPopup()
@@ -133,11 +124,6 @@ void EnumEditor::showPopup()
     if (m_watchedPopup) {
         m_watchedPopup->installEventFilter(this);
     }
-}
-
-void EnumEditor::onActivated()
-{
-    m_activated = true;
 }
 
 bool EnumEditor::eventFilter(QObject *watched, QEvent *event)

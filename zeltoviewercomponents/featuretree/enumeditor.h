@@ -9,8 +9,6 @@
 #include <QComboBox>
 #include <QPointer>
 
-#include <optional>
-
 class EditorDataKeeper;
 
 /*! \brief Edits an enumeration feature; hands out the symbolic name of the chosen entry.
@@ -29,9 +27,6 @@ public:
     QVariant editorData() override;
     void showPopup() override;
 
-private slots:
-    void onActivated();
-
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool isPopupVisible() const;
@@ -40,6 +35,4 @@ private:
 
     EditorDataKeeper *m_keeper;
     QPointer<QWidget> m_watchedPopup; //!< the list while it is open
-    std::optional<QVariant> m_settled; //!< what was last shown or handed out
-    bool m_activated = false;
 };

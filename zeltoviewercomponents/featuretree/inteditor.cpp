@@ -93,7 +93,6 @@ void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
 
 void IntEditor::showText(const QString &text)
 {
-    m_settledText = text;
     if (EditorHelpers::isBeingTyped(*this, *this)) {
         return;
     }
@@ -105,10 +104,9 @@ void IntEditor::showText(const QString &text)
 
 QVariant IntEditor::editorData()
 {
-    if (text() == m_settledText || text() == notReadable()) {
+    if (text() == notReadable()) {
         return {};
     }
-    m_settledText = text();
     setModified(false);
     m_keeper->showAgainAfterCommit();
     return text();

@@ -34,5 +34,4 @@ private:
     QString notReadable() const;
 
     EditorDataKeeper *m_keeper;
-    QString m_settledText; //!< what was last shown or handed out
 };

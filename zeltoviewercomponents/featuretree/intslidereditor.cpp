@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QSlider>
 
+#include <optional>
+
 using namespace ParameterCollection;
 using Core::Logging::ELogLevel;
 
@@ -68,7 +70,6 @@ void IntSliderEditor::setEditorData(EditorData data)
         Core::guardedRun(site, QStringLiteral("Failed to retrieve a node's name"), [this, &parameter, &data] {
             m_keeper->keep(data);
             setEnabled(EditorHelpers::canBeChanged(*data.ptrParameterData));
-            m_settled = value();
             log(QStringLiteral("Non-readable slider: %1??????")
                     .arg(EditorHelpers::nodeName(parameter.data())));
         });
@@ -98,19 +99,14 @@ void IntSliderEditor::showSnapshot(const EditorData &data)
     if (minimum != this->minimum() || maximum != this->maximum() || increment != singleStep()) {
         setRangeAndStep(minimum, maximum, increment);
     }
-    if (!slider()->isSliderDown() && (!typed || m_settled != trimValue(value))) {
+    if (!slider()->isSliderDown() && (!typed || this->value() != trimValue(value))) {
         setValue(value);
-        m_settled = this->value();
     }
     setPageStep(EditorHelpers::pageStep(minimum, maximum, increment));
 }
 
 QVariant IntSliderEditor::editorData()
 {
-    if (m_settled == value()) {
-        return {};
-    }
-    m_settled = value();
     m_keeper->showAgainAfterCommit();
     return value();
 }

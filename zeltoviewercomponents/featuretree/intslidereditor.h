@@ -7,8 +7,6 @@
 #include <zeltoviewercomponents/featuretree/comboslider.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <optional>
-
 class EditorDataKeeper;
 
 /*! \brief Edits an integer feature with a spin box and a slider; 64-bit values are limited to 32 bits. */
@@ -27,5 +25,4 @@ private:
     void showSnapshot(const EditorData &data);
 
     EditorDataKeeper *m_keeper;
-    std::optional<int> m_settled; //!< what was last shown or handed out
 };
