@@ -503,6 +503,14 @@ void TestValueEditors::sliderGridAndKeys()
     QTest::keyClicks(plain.findChild<ZeltoQtSpinBox *>(), QStringLiteral("7"));
     QTest::keyClick(plain.findChild<ZeltoQtSpinBox *>(), Qt::Key_Escape);
     QCOMPARE(line->text(), QStringLiteral("50"));
+
+    // A fraction is not taken for a number with groups.
+    plain.setLocale(QLocale::German);
+    plain.setMaximum(5000);
+    line->selectAll();
+    line->insert(QStringLiteral("12.5"));
+    QTest::keyClick(plain.findChild<ZeltoQtSpinBox *>(), Qt::Key_Return);
+    QCOMPARE(plain.value(), 50);
 }
 
 void TestValueEditors::sliderRange_data()

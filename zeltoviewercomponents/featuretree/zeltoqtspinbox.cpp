@@ -29,6 +29,12 @@ void ZeltoQtSpinBox::stepBy(int steps)
     emit editingFinished();
 }
 
+QValidator::State ZeltoQtSpinBox::validate(QString &text, int &pos) const
+{
+    // The base drops them wherever they stand: a pasted 12.5 would become 125 where the comma is decimal.
+    return text.contains(locale().groupSeparator()) ? QValidator::Invalid : QSpinBox::validate(text, pos);
+}
+
 void ZeltoQtSpinBox::fixup(QString &text) const
 {
     bool ok = false;

@@ -21,6 +21,9 @@ public:
      * editing. */
     void stepBy(int steps) override;
 
+    /*! Refuses group separators, as the floating-point controls do. */
+    QValidator::State validate(QString &text, int &pos) const override;
+
     /*! Limits a number that was typed; the base would go back to the previous value. */
     void fixup(QString &text) const override;
 
