@@ -31,6 +31,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace {
 
@@ -263,6 +264,7 @@ private slots:
     void switchesLevelWhileEditing();
     void ignoresUnknownLevels();
     void setsVisibilityTwice();
+    void clearsFromInsideAWrite();
     void closesDeviceWhileEditing();
     void clearsAndFillsAgain();
     void clearsFromInsideASearch();
@@ -1009,6 +1011,21 @@ void TestFeatureTreeWidget::setsVisibilityTwice()
     other.view()->setVisibility(GenApi::Expert);
     one.view()->setVisibility(GenApi::Expert);
     QCOMPARE(one.camera->refreshes, refreshes + 1);
+}
+
+void TestFeatureTreeWidget::clearsFromInsideAWrite()
+{
+    TreeBench bench;
+    bench.node(QStringLiteral("ReverseX"))->before = [&bench](const QString &operation) {
+        if (operation == QLatin1String("setValueFromString")) {
+            bench.widget.clear();
+            throw std::runtime_error("lost");
+        }
+    };
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    bench.settle();
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
 }
 
 void TestFeatureTreeWidget::closesDeviceWhileEditing()

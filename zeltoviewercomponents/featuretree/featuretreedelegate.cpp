@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPersistentModelIndex>
 #include <QStaticText>
 #include <QTextOption>
 
@@ -237,8 +238,9 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
-    if (!model->setData(index, itemEditor->editorData(), Qt::EditRole)) {
-        setEditorData(editor, index); // refused: the real value stands
+    const QPersistentModelIndex row(index); // a device that is lost by the write may take its rows away
+    if (!model->setData(index, itemEditor->editorData(), Qt::EditRole) && row.isValid()) {
+        setEditorData(editor, row); // refused: the real value stands
     }
 }
 

@@ -202,6 +202,8 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
         || !m_deviceAlive) {
         return false;
     }
+    // A device that is lost by the write may have the tree cleared before the write returns.
+    const QPointer<FeatureTreeItem> guardedItem(item);
     try {
         const QVariant current = item->data(FeatureTreeColumns::value, Qt::EditRole);
         if (!isSameValue(current, value)) {
@@ -209,7 +211,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
         }
         return true;
     } catch (...) {
-        reportWriteFailure(item);
+        reportWriteFailure(guardedItem);
         return false;
     }
 }
@@ -219,7 +221,7 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
 {
     const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
-    if (item->editorType() == FeatureTreeItem::Command) {
+    if (item && item->editorType() == FeatureTreeItem::Command) {
         scheduleForcedParameterDataChangedCheck(item);
     }
     if (!m_deviceAlive) {
