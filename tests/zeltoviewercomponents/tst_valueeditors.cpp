@@ -54,6 +54,7 @@ private slots:
     void wrongSnapshots_data();
     void wrongSnapshots();
     void enumShowsAndCommits();
+    void enumShowsIncompleteData();
     void enumWaitsForItsOpenList();
     void commandButton();
     void buttonSurvivesAFailingCommand();
@@ -227,6 +228,21 @@ void TestValueEditors::enumShowsAndCommits()
     m_bench->refresh();
     QVERIFY(log.entries().isEmpty());
     QVERIFY(!editor->editorData().isValid());
+}
+
+void TestValueEditors::enumShowsIncompleteData()
+{
+    const QStringList names{QStringLiteral("A"), QStringLiteral("B")};
+    const auto parameter =
+        m_collection->addEnum(QStringLiteral("Mode"), QStringLiteral("Root"), names, names[0]);
+    parameter->edit<EnumParameterData>([](auto &data) {
+        data.displayTexts.removeLast();
+        data.valueString = QStringLiteral("C");
+    });
+    EnumEditor editor(nullptr);
+    editor.setEditorData({nullptr, parameter->parameterData()});
+    QCOMPARE(editor.itemText(1), names[1]);
+    QCOMPARE(editor.currentIndex(), -1);
 }
 
 void TestValueEditors::enumWaitsForItsOpenList()
