@@ -405,7 +405,7 @@ void FeatureTreeView::spanRow(const QModelIndex &index, const FeatureTreeItem &i
 void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
 {
     QTreeView::rowsInserted(parent, start, end);
-    if (!isOpen(parent)) {
+    if (m_isRebuilding || !isOpen(parent)) {
         return;
     }
     for (int row = start; row <= end; ++row) {
@@ -416,6 +416,10 @@ void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end
 void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QList<int> &roles)
 {
+    if (m_isRebuilding) {
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+        return;
+    }
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
@@ -532,7 +536,9 @@ void FeatureTreeView::onLayoutChanged()
     takeFocusFromLostRow();
     forgetClosedEditors();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
-    updateRows(QModelIndex());
+    if (!m_isRebuilding) {
+        updateRows(QModelIndex());
+    }
     if (m_hadCurrent && !currentIndex().isValid()) {
         emit onCurrentChanged(QModelIndex()); // filtered out, of which the base tells nobody
     }
@@ -652,8 +658,10 @@ void FeatureTreeView::onFavoriteDataUpdated()
         selectionModel()->clear();
     }
 
-    extension->rebuildFavoriteItems();
-
+    {
+        const QScopedValueRollback<bool> rebuilding(m_isRebuilding, true);
+        extension->rebuildFavoriteItems();
+    }
     for (const QString &name : std::as_const(selectedNames)) {
         const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);

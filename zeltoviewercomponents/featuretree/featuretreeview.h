@@ -147,6 +147,7 @@ private:
     QPersistentModelIndex m_currentBeforeLayout;
     bool m_hadCurrent = false;
     bool m_isBulkWork = false;
+    bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
     bool m_isEnsuringEditors = false;
     bool m_isTabOrderStale = false;
     bool m_isForwardingKey = false;
