@@ -262,6 +262,8 @@ private slots:
     void unavailableFavorites();
     void polls();
     void switchesLevelWhileEditing();
+    void leavesEditorsOutOfSight_data();
+    void leavesEditorsOutOfSight();
     void ignoresUnknownLevels();
     void setsVisibilityTwice();
     void clearsFromInsideAWrite();
@@ -984,6 +986,42 @@ void TestFeatureTreeWidget::switchesLevelWhileEditing()
     QVERIFY(!bench.row(QStringLiteral("OffsetX")).isValid());
     QVERIFY(!bench.widget.GetCurrentNode());
     QVERIFY(bench.view()->hasFocus());
+}
+
+void TestFeatureTreeWidget::leavesEditorsOutOfSight_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("byLevel");
+    for (const QString &name : {QStringLiteral("Gain"), QStringLiteral("OffsetX")}) {
+        QTest::addRow("%s, collapsed", qPrintable(name)) << name << false;
+        QTest::addRow("%s, below a hidden category", qPrintable(name)) << name << true;
+    }
+}
+
+void TestFeatureTreeWidget::leavesEditorsOutOfSight()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, byLevel);
+    TreeBench bench;
+    const QString category = bench.row(name).parent().data(FeatureTreeItem::GenicamNameRole).toString();
+    bench.parameter<MemoryPlain>(category)->edit<ParameterCollection::ParameterData>(
+        [](auto &data) { data.visibility = GenApi::Expert; });
+    bench.publish(category);
+    bench.view()->setCurrentIndex(bench.row(name));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    QVERIFY(bench.view()->viewport()->isAncestorOf(QApplication::focusWidget()));
+
+    if (byLevel) {
+        bench.widget.onVisibilityChanged(GenApi::Beginner);
+    } else {
+        bench.view()->collapseAll();
+    }
+    bench.settle();
+    QCOMPARE(QApplication::focusWidget(), bench.view()); // and no editor of another row
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_7}) {
+        QTest::keyClick(bench.view(), key);
+        QCOMPARE(QApplication::focusWidget(), bench.view());
+    }
 }
 
 void TestFeatureTreeWidget::ignoresUnknownLevels()

@@ -320,6 +320,7 @@ void FeatureTreeView::doItemsLayout()
 
 void FeatureTreeView::updateGeometries()
 {
+    takeFocusFromHiddenRow();
     QTreeView::updateGeometries();
     ensureEditors();
 }
@@ -512,6 +513,20 @@ void FeatureTreeView::takeFocusFromLostRow()
         permanent == m_editors.cend() ? currentIndex().isValid() : permanent->index.isValid();
     if (editor && !isRowLeft) {
         abandonFocusedEditor();
+    }
+}
+
+// The base hides editors of rows out of sight, and the focus would go on to whatever row comes next.
+void FeatureTreeView::takeFocusFromHiddenRow()
+{
+    const QWidget *const editor = focusedEditor();
+    if (!editor) {
+        return;
+    }
+    const QModelIndex permanent = rowOfEditor(editor);
+    const QModelIndex row = permanent.isValid() ? permanent : currentIndex();
+    if (row.isValid() && !visualRect(row).isValid()) {
+        setFocus();
     }
 }
 
@@ -792,6 +807,9 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
         return QTreeView::edit(index, trigger, event);
     }
     const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
+    if (!visualRect(value).isValid()) {
+        return false; // the current row may be in a collapsed branch, where nobody sees what is typed
+    }
     return indexWidget(value) ? activateEditor(value, trigger, event)
                               : QTreeView::edit(value, trigger, event);
 }

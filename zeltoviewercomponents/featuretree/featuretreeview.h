@@ -120,6 +120,7 @@ private:
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void takeFocusFrom(const QWidget *editor);
     void takeFocusFromLostRow();
+    void takeFocusFromHiddenRow();
     QWidget *focusedEditor() const;
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
