@@ -633,6 +633,11 @@ void TestFeatureTreeWidget::tabWalksEditors()
     for (const QString &name : all) {
         QVERIFY2(bench.node(name)->writes.isEmpty(), qPrintable(name));
     }
+
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("AcquisitionControl")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_Tab);
+    QCOMPARE(focusedRow(), QStringLiteral("ExposureTime"));
 }
 
 void TestFeatureTreeWidget::keysEditTheValueColumn_data()

@@ -842,10 +842,15 @@ QModelIndex FeatureTreeView::rowOfEditor(const QWidget *focus) const
 bool FeatureTreeView::focusNextPrevChild(bool next)
 {
     const QModelIndex row = rowOfEditor(QApplication::focusWidget());
-    if (!row.isValid()) {
-        return QTreeView::focusNextPrevChild(next);
+    if (row.isValid()) {
+        return editNeighbour(row, next) || leaveEditors(next);
     }
-    return editNeighbour(row, next) || leaveEditors(next);
+    // From the tree itself into the editors where the current row is, not up to the first one.
+    const QModelIndex above = next && hasFocus() ? indexAbove(currentIndex()) : QModelIndex();
+    if (above.isValid()) {
+        return editNeighbour(above, true) || leaveEditors(true);
+    }
+    return QTreeView::focusNextPrevChild(next);
 }
 
 // The focus goes from the first editor back to the tree and from the last one to what comes after the tree.
