@@ -270,6 +270,7 @@ private slots:
     void closesDeviceWhileEditing();
     void clearsAndFillsAgain();
     void clearsFromInsideASearch();
+    void clearsFromInsideAStep();
     void refreshesBelowAnOpenPopup();
     void followsAvailability();
     void hidesTheCurrentRow();
@@ -1126,6 +1127,20 @@ void TestFeatureTreeWidget::clearsFromInsideASearch()
     bench.add(bench.camera);
     bench.view()->expandEverything();
     QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeWidget::clearsFromInsideAStep()
+{
+    TreeBench bench;
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
+    connect(bench.view(), &FeatureTreeView::onCurrentChanged, &bench.widget,
+            [&bench](const QModelIndex &index) {
+                if (index.isValid()) {
+                    bench.widget.clear();
+                }
+            });
+    QTest::keyClick(bench.view(), Qt::Key_Up);
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
 }
 
 void TestFeatureTreeWidget::refreshesBelowAnOpenPopup()

@@ -777,8 +777,16 @@ void FeatureTreeView::initViewItemOption(QStyleOptionViewItem *option) const
 
 void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
+    // Who is told may clear the tree.
+    const QPersistentModelIndex newRow(current);
+    const QPersistentModelIndex oldRow(previous);
     emit onCurrentChanged(current);
-    QTreeView::currentChanged(current, previous);
+    QTreeView::currentChanged(newRow, oldRow);
+    // The base repaints the cells; the frame goes around the whole row, with its indentation.
+    for (const QModelIndex &index : {QModelIndex(newRow), QModelIndex(oldRow)}) {
+        const QRect cell = visualRect(index);
+        viewport()->update(0, cell.y(), viewport()->width(), cell.height());
+    }
 }
 
 void FeatureTreeView::keyPressEvent(QKeyEvent *event)
