@@ -262,8 +262,8 @@ private slots:
     void unavailableFavorites();
     void polls();
     void switchesLevelWhileEditing();
-    void leavesEditorsOutOfSight_data();
-    void leavesEditorsOutOfSight();
+    void leavesEditorsOfOtherRows_data();
+    void leavesEditorsOfOtherRows();
     void ignoresUnknownLevels();
     void setsVisibilityTwice();
     void clearsFromInsideAWrite();
@@ -994,20 +994,22 @@ void TestFeatureTreeWidget::switchesLevelWhileEditing()
     QVERIFY(bench.view()->hasFocus());
 }
 
-void TestFeatureTreeWidget::leavesEditorsOutOfSight_data()
+void TestFeatureTreeWidget::leavesEditorsOfOtherRows_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("byLevel");
+    QTest::addColumn<QString>("how");
     for (const QString &name : {QStringLiteral("Gain"), QStringLiteral("OffsetX")}) {
-        QTest::addRow("%s, collapsed", qPrintable(name)) << name << false;
-        QTest::addRow("%s, below a hidden category", qPrintable(name)) << name << true;
+        for (const QString &how :
+             {QStringLiteral("collapsed"), QStringLiteral("hidden"), QStringLiteral("not current")}) {
+            QTest::addRow("%s, %s", qPrintable(name), qPrintable(how)) << name << how;
+        }
     }
 }
 
-void TestFeatureTreeWidget::leavesEditorsOutOfSight()
+void TestFeatureTreeWidget::leavesEditorsOfOtherRows()
 {
     QFETCH(QString, name);
-    QFETCH(bool, byLevel);
+    QFETCH(QString, how);
     TreeBench bench;
     const QString category = bench.row(name).parent().data(FeatureTreeItem::GenicamNameRole).toString();
     bench.parameter<MemoryPlain>(category)->edit<ParameterCollection::ParameterData>(
@@ -1017,10 +1019,12 @@ void TestFeatureTreeWidget::leavesEditorsOutOfSight()
     QTest::keyClick(bench.view(), Qt::Key_F2);
     QVERIFY(bench.view()->viewport()->isAncestorOf(QApplication::focusWidget()));
 
-    if (byLevel) {
+    if (how == QLatin1String("collapsed")) {
+        bench.view()->collapseAll();
+    } else if (how == QLatin1String("hidden")) {
         bench.widget.onVisibilityChanged(GenApi::Beginner);
     } else {
-        bench.view()->collapseAll();
+        bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeviceControl")));
     }
     bench.settle();
     QCOMPARE(QApplication::focusWidget(), bench.view()); // and no editor of another row

@@ -41,6 +41,11 @@ bool isInUse(const QWidget *editor)
     return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
 }
 
+bool isSameRow(const QModelIndex &a, const QModelIndex &b)
+{
+    return a.row() == b.row() && a.parent() == b.parent();
+}
+
 // Returns the colours in which a selected row looks like any other.
 QPalette unselectedPalette(QPalette colors)
 {
@@ -516,17 +521,19 @@ void FeatureTreeView::takeFocusFromLostRow()
     }
 }
 
+// Returns the row of the editor with the focus; one that is not permanent belongs to the current row.
+QModelIndex FeatureTreeView::rowOfFocus(const QModelIndex &current) const
+{
+    const QModelIndex permanent = rowOfEditor(QApplication::focusWidget());
+    return permanent.isValid() ? permanent : current;
+}
+
 // The base hides editors of rows out of sight, and the focus would go on to whatever row comes next.
 void FeatureTreeView::takeFocusFromHiddenRow()
 {
-    const QWidget *const editor = focusedEditor();
-    if (!editor) {
-        return;
-    }
-    const QModelIndex permanent = rowOfEditor(editor);
-    const QModelIndex row = permanent.isValid() ? permanent : currentIndex();
+    const QModelIndex row = rowOfFocus(currentIndex());
     if (row.isValid() && !visualRect(row).isValid()) {
-        setFocus();
+        takeFocusFrom(viewport());
     }
 }
 
@@ -781,6 +788,9 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
     const QPersistentModelIndex newRow(current);
     const QPersistentModelIndex oldRow(previous);
     emit onCurrentChanged(current);
+    if (!m_keepsFocus && newRow.isValid() && !isSameRow(rowOfFocus(oldRow), newRow)) {
+        takeFocusFrom(viewport());
+    }
     QTreeView::currentChanged(newRow, oldRow);
     // The base repaints the cells; the frame goes around the whole row, with its indentation.
     for (const QModelIndex &index : {QModelIndex(newRow), QModelIndex(oldRow)}) {
@@ -828,7 +838,7 @@ void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
     Q_UNUSED(old)
     const QModelIndex index = rowOfEditor(now);
     const QModelIndex current = currentIndex();
-    if (index.isValid() && (index.row() != current.row() || index.parent() != current.parent())) {
+    if (index.isValid() && !isSameRow(index, current)) {
         const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
         setCurrentIndex(index);
     }

@@ -121,6 +121,7 @@ private:
     void takeFocusFrom(const QWidget *editor);
     void takeFocusFromLostRow();
     void takeFocusFromHiddenRow();
+    QModelIndex rowOfFocus(const QModelIndex &current) const;
     QWidget *focusedEditor() const;
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
