@@ -531,9 +531,10 @@ QModelIndex FeatureTreeView::rowOfFocus(const QModelIndex &current) const
 // The base hides editors of rows out of sight, and the focus would go on to whatever row comes next.
 void FeatureTreeView::takeFocusFromHiddenRow()
 {
-    const QModelIndex row = rowOfFocus(currentIndex());
+    const QWidget *const editor = focusedEditor();
+    const QModelIndex row = editor ? rowOfFocus(currentIndex()) : QModelIndex();
     if (row.isValid() && !visualRect(row).isValid()) {
-        takeFocusFrom(viewport());
+        setFocus();
     }
 }
 
