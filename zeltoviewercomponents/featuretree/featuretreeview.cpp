@@ -14,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -802,6 +803,13 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
 
 void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 {
+    const QModelIndex name = currentIndex().siblingAtColumn(FeatureTreeColumns::name);
+    if (event->matches(QKeySequence::Copy) && name.data(FeatureTreeItem::IsSpecialNode).toBool()) {
+        // The base would copy the markup.
+        QApplication::clipboard()->setText(name.data(Qt::AccessibleTextRole).toString());
+        event->accept();
+        return;
+    }
     const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && state() != EditingState && edit(currentIndex(), EditKeyPressed, event)) {
