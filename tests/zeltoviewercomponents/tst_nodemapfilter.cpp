@@ -255,8 +255,9 @@ void TestNodeMapFilter::unusableFiles_data()
     QTest::newRow("truncated") << filterOf(feature("Width", "Guru")).chopped(12);
     QTest::newRow("binary") << QByteArray("\x7f\x45LF\0\0\xff\xfe", 8);
     QTest::newRow("50 MB") << filterOf(QByteArray(50 * 1024 * 1024, ' '));
-    QTest::newRow("deep") << filterOf(QByteArray("<a>").repeated(100000)
-                                      + QByteArray("</a>").repeated(100000));
+    const QByteArray deep = QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000);
+    QTest::newRow("deep") << filterOf(deep);
+    QTest::newRow("deep behind an unknown prefix") << filterOf("<x:y/>" + deep);
     QByteArray laughs("<!DOCTYPE Filter [<!ENTITY a0 \"haha\">");
     for (int i = 1; i < 12; ++i) {
         const QByteArray below = "&a" + QByteArray::number(i - 1) + ";";

@@ -97,6 +97,7 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
 bool isTooDeep(const QByteArray &contents)
 {
     QXmlStreamReader reader(contents);
+    reader.setNamespaceProcessing(false); // as for the document: an unknown prefix ends neither
     int depth = 0;
     while (!reader.atEnd()) {
         const auto token = reader.readNext();
