@@ -485,6 +485,7 @@ void FeatureTreeProxyModel::onSourceRowsAboutToBeInserted(const QModelIndex &par
 {
     Q_UNUSED(first)
     Q_UNUSED(last)
+    m_insertionParent = parent;
     if (isPhantom(parent)) {
         emit layoutAboutToBeChanged();
         blockSignals(true);
@@ -495,6 +496,9 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
 {
     Q_UNUSED(first)
     Q_UNUSED(last)
+    if (parent.isValid() && !m_insertionParent.isValid()) {
+        return; // a receiver of the base's signals had the tree cleared
+    }
     if (isPhantom(parent)) {
         {
             // The row stands above all others, where the base's mapping knows nothing of it.

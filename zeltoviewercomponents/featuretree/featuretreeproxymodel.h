@@ -8,6 +8,7 @@
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QPersistentModelIndex>
 #include <QSet>
 #include <QSortFilterProxyModel>
 #include <QString>
@@ -177,6 +178,7 @@ private:
     mutable quint64 m_markedPass = 0; // the last pass that left marks
     mutable bool m_treeJudged = false;
 
+    QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
     bool m_rejectAll = false; // nothing passes while the tree is being cleared
     bool m_shiftTopRows = false; // the mapping is one top row behind the source
