@@ -28,7 +28,7 @@ class FeatureTreeModel;
  * Dynamic sorting and filtering stays off. Rows whose level or availability flips are filtered anew, once,
  * when the event loop comes round. As IFeatureTreeModelExtension it forwards to its source, a
  * FeatureTreeModel; all indexes that go in and come out are the proxy's, and a row that is filtered out gives
- * an invalid one.
+ * an invalid one. A model serves one such proxy at a time, which keeps its verdicts in the items.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension
@@ -127,6 +127,8 @@ private slots:
 private:
     FeatureTreeModel *model() const;
     FeatureTreeItem *rootItem() const;
+    bool isPhantom(const QModelIndex &sourceIndex) const;
+    QModelIndex mapped(const QModelIndex &sourceIndex) const;
 
     template <typename Work>
     void rebuild(Work work);
