@@ -258,6 +258,11 @@ void TestNodeMapFilter::unusableFiles_data()
     const QByteArray deep = QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000);
     QTest::newRow("deep") << filterOf(deep);
     QTest::newRow("deep behind an unknown prefix") << filterOf("<x:y/>" + deep);
+    QByteArray attributes;
+    for (int i = 0; attributes.size() < 900000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "=''";
+    }
+    QTest::newRow("attributes") << filterOf("<Feature" + attributes + "/>");
     QByteArray laughs("<!DOCTYPE Filter [<!ENTITY a0 \"haha\">");
     for (int i = 1; i < 12; ++i) {
         const QByteArray below = "&a" + QByteArray::number(i - 1) + ";";
@@ -265,6 +270,9 @@ void TestNodeMapFilter::unusableFiles_data()
     }
     QTest::newRow("entities of entities")
         << laughs + "]><Filter><Feature><Name>&a11;</Name></Feature></Filter>";
+    QTest::newRow("an entity many times") << "<!DOCTYPE Filter [<!ENTITY a \"" + QByteArray(4000, 'a')
+            + "\">]><Filter><Feature><Name>" + QByteArray("&a;").repeated(70000)
+            + "</Name></Feature></Filter>";
 }
 
 void TestNodeMapFilter::unusableFiles()
