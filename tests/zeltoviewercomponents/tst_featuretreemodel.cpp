@@ -771,6 +771,7 @@ void TestFeatureTreeModel::favoritesCanBeAddedMovedRemoved()
 {
     addSample();
     m_model->rebuildFavoriteItems();
+    dynamic_cast<MemoryNode *>(m_collection->parameter(QStringLiteral("Gain")).data())->properties.clear();
     for (const char *const name : {"Gain", "Width", "OffsetX"}) {
         const QModelIndex row = feature(QString::fromLatin1(name), 0);
         QVERIFY(m_model->CanAddAsFavorite(row));
@@ -779,6 +780,7 @@ void TestFeatureTreeModel::favoritesCanBeAddedMovedRemoved()
         QVERIFY(!m_model->AddFavorite(parameter, 0));
         QVERIFY(!m_model->CanAddAsFavorite(row));
     }
+    QCOMPARE(m_model->GetFavorites().entryAt(0)->displayName, QStringLiteral("Gain"));
     QVERIFY(!m_model->CanAddAsFavorite(feature(QStringLiteral("DeviceControl"), 0)));
     QVERIFY(!m_model->AddFavorite(nullptr, 0));
     QVERIFY(!m_model->AddFavorite(m_collection->parameter(QStringLiteral("ReverseX")), -1));

@@ -911,9 +911,11 @@ bool FeatureTreeModel::AddFavorite(QSharedPointer<IParameter> parameter, int row
                              }
                              FavoriteEntry entry;
                              entry.featureName = parameter->name();
-                             if (const auto access = parameter->propertyAccess()) {
-                                 entry.displayName = access->property(QStringLiteral("DisplayName"));
-                             }
+                             // Without a text it would not survive being stored.
+                             const auto access = parameter->propertyAccess();
+                             entry.displayName = access
+                                 ? access->property(QStringLiteral("DisplayName"), entry.featureName)
+                                 : entry.featureName;
                              entry.nodeMapKey = firstSegment(parameter->fullName());
                              return row < m_favorites.count() ? m_favorites.insertEntry(row, entry)
                                                               : m_favorites.appendEntry(entry);
