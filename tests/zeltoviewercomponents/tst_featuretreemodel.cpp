@@ -261,9 +261,13 @@ void TestFeatureTreeModel::admitsChildren()
             throw 1;
         }
     };
+    m_collection->addCategory(QStringLiteral("Outer"));
+    const auto inner = m_collection->addCategory(QStringLiteral("Inner"), QStringLiteral("Outer"));
+    inner->MemoryNode::children.append(QStringLiteral("Outer"));
     LogCapture log;
     addSample();
     visitAll(*m_model);
+    QCOMPARE(m_model->rowCount(find(QStringLiteral("@CameraDevice/Inner"))), 0);
     QVERIFY(!find(QStringLiteral("@CameraDevice/HiddenCategory")).isValid());
     QVERIFY(find(QStringLiteral("@CameraDevice/InvisibleFeature")).isValid());
     QVERIFY(!find(QStringLiteral("@CameraDevice/Excluded")).isValid());

@@ -81,6 +81,18 @@ QString favoritesRowName(const FavoriteEntry &entry)
     return parts.join(QLatin1Char(FeatureTreeNames::separator));
 }
 
+// A category below itself would make an endless tree.
+bool standsAbove(const FeatureTreeItem *row, const QSharedPointer<IParameter> &category)
+{
+    for (; row; row = row->parent()) {
+        const auto *const nodeItem = qobject_cast<const FeatureTreeINodeItem *>(row);
+        if (nodeItem && nodeItem->node() == category) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool isPlaceholder(const FeatureTreeItem *row)
 {
     return !qobject_cast<const FeatureTreeINodeItem *>(row) && row->getFullName() != FeatureTreeNames::dummy;
@@ -531,7 +543,8 @@ FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent,
     if (!parameter || parameter->isExcluded()) {
         return nullptr;
     }
-    if (parameter->type() == ParameterType::Category && parameter->visibility() >= GenApi::Invisible) {
+    if (parameter->type() == ParameterType::Category
+        && (parameter->visibility() >= GenApi::Invisible || standsAbove(parent, parameter))) {
         return nullptr;
     }
     auto *const item =
