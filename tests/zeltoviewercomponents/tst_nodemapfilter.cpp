@@ -255,8 +255,14 @@ void TestNodeMapFilter::unusableFiles_data()
     QTest::newRow("truncated") << filterOf(feature("Width", "Guru")).chopped(12);
     QTest::newRow("binary") << QByteArray("\x7f\x45LF\0\0\xff\xfe", 8);
     QTest::newRow("50 MB") << filterOf(QByteArray(50 * 1024 * 1024, ' '));
-    QTest::newRow("deep") << filterOf(QByteArray("<a>").repeated(100000)
-                                      + QByteArray("</a>").repeated(100000));
+    const QByteArray deep = QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000);
+    QTest::newRow("deep") << filterOf(deep);
+    QTest::newRow("deep behind an unknown prefix") << filterOf("<x:y/>" + deep);
+    QByteArray attributes;
+    for (int i = 0; attributes.size() < 900000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "=''";
+    }
+    QTest::newRow("attributes") << filterOf("<Feature" + attributes + "/>");
     QByteArray laughs("<!DOCTYPE Filter [<!ENTITY a0 \"haha\">");
     for (int i = 1; i < 12; ++i) {
         const QByteArray below = "&a" + QByteArray::number(i - 1) + ";";
@@ -264,6 +270,9 @@ void TestNodeMapFilter::unusableFiles_data()
     }
     QTest::newRow("entities of entities")
         << laughs + "]><Filter><Feature><Name>&a11;</Name></Feature></Filter>";
+    QTest::newRow("an entity many times") << "<!DOCTYPE Filter [<!ENTITY a \"" + QByteArray(4000, 'a')
+            + "\">]><Filter><Feature><Name>" + QByteArray("&a;").repeated(70000)
+            + "</Name></Feature></Filter>";
 }
 
 void TestNodeMapFilter::unusableFiles()
