@@ -66,8 +66,8 @@ MainWindow::MainWindow(QWidget *parent)
     m_splitter->setStretchFactor(1, 2);
     auto *const central = new QWidget(this);
     auto *const layout = new QVBoxLayout(central);
-    layout->addWidget(m_messages);
     layout->addWidget(m_splitter, 1);
+    layout->addWidget(m_messages); // below the tree, whose rows stay where they are when a message comes
     setCentralWidget(central);
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
@@ -245,7 +245,6 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     m_tree->expandRootNodes();
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()));
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
-    m_messages->dismiss();
     updateActions();
     emit cameraOpened(info);
 }
@@ -256,6 +255,7 @@ void MainWindow::closeCamera()
     m_description->showParameter(nullptr);
     m_tree->clear();
     m_camera.reset();
+    m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
     setWindowTitle(tr("Zelto Viewer"));
     updateActions();
@@ -434,6 +434,9 @@ void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString 
                          const QString &details)
 {
     Q_UNUSED(severity)
+    if (m_camera && m_camera->isLost()) {
+        return; // the loss has been said
+    }
     m_messages->showMessage(message, details);
 }
 
