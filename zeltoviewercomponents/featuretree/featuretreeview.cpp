@@ -756,6 +756,11 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
 {
     emit onCurrentChanged(current);
     QTreeView::currentChanged(current, previous);
+    for (const QModelIndex &index : {current, previous}) {
+        // The base repaints the cells; the frame around them begins left of the first one.
+        const QRect row = visualRect(index);
+        viewport()->update(0, row.top(), viewport()->width(), row.height());
+    }
 }
 
 void FeatureTreeView::keyPressEvent(QKeyEvent *event)
