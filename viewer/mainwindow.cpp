@@ -34,6 +34,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -56,11 +57,14 @@ MainWindow::MainWindow(QWidget *parent)
     , m_description(new DescriptionPane(this))
     , m_messages(new MessageBar(this))
     , m_splitter(new QSplitter(this))
+    , m_pages(new QStackedWidget(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
 {
-    m_splitter->addWidget(m_tree);
+    m_pages->addWidget(m_tree);
+    m_pages->addWidget(createEmptyPage());
+    m_splitter->addWidget(m_pages);
     m_splitter->addWidget(m_description);
     m_splitter->setStretchFactor(0, 3);
     m_splitter->setStretchFactor(1, 2);
@@ -112,6 +116,16 @@ QObject *MainWindow::services() const
     return m_services;
 }
 
+// An empty tree would say that a search found nothing.
+QWidget *MainWindow::createEmptyPage()
+{
+    auto *const page =
+        new QLabel(tr("No camera is open.\nOpen a description file or connect to a camera (menu File)."));
+    page->setAlignment(Qt::AlignCenter);
+    page->setWordWrap(true);
+    return page;
+}
+
 void MainWindow::createServices()
 {
     new FeatureTreeControlService(m_tree, m_services);
@@ -148,7 +162,8 @@ void MainWindow::createMenus()
 {
     createFileMenu();
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this, SLOT(copyTree()));
+    m_copyAction = edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this,
+                                   SLOT(copyTree()));
     createViewMenu();
     createCameraMenu();
     createHelpMenu();
@@ -161,6 +176,8 @@ void MainWindow::createFileMenu()
                     QKeySequence::Open, this, SLOT(openDescriptionFile()));
     file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
                     QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
+    m_reconnectAction =
+        file->addAction(tr("&Reconnect"), QKeySequence(tr("Ctrl+R")), this, SLOT(reconnect()));
     m_closeAction =
         file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
     file->addSeparator();
@@ -242,6 +259,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     const auto info = m_camera->info();
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
+    m_pages->setCurrentWidget(m_tree);
     m_tree->expandRootNodes();
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()));
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
@@ -254,6 +272,7 @@ void MainWindow::closeCamera()
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
+    m_pages->setCurrentIndex(1);
     m_camera.reset();
     m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
@@ -369,6 +388,8 @@ void MainWindow::configureIp()
 void MainWindow::updateActions()
 {
     m_closeAction->setEnabled(m_camera != nullptr);
+    m_copyAction->setEnabled(m_camera != nullptr);
+    m_reconnectAction->setEnabled(!isCameraOpen());
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
@@ -443,6 +464,7 @@ void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString 
 void MainWindow::copyTree()
 {
     m_tree->copyToClipboard();
+    statusBar()->showMessage(tr("The tree was copied to the clipboard."), statusTime);
 }
 
 void MainWindow::showAllMessagesAgain()

@@ -23,6 +23,7 @@ class QActionGroup;
 class QLabel;
 class QMenu;
 class QSplitter;
+class QStackedWidget;
 class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
@@ -88,6 +89,7 @@ private:
     void createViewMenu();
     void createCameraMenu();
     void createHelpMenu();
+    QWidget *createEmptyPage();
     QString ipObstacle() const;
     bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
@@ -103,6 +105,7 @@ private:
     DescriptionPane *m_description;
     MessageBar *m_messages;
     QSplitter *m_splitter;
+    QStackedWidget *m_pages; // the tree, or what is shown without a camera
     QLabel *m_matches;
     QLabel *m_cameraName;
     QObject *m_services;
@@ -110,6 +113,8 @@ private:
     QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
     QAction *m_closeAction = nullptr;
+    QAction *m_reconnectAction = nullptr;
+    QAction *m_copyAction = nullptr;
     QAction *m_ipAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };
