@@ -13,6 +13,7 @@
 #include "services/featuretreecontrolservice.h"
 #include "services/featuretreestatusservice.h"
 #include "services/workbenchservice.h"
+#include "treestate.h"
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
@@ -39,6 +40,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <optional>
+
 namespace {
 
 constexpr int stateVersion = 1;
@@ -48,6 +51,15 @@ QString windowGroup()
 {
     return QStringLiteral("MainWindow");
 }
+
+/*! \brief Shows the wait cursor while it lives. */
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
 
 } // namespace
 
@@ -269,6 +281,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
 
 void MainWindow::closeCamera()
 {
+    m_pollsAfterReconnect = false;
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
@@ -282,16 +295,11 @@ void MainWindow::closeCamera()
 
 void MainWindow::tryToOpen(const Options &options)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    QString failure;
     try {
+        const WaitCursor cursor;
         openCamera(options);
     } catch (const Core::Exception::BaseException &exception) {
-        failure = exception.getMessage();
-    }
-    QApplication::restoreOverrideCursor();
-    if (!failure.isEmpty()) {
-        m_messages->showMessage(failure, QString());
+        m_messages->showMessage(exception.getMessage(), QString());
     }
 }
 
@@ -328,9 +336,16 @@ void MainWindow::onCameraLost(const QString &reason)
 void MainWindow::reconnect()
 {
     const bool polls = m_pollsAfterReconnect;
-    const Options source = m_source;
     try {
-        openCamera(source);
+        const WaitCursor cursor;
+        std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
+        const std::optional<TreeState> state =
+            m_camera ? std::make_optional<TreeState>(*m_tree) : std::nullopt;
+        closeCamera();
+        useCamera(std::move(camera));
+        if (state) {
+            state->applyTo(*m_tree);
+        }
         m_tree->setPolling(polls);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showAction(exception.getMessage(), tr("Reconnect"));

@@ -56,7 +56,7 @@ public:
 
 public slots:
     void closeCamera();
-    /*! Opens the camera that was open last; a failure is shown. */
+    /*! Opens the camera that was open last, with the tree as it was; a failure is shown. */
     void reconnect();
 
 signals:
