@@ -33,6 +33,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -85,14 +86,15 @@ MainWindow::MainWindow(QWidget *parent)
     layout->addWidget(m_splitter, 1);
     layout->addWidget(m_messages); // below the tree, whose rows stay where they are when a message comes
     setCentralWidget(central);
+    m_matches->setIndent(fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
     createMenus();
     createServices();
     createPanels();
 
-    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), m_description,
-            SLOT(showParameter(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
     connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
     connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
             SLOT(onVisibilityChanged(GenApi::EVisibility)));
@@ -450,6 +452,15 @@ void MainWindow::onVisibilityChanged(GenApi::EVisibility level)
     updateActions();
 }
 
+void MainWindow::onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter)
+{
+    const QModelIndex index = m_tree->GetCurrentIndex();
+    // The category of a whole node map is called "Root" everywhere; the tree has a better name for it.
+    const bool isTop = index.isValid() && !index.parent().isValid();
+    m_description->showParameter(std::move(parameter),
+                                 isTop ? index.siblingAtColumn(0).data().toString() : QString());
+}
+
 void MainWindow::onMatchesChanged(int total, int hidden)
 {
     if (total == 0) {
@@ -504,7 +515,7 @@ void MainWindow::restoreState()
 {
     QSettings settings;
     settings.beginGroup(windowGroup());
-    resize(1000, 700);
+    resize(QSize(1000, 700).boundedTo(screen()->availableSize() * 9 / 10)); // a scaled screen may be small
     restoreGeometry(settings.value(QStringLiteral("Geometry")).toByteArray());
     if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
         m_splitter->setSizes({640, 360});

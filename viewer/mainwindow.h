@@ -8,6 +8,7 @@
 #include <cameras/camera.h>
 #include <platform/core/camerainfo.h>
 #include <platform/genicam/genapi.h>
+#include <platform/parametercollection/iparameter.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 
 #include <QMainWindow>
@@ -74,6 +75,7 @@ private slots:
     void about();
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
+    void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
     void onMatchesChanged(int total, int hidden);
     void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
