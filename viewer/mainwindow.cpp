@@ -33,6 +33,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
@@ -41,6 +42,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -105,6 +107,9 @@ MainWindow::MainWindow(QWidget *parent)
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
+    connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
+            SLOT(onColumnResized(int, int, int)));
+    m_tree->installEventFilter(this);
     restoreState();
     updateActions();
 }
@@ -538,8 +543,32 @@ void MainWindow::saveState() const
     settings.setValue(QStringLiteral("Geometry"), saveGeometry());
     settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
     settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
+    m_tree->treeView()->header()->resizeSection(0, m_nameWidth); // what the user chose, for wider windows
     settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
     settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
+}
+
+// Leaves the values some room in a narrow window.
+void MainWindow::fitColumns()
+{
+    const QScopedValueRollback<bool> fitting(m_isFittingColumns, true);
+    m_tree->treeView()->header()->resizeSection(0, std::min(m_nameWidth, m_tree->width() * 3 / 5));
+}
+
+void MainWindow::onColumnResized(int column, int oldWidth, int newWidth)
+{
+    Q_UNUSED(oldWidth)
+    if (column == 0 && !m_isFittingColumns) {
+        m_nameWidth = newWidth;
+    }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_tree && event->type() == QEvent::Resize) {
+        fitColumns();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -65,6 +65,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
     void openDescriptionFile();
@@ -76,6 +77,7 @@ private slots:
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
     void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onColumnResized(int column, int oldWidth, int newWidth);
     void onMatchesChanged(int total, int hidden);
     void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
@@ -97,12 +99,15 @@ private:
     QMenu *createLevelMenu(QMenu *parent);
     void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
+    void fitColumns();
     void restoreState();
     void saveState() const;
 
     std::unique_ptr<Cameras::Camera> m_camera;
     Options m_source; // how the camera was opened
     bool m_pollsAfterReconnect = false;
+    int m_nameWidth = 0; // of the first column, as far as there is room for it
+    bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
     DescriptionPane *m_description;
     MessageBar *m_messages;
