@@ -19,6 +19,7 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <memory>
 
@@ -47,6 +48,7 @@ private slots:
     void ipConfigurationIsWritten();
     void silencedMessageComesBack();
     void reconnectingKeepsTheTree();
+    void clickOnALockedEditorGoesToItsRow();
 
 private:
     QAction *action(const char *text) const;
@@ -159,6 +161,28 @@ void TestMainWindow::reconnectingKeepsTheTree()
     m_window->closeCamera();
     m_window->reconnect();
     QVERIFY(tree->treeView()->isExpanded(row(1, 0).parent().parent()));
+}
+
+void TestMainWindow::clickOnALockedEditorGoesToItsRow()
+{
+    Options options;
+    options.expand = true;
+    options.visibility = GenApi::Guru;
+    m_window->applyOptions(options);
+    const FeatureTreeView *const view = m_window->featureTree()->treeView();
+    int clicked = 0;
+    for (QModelIndex row = view->indexAt({0, 0}); row.isValid() && view->visualRect(row).isValid();
+         row = view->indexBelow(row)) {
+        const QRect cell = view->visualRect(row.siblingAtColumn(1));
+        const QWidget *const editor = view->indexWidget(row.siblingAtColumn(1));
+        if (editor && !editor->isEnabled() && view->viewport()->rect().contains(cell)) {
+            const QPoint place = view->viewport()->mapTo(m_window.get(), cell.center());
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+            QCOMPARE(view->currentIndex().siblingAtColumn(0), row);
+            ++clicked;
+        }
+    }
+    QVERIFY(clicked > 2);
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -786,7 +786,9 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
         return false; // keys walk over editors
     }
     if (trigger != EditKeyPressed && trigger != AnyKeyPressed) {
-        return QTreeView::edit(index, trigger, event);
+        const QWidget *const editor = indexWidget(index);
+        // The base would take a click for an edit, and not go to the row.
+        return (!editor || editor->isEnabled()) && QTreeView::edit(index, trigger, event);
     }
     const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
     return indexWidget(value) ? activateEditor(value, trigger, event)

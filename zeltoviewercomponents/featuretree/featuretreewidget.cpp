@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QShortcut>
@@ -118,6 +119,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
                           | QAbstractItemView::AnyKeyPressed);
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->header()->setContextMenuPolicy(Qt::PreventContextMenu); // the menu is that of a row
     m_ui->resetButton->setIcon(refreshIcon());
     m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
     setPollingVisible(pollingVisible);
