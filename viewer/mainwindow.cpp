@@ -17,6 +17,7 @@
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
+#include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
@@ -97,6 +98,8 @@ MainWindow::MainWindow(QWidget *parent)
 
     connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
             SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
+            SLOT(onRowChanged(const QModelIndex &)));
     connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
     connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
             SLOT(onVisibilityChanged(GenApi::EVisibility)));
@@ -553,6 +556,20 @@ void MainWindow::fitColumns()
 {
     const QScopedValueRollback<bool> fitting(m_isFittingColumns, true);
     m_tree->treeView()->header()->resizeSection(0, std::min(m_nameWidth, m_tree->width() * 3 / 5));
+}
+
+// Of rows without feature and description the tree says nothing.
+void MainWindow::onRowChanged(const QModelIndex &index)
+{
+    const FeatureTreeItem *const item = index.isValid() ? m_tree->GetCurrentItem() : nullptr;
+    if (!item || item->HasDescription() || m_tree->GetCurrentNode()) {
+        return;
+    }
+    const QString name = index.siblingAtColumn(0).data().toString().toHtmlEscaped();
+    m_description->showText(
+        m_tree->IsCurrentFavorite()
+            ? QStringLiteral("<h3>%1</h3><p>%2</p>").arg(name, tr("The open camera has no such feature."))
+            : QString());
 }
 
 void MainWindow::onColumnResized(int column, int oldWidth, int newWidth)

@@ -23,6 +23,7 @@ class QAction;
 class QActionGroup;
 class QLabel;
 class QMenu;
+class QModelIndex;
 class QSplitter;
 class QStackedWidget;
 class WorkbenchService;
@@ -77,6 +78,7 @@ private slots:
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
     void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onRowChanged(const QModelIndex &index);
     void onColumnResized(int column, int oldWidth, int newWidth);
     void onMatchesChanged(int total, int hidden);
     void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);

@@ -373,6 +373,10 @@ Open a description file or connect to a camera (menu File).</source>
         <source>The tree was copied to the clipboard.</source>
         <translation>Der Baum wurde in die Zwischenablage kopiert.</translation>
     </message>
+    <message>
+        <source>The open camera has no such feature.</source>
+        <translation>Die geöffnete Kamera hat dieses Merkmal nicht.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
