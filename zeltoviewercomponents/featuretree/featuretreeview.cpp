@@ -729,11 +729,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
     }
     const QModelIndex current = currentIndex();
     if (current.isValid() && current.row() == index.row() && current.parent() == index.parent()) {
-        painter->save();
-        painter->setPen(palette().color(QPalette::Active, QPalette::Highlight));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(options.rect.adjusted(0, 0, -1, -1));
-        painter->restore();
+        // No pen, which on scaled screens is drawn half beside the row.
+        const QRect &row = options.rect;
+        const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+        painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
+        painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
     }
 }
 
