@@ -37,6 +37,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -161,6 +162,10 @@ void MainWindow::createServices()
     m_workbench->addPage(m_tree);
     m_description->setObjectName(QStringLiteral("description"));
     m_description->setWindowTitle(tr("Description"));
+    auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), m_description);
+    find->setContext(Qt::WidgetWithChildrenShortcut); // the tree has its own
+    connect(find, SIGNAL(activated()), m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit")),
+            SLOT(setFocus()));
     m_workbench->addPage(m_description);
 }
 
@@ -282,8 +287,9 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
     m_pages->setCurrentWidget(m_tree);
+    m_tree->setFocus(); // which went elsewhere when the camera before was lost or closed
     m_tree->expandRootNodes();
-    m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()));
+    m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
     updateActions();
     emit cameraOpened(info);
