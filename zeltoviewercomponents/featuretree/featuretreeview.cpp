@@ -761,11 +761,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
     }
     const QModelIndex current = currentIndex();
     if (current.isValid() && current.row() == index.row() && current.parent() == index.parent()) {
-        painter->save();
-        painter->setPen(palette().color(QPalette::Active, QPalette::Highlight));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(options.rect.adjusted(0, 0, -1, -1));
-        painter->restore();
+        // No pen, which on scaled screens is drawn half beside the row.
+        const QRect &row = options.rect;
+        const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+        painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
+        painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
     }
 }
 
@@ -831,7 +833,9 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
         return false; // keys walk over editors
     }
     if (trigger != EditKeyPressed && trigger != AnyKeyPressed) {
-        return QTreeView::edit(index, trigger, event);
+        const QWidget *const editor = indexWidget(index);
+        // The base would take a click for an edit, and not go to the row.
+        return (!editor || editor->isEnabled()) && QTreeView::edit(index, trigger, event);
     }
     const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
     if (!visualRect(value).isValid()) {
