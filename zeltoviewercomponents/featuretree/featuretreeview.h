@@ -59,6 +59,8 @@ public:
                      const QList<int> &roles = QList<int>()) override;
 
 public slots:
+    /*! Collapses every branch and records that for the favorites branch. */
+    void collapseAll();
     void doItemsLayout() override;
     void setVisibility(GenApi::EVisibility level);
     void onSelfExpanded(const QModelIndex &index);
