@@ -10,6 +10,8 @@
 #include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
 #include <QCheckBox>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QScrollBar>
@@ -184,12 +186,34 @@ private:
 
 } // namespace
 
+/* Returns what is painted in a cell, with the colour of the mark apart. */
+QRect inkIn(TreeBench &bench, const QModelIndex &index, const QColor &mark = QColor())
+{
+    const QRect cell = bench.view()->visualRect(index);
+    const QImage image = bench.view()->viewport()->grab(cell).toImage();
+    const QRgb base = bench.view()->palette().color(QPalette::Base).rgb();
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (mark.isValid() ? image.pixel(x, y) == mark.rgb() : image.pixel(x, y) != base) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink.translated(cell.topLeft());
+}
+
 class TestFeatureTreeWidget : public FeatureTreeTest
 {
     Q_OBJECT
 
 private slots:
     void opensWithItsParts();
+    void paintsBothWays_data();
+    void paintsBothWays();
+    void followsItsFont_data();
+    void followsItsFont();
+    void remembersItsHeader();
     void polls();
     void ignoresUnknownLevels();
     void setsVisibilityTwice();
@@ -226,6 +250,114 @@ void TestFeatureTreeWidget::opensWithItsParts()
     QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID"))));
     QCOMPARE(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"))->accessibleName(),
              QStringLiteral("ReverseX"));
+}
+
+void TestFeatureTreeWidget::paintsBothWays_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isReadLeftwards");
+    const QString hebrew = QString::fromUtf8("\327\251\327\234\327\225\327\235");
+    QTest::newRow("left to right") << Qt::LeftToRight << QStringLiteral("Sharpness") << false;
+    QTest::newRow("right to left") << Qt::RightToLeft << QStringLiteral("Sharpness") << false;
+    QTest::newRow("a Hebrew name, left to right") << Qt::LeftToRight << hebrew << true;
+    QTest::newRow("a Hebrew name, right to left") << Qt::RightToLeft << hebrew << true;
+}
+
+void TestFeatureTreeWidget::paintsBothWays()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QString, name);
+    QFETCH(bool, isReadLeftwards);
+    const QString feature = QStringLiteral("Feature");
+    auto camera = MemoryCollection::createSample();
+    for (const QString &added : {feature, QStringLiteral("Hidden")}) {
+        const auto parameter = camera->addInteger(added, QStringLiteral("DeviceControl"));
+        parameter->properties.insert(QStringLiteral("DisplayName"), name);
+        parameter->edit<ParameterCollection::IntegerParameterData>(
+            [&](auto &data) { data.visibility = added == feature ? GenApi::Beginner : GenApi::Guru; });
+    }
+    TreeBench bench(camera, GenApi::Beginner);
+    bench.widget.setLayoutDirection(direction);
+    bench.view()->header()->resizeSection(0, 250);
+    bench.settle();
+    // How far a text begins from the edge of its cell.
+    const auto gap = [&](const QModelIndex &index) {
+        const QRect cell = bench.view()->visualRect(index);
+        const QRect ink = inkIn(bench, index);
+        return direction == Qt::LeftToRight ? ink.left() - cell.left() : cell.right() - ink.right();
+    };
+    const int margin = gap(bench.row(QStringLiteral("DeviceControl"))); // which the style paints
+    const QModelIndex hint = bench.view()->model()->index(0, 0, bench.extension()->GetFavoritesRootIndex());
+    const QRect ink = inkIn(bench, bench.row(feature));
+    QVERIFY(gap(hint) >= 0 && gap(hint) <= margin);
+    QVERIFY(gap(bench.row(feature)) >= 0 && gap(bench.row(feature)) <= margin);
+    QCOMPARE(bench.editor<IntSliderEditor>(QStringLiteral("Width"))->geometry(),
+             bench.view()->visualRect(bench.value(QStringLiteral("Width"))));
+
+    bench.box()->setText(name.left(2));
+    bench.settle();
+    const QModelIndex searchRow = bench.view()->model()->index(0, 0);
+    QVERIFY(gap(searchRow) >= 0 && gap(searchRow) <= margin);
+    const QRect mark = inkIn(bench, bench.row(feature), bench.view()->getHightlighter()->color());
+    QVERIFY(mark.width() < ink.width());
+    const int off = isReadLeftwards ? mark.right() - ink.right() : mark.left() - ink.left();
+    QVERIFY2(std::abs(off) <= 2, qPrintable(QString::number(off)));
+}
+
+void TestFeatureTreeWidget::followsItsFont_data()
+{
+    QTest::addColumn<bool>("isOpen");
+    QTest::newRow("editors that are open") << true;
+    QTest::newRow("editors that open later") << false;
+}
+
+void TestFeatureTreeWidget::followsItsFont()
+{
+    QFETCH(bool, isOpen);
+    TreeBench bench(isOpen ? MemoryCollection::createSample() : nullptr);
+    QFont large = bench.widget.font();
+    large.setPointSize(2 * large.pointSize());
+    bench.widget.setFont(large);
+    if (!isOpen) {
+        bench.camera = MemoryCollection::createSample();
+        bench.add(bench.camera);
+        bench.view()->expandEverything();
+    }
+    bench.settle();
+    const int needed = QFontMetrics(large).height();
+    const QList<QWidget *> descendants = bench.widget.findChildren<QWidget *>();
+    for (const QWidget *const widget : descendants) {
+        const bool isIcon = widget->parentWidget() == bench.box();
+        const bool isInPopup = widget->window() != &bench.widget; // painted in the font of its box
+        QVERIFY2(isIcon || isInPopup || widget->font() == large, widget->metaObject()->className());
+        const bool hasText =
+            qobject_cast<const QLineEdit *>(widget) || qobject_cast<const EnumEditor *>(widget);
+        QVERIFY2(!hasText || widget->contentsRect().height() >= needed, widget->metaObject()->className());
+    }
+    QVERIFY(bench.editor<EnumEditor>(QStringLiteral("PixelFormat")));
+    QVERIFY(bench.view()->visualRect(bench.row(QStringLiteral("Gain"))).height() >= needed + 8);
+    // What was given to one of them alone stays.
+    QFont own = large;
+    own.setBold(true);
+    bench.box()->setFont(own);
+    QVERIFY(bench.box()->font().bold());
+}
+
+void TestFeatureTreeWidget::remembersItsHeader()
+{
+    TreeBench saved;
+    saved.view()->header()->resizeSection(0, 211);
+    const QByteArray state = saved.widget.saveState(3);
+    TreeBench restored;
+    const int before = restored.view()->header()->sectionSize(0);
+    QVERIFY(before != 211);
+    QVERIFY(!restored.widget.restoreState(state, 4));
+    QVERIFY(!restored.widget.restoreState(QByteArray("garbage, and no state at all"), 3));
+    QCOMPARE(restored.view()->header()->sectionSize(0), before);
+    QVERIFY(restored.widget.restoreState(state, 3));
+    QCOMPARE(restored.view()->header()->sectionSize(0), 211);
+    QCOMPARE(restored.view()->header()->length(), restored.view()->viewport()->width());
 }
 
 void TestFeatureTreeWidget::polls()
