@@ -15,6 +15,53 @@
 #include <QSignalSpy>
 #include <QTest>
 
+/* Gives tests the place where the view shows that a drop would land. */
+class View : public FeatureTreeView
+{
+public:
+    using FeatureTreeView::AboveItem;
+    using FeatureTreeView::BelowItem;
+    using FeatureTreeView::dropIndicatorPosition;
+    using FeatureTreeView::OnItem;
+    using FeatureTreeView::OnViewport;
+};
+
+/*! \brief A row that is dragged over the tree. */
+class Drag
+{
+public:
+    Drag(FeatureTreeView *view, const QModelIndex &row)
+        : m_view(view)
+        , m_data(view->model()->mimeData({row}))
+    {
+        QDragEnterEvent enter(view->visualRect(row).center(), Qt::MoveAction, m_data.data(), Qt::LeftButton,
+                              {});
+        QApplication::sendEvent(view->viewport(), &enter);
+    }
+
+    /* Returns whether a drop would be taken there. */
+    bool moveTo(const QPoint &point)
+    {
+        QDragMoveEvent move(point, Qt::MoveAction, m_data.data(), Qt::LeftButton, {});
+        QApplication::sendEvent(m_view->viewport(), &move);
+        m_isTaken = move.isAccepted();
+        return m_isTaken;
+    }
+
+    /* Lets go: where no drop is taken, the drag ends without one. */
+    void drop(const QPoint &point)
+    {
+        QDropEvent drop(point, Qt::MoveAction, m_data.data(), Qt::LeftButton, {});
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(m_view->viewport(), m_isTaken ? static_cast<QEvent *>(&drop) : &leave);
+    }
+
+private:
+    FeatureTreeView *m_view;
+    QScopedPointer<QMimeData> m_data;
+    bool m_isTaken = false;
+};
+
 class TestFeatureTreeFavorites : public FeatureTreeTest
 {
     Q_OBJECT
@@ -23,6 +70,7 @@ private slots:
     void contextMenuOffersWhatTheRowAllows();
     void favoritesByShortcuts();
     void favoritesByDragging();
+    void draggingScrolls();
     void favoritesKeepTheirPlaceOnScreen();
     void widgetsShareFavorites();
     void unavailableFavorites();
@@ -108,33 +156,53 @@ void TestFeatureTreeFavorites::favoritesByDragging()
 {
     TreeBench bench;
     QVERIFY(bench.view()->dragEnabled() && bench.view()->viewport()->acceptDrops());
-    const auto drag = [&bench](const QModelIndex &from, const QModelIndex &onto, double part) {
-        const QScopedPointer<QMimeData> data(bench.view()->model()->mimeData({from}));
+    // Drops a row on the given part of another one. Returns where the indicator was, if anywhere.
+    const auto drop = [&bench](const QModelIndex &from, const QModelIndex &onto, double part) {
         const QRect rect = bench.view()->visualRect(onto);
+        Drag drag(bench.view(), from);
         const QPoint point(rect.center().x(), rect.top() + static_cast<int>(part * rect.height()));
-        QDragEnterEvent enter(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
-        QApplication::sendEvent(bench.view()->viewport(), &enter);
-        QDragMoveEvent move(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
-        QApplication::sendEvent(bench.view()->viewport(), &move);
-        if (!move.isAccepted()) {
-            QDragLeaveEvent leave;
-            QApplication::sendEvent(bench.view()->viewport(), &leave);
-            return false;
-        }
-        QDropEvent drop(point, Qt::MoveAction, data.data(), Qt::LeftButton, {});
-        QApplication::sendEvent(bench.view()->viewport(), &drop);
-        return true;
+        const bool isTaken = drag.moveTo(point);
+        const auto place = (bench.view()->*(&View::dropIndicatorPosition))();
+        drag.drop(point);
+        return isTaken ? place : View::OnViewport;
     };
     const auto branch = [&bench] { return bench.extension()->GetFavoritesRootIndex(); };
-    const auto hint = [&bench, &branch] { return bench.view()->model()->index(0, 0, branch()); };
-    QVERIFY(drag(bench.row(QStringLiteral("Width")), hint(), 0.5)); // the empty branch
-    QVERIFY(drag(bench.row(QStringLiteral("Gain")), branch(), 0.5)); // its head
-    QVERIFY(drag(bench.row(QStringLiteral("ReverseX")), bench.favorite(QStringLiteral("Gain")), 0.05));
+    const QModelIndex hint = bench.view()->model()->index(0, 0, branch());
+    QVERIFY(drop(bench.row(QStringLiteral("Width")), hint, 0.5) != View::OnViewport);
+    QCOMPARE(drop(bench.row(QStringLiteral("Gain")), branch(), 0.5), View::OnItem);
+    QCOMPARE(drop(bench.row(QStringLiteral("ReverseX")), bench.favorite(QStringLiteral("Gain")), 0.3),
+             View::AboveItem);
     QCOMPARE(bench.favoriteNames(), QStringList({"Width", "ReverseX", "Gain"}));
-    QVERIFY(drag(bench.favorite(QStringLiteral("Width")), bench.favorite(QStringLiteral("Gain")), 0.95));
+    QCOMPARE(drop(bench.favorite(QStringLiteral("Width")), bench.favorite(QStringLiteral("Gain")), 0.7),
+             View::BelowItem);
     QCOMPARE(bench.favoriteNames(), QStringList({"ReverseX", "Gain", "Width"}));
-    QVERIFY(!drag(bench.favorite(QStringLiteral("Width")), bench.row(QStringLiteral("Gain")), 0.5));
+    QCOMPARE(drop(bench.favorite(QStringLiteral("Width")), bench.row(QStringLiteral("Gain")), 0.5),
+             View::OnViewport);
     QCOMPARE(bench.favorites().count(), 3);
+}
+
+void TestFeatureTreeFavorites::draggingScrolls()
+{
+    TreeBench bench(flatCamera(150));
+    QScrollBar *const bar = bench.view()->verticalScrollBar();
+    bar->setValue(bar->maximum() - 5);
+    const int center = bench.view()->viewport()->width() / 2;
+    Drag drag(bench.view(), bench.view()->indexAt(QPoint(center, 100)));
+    drag.moveTo(QPoint(center, bench.view()->viewport()->height() - 3));
+    QTRY_COMPARE(bar->value(), bar->maximum());
+    drag.moveTo(QPoint(center, bench.view()->viewport()->height() / 2));
+    QTest::qWait(120);
+    QCOMPARE(bar->value(), bar->maximum()); // only near the edges
+    drag.moveTo(QPoint(center, 3));
+    QTRY_COMPARE(bar->value(), 0);
+    const QPoint head = bench.view()->visualRect(bench.extension()->GetFavoritesRootIndex()).center();
+    QVERIFY(drag.moveTo(head));
+    drag.drop(head);
+    QCOMPARE(bench.favorites().count(), 1);
+    // Once dropped, nothing scrolls on.
+    bar->setValue(40);
+    QTest::qWait(120);
+    QCOMPARE(bar->value(), 40);
 }
 
 void TestFeatureTreeFavorites::favoritesKeepTheirPlaceOnScreen()
