@@ -22,9 +22,8 @@ class TestFeatureTreeEditing : public FeatureTreeTest
     Q_OBJECT
 
 private slots:
-    void editorsWriteValues();
-    void transientEditorsWriteValues_data();
-    void transientEditorsWriteValues();
+    void editorsWriteWhatIsClicked();
+    void transientEditorsComeAndGo();
     void refusedWriteShowsTheTruth();
     void arrowsWalkRows();
     void tabWalksEditors();
@@ -38,7 +37,7 @@ private slots:
     void followsAvailability();
 };
 
-void TestFeatureTreeEditing::editorsWriteValues()
+void TestFeatureTreeEditing::editorsWriteWhatIsClicked()
 {
     TreeBench bench;
     auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
@@ -54,45 +53,23 @@ void TestFeatureTreeEditing::editorsWriteValues()
     QCOMPARE(bench.parameter<MemoryEnum>(QStringLiteral("PixelFormat"))->writes, QStringList("Mono12"));
 
     auto *const width = bench.editor<IntSliderEditor>(QStringLiteral("Width"));
-    auto *const spin = width->findChild<QSpinBox *>();
-    spin->setFocus();
-    spin->selectAll();
-    QTest::keyClicks(spin, QStringLiteral("800"));
-    QTest::keyClick(spin, Qt::Key_Return);
-    bench.settle();
     auto *const slider = width->findChild<QSlider *>();
     QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 3, slider->height() / 2));
     bench.settle();
     const QStringList widths = bench.parameter<MemoryInteger>(QStringLiteral("Width"))->writes;
-    QCOMPARE(widths.value(0), QStringLiteral("800"));
-    QVERIFY(widths.value(1).toInt() > 800);
-    QCOMPARE(QString::number(spin->value()), widths.constLast());
+    QVERIFY(widths.value(0).toInt() > 640);
+    QCOMPARE(QString::number(width->findChild<QSpinBox *>()->value()), widths.constLast());
     QCOMPARE(bench.view()->currentIndex().siblingAtColumn(0), bench.row(QStringLiteral("Width")));
-
-    auto *const gain = bench.editor<FloatEditor>(QStringLiteral("Gain"))->findChild<QLineEdit *>();
-    gain->setFocus();
-    gain->selectAll();
-    QTest::keyClicks(gain, QStringLiteral("2.5"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(bench.parameter<MemoryFloat>(QStringLiteral("Gain"))->writes, QStringList("2.5"));
 
     auto *const button = bench.editor<ToolButtonEditor>(QStringLiteral("TriggerSoftware"));
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(bench.parameter<MemoryCommand>(QStringLiteral("TriggerSoftware"))->executions, 1);
 }
 
-void TestFeatureTreeEditing::transientEditorsWriteValues_data()
+void TestFeatureTreeEditing::transientEditorsComeAndGo()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("integer") << QStringLiteral("OffsetX") << QStringLiteral("12");
-    QTest::newRow("string") << QStringLiteral("DeviceUserID") << QStringLiteral("right");
-}
-
-void TestFeatureTreeEditing::transientEditorsWriteValues()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, typed);
+    const QString name = QStringLiteral("OffsetX");
+    const QString typed = QStringLiteral("12");
     TreeBench bench;
     auto *const node = bench.node(name);
     bench.click(bench.value(name));
@@ -231,32 +208,19 @@ void TestFeatureTreeEditing::tabWalksEditors()
 void TestFeatureTreeEditing::keysEditTheValueColumn_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("key"); // 0: typing begins at once
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("written");
-    for (const int key : {Qt::Key_F2, Qt::Key_Return}) {
-        const auto row = [key](const char *name) { return QByteArray(name) + QByteArray::number(key); };
-        QTest::newRow(row("integer").constData()) << "OffsetX" << key << "8"
-                                                  << "8";
-        QTest::newRow(row("string").constData()) << "DeviceUserID" << key << "x"
-                                                 << "x";
-        QTest::newRow(row("slider").constData()) << "Width" << key << "32"
-                                                 << "32";
-        QTest::newRow(row("float").constData()) << "Gain" << key << "3"
-                                                << "3";
-        QTest::newRow(row("boolean").constData()) << "ReverseX" << key << ""
-                                                  << "1";
+    for (const int key : {0, int(Qt::Key_F2), int(Qt::Key_Return)}) {
+        const auto row = [key](const char *name, const char *text) {
+            QTest::addRow("%s, %x", name, key) << QString::fromLatin1(name) << key << text << text;
+        };
+        row("OffsetX", "42");
+        row("DeviceUserID", "abc");
+        row("Width", "48");
+        row("Gain", "7");
+        QTest::addRow("ReverseX, %x", key) << "ReverseX" << key << (key == 0 ? " " : "") << "1";
     }
-    QTest::newRow("typing an integer") << "OffsetX" << 0 << "42"
-                                       << "42";
-    QTest::newRow("typing a string") << "DeviceUserID" << 0 << "abc"
-                                     << "abc";
-    QTest::newRow("typing a float") << "Gain" << 0 << "7"
-                                    << "7";
-    QTest::newRow("typing into a slider") << "Width" << 0 << "48"
-                                          << "48";
-    QTest::newRow("space on a box") << "ReverseX" << 0 << " "
-                                    << "1";
 }
 
 void TestFeatureTreeEditing::keysEditTheValueColumn()

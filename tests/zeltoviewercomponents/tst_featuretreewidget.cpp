@@ -20,6 +20,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -35,39 +36,12 @@ public:
 
     void step()
     {
-        switch (m_random.bounded(14)) {
-        case 0:
-        case 1:
-        case 2:
-            click();
-            break;
-        case 3:
-        case 4:
-        case 5:
-        case 6:
-            press();
-            break;
-        case 7:
-            wheel();
-            break;
-        case 8:
-            m_bench.box()->setText(QStringLiteral("egainraw ").mid(m_random.bounded(6), m_random.bounded(3)));
-            break;
-        case 9:
-            rareThings();
-            break;
-        case 10:
-            changeFeature();
-            break;
-        case 11:
-            favorites();
-            break;
-        case 12:
-            openOrClose();
-            break;
-        default:
-            TreeBench::settle();
-        }
+        const QList<void (Monkey::*)()> actions{
+            &Monkey::click,       &Monkey::click,        &Monkey::click,     &Monkey::press,
+            &Monkey::press,       &Monkey::press,        &Monkey::press,     &Monkey::wheel,
+            &Monkey::search,      &Monkey::rareThings,   &Monkey::favorites, &Monkey::changeFeature,
+            &Monkey::openOrClose, &Monkey::letEventsPass};
+        (this->*actions.at(m_random.bounded(actions.size())))();
     }
 
 private:
@@ -109,6 +83,11 @@ private:
         QSpontaneKeyEvent::setSpontaneous(&event);
         qApp->notify(widget, &event);
     }
+    void search()
+    {
+        m_bench.box()->setText(QStringLiteral("egainraw ").mid(m_random.bounded(6), m_random.bounded(3)));
+    }
+    void letEventsPass() { TreeBench::settle(); }
     void rareThings()
     {
         switch (m_random.bounded(6)) {
@@ -185,23 +164,6 @@ private:
 };
 
 } // namespace
-
-/* Returns what is painted in a cell, with the colour of the mark apart. */
-QRect inkIn(TreeBench &bench, const QModelIndex &index, const QColor &mark = QColor())
-{
-    const QRect cell = bench.view()->visualRect(index);
-    const QImage image = bench.view()->viewport()->grab(cell).toImage();
-    const QRgb base = bench.view()->palette().color(QPalette::Base).rgb();
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (mark.isValid() ? image.pixel(x, y) == mark.rgb() : image.pixel(x, y) != base) {
-                ink |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return ink.translated(cell.topLeft());
-}
 
 class TestFeatureTreeWidget : public FeatureTreeTest
 {
@@ -284,12 +246,12 @@ void TestFeatureTreeWidget::paintsBothWays()
     // How far a text begins from the edge of its cell.
     const auto gap = [&](const QModelIndex &index) {
         const QRect cell = bench.view()->visualRect(index);
-        const QRect ink = inkIn(bench, index);
+        const QRect ink = bench.ink(cell);
         return direction == Qt::LeftToRight ? ink.left() - cell.left() : cell.right() - ink.right();
     };
     const int margin = gap(bench.row(QStringLiteral("DeviceControl"))); // which the style paints
     const QModelIndex hint = bench.view()->model()->index(0, 0, bench.extension()->GetFavoritesRootIndex());
-    const QRect ink = inkIn(bench, bench.row(feature));
+    const QRect ink = bench.ink(bench.view()->visualRect(bench.row(feature)));
     QVERIFY(gap(hint) >= 0 && gap(hint) <= margin);
     QVERIFY(gap(bench.row(feature)) >= 0 && gap(bench.row(feature)) <= margin);
     QCOMPARE(bench.editor<IntSliderEditor>(QStringLiteral("Width"))->geometry(),
@@ -299,7 +261,8 @@ void TestFeatureTreeWidget::paintsBothWays()
     bench.settle();
     const QModelIndex searchRow = bench.view()->model()->index(0, 0);
     QVERIFY(gap(searchRow) >= 0 && gap(searchRow) <= margin);
-    const QRect mark = inkIn(bench, bench.row(feature), bench.view()->getHightlighter()->color());
+    const QRect mark =
+        bench.ink(bench.view()->visualRect(bench.row(feature)), bench.view()->getHightlighter()->color());
     QVERIFY(mark.width() < ink.width());
     const int off = isReadLeftwards ? mark.right() - ink.right() : mark.left() - ink.left();
     QVERIFY2(std::abs(off) <= 2, qPrintable(QString::number(off)));
