@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <stdexcept>
+
 class TestFeatureTreeEditing : public FeatureTreeTest
 {
     Q_OBJECT
@@ -32,6 +34,10 @@ private slots:
     void unusedKeysSearchRows();
     void wheelScrollsTheTree();
     void switchesLevelWhileEditing();
+    void leavesEditorsOfOtherRows_data();
+    void leavesEditorsOfOtherRows();
+    void clearsFromInsideAStep();
+    void clearsFromInsideAWrite();
     void closesDeviceWhileEditing();
     void refreshesBelowAnOpenPopup();
     void followsAvailability();
@@ -203,6 +209,14 @@ void TestFeatureTreeEditing::tabWalksEditors()
         back.prepend(focusedRow());
     }
     QCOMPARE(back, all.mid(0, 6));
+    for (const QString &name : all) {
+        QVERIFY2(bench.node(name)->writes.isEmpty(), qPrintable(name));
+    }
+
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("AcquisitionControl")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_Tab);
+    QCOMPARE(focusedRow(), QStringLiteral("ExposureTime"));
 }
 
 void TestFeatureTreeEditing::keysEditTheValueColumn_data()
@@ -319,6 +333,75 @@ void TestFeatureTreeEditing::switchesLevelWhileEditing()
     QVERIFY(!bench.row(QStringLiteral("OffsetX")).isValid());
     QVERIFY(!bench.widget.GetCurrentNode());
     QVERIFY(bench.view()->hasFocus());
+}
+
+void TestFeatureTreeEditing::leavesEditorsOfOtherRows_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("how");
+    for (const QString &name : {QStringLiteral("Gain"), QStringLiteral("OffsetX")}) {
+        for (const QString &how :
+             {QStringLiteral("collapsed"), QStringLiteral("hidden"), QStringLiteral("not current")}) {
+            QTest::addRow("%s, %s", qPrintable(name), qPrintable(how)) << name << how;
+        }
+    }
+}
+
+void TestFeatureTreeEditing::leavesEditorsOfOtherRows()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, how);
+    TreeBench bench;
+    const QString category = bench.row(name).parent().data(FeatureTreeItem::GenicamNameRole).toString();
+    bench.parameter<MemoryPlain>(category)->edit<ParameterCollection::ParameterData>(
+        [](auto &data) { data.visibility = GenApi::Expert; });
+    bench.publish(category);
+    bench.view()->setCurrentIndex(bench.row(name));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    QVERIFY(bench.view()->viewport()->isAncestorOf(QApplication::focusWidget()));
+
+    if (how == QLatin1String("collapsed")) {
+        bench.view()->collapseAll();
+    } else if (how == QLatin1String("hidden")) {
+        bench.widget.onVisibilityChanged(GenApi::Beginner);
+    } else {
+        bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeviceControl")));
+    }
+    bench.settle();
+    QCOMPARE(QApplication::focusWidget(), bench.view()); // and no editor of another row
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_7}) {
+        QTest::keyClick(bench.view(), key);
+        QCOMPARE(QApplication::focusWidget(), bench.view());
+    }
+}
+
+void TestFeatureTreeEditing::clearsFromInsideAStep()
+{
+    TreeBench bench;
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
+    connect(bench.view(), &FeatureTreeView::onCurrentChanged, &bench.widget,
+            [&bench](const QModelIndex &index) {
+                if (index.isValid()) {
+                    bench.widget.clear();
+                }
+            });
+    QTest::keyClick(bench.view(), Qt::Key_Up);
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
+}
+
+void TestFeatureTreeEditing::clearsFromInsideAWrite()
+{
+    TreeBench bench;
+    bench.node(QStringLiteral("ReverseX"))->before = [&bench](const QString &operation) {
+        if (operation == QLatin1String("setValueFromString")) {
+            bench.widget.clear();
+            throw std::runtime_error("lost");
+        }
+    };
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    bench.settle();
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
 }
 
 void TestFeatureTreeEditing::closesDeviceWhileEditing()

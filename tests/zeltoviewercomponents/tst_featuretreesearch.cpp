@@ -86,8 +86,12 @@ void TestFeatureTreeSearch::searchCounts()
     QCOMPARE(bench.shownRows().filter(QStringLiteral("search results")).size(), 1);
     QCOMPARE(counts.takeLast(), QVariantList({2, 1}));
     const QModelIndex hint = bench.view()->model()->index(0, 0);
-    QCOMPARE(hint.data(Qt::AccessibleTextRole).toString(),
-             QStringLiteral("2 search results (1 of them visible at higher user level)"));
+    const QString plain = QStringLiteral("2 search results (1 of them visible at higher user level)");
+    QCOMPARE(hint.data(Qt::AccessibleTextRole).toString(), plain);
+    bench.view()->setCurrentIndex(hint);
+    QTest::keyClick(bench.view(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), plain);
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
 
     bench.type(QStringLiteral("nraw"));
     QCOMPARE(bench.shownRows(),

@@ -184,6 +184,7 @@ private slots:
     void keepsEditorsWithinTheBudget();
     void budgetCountsOpenEditorsOnly();
     void expandsChildrenOnly();
+    void followsThePalette();
     void standsRandomUse();
 };
 
@@ -515,6 +516,26 @@ void TestFeatureTreeWidget::expandsChildrenOnly()
     QVERIFY(!bench.editor<CheckBoxEditor>(QStringLiteral("OuterFlag"))->isVisible());
 }
 
+void TestFeatureTreeWidget::followsThePalette()
+{
+    TreeBench bench;
+    bench.node(QStringLiteral("ReverseX"))->snapshot->isWritable = false;
+    bench.publish(QStringLiteral("ReverseX"));
+    const QPalette light = QApplication::palette();
+    QPalette dark(QColor(50, 50, 50));
+    dark.setColor(QPalette::Disabled, QPalette::Base, QColor(90, 90, 90));
+    QApplication::setPalette(dark);
+    TreeBench::settle();
+    const QColor base = dark.color(QPalette::Active, QPalette::Base);
+    QCOMPARE(bench.box()->grab().toImage().pixelColor(bench.box()->rect().center()), base);
+    for (const char *const name : {"Width", "PixelFormat", "ReverseX", "Gain"}) {
+        const auto *const editor = bench.editor<QWidget>(QLatin1String(name));
+        QVERIFY2(editor && editor->palette().color(QPalette::Base) == base, name);
+    }
+    QApplication::setPalette(light);
+}
+
+/* Set ZELTO_MONKEY_STEPS and ZELTO_MONKEY_SEED for longer and other runs. */
 void TestFeatureTreeWidget::standsRandomUse()
 {
     const int steps = qEnvironmentVariableIsSet("ZELTO_MONKEY_STEPS")
