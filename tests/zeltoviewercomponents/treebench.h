@@ -15,6 +15,7 @@
 
 #include <QAbstractItemModel>
 #include <QApplication>
+#include <QImage>
 #include <QTest>
 
 /*! \brief A feature tree widget in a window, with the look-ups that tests of it need. */
@@ -112,6 +113,22 @@ public:
         while (!box()->text().isEmpty()) {
             QTest::keyClick(box(), Qt::Key_Backspace);
         }
+    }
+    /*! Returns what is painted in a part of the viewport: what differs from the base, or has that colour. */
+    QRect ink(const QRect &part, const QColor &color = QColor())
+    {
+        const QImage image = view()->viewport()->grab(part).toImage();
+        const QRgb base = view()->palette().color(QPalette::Base).rgb();
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                if (color.isValid() ? pixel == color.rgb() : pixel != base) {
+                    ink |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return ink.translated(part.topLeft());
     }
     /*! Returns the shown rows, indented, with a mark on expanded and on current ones. */
     QStringList shownRows()

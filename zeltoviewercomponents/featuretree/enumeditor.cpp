@@ -21,8 +21,8 @@ namespace {
 
 constexpr char setEditorDataName[] = "EnumEditor::setEditorData";
 
-/*! \brief Keeps the news of a new style from a combo box that is being set up, for which it would build the
- * whole list of entries long before anybody opens it.
+/*! \brief Keeps the news of a new style or font from a combo box that is being set up, for which it would
+ * build the whole list of entries long before anybody opens it.
  */
 class StyleChangeFilter : public QObject
 {
@@ -31,7 +31,8 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        return event->type() == QEvent::StyleChange || QObject::eventFilter(watched, event);
+        const bool isNews = event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange;
+        return isNews || QObject::eventFilter(watched, event);
     }
 };
 
@@ -46,6 +47,7 @@ EnumEditor::EnumEditor(QWidget *parent)
         const StyleChangeFilter filter(this);
         setStyleSheet(QStringLiteral(
             "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+        m_parentFont.update();
     }
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the box has none and would keep the row's from showing
@@ -124,6 +126,14 @@ void EnumEditor::showPopup()
     m_watchedPopup = QApplication::activePopupWidget();
     if (m_watchedPopup) {
         m_watchedPopup->installEventFilter(this);
+    }
+}
+
+void EnumEditor::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        m_parentFont.update();
     }
 }
 

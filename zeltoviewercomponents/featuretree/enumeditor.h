@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "parentfont.h"
+
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
@@ -27,6 +29,9 @@ public:
     QVariant editorData() override;
     void showPopup() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool isPopupVisible() const;
@@ -35,4 +40,5 @@ private:
 
     EditorDataKeeper *m_keeper;
     QPointer<QWidget> m_watchedPopup; //!< the list while it is open
+    ParentFont m_parentFont{this};
 };

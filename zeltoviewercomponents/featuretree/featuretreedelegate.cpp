@@ -50,15 +50,26 @@ QString representationOf(const IParameter &parameter)
 
 constexpr int legibleDifference = 80; // of the grey values of letters and what they stand on
 
-void paintRichText(QPainter *painter, const QRect &target, const QString &html)
+constexpr double rowPadding = 10.0; // above and below the text
+
+// Where texts begin is settled by the layout; Qt would go by the letters of each.
+int alignmentIn(const QStyleOptionViewItem &option)
+{
+    return static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute);
+}
+
+void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
 {
     QStaticText text(html);
     text.setTextFormat(Qt::RichText);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
     text.setTextOption(option);
+    text.prepare(painter->transform(), painter->font());
+    const int indent =
+        (alignment & Qt::AlignRight) != 0 ? target.width() - static_cast<int>(text.size().width()) : 0;
     painter->setClipRect(target, Qt::IntersectClip);
-    painter->drawStaticText(target.topLeft(), text);
+    painter->drawStaticText(target.left() + indent, target.top(), text);
 }
 
 } // namespace
@@ -258,6 +269,13 @@ bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
     return !isPermanent && QStyledItemDelegate::eventFilter(object, event);
 }
 
+QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    // The rows' own hint goes by the application's font, which the view need not have.
+    const auto height = static_cast<int>(QFontMetricsF(option.font).height() + rowPadding);
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, height});
+}
+
 void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {
@@ -286,7 +304,7 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
         // The width gives way by a pixel or two for each character of the search text.
         const int width = textRect.width() - 2 * m_highlighter->length();
         text = painter->fontMetrics().elidedText(text, Qt::ElideRight, width, 0);
-        marked = paintMatches(painter, textRect, text);
+        marked = paintMatches(painter, opt, textRect, text);
     }
 
     // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
@@ -307,23 +325,32 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     painter->save();
     painter->setPen(color);
     if (isSpecial && Qt::mightBeRichText(text)) {
-        paintRichText(painter, target, text);
+        paintRichText(painter, target, alignmentIn(opt), text);
     } else {
-        painter->drawText(target, 0, text);
-        paintOnMarks(painter, target, text, marked);
+        painter->drawText(target, alignmentIn(opt), text);
+        paintOnMarks(painter, target, alignmentIn(opt), text, marked);
     }
     painter->restore();
 }
 
 // Marks the matches in the text. Returns where they are.
-QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QRect &textRect, const QString &text) const
+QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionViewItem &option,
+                                          const QRect &textRect, const QString &text) const
 {
+    const auto ranges = m_highlighter->matchRanges(text);
+    if (ranges.isEmpty()) {
+        return {};
+    }
     QRegion marked;
     const QFontMetrics metrics = painter->fontMetrics();
-    for (const auto &range : m_highlighter->matchRanges(text)) {
+    const QRect line = QStyle::alignedRect(option.direction, Qt::AlignLeft,
+                                           {metrics.horizontalAdvance(text), textRect.height()}, textRect);
+    const auto direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    for (const auto &range : ranges) {
         const int x0 = metrics.horizontalAdvance(text, static_cast<int>(range.first));
         const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
-        const QRect mark(textRect.left() + x0, textRect.top(), x1 - x0, textRect.height());
+        const QRect mark =
+            QStyle::visualRect(direction, line, {line.left() + x0, line.top(), x1 - x0, line.height()});
         painter->fillRect(mark, m_highlighter->color());
         marked += mark;
     }
@@ -331,8 +358,8 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QRect &textRe
 }
 
 // The light letters of a dark palette cannot be read on a light mark: there, they are drawn again.
-void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, const QString &text,
-                                       const QRegion &marked) const
+void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, int alignment,
+                                       const QString &text, const QRegion &marked) const
 {
     const int mark = qGray(m_highlighter->color().rgb());
     if (marked.isEmpty() || std::abs(mark - qGray(painter->pen().color().rgb())) >= legibleDifference) {
@@ -341,5 +368,5 @@ void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, c
     painter->setClipRegion(marked, Qt::IntersectClip);
     painter->fillRect(target, m_highlighter->color());
     painter->setPen(mark > 127 ? Qt::black : Qt::white);
-    painter->drawText(target, 0, text);
+    painter->drawText(target, alignment, text);
 }

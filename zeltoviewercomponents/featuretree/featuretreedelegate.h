@@ -30,6 +30,8 @@ public:
                         FeatureTreeHighlighter *highlighter);
     ~FeatureTreeDelegate() override;
 
+    /*! Returns a size in whose height a line of the view's font can be edited, too. */
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -64,8 +66,9 @@ private:
     FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
     QWidget *createEditorFor(FeatureTreeINodeItem *item, QWidget *parent, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const;
-    QRegion paintMatches(QPainter *painter, const QRect &textRect, const QString &text) const;
-    void paintOnMarks(QPainter *painter, const QRect &target, const QString &text,
+    QRegion paintMatches(QPainter *painter, const QStyleOptionViewItem &option, const QRect &textRect,
+                         const QString &text) const;
+    void paintOnMarks(QPainter *painter, const QRect &target, int alignment, const QString &text,
                       const QRegion &marked) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 

@@ -217,6 +217,7 @@ void FeatureTreeProxyModel::refilter()
         judgeTree();
     }
     invalidate();
+    emit filtered();
 }
 
 template <typename Work>

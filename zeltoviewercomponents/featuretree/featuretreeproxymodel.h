@@ -113,6 +113,8 @@ public slots:
 signals:
     /*! Polling was switched on or off, or ended because the device does not answer. */
     void pollingStateChanged(bool polling);
+    /*! All rows were judged anew, and with them the matches counted. */
+    void filtered();
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;

@@ -701,7 +701,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
     updateRows(QModelIndex());
-    if (m_highlighter.text().isEmpty()) { // a search has its own expansion
+    if (m_highlighter.text().isEmpty() || !branch.isValid()) { // a search has its own expansion
         onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
     }
     if (isFavorite) {

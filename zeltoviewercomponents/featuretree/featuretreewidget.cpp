@@ -20,6 +20,7 @@
 #include <QEventLoop>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextStream>
@@ -127,6 +128,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this,
             SLOT(onCurrentChanged(const QModelIndex &)));
     connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
+    connect(view->model(), SIGNAL(filtered()), this, SLOT(onFiltered()));
     connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(onFavoritesUpdated()));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
@@ -248,6 +250,9 @@ void FeatureTreeWidget::addParameterCollection(
     if (!extension->getSearchHelpItem()) {
         m_ui->treeView->onFavoriteDataUpdated();
     }
+    if (!m_filterText.isEmpty()) {
+        m_ui->treeView->expandEverything(); // its rows may repeat names that were counted before
+    }
     m_actionTogglePolling->setEnabled(true);
     m_busy = true;
 }
@@ -288,7 +293,10 @@ void FeatureTreeWidget::on_resetButton_clicked()
 void FeatureTreeWidget::refreshTree()
 {
     FeatureTreeProxyModel *const model = proxy();
-    model->setFilterFixedString(QString());
+    {
+        const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+        model->setFilterFixedString(QString());
+    }
     model->setFilterFixedString(m_filterText);
     if (m_expandOnRefresh) {
         m_ui->treeView->expandToDepth(expandedDepth);
@@ -592,8 +600,11 @@ void FeatureTreeWidget::filter(const QString &text)
         saveSelectionStatus();
     }
     m_ui->treeView->getHightlighter()->setText(text);
-    model->setFilterFixedString(text);
-    showCounts(text);
+    {
+        const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+        model->setFilterFixedString(text);
+        showCounts();
+    }
     if (isSearching) {
         m_ui->treeView->expandEverything();
     } else if (wasSearching) {
@@ -607,15 +618,31 @@ void FeatureTreeWidget::filter(const QString &text)
     m_ui->treeView->viewport()->update();
 }
 
-void FeatureTreeWidget::showCounts(const QString &text)
+// Favorites, collections, levels and features that come and go change what a search finds.
+void FeatureTreeWidget::onFiltered()
 {
-    if (text.isEmpty()) {
+    if (m_filterText.isEmpty() || m_isFiltering) {
+        return;
+    }
+    const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+    const int before = m_visibleMatches;
+    showCounts();
+    if (m_visibleMatches > before) {
+        m_ui->treeView->expandEverything(); // what was found shows, also in branches that came with it
+    }
+    getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::showCounts()
+{
+    if (m_filterText.isEmpty()) {
         setSearchRow(QString(), false);
         emit filterMatchesChanged(0, 0);
         return;
     }
+    m_visibleMatches = proxy()->visibleMatchCount();
     const int hidden = proxy()->hiddenMatchCount();
-    const int total = hidden + proxy()->visibleMatchCount();
+    const int total = hidden + m_visibleMatches;
     const QString message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>");
     setSearchRow(message.arg(total).arg(hidden), hidden > 0);
     emit filterMatchesChanged(total, hidden);

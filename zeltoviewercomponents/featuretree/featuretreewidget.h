@@ -145,6 +145,7 @@ protected:
 
 private slots:
     void onFavoritesUpdated();
+    void onFiltered();
 
 private:
     void renewStyleSheets();
@@ -156,7 +157,7 @@ private:
     void addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot);
     FeatureTreeProxyModel *proxy() const;
     void filter(const QString &text);
-    void showCounts(const QString &text);
+    void showCounts();
     void setSearchRow(const QString &message, bool isShown);
     void restoreScrollPosition();
     void moveCurrentFavorite(bool up);
@@ -173,6 +174,8 @@ private:
     QPoint m_savedScroll;
     bool m_busy = false;
     QString m_filterText;
+    int m_visibleMatches = 0; // as told last
+    bool m_isFiltering = false; // the filter is being set, and the counts follow
     bool m_expandOnRefresh = false;
     QString m_cameraType;
     QSharedPointer<Core::AppCoreComponents::IBaseInfo> m_baseInfo;

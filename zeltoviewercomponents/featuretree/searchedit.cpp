@@ -40,6 +40,7 @@ SearchEdit::SearchEdit(QWidget *parent)
     m_clearAction->setVisible(false);
 
     setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"));
+    m_parentFont.update();
 }
 
 SearchEdit::~SearchEdit() = default;
@@ -69,9 +70,8 @@ QSize SearchEdit::sizeHint() const
 void SearchEdit::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
-    // Holds the font of the moment as the box's own, which the style sheet would otherwise replace.
     if (event->type() == QEvent::FontChange) {
-        setFont(font());
+        m_parentFont.update();
     }
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "parentfont.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QLineEdit>
@@ -46,4 +48,5 @@ private:
     QAction *m_clearAction = nullptr;
     QString m_placeholder;
     bool m_placeholderEnabled = true;
+    ParentFont m_parentFont{this};
 };

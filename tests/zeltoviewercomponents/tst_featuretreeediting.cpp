@@ -1,0 +1,477 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreetest.h"
+
+#include <zeltoviewercomponents/featuretree/checkboxeditor.h>
+#include <zeltoviewercomponents/featuretree/enumeditor.h>
+#include <zeltoviewercomponents/featuretree/floateditor.h>
+#include <zeltoviewercomponents/featuretree/intslidereditor.h>
+#include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QScrollBar>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <stdexcept>
+
+class TestFeatureTreeEditing : public FeatureTreeTest
+{
+    Q_OBJECT
+
+private slots:
+    void editorsWriteWhatIsClicked();
+    void transientEditorsComeAndGo();
+    void refusedWriteShowsTheTruth();
+    void arrowsWalkRows();
+    void tabWalksEditors();
+    void keysEditTheValueColumn_data();
+    void keysEditTheValueColumn();
+    void unusedKeysSearchRows();
+    void wheelScrollsTheTree();
+    void switchesLevelWhileEditing();
+    void leavesEditorsOfOtherRows_data();
+    void leavesEditorsOfOtherRows();
+    void clearsFromInsideAStep();
+    void clearsFromInsideAWrite();
+    void closesDeviceWhileEditing();
+    void refreshesBelowAnOpenPopup();
+    void followsAvailability();
+};
+
+void TestFeatureTreeEditing::editorsWriteWhatIsClicked()
+{
+    TreeBench bench;
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QCOMPARE(bench.parameter<MemoryBoolean>(QStringLiteral("ReverseX"))->writes, QStringList("1"));
+    bench.settle();
+    QVERIFY(box->isChecked());
+    QCOMPARE(bench.view()->currentIndex().siblingAtColumn(0), bench.row(QStringLiteral("ReverseX")));
+
+    auto *const combo = bench.editor<EnumEditor>(QStringLiteral("PixelFormat"));
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(bench.parameter<MemoryEnum>(QStringLiteral("PixelFormat"))->writes, QStringList("Mono12"));
+
+    auto *const width = bench.editor<IntSliderEditor>(QStringLiteral("Width"));
+    auto *const slider = width->findChild<QSlider *>();
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 3, slider->height() / 2));
+    bench.settle();
+    const QStringList widths = bench.parameter<MemoryInteger>(QStringLiteral("Width"))->writes;
+    QVERIFY(widths.value(0).toInt() > 640);
+    QCOMPARE(QString::number(width->findChild<QSpinBox *>()->value()), widths.constLast());
+    QCOMPARE(bench.view()->currentIndex().siblingAtColumn(0), bench.row(QStringLiteral("Width")));
+
+    auto *const button = bench.editor<ToolButtonEditor>(QStringLiteral("TriggerSoftware"));
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(bench.parameter<MemoryCommand>(QStringLiteral("TriggerSoftware"))->executions, 1);
+}
+
+void TestFeatureTreeEditing::transientEditorsComeAndGo()
+{
+    const QString name = QStringLiteral("OffsetX");
+    const QString typed = QStringLiteral("12");
+    TreeBench bench;
+    auto *const node = bench.node(name);
+    bench.click(bench.value(name));
+    auto *edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
+    QVERIFY(edit && edit == QApplication::focusWidget());
+    edit->selectAll();
+    QTest::keyClicks(edit, typed);
+    // A refresh of the row leaves what is being typed.
+    bench.publish(name);
+    QCOMPARE(edit->text(), typed);
+    QTest::keyClick(edit, Qt::Key_Return);
+    bench.settle();
+    QCOMPARE(node->writes, QStringList(typed));
+    QVERIFY(!bench.view()->indexWidget(bench.value(name)));
+    QCOMPARE(bench.value(name).data().toString(), typed);
+    QCOMPARE(QApplication::focusWidget(), bench.view());
+
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("7"));
+    QTest::keyClick(edit, Qt::Key_Escape);
+    bench.settle();
+    // The first Escape undoes, the second leaves.
+    if (QWidget *const stillOpen = bench.view()->indexWidget(bench.value(name))) {
+        QTest::keyClick(stillOpen, Qt::Key_Escape);
+        bench.settle();
+    }
+    QVERIFY(!bench.view()->indexWidget(bench.value(name)));
+    QCOMPARE(node->writes, QStringList(typed));
+}
+
+void TestFeatureTreeEditing::refusedWriteShowsTheTruth()
+{
+    TreeBench bench;
+    const auto refuse = [&bench](const QString &name) {
+        bench.node(name)->before = [](const QString &operation) {
+            if (operation == QLatin1String("setValueFromString")) {
+                throw GenICam::AccessException(QStringLiteral("locked"));
+            }
+        };
+    };
+    refuse(QStringLiteral("ReverseX"));
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    QVERIFY(!box->isChecked());
+
+    refuse(QStringLiteral("PixelFormat"));
+    auto *const combo = bench.editor<EnumEditor>(QStringLiteral("PixelFormat"));
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(combo->currentText(), QStringLiteral("Mono8"));
+
+    refuse(QStringLiteral("Width"));
+    auto *const spin = bench.editor<IntSliderEditor>(QStringLiteral("Width"))->findChild<QSpinBox *>();
+    spin->setFocus();
+    QTest::keyClick(spin, Qt::Key_Up);
+    QCOMPARE(spin->value(), 640);
+
+    // So does what is written to a device that is gone.
+    bench.widget.deviceIsClosed();
+    auto *const gain = bench.editor<FloatEditor>(QStringLiteral("Gain"))->findChild<QLineEdit *>();
+    const QString shown = gain->text();
+    gain->setFocus();
+    gain->selectAll();
+    QTest::keyClicks(gain, QStringLiteral("9"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(gain->text(), shown);
+    QCOMPARE(bench.parameter<MemoryFloat>(QStringLiteral("Gain"))->writes, QStringList());
+}
+
+void TestFeatureTreeEditing::arrowsWalkRows()
+{
+    TreeBench bench;
+    for (const int column : {0, 1}) {
+        bench.view()->setFocus();
+        bench.view()->setCurrentIndex(bench.row(QStringLiteral("ImageFormatControl")));
+        bench.view()->setFocus();
+        QStringList walked;
+        if (column == 1) {
+            bench.view()->setCurrentIndex(bench.value(QStringLiteral("Width")));
+            bench.view()->setFocus();
+            walked.append(QStringLiteral("Width"));
+        }
+        while (walked.size() < 12) {
+            const QModelIndex before = bench.view()->currentIndex();
+            QTest::keyClick(bench.view(), Qt::Key_Down);
+            QCOMPARE(QApplication::focusWidget(), bench.view());
+            const QModelIndex now = bench.view()->currentIndex();
+            if (now == before) {
+                break;
+            }
+            walked.append(now.siblingAtColumn(0).data(FeatureTreeItem::GenicamNameRole).toString());
+        }
+        QCOMPARE(walked,
+                 QStringList({"Width", "OffsetX", "PixelFormat", "ReverseX", "AcquisitionControl",
+                              "ExposureTime", "Gain", "TriggerSoftware", "DeviceControl", "DeviceUserID"}));
+    }
+}
+
+void TestFeatureTreeEditing::tabWalksEditors()
+{
+    TreeBench bench;
+    const auto focusedRow = [&bench] {
+        const QModelIndex index = bench.view()->currentIndex();
+        const QWidget *const focus = QApplication::focusWidget();
+        return focus && bench.view()->viewport()->isAncestorOf(focus)
+            ? index.siblingAtColumn(0).data(FeatureTreeItem::GenicamNameRole).toString()
+            : QString();
+    };
+    bench.view()->setFocus();
+    QStringList forth;
+    for (int i = 0; i < 20; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (focusedRow().isEmpty()) {
+            break;
+        }
+        forth.append(focusedRow());
+    }
+    const QStringList all(
+        {"Width", "OffsetX", "PixelFormat", "ReverseX", "ExposureTime", "Gain", "DeviceUserID"});
+    QCOMPARE(forth, all);
+
+    bench.editor<FloatEditor>(QStringLiteral("Gain"))->setFocus();
+    QStringList back{focusedRow()};
+    for (int i = 0; i < 20; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        if (focusedRow().isEmpty()) {
+            break;
+        }
+        back.prepend(focusedRow());
+    }
+    QCOMPARE(back, all.mid(0, 6));
+    for (const QString &name : all) {
+        QVERIFY2(bench.node(name)->writes.isEmpty(), qPrintable(name));
+    }
+
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("AcquisitionControl")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_Tab);
+    QCOMPARE(focusedRow(), QStringLiteral("ExposureTime"));
+}
+
+void TestFeatureTreeEditing::keysEditTheValueColumn_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("key"); // 0: typing begins at once
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("written");
+    for (const int key : {0, int(Qt::Key_F2), int(Qt::Key_Return)}) {
+        const auto row = [key](const char *name, const char *text) {
+            QTest::addRow("%s, %x", name, key) << QString::fromLatin1(name) << key << text << text;
+        };
+        row("OffsetX", "42");
+        row("DeviceUserID", "abc");
+        row("Width", "48");
+        row("Gain", "7");
+        QTest::addRow("ReverseX, %x", key) << "ReverseX" << key << (key == 0 ? " " : "") << "1";
+    }
+}
+
+void TestFeatureTreeEditing::keysEditTheValueColumn()
+{
+    QFETCH(QString, name);
+    QFETCH(int, key);
+    QFETCH(QString, text);
+    QFETCH(QString, written);
+    TreeBench bench;
+    bench.click(bench.row(name));
+    bench.view()->setFocus();
+    if (key != 0) {
+        QTest::keyClick(bench.view(), static_cast<Qt::Key>(key));
+    }
+    for (const QChar character : text) {
+        QTest::keyPress(QApplication::focusWidget(), character.toLatin1());
+        QTest::keyRelease(QApplication::focusWidget(), character.toLatin1());
+    }
+    if (!text.isEmpty() && text != QLatin1String(" ")) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    bench.settle();
+    QCOMPARE(bench.node(name)->writes, QStringList(written));
+}
+
+void TestFeatureTreeEditing::unusedKeysSearchRows()
+{
+    TreeBench bench;
+    bench.click(bench.row(QStringLiteral("ReverseX")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_G); // nothing that a box could do
+    QCOMPARE(bench.view()->currentIndex().siblingAtColumn(0), bench.row(QStringLiteral("Gain")));
+    QVERIFY(bench.view()->hasFocus());
+    // Nor can an editor that is out of sight.
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("ReverseX")));
+    bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"))->hide();
+    QTest::keyClick(bench.view(), Qt::Key_Space);
+    QCOMPARE(bench.node(QStringLiteral("ReverseX"))->writes, QStringList());
+}
+
+void TestFeatureTreeEditing::wheelScrollsTheTree()
+{
+    auto camera = flatCamera(40);
+    for (int i = 0; i < 40; ++i) {
+        camera->addEnum(QStringLiteral("Choice%1").arg(i), QStringLiteral("Many"),
+                        {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}, QStringLiteral("b"));
+        camera->addInteger(QStringLiteral("Size%1").arg(i), QStringLiteral("Many"), 5, 0, 10, 1,
+                           QStringLiteral("Linear"));
+    }
+    TreeBench bench(camera);
+    for (const QString &name : {QStringLiteral("Choice5"), QStringLiteral("Size7")}) {
+        bench.view()->scrollTo(bench.row(name), QAbstractItemView::PositionAtTop);
+        bench.view()->setFocus();
+        QWidget *editor = bench.view()->indexWidget(bench.value(name));
+        if (auto *const spin = editor->findChild<QSpinBox *>()) {
+            editor = spin;
+        }
+        const int before = bench.view()->verticalScrollBar()->value();
+        const QPoint center = editor->rect().center();
+        QWheelEvent wheel(center, editor->mapToGlobal(center), QPoint(), QPoint(0, -240), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel); // others are not handed on to parents
+        qApp->notify(editor, &wheel);
+        QVERIFY(bench.view()->verticalScrollBar()->value() > before);
+        QCOMPARE(dynamic_cast<MemoryNode *>(camera->parameter(name).data())->writes, QStringList());
+    }
+}
+
+void TestFeatureTreeEditing::switchesLevelWhileEditing()
+{
+    auto camera = MemoryCollection::createSample();
+    for (const QString &name : {QStringLiteral("OffsetX"), QStringLiteral("Gain")}) {
+        const auto parameter = camera->parameter(name);
+        auto *const node = dynamic_cast<MemoryNode *>(parameter.data());
+        const_cast<ParameterCollection::ParameterData &>(*node->snapshot).visibility = GenApi::Expert;
+    }
+    TreeBench bench(camera);
+    bench.click(bench.value(QStringLiteral("DeviceUserID")));
+    QPointer<QLineEdit> edit(
+        qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID")))));
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("half"));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    bench.settle();
+    QVERIFY(edit && edit->hasFocus() && edit->text() == QLatin1String("half"));
+    QVERIFY(!bench.row(QStringLiteral("Gain")).isValid());
+
+    // An editor whose row goes is gone, and comes back with the row.
+    bench.widget.onVisibilityChanged(GenApi::Expert);
+    bench.settle();
+    QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
+    bench.click(bench.value(QStringLiteral("OffsetX")));
+    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    bench.settle();
+    QVERIFY(!bench.row(QStringLiteral("OffsetX")).isValid());
+    QVERIFY(!bench.widget.GetCurrentNode());
+    QVERIFY(bench.view()->hasFocus());
+}
+
+void TestFeatureTreeEditing::leavesEditorsOfOtherRows_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("how");
+    for (const QString &name : {QStringLiteral("Gain"), QStringLiteral("OffsetX")}) {
+        for (const QString &how :
+             {QStringLiteral("collapsed"), QStringLiteral("hidden"), QStringLiteral("not current")}) {
+            QTest::addRow("%s, %s", qPrintable(name), qPrintable(how)) << name << how;
+        }
+    }
+}
+
+void TestFeatureTreeEditing::leavesEditorsOfOtherRows()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, how);
+    TreeBench bench;
+    const QString category = bench.row(name).parent().data(FeatureTreeItem::GenicamNameRole).toString();
+    bench.parameter<MemoryPlain>(category)->edit<ParameterCollection::ParameterData>(
+        [](auto &data) { data.visibility = GenApi::Expert; });
+    bench.publish(category);
+    bench.view()->setCurrentIndex(bench.row(name));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    QVERIFY(bench.view()->viewport()->isAncestorOf(QApplication::focusWidget()));
+
+    if (how == QLatin1String("collapsed")) {
+        bench.view()->collapseAll();
+    } else if (how == QLatin1String("hidden")) {
+        bench.widget.onVisibilityChanged(GenApi::Beginner);
+    } else {
+        bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeviceControl")));
+    }
+    bench.settle();
+    QCOMPARE(QApplication::focusWidget(), bench.view()); // and no editor of another row
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_7}) {
+        QTest::keyClick(bench.view(), key);
+        QCOMPARE(QApplication::focusWidget(), bench.view());
+    }
+}
+
+void TestFeatureTreeEditing::clearsFromInsideAStep()
+{
+    TreeBench bench;
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
+    connect(bench.view(), &FeatureTreeView::onCurrentChanged, &bench.widget,
+            [&bench](const QModelIndex &index) {
+                if (index.isValid()) {
+                    bench.widget.clear();
+                }
+            });
+    QTest::keyClick(bench.view(), Qt::Key_Up);
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
+}
+
+void TestFeatureTreeEditing::clearsFromInsideAWrite()
+{
+    TreeBench bench;
+    bench.node(QStringLiteral("ReverseX"))->before = [&bench](const QString &operation) {
+        if (operation == QLatin1String("setValueFromString")) {
+            bench.widget.clear();
+            throw std::runtime_error("lost");
+        }
+    };
+    auto *const box = bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX"));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    bench.settle();
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
+}
+
+void TestFeatureTreeEditing::closesDeviceWhileEditing()
+{
+    TreeBench bench;
+    bench.click(bench.value(QStringLiteral("DeviceUserID")));
+    auto *const edit =
+        qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(QStringLiteral("DeviceUserID"))));
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("late"));
+    bench.widget.deviceIsClosed();
+    QTest::keyClick(edit, Qt::Key_Return);
+    bench.settle();
+    QCOMPARE(bench.node(QStringLiteral("DeviceUserID"))->writes, QStringList());
+    QCOMPARE(bench.value(QStringLiteral("DeviceUserID")).data().toString(), QStringLiteral("left"));
+}
+
+void TestFeatureTreeEditing::refreshesBelowAnOpenPopup()
+{
+    TreeBench bench;
+    auto *const combo = bench.editor<EnumEditor>(QStringLiteral("PixelFormat"));
+    combo->showPopup();
+    QWidget *const popup = QApplication::activePopupWidget();
+    QVERIFY(popup);
+    const auto snapshot = bench.node(QStringLiteral("PixelFormat"))->snapshot;
+    auto changed = QSharedPointer<ParameterCollection::EnumParameterData>::create(
+        static_cast<const ParameterCollection::EnumParameterData &>(*snapshot));
+    changed->valueString = QStringLiteral("Mono12");
+    bench.node(QStringLiteral("PixelFormat"))->snapshot = changed;
+    bench.publish(QStringLiteral("PixelFormat"));
+    bench.widget.Refresh();
+    bench.settle();
+    QCOMPARE(QApplication::activePopupWidget(), popup);
+    QCOMPARE(combo->count(), 2);
+    combo->hidePopup();
+    QTRY_COMPARE(combo->currentText(), QStringLiteral("Mono12"));
+    // The tree may even go away below it.
+    combo->showPopup();
+    bench.widget.clear();
+    bench.settle();
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void TestFeatureTreeEditing::followsAvailability()
+{
+    TreeBench bench;
+    const auto gain = bench.parameter<MemoryFloat>(QStringLiteral("Gain"));
+    const auto set = [&](bool available) {
+        gain->edit<ParameterCollection::FloatParameterData>([available](auto &data) {
+            data.isReadable = available;
+            data.isWritable = available;
+        });
+        gain->publish();
+        bench.settle();
+    };
+    set(false);
+    QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("Gain"))));
+    QCOMPARE(bench.value(QStringLiteral("Gain")).data().toString(), QStringLiteral("<not available>"));
+    set(true);
+    QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
+
+    // What is locked while its text is edited loses the editor.
+    bench.click(bench.value(QStringLiteral("OffsetX")));
+    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+    const auto offset = bench.parameter<MemoryInteger>(QStringLiteral("OffsetX"));
+    offset->edit<ParameterCollection::IntegerParameterData>([](auto &data) { data.isWritable = false; });
+    offset->publish();
+    bench.settle();
+    QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
+}
+
+QTEST_MAIN(TestFeatureTreeEditing)
+#include "tst_featuretreeediting.moc"

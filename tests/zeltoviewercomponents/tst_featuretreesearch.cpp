@@ -1,0 +1,292 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreetest.h"
+
+#include <zeltoviewercomponents/featuretree/checkboxeditor.h>
+#include <zeltoviewercomponents/featuretree/floateditor.h>
+
+#include <QClipboard>
+#include <QList>
+#include <QPair>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cstdlib>
+#include <functional>
+
+using Keystroke = QPair<int, Qt::KeyboardModifiers>; // no key: the modifier is struck alone
+using Keystrokes = QList<Keystroke>;
+Q_DECLARE_METATYPE(Keystrokes)
+
+class TestFeatureTreeSearch : public FeatureTreeTest
+{
+    Q_OBJECT
+
+private slots:
+    void searchKeepsAndRestoresTheTree();
+    void searchCounts();
+    void countsFollowTheTree();
+    void searchWithoutResults();
+    void clearedSearchScrollsBack();
+    void escapeTwiceClearsTheSearch();
+    void shortcuts_data();
+    void shortcuts();
+    void clearsFromInsideASearch();
+    void tellsTheHostOfTheCurrentRow();
+    void copiesTheTree();
+};
+
+void TestFeatureTreeSearch::searchKeepsAndRestoresTheTree()
+{
+    auto camera = MemoryCollection::createSample();
+    auto *const device =
+        dynamic_cast<MemoryNode *>(camera->parameter(QStringLiteral("DeviceControl")).data());
+    device->children.append(QStringLiteral("ReverseX")); // it stands in two categories
+    TreeBench bench(camera);
+    bench.view()->collapse(bench.row(QStringLiteral("AcquisitionControl")));
+    bench.click(bench.view()->model()->index(1, 0, bench.row(QStringLiteral("DeviceControl"))));
+    const QStringList before = bench.shownRows();
+    QCOMPARE(before.filter(QStringLiteral("ReverseX")).size(), 2);
+    QVERIFY(before.constLast().endsWith(QStringLiteral("ReverseX *")));
+
+    bench.type(QStringLiteral("gain"));
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("Gain")).size(), 1);
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("ReverseX")).size(), 0);
+    QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
+    bench.erase();
+    QCOMPARE(bench.shownRows(), before);
+
+    // What is collapsed in a search is as it was afterwards, too.
+    bench.type(QStringLiteral("e"));
+    bench.view()->collapseAll();
+    bench.erase();
+    QCOMPARE(bench.shownRows(), before);
+}
+
+void TestFeatureTreeSearch::searchCounts()
+{
+    auto camera = MemoryCollection::createSample();
+    camera->addInteger(QStringLiteral("GainRaw"), QStringLiteral("AcquisitionControl"))
+        ->edit<ParameterCollection::IntegerParameterData>(
+            [](auto &data) { data.visibility = GenApi::Expert; });
+    TreeBench bench(camera, GenApi::Beginner);
+    QSignalSpy counts(&bench.widget, SIGNAL(filterMatchesChanged(int, int)));
+
+    bench.type(QStringLiteral("gai"));
+    QCOMPARE(counts.takeLast(), QVariantList({2, 1}));
+    QCOMPARE(bench.shownRows().constFirst(),
+             QStringLiteral("<HTML><B>2 search results (1 of them visible at higher user level)</B>"));
+    // The row goes with the key that leaves nothing to tell, and comes back with the one that does.
+    bench.type(QStringLiteral("q"));
+    QCOMPARE(counts.takeLast(), QVariantList({0, 0}));
+    QCOMPARE(bench.shownRows(), QStringList());
+    QTest::keyClick(bench.box(), Qt::Key_Backspace);
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("search results")).size(), 1);
+    QCOMPARE(counts.takeLast(), QVariantList({2, 1}));
+    const QModelIndex hint = bench.view()->model()->index(0, 0);
+    const QString plain = QStringLiteral("2 search results (1 of them visible at higher user level)");
+    QCOMPARE(hint.data(Qt::AccessibleTextRole).toString(), plain);
+    bench.view()->setCurrentIndex(hint);
+    QTest::keyClick(bench.view(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), plain);
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
+
+    bench.type(QStringLiteral("nraw"));
+    QCOMPARE(bench.shownRows(),
+             QStringList(
+                 QStringLiteral("<HTML><B>1 search results (1 of them visible at higher user level)</B>")));
+    bench.widget.onVisibilityChanged(GenApi::Guru);
+    QCOMPARE(counts.takeLast(), QVariantList({1, 0}));
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("search results")).size(), 0);
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("GainRaw")).size(), 1);
+    bench.erase();
+    QCOMPARE(counts.takeLast(), QVariantList({0, 0}));
+    QCOMPARE(bench.shownRows().filter(QStringLiteral("search results")).size(), 0);
+}
+
+void TestFeatureTreeSearch::countsFollowTheTree()
+{
+    auto camera = MemoryCollection::createSample();
+    camera->addCategory(QStringLiteral("Deep"))->edit<ParameterCollection::ParameterData>([](auto &data) {
+        data.visibility = GenApi::Expert;
+    });
+    camera->addFloat(QStringLiteral("GainDeep"), QStringLiteral("Deep"));
+    camera->addInteger(QStringLiteral("GainRaw"), QStringLiteral("AcquisitionControl"));
+    TreeBench bench(camera, GenApi::Beginner);
+    const auto gain = bench.parameter<MemoryFloat>(QStringLiteral("Gain"));
+    const auto changeGain = [&gain](const std::function<void(ParameterCollection::ParameterData &)> &edit) {
+        gain->edit<ParameterCollection::FloatParameterData>(edit);
+        gain->publish();
+    };
+    QSignalSpy counts(&bench.widget, SIGNAL(filterMatchesChanged(int, int)));
+    // What is told by the signal and by the row, and what is in sight.
+    const auto state = [&] {
+        bench.settle();
+        const QStringList rows = bench.shownRows();
+        const QVariantList told = counts.constLast();
+        return QStringList{told.at(0).toString(), told.at(1).toString(),
+                           QString::number(rows.filter(QStringLiteral("Gain")).size())}
+        + rows.filter(QStringLiteral("search results"));
+    };
+    const auto expected = [](int total, int hidden) {
+        const QString row =
+            QStringLiteral("<HTML><B>%1 search results (%2 of them visible at higher user level)</B>");
+        return QStringList{QString::number(total), QString::number(hidden), QString::number(total - hidden)}
+        + (hidden > 0 ? QStringList(row.arg(total).arg(hidden)) : QStringList());
+    };
+    bench.type(QStringLiteral("gain"));
+    QCOMPARE(state(), expected(3, 1));
+    bench.extension()->AddFavorite(camera->parameter(QStringLiteral("GainDeep")), 0);
+    QCOMPARE(state(), expected(3, 0)); // the favorite is in sight
+    bench.favorites().removeEntry(0);
+    QCOMPARE(state(), expected(3, 1));
+    changeGain([](auto &data) { data.visibility = GenApi::Expert; });
+    QCOMPARE(state(), expected(3, 2));
+    changeGain([](auto &data) { data.isImplemented = false; });
+    QCOMPARE(state(), expected(2, 1));
+    const auto other = QSharedPointer<MemoryCollection>::create(QStringLiteral("@StreamGrabber0"));
+    other->addCategory(QStringLiteral("Stream"));
+    other->addInteger(QStringLiteral("GainStream"), QStringLiteral("Stream"));
+    bench.add(other);
+    QCOMPARE(state(), expected(3, 1));
+    bench.widget.setVisibility(GenApi::Expert);
+    QCOMPARE(state(), expected(3, 0));
+}
+
+void TestFeatureTreeSearch::searchWithoutResults()
+{
+    TreeBench bench;
+    bench.type(QStringLiteral("zzz"));
+    // The text stands at the top, in the middle.
+    const QRect viewport = bench.view()->viewport()->rect();
+    const QRect text = bench.ink(viewport);
+    QVERIFY(!text.isEmpty() && text.bottom() < 2 * bench.view()->fontMetrics().height());
+    QVERIFY(std::abs(text.center().x() - viewport.center().x()) < 20);
+    bench.erase();
+    QVERIFY(bench.ink(viewport).height() > viewport.height() / 3);
+}
+
+void TestFeatureTreeSearch::clearedSearchScrollsBack()
+{
+    TreeBench bench(flatCamera(150));
+    bench.view()->verticalScrollBar()->setValue(60);
+    const QModelIndex top = bench.view()->indexAt(QPoint(0, 0));
+    bench.click(bench.view()->indexBelow(top));
+    const int scrolled = bench.view()->verticalScrollBar()->value();
+    bench.type(QStringLiteral("flag14"));
+    QVERIFY(bench.view()->verticalScrollBar()->value() < scrolled);
+    bench.erase();
+    QCOMPARE(bench.view()->verticalScrollBar()->value(), scrolled);
+    bench.settle();
+    QCOMPARE(bench.view()->verticalScrollBar()->value(), scrolled);
+}
+
+void TestFeatureTreeSearch::escapeTwiceClearsTheSearch()
+{
+    TreeBench bench;
+    bench.type(QStringLiteral("gain"));
+    QTest::keyClick(bench.box(), Qt::Key_Escape);
+    QCOMPARE(bench.box()->text(), QStringLiteral("gain"));
+    QTest::keyClick(bench.box(), Qt::Key_Left); // the box keeps this one for itself
+    QTest::keyClick(bench.box(), Qt::Key_Escape);
+    QCOMPARE(bench.box()->text(), QStringLiteral("gain"));
+    bench.click(bench.row(QStringLiteral("Gain")));
+    QTest::keyClick(bench.view(), Qt::Key_Escape);
+    QCOMPARE(bench.box()->text(), QStringLiteral("gain"));
+    QTest::keyClick(bench.view(), Qt::Key_Escape);
+    QCOMPARE(bench.box()->text(), QString());
+}
+
+void TestFeatureTreeSearch::shortcuts_data()
+{
+    QTest::addColumn<Keystrokes>("keystrokes");
+    QTest::addColumn<QString>("effect");
+    const auto chord = Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier;
+    const Keystroke control{0, Qt::ControlModifier};
+    const Keystroke alt{0, Qt::AltModifier};
+    const Keystroke shift{0, Qt::ShiftModifier};
+    const QString find = QStringLiteral("find");
+    const QString collapse = QStringLiteral("collapse");
+    const QString expand = QStringLiteral("expand");
+    QTest::newRow("F3") << Keystrokes{{Qt::Key_F3, {}}} << find;
+    QTest::newRow("Ctrl, F") << Keystrokes{control, {Qt::Key_F, {}}} << find;
+    QTest::newRow("Ctrl+F") << Keystrokes{{Qt::Key_F, Qt::ControlModifier}} << find;
+    QTest::newRow("Ctrl, Alt, Shift, Minus")
+        << Keystrokes{control, alt, shift, {Qt::Key_Minus, {}}} << collapse;
+    QTest::newRow("Ctrl+Alt+Shift+Minus") << Keystrokes{{Qt::Key_Minus, chord}} << collapse;
+    QTest::newRow("Ctrl, Alt, Shift, Plus") << Keystrokes{control, alt, shift, {Qt::Key_Plus, {}}} << expand;
+    QTest::newRow("Ctrl+Alt+Shift+Plus") << Keystrokes{{Qt::Key_Plus, chord}} << expand;
+    QTest::newRow("Ctrl, Alt, Minus") << Keystrokes{control, alt, {Qt::Key_Minus, {}}} << QString();
+}
+
+void TestFeatureTreeSearch::shortcuts()
+{
+    QFETCH(Keystrokes, keystrokes);
+    QFETCH(QString, effect);
+    TreeBench bench;
+    bench.favorites().setExpanded(true);
+    if (effect == QLatin1String("expand")) {
+        bench.view()->collapseAll();
+    }
+    bench.view()->setFocus();
+    for (qsizetype i = 0; i < keystrokes.size(); ++i) {
+        QVERIFY(bench.view()->hasFocus()); // the last keystroke takes effect, no earlier one
+        QTest::sendKeyEvent(QTest::Click, bench.view(), static_cast<Qt::Key>(keystrokes[i].first),
+                            QString(QChar(0)), keystrokes[i].second);
+    }
+    QCOMPARE(bench.box()->hasFocus(), effect == QLatin1String("find"));
+    const bool isExpanded = effect != QLatin1String("collapse");
+    QCOMPARE(bench.view()->isExpanded(bench.row(QStringLiteral("ImageFormatControl"))), isExpanded);
+    QCOMPARE(bench.favorites().isExpanded(), isExpanded);
+}
+
+void TestFeatureTreeSearch::clearsFromInsideASearch()
+{
+    TreeBench bench;
+    bench.widget.clear();
+    bench.add(bench.camera);
+    // The first search after a change of the tree lets events through.
+    QMetaObject::invokeMethod(
+        &bench.widget, [&bench] { bench.widget.clear(); }, Qt::QueuedConnection);
+    bench.box()->setText(QStringLiteral("gain"));
+    QCOMPARE(bench.box()->text(), QString());
+    QCOMPARE(bench.view()->getHightlighter()->text(), QString());
+    QVERIFY(!QApplication::overrideCursor());
+    bench.add(bench.camera);
+    bench.view()->expandEverything();
+    QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeSearch::tellsTheHostOfTheCurrentRow()
+{
+    TreeBench bench;
+    QStringList features;
+    connect(&bench.widget, &FeatureTreeWidget::currentChanged, &bench.widget,
+            [&features](const auto &parameter) { features.append(parameter->name()); });
+    QSignalSpy texts(&bench.widget, SIGNAL(newText(QString)));
+    bench.click(bench.row(QStringLiteral("Gain")));
+    QCOMPARE(features, QStringList("Gain"));
+    bench.click(bench.extension()->GetFavoritesRootIndex());
+    QVERIFY(texts.value(0).value(0).toString().contains(QStringLiteral("Favorites")));
+    bench.click(bench.row(QStringLiteral("Width")));
+    features.clear();
+    bench.type(QStringLiteral("gain"));
+    bench.erase();
+    QCOMPARE(features, QStringList());
+    QVERIFY(bench.box()->hasFocus());
+}
+
+void TestFeatureTreeSearch::copiesTheTree()
+{
+    TreeBench bench;
+    bench.type(QStringLiteral("gain"));
+    bench.widget.copyToClipboard();
+    const QString text = QApplication::clipboard()->text();
+    QVERIFY(text.contains(QStringLiteral("Gain\t1.5")));
+    QVERIFY(!text.contains(QStringLiteral("Width")) && !text.contains(QLatin1Char('<')));
+}
+
+QTEST_MAIN(TestFeatureTreeSearch)
+#include "tst_featuretreesearch.moc"
