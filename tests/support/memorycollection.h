@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QPointer>
 #include <QStringList>
+#include <QVariant>
 
 #include <functional>
 #include <utility>
@@ -41,7 +42,21 @@ struct MemoryNode
             before(QString::fromLatin1(operation));
         }
     }
+
+    /*! Makes each of \a operations throw \a exception until `before` is reset. */
+    template <typename Exception>
+    void fail(const QStringList &operations, const Exception &exception)
+    {
+        before = [operations, exception](const QString &operation) {
+            if (operations.contains(operation)) {
+                throw exception;
+            }
+        };
+    }
 };
+
+/*! Writes \a text into the snapshot of \a node; throws as IParameter::setValueFromString() does. */
+void writeMemoryNode(MemoryNode &node, const QString &text);
 
 /*! \brief Property access of a MemoryNode; imposed properties are stored like any other. */
 class MemoryPropertyAccess : public ParameterCollection::NodePropertyAccess
@@ -57,18 +72,26 @@ private:
     MemoryNode *m_node;
 };
 
-/*! \brief A parameter that lives in memory: an implementation of \a Interface over a MemoryNode. */
-template <typename Interface>
+/*! \brief A parameter that lives in memory: an implementation of \a Interface over a MemoryNode, whose
+ * snapshots are of the class \a Snapshot. */
+template <typename Interface, typename Snapshot = ParameterCollection::ParameterData>
 class MemoryParameter : public Interface, public MemoryNode
 {
 public:
+    using Data = Snapshot;
+
     explicit MemoryParameter(const QString &name, const QString &fullName)
     {
         shortName = name;
         path = fullName;
     }
 
-    void setValueFromString(const QString &text) override;
+    void setValueFromString(const QString &text) override
+    {
+        enter("setValueFromString");
+        writeMemoryNode(*this, text);
+        publishLater();
+    }
     bool isExcluded() const override
     {
         enter("isExcluded");
@@ -128,12 +151,20 @@ public:
     }
 
     /*! Replaces the snapshot by a copy that \a change has changed. Publishes nothing. */
-    template <typename Data>
-    void edit(const std::function<void(Data &)> &change)
+    template <typename Changed = Snapshot, typename Change>
+    void edit(const Change &change)
     {
-        auto copy = QSharedPointer<Data>::create(static_cast<const Data &>(*snapshot));
+        auto copy = QSharedPointer<Changed>::create(static_cast<const Changed &>(*snapshot));
         change(*copy);
         snapshot = copy;
+    }
+
+    /*! Changes the snapshot as edit() does and publishes it. */
+    template <typename Change>
+    void update(const Change &change)
+    {
+        edit(change);
+        publish();
     }
 
     /*! Publishes the current snapshot at once, as if it arrived from the event loop. */
@@ -147,35 +178,31 @@ public:
     }
 };
 
-class MemoryInteger : public MemoryParameter<ParameterCollection::IIntegerParameter>
+/*! \brief A parameter in memory whose value can be set as \a Value, too. */
+template <typename Interface, typename Snapshot, typename Value>
+class MemoryValue : public MemoryParameter<Interface, Snapshot>
 {
 public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(qint64 value) override;
+    using MemoryParameter<Interface, Snapshot>::MemoryParameter;
+    void setValue(Value value) override
+    {
+        this->enter("setValue");
+        writeMemoryNode(*this, QVariant(value).toString());
+        this->publishLater();
+    }
 };
 
-class MemoryFloat : public MemoryParameter<ParameterCollection::IFloatParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(double value) override;
-};
+using MemoryInteger =
+    MemoryValue<ParameterCollection::IIntegerParameter, ParameterCollection::IntegerParameterData, qint64>;
+using MemoryFloat =
+    MemoryValue<ParameterCollection::IFloatParameter, ParameterCollection::FloatParameterData, double>;
+using MemoryEnum =
+    MemoryValue<ParameterCollection::IEnumParameter, ParameterCollection::EnumParameterData, const QString &>;
+using MemoryBoolean =
+    MemoryValue<ParameterCollection::IBooleanParameter, ParameterCollection::BooleanParameterData, bool>;
 
-class MemoryEnum : public MemoryParameter<ParameterCollection::IEnumParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(const QString &name) override;
-};
-
-class MemoryBoolean : public MemoryParameter<ParameterCollection::IBooleanParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(bool value) override;
-};
-
-class MemoryCommand : public MemoryParameter<ParameterCollection::ICommandParameter>
+class MemoryCommand : public MemoryParameter<ParameterCollection::ICommandParameter,
+                                             ParameterCollection::CommandParameterData>
 {
 public:
     using MemoryParameter::MemoryParameter;
@@ -216,6 +243,15 @@ public:
     /*! Makes \a alias what look-ups of \a name followed by "/Alias" find. */
     void setAlias(const QString &name, const QString &alias);
 
+    /*! Returns what the parameter \a name has in common with all others. */
+    MemoryNode *node(const QString &name) const;
+    /*! Returns the parameter \a name as the class that it is. */
+    template <typename Parameter>
+    QSharedPointer<Parameter> get(const QString &name) const
+    {
+        return qSharedPointerDynamicCast<Parameter>(m_entries.value(shortName(name)).parameter);
+    }
+
     QSharedPointer<ParameterCollection::IParameter> parameter(const QString &name) const override;
     bool hasParameter(const QString &name) const override;
     QStringList childNames(const QString &parent, int depth, bool fullNames) const override;
@@ -240,6 +276,10 @@ private:
     template <typename Parameter>
     QSharedPointer<Parameter> add(const QString &name, const QString &parent,
                                   const QSharedPointer<ParameterCollection::ParameterData> &snapshot);
+    template <typename Parameter, typename Value>
+    QSharedPointer<Parameter> addNumber(const QString &name, const QString &parent, Value value,
+                                        Value minimum, Value maximum, Value increment,
+                                        const QString &representation);
     QString shortName(const QString &name) const;
     void enter(const char *operation) const;
 
@@ -248,14 +288,3 @@ private:
     QHash<QString, Entry> m_entries;
     QHash<QString, QString> m_aliases;
 };
-
-/*! Writes \a text into the snapshot of \a node; throws as IParameter::setValueFromString() does. */
-void writeMemoryNode(MemoryNode &node, const QString &text);
-
-template <typename Interface>
-void MemoryParameter<Interface>::setValueFromString(const QString &text)
-{
-    enter("setValueFromString");
-    writeMemoryNode(*this, text);
-    publishLater();
-}
