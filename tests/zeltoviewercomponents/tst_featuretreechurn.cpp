@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <support/memorycollection.h>
-#include <support/strictidentityproxy.h>
+#include <support/table.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>
@@ -24,8 +24,7 @@ using namespace ParameterCollection;
 
 namespace {
 
-const QStringList mapNames{QStringLiteral("@CameraDevice"), QStringLiteral("@StreamGrabber0"),
-                           QStringLiteral("@Other")};
+const QStringList mapNames{"@CameraDevice", "@StreamGrabber0", "@Other"};
 const QStringList texts{"", "gain", "TRIGGER", "e", "1", "zzz", "fav", "off", ""};
 
 QString nameOf(const QModelIndex &index)
@@ -116,7 +115,7 @@ class TestFeatureTreeChurn : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QSettings().clear(); }
     void churn_data();
     void churn();
     void viewsShareTheList_data();
@@ -136,13 +135,6 @@ private:
     QList<QSharedPointer<MemoryInteger>> m_features;
     int m_lastStep = 0;
 };
-
-void TestFeatureTreeChurn::initTestCase()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_featuretreechurn"));
-    QSettings().clear();
-}
 
 void TestFeatureTreeChurn::addNode(MemoryCollection &collection, QStringList &categories, int number)
 {
@@ -167,7 +159,7 @@ void TestFeatureTreeChurn::fillCollections()
     m_features.clear();
     for (const QString &mapName : mapNames) {
         const auto collection = QSharedPointer<MemoryCollection>::create(mapName);
-        QStringList categories{QStringLiteral("Root")};
+        QStringList categories{"Root"};
         for (int number = 0; number < 14; ++number) {
             addNode(*collection, categories, number);
         }
@@ -213,7 +205,7 @@ void TestFeatureTreeChurn::changeFavorites(Tree &tree)
         break;
     }
     case 4:
-        favorites.appendEntry({QStringLiteral("Missing"), QStringLiteral("Missing gain"), mapNames[0]});
+        favorites.appendEntry({"Missing", "Missing gain", mapNames[0]});
         break;
     default:
         tree.proxy().AddFavorite(m_features[m_random.bounded(m_features.size())], m_random.bounded(5));
@@ -227,11 +219,10 @@ void TestFeatureTreeChurn::flipFeature()
         const auto &feature = m_features[m_random.bounded(m_features.size())];
         const auto visibility = GenApi::EVisibility(m_random.bounded(4));
         const bool implemented = m_random.bounded(3) > 0;
-        feature->edit<IntegerParameterData>([visibility, implemented](auto &data) {
+        feature->update([visibility, implemented](auto &data) {
             data.visibility = visibility;
             data.isImplemented = implemented;
         });
-        feature->publish();
     }
 }
 
@@ -291,8 +282,7 @@ void TestFeatureTreeChurn::check(Tree &tree, int number) const
 
 void TestFeatureTreeChurn::churn_data()
 {
-    QTest::addColumn<int>("seed");
-    QTest::addColumn<bool>("isWatched");
+    columns<int, bool>({"seed", "isWatched"});
     for (int seed = 1; seed <= 40; ++seed) {
         // The tester visits all rows; without it branches stay unloaded until they are shown.
         QTest::addRow("%d", seed) << seed << (seed % 2 == 0);
@@ -332,7 +322,7 @@ void TestFeatureTreeChurn::churn()
 
 void TestFeatureTreeChurn::viewsShareTheList_data()
 {
-    QTest::addColumn<int>("seed");
+    columns<int>({"seed"});
     for (int seed = 1; seed <= 6; ++seed) {
         QTest::addRow("%d", seed) << seed;
     }
