@@ -92,36 +92,24 @@ public:
         writeMemoryNode(*this, text);
         publishLater();
     }
-    bool isExcluded() const override
-    {
-        enter("isExcluded");
-        return excluded;
-    }
+    bool isExcluded() const override { return entered("isExcluded").excluded; }
     bool isWritableNow() const override
     {
-        enter("isWritableNow");
-        return snapshot && snapshot->isImplemented && snapshot->isWritable;
+        const auto data = entered("isWritableNow").snapshot;
+        return data && data->isImplemented && data->isWritable;
     }
     GenApi::EVisibility visibility() const override
     {
-        enter("visibility");
-        return snapshot ? snapshot->visibility : GenApi::UndefinedVisibility;
+        const auto data = entered("visibility").snapshot;
+        return data ? data->visibility : GenApi::UndefinedVisibility;
     }
     ParameterCollection::ParameterType type() const override
     {
-        enter("type");
-        return snapshot ? snapshot->type : ParameterCollection::ParameterType::Unknown;
+        const auto data = entered("type").snapshot;
+        return data ? data->type : ParameterCollection::ParameterType::Unknown;
     }
-    QString fullName() const override
-    {
-        enter("fullName");
-        return path;
-    }
-    QString name() const override
-    {
-        enter("name");
-        return shortName;
-    }
+    QString fullName() const override { return entered("fullName").path; }
+    QString name() const override { return entered("name").shortName; }
     QSharedPointer<ParameterCollection::NodePropertyAccess> propertyAccess() const override
     {
         enter("propertyAccess");
@@ -129,8 +117,7 @@ public:
     }
     QSharedPointer<const ParameterCollection::ParameterData> parameterData() const override
     {
-        enter("parameterData");
-        return snapshot;
+        return entered("parameterData").snapshot;
     }
     void scheduleParameterDataChangedCheck(bool force) override
     {
@@ -175,6 +162,13 @@ public:
     {
         QMetaObject::invokeMethod(
             this, [this] { publish(); }, Qt::QueuedConnection);
+    }
+
+private:
+    const MemoryNode &entered(const char *operation) const
+    {
+        enter(operation);
+        return *this;
     }
 };
 
