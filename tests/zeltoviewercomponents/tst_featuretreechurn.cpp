@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include <support/memorycollection.h>
+#include <support/randomnodes.h>
 #include <support/table.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
@@ -123,7 +123,6 @@ private slots:
 
 private:
     void fillCollections();
-    void addNode(MemoryCollection &collection, QStringList &categories, int number);
     void step(Tree &tree);
     void changeFavorites(Tree &tree);
     void flipFeature();
@@ -136,34 +135,13 @@ private:
     int m_lastStep = 0;
 };
 
-void TestFeatureTreeChurn::addNode(MemoryCollection &collection, QStringList &categories, int number)
-{
-    static const QStringList words{"Gain", "Exposure", "Trigger", "Line", "Offset"};
-    const QString parent = categories[m_random.bounded(categories.size())];
-    const QString name = words[m_random.bounded(words.size())] + QString::number(number);
-    if (m_random.bounded(3) == 0) {
-        const auto category = collection.addCategory(name, parent);
-        category->snapshot->visibility = GenApi::EVisibility(m_random.bounded(3));
-        categories.append(name);
-        return;
-    }
-    const auto feature = collection.addInteger(name, parent);
-    feature->snapshot->visibility = GenApi::EVisibility(m_random.bounded(4));
-    feature->snapshot->isImplemented = m_random.bounded(4) > 0;
-    m_features.append(feature);
-}
-
 void TestFeatureTreeChurn::fillCollections()
 {
     m_collections.clear();
     m_features.clear();
     for (const QString &mapName : mapNames) {
-        const auto collection = QSharedPointer<MemoryCollection>::create(mapName);
-        QStringList categories{"Root"};
-        for (int number = 0; number < 14; ++number) {
-            addNode(*collection, categories, number);
-        }
-        m_collections.append(collection);
+        m_collections.append(QSharedPointer<MemoryCollection>::create(mapName));
+        m_features.append(addRandomNodes(*m_collections.constLast(), m_random, 14));
     }
 }
 
