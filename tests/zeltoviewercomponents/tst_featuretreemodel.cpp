@@ -41,7 +41,6 @@ private slots:
     void admitsChildren();
     void firstFillInsideRowCountIsSilent();
     void modelsPassTheTester();
-    void searchRowMovesPersistentIndexes();
 
     void readFailureIsReportedOnce();
     void setDataWritesChangesOnly();
@@ -65,7 +64,6 @@ private slots:
     void favoritesCanBeAddedMovedRemoved();
     void placeholdersAndLiveRows();
     void favoriteWritesWithItsCollectionsEncoding();
-    void favoritesNeedNoCollection();
     void deferredListDoesNotMixUpRows();
     void exportsText();
     void modelMayOutliveTheApplication();
@@ -265,18 +263,6 @@ void TestFeatureTreeModel::modelsPassTheTester()
     m_model->GetFavorites().removeEntry(0);
     m_model->rebuildFavoriteItems();
     QCOMPARE(visitAll(plain), visitAll(*m_model));
-}
-
-void TestFeatureTreeModel::searchRowMovesPersistentIndexes()
-{
-    addSample();
-    const QPersistentModelIndex camera = m_model->index(0, 0);
-    const QPersistentModelIndex category = m_model->index(1, 0, camera);
-    m_model->rebuildFavoriteItems();
-    QCOMPARE(camera.row(), 2);
-    QCOMPARE(camera.data().toString(), "Camera");
-    QCOMPARE(category.row(), 1);
-    QCOMPARE(QModelIndex(category.parent()), QModelIndex(camera));
 }
 
 void TestFeatureTreeModel::readFailureIsReportedOnce()
@@ -597,6 +583,11 @@ void TestFeatureTreeModel::favoritesCanBeAddedMovedRemoved()
     QCOMPARE(m_model->getFavoritesIndexFromModelIndex(feature("Width")), 1);
     QVERIFY(!m_model->CanMoveFavorite(feature("Width", 0), true));
     QVERIFY(!m_model->RemoveFavorite(feature("Width", 0)));
+    QVERIFY(!m_model->RemoveFavorite(QModelIndex()));
+    QVERIFY(!m_model->MoveFavorite(QModelIndex(), true));
+    QCOMPARE(m_model->getFavoritesIndexFromModelIndex(m_model->index(0, 0)), -1);
+    QCOMPARE(m_model->getFavoritesIndexFromFeatureTreeItem(nullptr), -1);
+    QVERIFY(!m_model->IsFavoriteTreeRoot(nullptr));
     QVERIFY(!m_model->CanMoveFavorite(favorite("Gain"), true));
     QVERIFY(!m_model->MoveFavorite(favorite("Gain"), true));
     QVERIFY(m_model->MoveFavorite(favorite("Width"), false));
@@ -652,17 +643,6 @@ void TestFeatureTreeModel::favoriteWritesWithItsCollectionsEncoding()
     m_model->rebuildFavoriteItems();
     QVERIFY(m_model->setData(find("Fav*CameraDevice*DeviceUserID", 1), "5 €"));
     QCOMPARE(m_collection->node("DeviceUserID")->writes, QStringList("5 €"));
-}
-
-void TestFeatureTreeModel::favoritesNeedNoCollection()
-{
-    QVERIFY(!m_model->RemoveFavorite(QModelIndex()));
-    QVERIFY(!m_model->MoveFavorite(QModelIndex(), true));
-    QCOMPARE(m_model->getFavoritesIndexFromFeatureTreeItem(nullptr), -1);
-    QVERIFY(!m_model->IsFavoriteTreeRoot(nullptr));
-    addSample();
-    QVERIFY(!m_model->IsFavoriteTreeRoot(m_model->getFeatureTreeItem(m_model->index(0, 0))));
-    QCOMPARE(m_model->getFavoritesIndexFromModelIndex(m_model->index(0, 0)), -1);
 }
 
 void TestFeatureTreeModel::deferredListDoesNotMixUpRows()
