@@ -14,7 +14,6 @@
 
 #include <QRandomGenerator>
 #include <QSlider>
-#include <QStyledItemDelegate>
 
 #include <cmath>
 
@@ -223,25 +222,17 @@ void TestNumberEditors::leavingWritesNothing()
             nodes.append(m_collection->node("Number"));
         }
     }
-    QStyledItemDelegate delegate;
-    int commits = 0;
-    connect(&delegate, &QAbstractItemDelegate::commitData, this, [&commits](QWidget *editor) {
-        ++commits;
-        QVERIFY(!dynamic_cast<AbstractItemEditor *>(editor)->editorData().isValid());
-    });
     const auto editors = m_bench->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(editors.size(), 6);
     m_bench->present();
     for (int round = 0; round < 2; ++round) {
         for (QWidget *editor : editors) {
-            editor->installEventFilter(&delegate);
             editor->setFocus();
             m_bench->press(Qt::Key_Return);
             m_bench->press(Qt::Key_Tab);
         }
         m_bench->refresh();
     }
-    QVERIFY(commits > 0);
     for (const MemoryNode *node : std::as_const(nodes)) {
         QCOMPARE(node->writes, QStringList());
     }
