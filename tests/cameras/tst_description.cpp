@@ -60,7 +60,6 @@ private slots:
     void impossibleLengthsAreUnreadable();
     void endlessNestingIsCut();
     void dependentsFollowTheLinks();
-    void valuesLiveOnRegisters();
     void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
 
@@ -253,24 +252,6 @@ void TestDescription::dependentsFollowTheLinks()
     QCOMPARE(namesAfter("Unrelated"), "Kept");
     QCOMPARE(parsed.pollingTime(parsed.indexOf("Polled")), 250);
     QCOMPARE(parsed.pollingTime(parsed.indexOf("Kept")), 0);
-}
-
-void TestDescription::valuesLiveOnRegisters()
-{
-    const auto camera = opened(
-        root("Number Go")
-        + "<Integer "
-          "Name=\"Number\"><pValue>Register</pValue><Representation>HexNumber</Representation></Integer>"
-          "<Command Name=\"Go\"><pValue>Trigger</pValue><CommandValue>1</CommandValue></Command>"
-        + integerRegister("Register", "0x10") + integerRegister("Trigger", "0x14"));
-    const auto collection = camera->nodeMaps().first().collection;
-    const auto number = collection->parameter("Number");
-    QCOMPARE(number->parameterData()->valueString, "0x0");
-    number->setValueFromString("0xCAFE");
-    QCOMPARE(number->parameterData()->valueString, "0xcafe");
-    const auto go = qSharedPointerObjectCast<ICommandParameter>(collection->parameter("Go"));
-    go->execute(true);
-    QVERIFY(static_cast<const CommandParameterData &>(*go->parameterData()).isDone);
 }
 
 void TestDescription::singlePrecisionIsShownAsItWasMeant()

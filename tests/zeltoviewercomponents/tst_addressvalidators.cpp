@@ -7,7 +7,6 @@
 #include <zeltoviewercomponents/network/qipnetmaskvalidator.h>
 #include <zeltoviewercomponents/network/qmacaddressvalidator.h>
 
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -57,7 +56,6 @@ private slots:
     void changesAreTold();
     void mac_data();
     void mac();
-    void lineEditMendsPastedText();
 
 private:
     static void check(const AddressValidator &validator);
@@ -116,8 +114,6 @@ void TestAddressValidators::netmask_data()
         A,
         {"128.0.0.0", "255.0.0.0", "255.255.255.0", "255.255.240.0", "255.255.255.254", "255.255.255.255"});
     addRow("/24", A, "255.255.255.0");
-    addRow("/1", A, "128.0.0.0");
-    addRow("/32", A, "255.255.255.255");
     addRow(" / 25 ", M, "255.255.255.128");
     addRows(M, {"", "/", "/0", "24", "255.255.", "255.2", "255.255..0"});
     addRows(M, {"0.0.0.0", "255.0.255.0", "0.255.255.255", "255.255.255.1", "1.2.3.4"});
@@ -242,18 +238,6 @@ void TestAddressValidators::mac_data()
 void TestAddressValidators::mac()
 {
     check(QMacAddressValidator());
-}
-
-void TestAddressValidators::lineEditMendsPastedText()
-{
-    QLineEdit edit;
-    QIpAddressValidator validator;
-    edit.setValidator(&validator);
-    edit.insert(" 10.0.0.7 ");
-    QCOMPARE(edit.text(), " 10.0.0.7 ");
-    QTest::keyClick(&edit, Qt::Key_Return);
-    QCOMPARE(edit.text(), "10.0.0.7");
-    QVERIFY(edit.hasAcceptableInput());
 }
 
 QTEST_MAIN(TestAddressValidators)
