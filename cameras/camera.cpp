@@ -154,6 +154,14 @@ Session::Source describedSource(const QString &fileName)
     return source;
 }
 
+QString textOf(ArvDevice *device, const char *feature)
+{
+    GError *error = nullptr;
+    const QString text = QString::fromUtf8(arv_device_get_string_feature_value(device, feature, &error));
+    g_clear_error(&error);
+    return text;
+}
+
 CameraInfoPtr liveInfo(const QString &id, ArvDevice *device)
 {
     for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
@@ -162,8 +170,12 @@ CameraInfoPtr liveInfo(const QString &id, ArvDevice *device)
             return CameraInfoPtr(new CameraRecord(texts));
         }
     }
+    // Opened without having been listed before.
     const QString deviceClass = ARV_IS_GV_DEVICE(device) ? QStringLiteral("GEV") : QStringLiteral("U3V");
-    return CameraInfoPtr(new CameraRecord({id, QString(), QString(), QString(), deviceClass}));
+    const QString model = textOf(device, "DeviceModelName");
+    return CameraInfoPtr(
+        new CameraRecord({id, textOf(device, "DeviceVendorName"), model.isEmpty() ? id : model,
+                          textOf(device, "DeviceSerialNumber"), deviceClass}));
 }
 
 void onControlLost(ArvDevice *, gpointer session)

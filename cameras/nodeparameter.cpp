@@ -15,11 +15,6 @@ namespace Cameras {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::NodeParameter", text);
-}
-
 // In the order of GenApi::EVisibility and GenApi::EAccessMode.
 const QStringList &visibilityNames()
 {
@@ -42,7 +37,7 @@ int indexOrThrow(const QStringList &names, const NodeHandle &handle, const QStri
     if (index < 0) {
         const QString feature = handle.session->description(handle.map)->name(handle.node);
         throw GenICam::InvalidArgumentException(
-            tr("%1: \"%2\" is no %3, expected %4")
+            QCoreApplication::translate("Cameras::NodeParameter", "%1: \"%2\" is no %3, expected %4")
                 .arg(feature, value, property, names.join(QLatin1String(", "))));
     }
     return int(index);
@@ -118,7 +113,9 @@ void NodeProperties::setProperty(const QString &name, const QString &value)
     } else {
         const QString feature = m_handle.session->description(m_handle.map)->name(m_handle.node);
         throw GenICam::InvalidArgumentException(
-            tr("%1: the property \"%2\" cannot be imposed, only Visibility and AccessMode can")
+            QCoreApplication::translate(
+                "Cameras::NodeParameter",
+                "%1: the property \"%2\" cannot be imposed, only Visibility and AccessMode can")
                 .arg(feature, name));
     }
 }

@@ -21,6 +21,7 @@ CameraDialog::CameraDialog(QWidget *parent)
 {
     setWindowTitle(tr("Connect to Camera"));
     m_list->setAccessibleName(tr("Reachable cameras"));
+    m_list->setMinimumWidth(fontMetrics().averageCharWidth() * 60); // vendor, model and serial number
     m_hint->setWordWrap(true);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_connect = buttons->addButton(tr("&Connect"), QDialogButtonBox::AcceptRole);

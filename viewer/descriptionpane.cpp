@@ -33,11 +33,11 @@ public:
     void row(const QString &label, const QString &text)
     {
         if (!text.isEmpty()) {
-            m_rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
+            m_rows += QStringLiteral("<tr><td style=\"white-space:pre\">%1  </td><td>%2</td></tr>")
                           .arg(label.toHtmlEscaped(), text.toHtmlEscaped());
         }
     }
-    QString html() const { return m_html + QStringLiteral("<table>%1</table>").arg(m_rows); }
+    QString html() const { return m_html + QStringLiteral("<p><table>%1</table></p>").arg(m_rows); }
 
 private:
     QString m_html;
@@ -113,12 +113,12 @@ void addRange(Page &page, const ParameterData &data, const QString &unit)
     }
 }
 
-QString describe(const IParameter &parameter)
+QString describe(const IParameter &parameter, const QString &title)
 {
     const auto access = parameter.propertyAccess();
     const auto data = parameter.parameterData();
     Page page;
-    page.heading(access->property(QStringLiteral("DisplayName"), parameter.name()));
+    page.heading(title.isEmpty() ? access->property(QStringLiteral("DisplayName"), parameter.name()) : title);
     const QString toolTip = access->property(QStringLiteral("Tooltip"));
     const QString description = access->property(QStringLiteral("Description"));
     page.paragraph(toolTip);
@@ -164,12 +164,13 @@ DescriptionPane::DescriptionPane(QWidget *parent)
 
 DescriptionPane::~DescriptionPane() = default;
 
-void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter)
+void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter, const QString &title)
 {
     if (m_parameter) {
         disconnect(m_parameter.data(), nullptr, this, nullptr);
     }
     m_parameter = std::move(parameter);
+    m_title = title;
     if (m_parameter) {
         connect(
             m_parameter.data(),
@@ -186,7 +187,7 @@ void DescriptionPane::refresh()
     Core::guardedRun({logCategory(), "DescriptionPane::refresh"},
                      QStringLiteral("Failed to describe a feature"), [this, &page, &help] {
                          if (m_parameter) {
-                             page = describe(*m_parameter);
+                             page = describe(*m_parameter, m_title);
                              help = documentation(*m_parameter);
                          }
                      });

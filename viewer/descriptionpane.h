@@ -24,7 +24,9 @@ public:
     ~DescriptionPane() override;
 
 public slots:
-    void showParameter(QSharedPointer<ParameterCollection::IParameter> parameter);
+    /*! Describes \a parameter under \a title, or else under its own name; null empties the pane. */
+    void showParameter(QSharedPointer<ParameterCollection::IParameter> parameter,
+                       const QString &title = QString());
     /*! Shows \a text, which may be rich. */
     void showText(const QString &text);
 
@@ -37,5 +39,6 @@ private:
     QTextBrowser *m_text;
     HelpLink *m_help;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
+    QString m_title;
     QString m_page;
 };

@@ -31,5 +31,6 @@ void installTranslations(const QLocale &locale)
     install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     install(locale, QStringLiteral("zeltoviewercomponents"),
             QStringLiteral(":/zeltoviewercomponents/translations"));
+    install(locale, QStringLiteral("cameras"), QStringLiteral(":/cameras/translations"));
     install(locale, viewer, viewerFolder);
 }

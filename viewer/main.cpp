@@ -75,7 +75,9 @@ int dumpTree(MainWindow &window, const Options &options)
     FeatureTreeView *const view = window.featureTree()->treeView();
     const QModelIndex top =
         options.favorites ? view->getFeatureExtension()->GetFavoritesRootIndex() : QModelIndex();
-    writeFeatureTree(out, *view->model(), top);
+    if (!options.favorites || top.isValid()) { // a search may leave nothing of the favorites
+        writeFeatureTree(out, *view->model(), top);
+    }
     return finish(out);
 }
 

@@ -13,9 +13,11 @@
 #include "services/featuretreecontrolservice.h"
 #include "services/featuretreestatusservice.h"
 #include "services/workbenchservice.h"
+#include "treestate.h"
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
+#include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
@@ -32,11 +34,18 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -48,6 +57,15 @@ QString windowGroup()
     return QStringLiteral("MainWindow");
 }
 
+/*! \brief Shows the wait cursor while it lives. */
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
@@ -56,27 +74,33 @@ MainWindow::MainWindow(QWidget *parent)
     , m_description(new DescriptionPane(this))
     , m_messages(new MessageBar(this))
     , m_splitter(new QSplitter(this))
+    , m_pages(new QStackedWidget(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
 {
-    m_splitter->addWidget(m_tree);
+    m_pages->addWidget(m_tree);
+    m_pages->addWidget(createEmptyPage());
+    m_splitter->addWidget(m_pages);
     m_splitter->addWidget(m_description);
     m_splitter->setStretchFactor(0, 3);
     m_splitter->setStretchFactor(1, 2);
     auto *const central = new QWidget(this);
     auto *const layout = new QVBoxLayout(central);
-    layout->addWidget(m_messages);
     layout->addWidget(m_splitter, 1);
+    layout->addWidget(m_messages); // below the tree, whose rows stay where they are when a message comes
     setCentralWidget(central);
+    m_matches->setIndent(fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
     createMenus();
     createServices();
     createPanels();
 
-    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), m_description,
-            SLOT(showParameter(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
+            SLOT(onRowChanged(const QModelIndex &)));
     connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
     connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
             SLOT(onVisibilityChanged(GenApi::EVisibility)));
@@ -87,6 +111,9 @@ MainWindow::MainWindow(QWidget *parent)
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
+    connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
+            SLOT(onColumnResized(int, int, int)));
+    m_tree->installEventFilter(this);
     restoreState();
     updateActions();
 }
@@ -112,6 +139,16 @@ QObject *MainWindow::services() const
     return m_services;
 }
 
+// An empty tree would say that a search found nothing.
+QWidget *MainWindow::createEmptyPage()
+{
+    auto *const page =
+        new QLabel(tr("No camera is open.\nOpen a description file or connect to a camera (menu File)."));
+    page->setAlignment(Qt::AlignCenter);
+    page->setWordWrap(true);
+    return page;
+}
+
 void MainWindow::createServices()
 {
     new FeatureTreeControlService(m_tree, m_services);
@@ -125,6 +162,10 @@ void MainWindow::createServices()
     m_workbench->addPage(m_tree);
     m_description->setObjectName(QStringLiteral("description"));
     m_description->setWindowTitle(tr("Description"));
+    auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), m_description);
+    find->setContext(Qt::WidgetWithChildrenShortcut); // the tree has its own
+    connect(find, SIGNAL(activated()), m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit")),
+            SLOT(setFocus()));
     m_workbench->addPage(m_description);
 }
 
@@ -148,7 +189,8 @@ void MainWindow::createMenus()
 {
     createFileMenu();
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this, SLOT(copyTree()));
+    m_copyAction = edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this,
+                                   SLOT(copyTree()));
     createViewMenu();
     createCameraMenu();
     createHelpMenu();
@@ -161,6 +203,8 @@ void MainWindow::createFileMenu()
                     QKeySequence::Open, this, SLOT(openDescriptionFile()));
     file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
                     QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
+    m_reconnectAction =
+        file->addAction(tr("&Reconnect"), QKeySequence(tr("Ctrl+R")), this, SLOT(reconnect()));
     m_closeAction =
         file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
     file->addSeparator();
@@ -242,20 +286,24 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     const auto info = m_camera->info();
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
+    m_pages->setCurrentWidget(m_tree);
+    m_tree->setFocus(); // which went elsewhere when the camera before was lost or closed
     m_tree->expandRootNodes();
-    m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()));
+    m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
-    m_messages->dismiss();
     updateActions();
     emit cameraOpened(info);
 }
 
 void MainWindow::closeCamera()
 {
+    m_pollsAfterReconnect = false;
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
+    m_pages->setCurrentIndex(1);
     m_camera.reset();
+    m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
     setWindowTitle(tr("Zelto Viewer"));
     updateActions();
@@ -263,16 +311,11 @@ void MainWindow::closeCamera()
 
 void MainWindow::tryToOpen(const Options &options)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    QString failure;
     try {
+        const WaitCursor cursor;
         openCamera(options);
     } catch (const Core::Exception::BaseException &exception) {
-        failure = exception.getMessage();
-    }
-    QApplication::restoreOverrideCursor();
-    if (!failure.isEmpty()) {
-        m_messages->showMessage(failure, QString());
+        m_messages->showMessage(exception.getMessage(), QString());
     }
 }
 
@@ -309,9 +352,16 @@ void MainWindow::onCameraLost(const QString &reason)
 void MainWindow::reconnect()
 {
     const bool polls = m_pollsAfterReconnect;
-    const Options source = m_source;
     try {
-        openCamera(source);
+        const WaitCursor cursor;
+        std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
+        const std::optional<TreeState> state =
+            m_camera ? std::make_optional<TreeState>(*m_tree) : std::nullopt;
+        closeCamera();
+        useCamera(std::move(camera));
+        if (state) {
+            state->applyTo(*m_tree);
+        }
         m_tree->setPolling(polls);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showAction(exception.getMessage(), tr("Reconnect"));
@@ -369,6 +419,8 @@ void MainWindow::configureIp()
 void MainWindow::updateActions()
 {
     m_closeAction->setEnabled(m_camera != nullptr);
+    m_copyAction->setEnabled(m_camera != nullptr);
+    m_reconnectAction->setEnabled(!isCameraOpen());
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
@@ -414,6 +466,15 @@ void MainWindow::onVisibilityChanged(GenApi::EVisibility level)
     updateActions();
 }
 
+void MainWindow::onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter)
+{
+    const QModelIndex index = m_tree->GetCurrentIndex();
+    // The category of a whole node map is called "Root" everywhere; the tree has a better name for it.
+    const bool isTop = index.isValid() && !index.parent().isValid();
+    m_description->showParameter(std::move(parameter),
+                                 isTop ? index.siblingAtColumn(0).data().toString() : QString());
+}
+
 void MainWindow::onMatchesChanged(int total, int hidden)
 {
     if (total == 0) {
@@ -434,12 +495,16 @@ void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString 
                          const QString &details)
 {
     Q_UNUSED(severity)
+    if (m_camera && m_camera->isLost()) {
+        return; // the loss has been said
+    }
     m_messages->showMessage(message, details);
 }
 
 void MainWindow::copyTree()
 {
     m_tree->copyToClipboard();
+    statusBar()->showMessage(tr("The tree was copied to the clipboard."), statusTime);
 }
 
 void MainWindow::showAllMessagesAgain()
@@ -464,7 +529,7 @@ void MainWindow::restoreState()
 {
     QSettings settings;
     settings.beginGroup(windowGroup());
-    resize(1000, 700);
+    resize(QSize(1000, 700).boundedTo(screen()->availableSize() * 9 / 10)); // a scaled screen may be small
     restoreGeometry(settings.value(QStringLiteral("Geometry")).toByteArray());
     if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
         m_splitter->setSizes({640, 360});
@@ -487,8 +552,46 @@ void MainWindow::saveState() const
     settings.setValue(QStringLiteral("Geometry"), saveGeometry());
     settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
     settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
+    m_tree->treeView()->header()->resizeSection(0, m_nameWidth); // what the user chose, for wider windows
     settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
     settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
+}
+
+// Leaves the values some room in a narrow window.
+void MainWindow::fitColumns()
+{
+    const QScopedValueRollback<bool> fitting(m_isFittingColumns, true);
+    m_tree->treeView()->header()->resizeSection(0, std::min(m_nameWidth, m_tree->width() * 3 / 5));
+}
+
+// Of rows without feature and description the tree says nothing.
+void MainWindow::onRowChanged(const QModelIndex &index)
+{
+    const FeatureTreeItem *const item = index.isValid() ? m_tree->GetCurrentItem() : nullptr;
+    if (!item || item->HasDescription() || m_tree->GetCurrentNode()) {
+        return;
+    }
+    const QString name = index.siblingAtColumn(0).data().toString().toHtmlEscaped();
+    m_description->showText(
+        m_tree->IsCurrentFavorite()
+            ? QStringLiteral("<h3>%1</h3><p>%2</p>").arg(name, tr("The open camera has no such feature."))
+            : QString());
+}
+
+void MainWindow::onColumnResized(int column, int oldWidth, int newWidth)
+{
+    Q_UNUSED(oldWidth)
+    if (column == 0 && !m_isFittingColumns) {
+        m_nameWidth = newWidth;
+    }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_tree && event->type() == QEvent::Resize) {
+        fitColumns();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -8,6 +8,7 @@
 #include <cameras/camera.h>
 #include <platform/core/camerainfo.h>
 #include <platform/genicam/genapi.h>
+#include <platform/parametercollection/iparameter.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 
 #include <QMainWindow>
@@ -22,7 +23,9 @@ class QAction;
 class QActionGroup;
 class QLabel;
 class QMenu;
+class QModelIndex;
 class QSplitter;
+class QStackedWidget;
 class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
@@ -55,7 +58,7 @@ public:
 
 public slots:
     void closeCamera();
-    /*! Opens the camera that was open last; a failure is shown. */
+    /*! Opens the camera that was open last, with the tree as it was; a failure is shown. */
     void reconnect();
 
 signals:
@@ -63,6 +66,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
     void openDescriptionFile();
@@ -73,6 +77,9 @@ private slots:
     void about();
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
+    void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onRowChanged(const QModelIndex &index);
+    void onColumnResized(int column, int oldWidth, int newWidth);
     void onMatchesChanged(int total, int hidden);
     void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
@@ -88,21 +95,26 @@ private:
     void createViewMenu();
     void createCameraMenu();
     void createHelpMenu();
+    QWidget *createEmptyPage();
     QString ipObstacle() const;
     bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
     void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
+    void fitColumns();
     void restoreState();
     void saveState() const;
 
     std::unique_ptr<Cameras::Camera> m_camera;
     Options m_source; // how the camera was opened
     bool m_pollsAfterReconnect = false;
+    int m_nameWidth = 0; // of the first column, as far as there is room for it
+    bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
     DescriptionPane *m_description;
     MessageBar *m_messages;
     QSplitter *m_splitter;
+    QStackedWidget *m_pages; // the tree, or what is shown without a camera
     QLabel *m_matches;
     QLabel *m_cameraName;
     QObject *m_services;
@@ -110,6 +122,8 @@ private:
     QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
     QAction *m_closeAction = nullptr;
+    QAction *m_reconnectAction = nullptr;
+    QAction *m_copyAction = nullptr;
     QAction *m_ipAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };

@@ -6,7 +6,14 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolButton>
+
+namespace {
+
+constexpr qsizetype messagesKept = 20;
+
+} // namespace
 
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent)
@@ -14,6 +21,7 @@ MessageBar::MessageBar(QWidget *parent)
     , m_text(new QLabel(this))
     , m_action(new QToolButton(this))
 {
+    m_action->hide();
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
@@ -23,16 +31,16 @@ MessageBar::MessageBar(QWidget *parent)
     m_text->setTextFormat(Qt::PlainText);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto *const close = new QToolButton(this);
-    close->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
+    close->setIcon(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")));
     close->setAutoRaise(true);
     close->setToolTip(tr("Dismiss"));
     close->setAccessibleName(close->toolTip());
 
     auto *const layout = new QHBoxLayout(this);
-    layout->addWidget(m_icon, 0, Qt::AlignTop);
+    layout->addWidget(m_icon);
     layout->addWidget(m_text, 1);
-    layout->addWidget(m_action, 0, Qt::AlignTop);
-    layout->addWidget(close, 0, Qt::AlignTop);
+    layout->addWidget(m_action);
+    layout->addWidget(close);
     connect(m_action, SIGNAL(clicked()), this, SIGNAL(actionTriggered()));
     connect(close, SIGNAL(clicked()), this, SLOT(dismiss()));
     hide();
@@ -42,37 +50,48 @@ MessageBar::~MessageBar() = default;
 
 void MessageBar::showMessage(const QString &message, const QString &details)
 {
-    show(message, details, QString());
+    ++m_count;
+    m_messages.append(details.isEmpty() ? message : message + QLatin1Char('\n') + details);
+    if (m_messages.size() > messagesKept) {
+        m_messages.removeFirst();
+    }
+    updateText();
 }
 
 void MessageBar::showAction(const QString &message, const QString &action)
 {
-    show(message, QString(), action);
+    dismiss();
+    m_question = message;
+    m_action->setText(action);
+    m_action->show();
+    updateText();
 }
 
-void MessageBar::show(const QString &message, const QString &details, const QString &action)
+void MessageBar::updateText()
 {
-    if (!m_action->isHidden() && action.isEmpty()) {
-        return; // what waits for an answer is not covered
+    QStringList lines;
+    if (!m_question.isEmpty()) {
+        lines.append(m_question);
     }
-    m_earlier = isHidden() ? 0 : m_earlier + 1;
-    QString text = message;
-    if (!details.isEmpty()) {
-        text += QLatin1Char('\n') + details;
+    if (!m_messages.isEmpty()) {
+        lines.append(m_messages.constLast());
     }
-    if (m_earlier > 0) {
-        text += QLatin1Char('\n') + tr("(%n earlier message(s))", nullptr, m_earlier);
+    if (m_count > 1) {
+        lines.append(tr("(%n earlier message(s))", nullptr, m_count - 1));
     }
-    m_text->setText(text);
-    m_text->setAccessibleName(text);
-    m_action->setText(action);
-    m_action->setVisible(!action.isEmpty());
-    setVisible(true);
+    m_text->setText(lines.join(QLatin1Char('\n')));
+    m_text->setAccessibleName(m_text->text());
+    m_text->setToolTip(
+        m_count > 1 ? Qt::convertFromPlainText(m_messages.join(QStringLiteral("\n\n")), Qt::WhiteSpaceNormal)
+                    : QString());
+    show();
 }
 
 void MessageBar::dismiss()
 {
-    m_earlier = 0;
+    m_question.clear();
+    m_messages.clear();
+    m_count = 0;
     m_action->hide();
     hide();
 }

@@ -5,12 +5,15 @@
 
 #include <QFrame>
 #include <QString>
+#include <QStringList>
 
 class QLabel;
 class QToolButton;
 
-/*! \brief Shows messages above the tree, the latest with the number of those before it, instead of piling up
- * boxes. */
+/*! \brief Shows the latest message with the number of those before it, which its tool tip lists, instead of
+ * piling up boxes.
+ *
+ * A message that waits for an answer stays until it is dismissed or replaced; others appear below it. */
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -31,10 +34,12 @@ signals:
     void actionTriggered();
 
 private:
-    void show(const QString &message, const QString &details, const QString &action);
+    void updateText();
 
     QLabel *m_icon;
     QLabel *m_text;
     QToolButton *m_action;
-    int m_earlier = 0;
+    QString m_question; // waits for an answer
+    QStringList m_messages; // the latest last; of the earlier ones, as many as are listed
+    int m_count = 0;
 };

@@ -74,12 +74,17 @@ QString contradiction(const QCommandLineParser &parser)
         return QCoreApplication::translate("Options", "Unexpected argument '%1'.")
             .arg(parser.positionalArguments().constFirst());
     }
+    // What would be ignored is refused as well, so that no script believes it was heeded.
     static constexpr std::array exclusive{
-        std::pair{"description", "camera"},   std::pair{"list", "dump"},
-        std::pair{"list", "favorites"},       std::pair{"list", "editors"},
-        std::pair{"list", "screenshot"},      std::pair{"dump", "editors"},
-        std::pair{"dump", "screenshot"},      std::pair{"favorites", "editors"},
-        std::pair{"favorites", "screenshot"},
+        std::pair{"description", "camera"}, std::pair{"list", "description"},
+        std::pair{"list", "camera"},        std::pair{"list", "dump"},
+        std::pair{"list", "favorites"},     std::pair{"list", "visibility"},
+        std::pair{"list", "search"},        std::pair{"list", "expand"},
+        std::pair{"list", "editors"},       std::pair{"list", "screenshot"},
+        std::pair{"dump", "editors"},       std::pair{"dump", "screenshot"},
+        std::pair{"favorites", "editors"},  std::pair{"favorites", "screenshot"},
+        std::pair{"visibility", "editors"}, std::pair{"search", "editors"},
+        std::pair{"expand", "editors"},
     };
     for (const auto &[first, second] : exclusive) {
         const QString one = QString::fromLatin1(first);

@@ -3,12 +3,15 @@
 
 #include <viewer/mainwindow.h>
 
+#include <zeltoviewercomponents/featuretree/featuretreeview.h>
+#include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QHostAddress>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -16,6 +19,7 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <memory>
 
@@ -43,6 +47,8 @@ private slots:
     void ipConfigurationNeedsAnAbleCamera();
     void ipConfigurationIsWritten();
     void silencedMessageComesBack();
+    void reconnectingKeepsTheTree();
+    void clickOnALockedEditorGoesToItsRow();
 
 private:
     QAction *action(const char *text) const;
@@ -130,6 +136,53 @@ void TestMainWindow::silencedMessageComesBack()
     action("Show All Messages Again")->trigger();
     enterIpConfiguration("192.168.0.79", false);
     QCOMPARE(m_boxes, 2);
+}
+
+void TestMainWindow::reconnectingKeepsTheTree()
+{
+    FeatureTreeWidget *const tree = m_window->featureTree();
+    const auto row = [tree](int category, int feature) {
+        const QAbstractItemModel *const model = tree->treeView()->model();
+        return model->index(feature, 0, model->index(category, 0, model->index(1, 0)));
+    };
+    tree->treeView()->expand(row(1, 0).parent());
+    tree->treeView()->setCurrentIndex(row(1, 2));
+    const QString current = row(1, 2).data().toString();
+    auto *const box = tree->findChild<QLineEdit *>(QStringLiteral("filterEdit"));
+    box->setText(QStringLiteral("exposure"));
+
+    m_window->reconnect();
+    QCOMPARE(box->text(), QStringLiteral("exposure"));
+    box->clear();
+    QCOMPARE(tree->treeView()->currentIndex().data().toString(), current);
+    QVERIFY(tree->treeView()->isExpanded(row(1, 0).parent()));
+    QVERIFY(!tree->treeView()->isExpanded(row(0, 0).parent()));
+
+    m_window->closeCamera();
+    m_window->reconnect();
+    QVERIFY(tree->treeView()->isExpanded(row(1, 0).parent().parent()));
+}
+
+void TestMainWindow::clickOnALockedEditorGoesToItsRow()
+{
+    Options options;
+    options.expand = true;
+    options.visibility = GenApi::Guru;
+    m_window->applyOptions(options);
+    const FeatureTreeView *const view = m_window->featureTree()->treeView();
+    int clicked = 0;
+    for (QModelIndex row = view->indexAt({0, 0}); row.isValid() && view->visualRect(row).isValid();
+         row = view->indexBelow(row)) {
+        const QRect cell = view->visualRect(row.siblingAtColumn(1));
+        const QWidget *const editor = view->indexWidget(row.siblingAtColumn(1));
+        if (editor && !editor->isEnabled() && view->viewport()->rect().contains(cell)) {
+            const QPoint place = view->viewport()->mapTo(m_window.get(), cell.center());
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+            QCOMPARE(view->currentIndex().siblingAtColumn(0), row);
+            ++clicked;
+        }
+    }
+    QVERIFY(clicked > 2);
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -63,7 +63,7 @@ private slots:
     void filesAreComplete();
     void countsHaveTheirPlural_data();
     void countsHaveTheirPlural();
-    void libraryIsTranslated();
+    void librariesAreTranslated();
     void mnemonicsAreUnique_data();
     void mnemonicsAreUnique();
 };
@@ -83,7 +83,7 @@ void TestTranslations::cleanup()
 void TestTranslations::filesAreComplete_data()
 {
     QTest::addColumn<QString>("fileName");
-    for (const char *const folder : {"zeltoviewercomponents", "viewer"}) {
+    for (const char *const folder : {"zeltoviewercomponents", "cameras", "viewer"}) {
         const QDir dir(QStringLiteral(ZELTO_SOURCE_DIR "/%1/translations").arg(QLatin1String(folder)));
         const auto files = dir.entryInfoList({QStringLiteral("*.ts")});
         for (const QFileInfo &file : files) {
@@ -150,12 +150,14 @@ void TestTranslations::countsHaveTheirPlural()
                         [&shown](const QLabel *label) { return label->text() == shown; }));
 }
 
-void TestTranslations::libraryIsTranslated()
+void TestTranslations::librariesAreTranslated()
 {
     installTranslations(QLocale(QLocale::German, QLocale::Austria));
     MainWindow window;
     const auto *const tree = window.featureTree();
     QCOMPARE(tree->treeView()->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Merkmal"));
+    window.openCamera(Options());
+    QCOMPARE(tree->treeView()->model()->index(1, 0).data().toString(), QStringLiteral("Kamera"));
 }
 
 void TestTranslations::mnemonicsAreUnique_data()

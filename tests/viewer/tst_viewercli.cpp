@@ -128,6 +128,8 @@ void TestViewerCli::failsInOneLine_data()
         QStringLiteral("exclude each other"));
     row("two answers", {QStringLiteral("--editors"), QStringLiteral("--dump")},
         QStringLiteral("exclude each other"));
+    row("option that would be ignored", {QStringLiteral("--list"), QStringLiteral("--search=x")},
+        QStringLiteral("exclude each other"));
     row("no such file",
         {QStringLiteral("--dump"), QStringLiteral("--description"), QStringLiteral("missing.xml")},
         QStringLiteral("missing.xml"));
@@ -277,6 +279,10 @@ void TestViewerCli::dumpsFavorites()
     QCOMPARE(result.err, QString());
     QVERIFY2(result.out.startsWith(QStringLiteral("    Add favorites")), qPrintable(result.out));
     QCOMPARE(result.out.count(QLatin1Char('\n')), 1);
+
+    const Result none = run({QStringLiteral("--favorites"), QStringLiteral("--search=exposure")});
+    QCOMPARE(none.exitCode, 0);
+    QCOMPARE(none.out, QString());
 }
 
 void TestViewerCli::answersAboutItself_data()

@@ -48,6 +48,10 @@ private slots:
     void setDataReportsFailures();
     void updatesSignalTheTwoCells();
     void clearFromAnUpdate();
+    void clearFromAWrite_data();
+    void clearFromAWrite();
+    void receiversMayClearAndRebuild_data();
+    void receiversMayClearAndRebuild();
 
     void pollsTheFirstCollectionOnly();
     void pollFailureIsLogged();
@@ -106,6 +110,17 @@ std::unique_ptr<QMimeData> mimeOf(const QByteArray &payload,
     auto data = std::make_unique<QMimeData>();
     data->setData(format, payload);
     return data;
+}
+
+QStringList namesBelow(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
+{
+    QStringList names;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+        names.append(namesBelow(model, index));
+    }
+    return names;
 }
 
 } // namespace
@@ -211,9 +226,12 @@ void TestFeatureTreeModel::admitsChildren()
     m_collection->addInteger("InvisibleFeature", "DeviceControl")->snapshot->visibility = GenApi::Invisible;
     m_collection->addInteger("Excluded", "DeviceControl")->excluded = true;
     m_collection->addInteger("Broken", "DeviceControl")->fail({"isExcluded"}, 1);
+    m_collection->addCategory("Outer");
+    m_collection->addCategory("Inner", "Outer")->MemoryNode::children.append("Outer");
     LogCapture log;
     addSample();
     visitAll(*m_model);
+    QCOMPARE(m_model->rowCount(find("@CameraDevice/Inner")), 0);
     QVERIFY(!find("@CameraDevice/HiddenCategory").isValid());
     QVERIFY(find("@CameraDevice/InvisibleFeature").isValid());
     QVERIFY(!find("@CameraDevice/Excluded").isValid());
@@ -375,6 +393,87 @@ void TestFeatureTreeModel::clearFromAnUpdate()
     QTRY_COMPARE(updates, 1);
     QCoreApplication::processEvents();
     QCOMPARE(updates, 1);
+}
+
+void TestFeatureTreeModel::clearFromAWrite_data()
+{
+    columns<QString, QString, bool>({"name", "operation", "fails"});
+    row("write", "Width", "setValueFromString", false);
+    row("failing write", "Width", "setValueFromString", true);
+    row("failing command", "TriggerSoftware", "execute", true);
+    row("failing adjustment", "Width", "setValue", true);
+}
+
+// A camera may be closed while a write waits for its answer.
+void TestFeatureTreeModel::clearFromAWrite()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, operation);
+    QFETCH(const bool, fails);
+    addSample();
+    const QModelIndex cell = feature(name);
+    auto parameter = m_collection->parameter(name);
+    int calls = 0;
+    dynamic_cast<MemoryNode *>(parameter.data())->before = [&, fails](const QString &called) {
+        if (called == operation) {
+            ++calls;
+            m_model->clear();
+            m_collection.reset();
+            if (fails) {
+                throw std::runtime_error("closed");
+            }
+        }
+    };
+    if (operation == "setValue") {
+        dynamic_cast<MemoryInteger &>(*parameter).update([](auto &data) { data.value = data.maximum + 1; });
+    } else {
+        parameter.reset();
+        QCOMPARE(m_model->setData(cell, "32"), !fails);
+    }
+    QCOMPARE(calls, 1);
+    QCOMPARE(m_model->rowCount(), 0);
+}
+
+void TestFeatureTreeModel::receiversMayClearAndRebuild_data()
+{
+    columns<bool>({"clears"});
+    row("clear", true);
+    row("rebuild", false);
+}
+
+// Each of the signals in turn meets a receiver that calls back.
+void TestFeatureTreeModel::receiversMayClearAndRebuild()
+{
+    QFETCH(const bool, clears);
+    int emitted = 1;
+    for (int chosen = 0; chosen < emitted; ++chosen) {
+        init();
+        emitted = 0;
+        const auto callBack = [this, &emitted, clears, chosen] {
+            if (emitted++ == chosen) {
+                clears ? m_model->clear() : m_model->rebuildFavoriteItems();
+            }
+        };
+        connect(m_model.get(), &FeatureTreeModel::dataChanged, this, callBack);
+        connect(m_model.get(), &FeatureTreeModel::layoutChanged, this, callBack);
+        connect(m_model.get(), &FeatureTreeModel::rowsInserted, this, callBack);
+        connect(m_model.get(), &FeatureTreeModel::rowsRemoved, this, callBack);
+        addSample();
+        m_model->rebuildFavoriteItems();
+        m_model->AddFavorite(m_collection->parameter("Width"), 0);
+        m_model->AddFavorite(m_collection->parameter("Gain"), 0);
+        m_model->rebuildFavoriteItems();
+        m_model->rebuildFavoriteItems();
+        disconnect(m_model.get(), nullptr, this, nullptr);
+        if (clears) {
+            m_model->rebuildFavoriteItems();
+        }
+        QStringList names = namesBelow(*m_model);
+        QVERIFY2(clears || names.size() == 16, qPrintable(names.join(QLatin1Char(' '))));
+        QCOMPARE(names.removeDuplicates(), 0);
+        QVERIFY(names.contains("Fav*CameraDevice*Gain"));
+    }
+    QVERIFY(emitted > 20);
 }
 
 void TestFeatureTreeModel::pollsTheFirstCollectionOnly()
@@ -563,6 +662,7 @@ void TestFeatureTreeModel::favoritesCanBeAddedMovedRemoved()
 {
     addSample();
     m_model->rebuildFavoriteItems();
+    m_collection->node("Gain")->properties.clear();
     for (const char *const name : {"Gain", "Width", "OffsetX"}) {
         const QModelIndex row = feature(QString::fromLatin1(name), 0);
         QVERIFY(m_model->CanAddAsFavorite(row));
@@ -571,6 +671,7 @@ void TestFeatureTreeModel::favoritesCanBeAddedMovedRemoved()
         QVERIFY(!m_model->AddFavorite(parameter, 0));
         QVERIFY(!m_model->CanAddAsFavorite(row));
     }
+    QCOMPARE(m_model->GetFavorites().entryAt(0)->displayName, "Gain");
     QVERIFY(!m_model->CanAddAsFavorite(feature("DeviceControl", 0)));
     QVERIFY(!m_model->AddFavorite(nullptr, 0));
     QVERIFY(!m_model->AddFavorite(m_collection->parameter("ReverseX"), -1));

@@ -15,6 +15,7 @@
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -140,6 +141,7 @@ private slots:
     void pollingStateIsTold();
     void clearResets();
     void defaultsWithoutAFeatureTreeModel();
+    void otherSources();
 
 private:
     void addCamera();
@@ -563,6 +565,30 @@ void TestFeatureTreeProxyModel::defaultsWithoutAFeatureTreeModel()
     empty.EnablePolling(true);
     QVERIFY(!empty.GetPolling());
     QCOMPARE(empty.rowCount(), 0);
+}
+
+void TestFeatureTreeProxyModel::otherSources()
+{
+    addCamera();
+    FeatureTreeModel secondTree;
+    const auto second = MemoryCollection::createSample();
+    second->addInteger(QStringLiteral("GainRaw"), QStringLiteral("AcquisitionControl"));
+    secondTree.addParameterCollection(second, QStringLiteral("Second"), cameraDevice, false);
+    visitAll(secondTree);
+    m_proxy->setFilterFixedString(QStringLiteral("gain"));
+    QCOMPARE(m_proxy->visibleMatchCount(), 1);
+    m_proxy->setSourceModel(&secondTree);
+    QCOMPARE(m_proxy->visibleMatchCount(), 2);
+    QVERIFY(find(QStringLiteral("@CameraDevice/GainRaw")).isValid());
+    QVERIFY2(!find(QString()).isValid(), "the invisible root item is no row");
+
+    QStandardItemModel foreign;
+    foreign.appendRow(new QStandardItem(QStringLiteral("above")));
+    foreign.item(0)->appendRow(new QStandardItem(QStringLiteral("below")));
+    m_proxy->setSourceModel(&foreign);
+    foreign.item(0)->appendRow(new QStandardItem(QStringLiteral("late")));
+    QCOMPARE(m_proxy->rowCount(m_proxy->index(0, 0)), 2);
+    m_proxy->setSourceModel(m_model);
 }
 
 QTEST_MAIN(TestFeatureTreeProxyModel)

@@ -262,12 +262,15 @@ private slots:
     void unavailableFavorites();
     void polls();
     void switchesLevelWhileEditing();
+    void leavesEditorsOfOtherRows_data();
+    void leavesEditorsOfOtherRows();
     void ignoresUnknownLevels();
     void setsVisibilityTwice();
     void clearsFromInsideAWrite();
     void closesDeviceWhileEditing();
     void clearsAndFillsAgain();
     void clearsFromInsideASearch();
+    void clearsFromInsideAStep();
     void refreshesBelowAnOpenPopup();
     void followsAvailability();
     void hidesTheCurrentRow();
@@ -387,8 +390,12 @@ void TestFeatureTreeWidget::searchCounts()
     QCOMPARE(bench.shownRows().filter(QStringLiteral("search results")).size(), 1);
     QCOMPARE(counts.takeLast(), QVariantList({2, 1}));
     const QModelIndex hint = bench.view()->model()->index(0, 0);
-    QCOMPARE(hint.data(Qt::AccessibleTextRole).toString(),
-             QStringLiteral("2 search results (1 of them visible at higher user level)"));
+    const QString plain = QStringLiteral("2 search results (1 of them visible at higher user level)");
+    QCOMPARE(hint.data(Qt::AccessibleTextRole).toString(), plain);
+    bench.view()->setCurrentIndex(hint);
+    QTest::keyClick(bench.view(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), plain);
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
 
     bench.type(QStringLiteral("nraw"));
     QCOMPARE(bench.shownRows(),
@@ -631,6 +638,11 @@ void TestFeatureTreeWidget::tabWalksEditors()
     for (const QString &name : all) {
         QVERIFY2(bench.node(name)->writes.isEmpty(), qPrintable(name));
     }
+
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("AcquisitionControl")));
+    bench.view()->setFocus();
+    QTest::keyClick(bench.view(), Qt::Key_Tab);
+    QCOMPARE(focusedRow(), QStringLiteral("ExposureTime"));
 }
 
 void TestFeatureTreeWidget::keysEditTheValueColumn_data()
@@ -986,6 +998,46 @@ void TestFeatureTreeWidget::switchesLevelWhileEditing()
     QVERIFY(bench.view()->hasFocus());
 }
 
+void TestFeatureTreeWidget::leavesEditorsOfOtherRows_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("how");
+    for (const QString &name : {QStringLiteral("Gain"), QStringLiteral("OffsetX")}) {
+        for (const QString &how :
+             {QStringLiteral("collapsed"), QStringLiteral("hidden"), QStringLiteral("not current")}) {
+            QTest::addRow("%s, %s", qPrintable(name), qPrintable(how)) << name << how;
+        }
+    }
+}
+
+void TestFeatureTreeWidget::leavesEditorsOfOtherRows()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, how);
+    TreeBench bench;
+    const QString category = bench.row(name).parent().data(FeatureTreeItem::GenicamNameRole).toString();
+    bench.parameter<MemoryPlain>(category)->edit<ParameterCollection::ParameterData>(
+        [](auto &data) { data.visibility = GenApi::Expert; });
+    bench.publish(category);
+    bench.view()->setCurrentIndex(bench.row(name));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    QVERIFY(bench.view()->viewport()->isAncestorOf(QApplication::focusWidget()));
+
+    if (how == QLatin1String("collapsed")) {
+        bench.view()->collapseAll();
+    } else if (how == QLatin1String("hidden")) {
+        bench.widget.onVisibilityChanged(GenApi::Beginner);
+    } else {
+        bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeviceControl")));
+    }
+    bench.settle();
+    QCOMPARE(QApplication::focusWidget(), bench.view()); // and no editor of another row
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_7}) {
+        QTest::keyClick(bench.view(), key);
+        QCOMPARE(QApplication::focusWidget(), bench.view());
+    }
+}
+
 void TestFeatureTreeWidget::ignoresUnknownLevels()
 {
     TreeBench bench;
@@ -1083,6 +1135,20 @@ void TestFeatureTreeWidget::clearsFromInsideASearch()
     bench.add(bench.camera);
     bench.view()->expandEverything();
     QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeWidget::clearsFromInsideAStep()
+{
+    TreeBench bench;
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("Gain")));
+    connect(bench.view(), &FeatureTreeView::onCurrentChanged, &bench.widget,
+            [&bench](const QModelIndex &index) {
+                if (index.isValid()) {
+                    bench.widget.clear();
+                }
+            });
+    QTest::keyClick(bench.view(), Qt::Key_Up);
+    QCOMPARE(bench.view()->model()->rowCount(), 0);
 }
 
 void TestFeatureTreeWidget::refreshesBelowAnOpenPopup()

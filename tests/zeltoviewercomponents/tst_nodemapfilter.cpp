@@ -196,13 +196,23 @@ void TestNodeMapFilter::unusableFiles_data()
     row("truncated", filterOf(feature("Width", "Guru")).chopped(12));
     row("binary", QByteArray("\x7f\x45LF\0\0\xff\xfe", 8));
     row("50 MB", filterOf(QByteArray(50 * 1024 * 1024, ' ')));
-    row("deep", filterOf(QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000)));
+    const QByteArray deep = QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000);
+    row("deep", filterOf(deep));
+    row("deep behind an unknown prefix", filterOf("<x:y/>" + deep));
+    QByteArray attributes;
+    for (int i = 0; attributes.size() < 900000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "=''";
+    }
+    row("attributes", filterOf("<Feature" + attributes + "/>"));
     QByteArray laughs("<!DOCTYPE Filter [<!ENTITY a0 \"haha\">");
     for (int i = 1; i < 12; ++i) {
         const QByteArray below = "&a" + QByteArray::number(i - 1) + ";";
         laughs += "<!ENTITY a" + QByteArray::number(i) + " \"" + below.repeated(10) + "\">";
     }
     row("entities of entities", laughs + "]><Filter><Feature><Name>&a11;</Name></Feature></Filter>");
+    row("an entity many times",
+        QByteArray("<!DOCTYPE Filter [<!ENTITY a \"" + QByteArray(4000, 'a') + "\">]><Filter><Feature><Name>"
+                   + QByteArray("&a;").repeated(70000) + "</Name></Feature></Filter>"));
 }
 
 void TestNodeMapFilter::unusableFiles()

@@ -355,6 +355,28 @@ Changes that were not saved to one of its user sets last until it is switched of
         <source>&lt;b&gt;Zelto Viewer %1&lt;/b&gt;&lt;p&gt;Shows a camera&apos;s features in a tree, for GigE Vision and USB3 Vision cameras and for any GenICam camera description file.</source>
         <translation>&lt;b&gt;Zelto Viewer %1&lt;/b&gt;&lt;p&gt;Zeigt die Merkmale einer Kamera als Baum, für GigE-Vision- und USB3-Vision-Kameras und für jede GenICam-Kamerabeschreibung.</translation>
     </message>
+    <message>
+        <source>No camera is open.
+Open a description file or connect to a camera (menu File).</source>
+        <translation>Keine Kamera ist geöffnet.
+Öffnen Sie eine Beschreibungsdatei oder verbinden Sie eine Kamera (Menü Datei).</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>&amp;Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>The tree was copied to the clipboard.</source>
+        <translation>Der Baum wurde in die Zwischenablage kopiert.</translation>
+    </message>
+    <message>
+        <source>The open camera has no such feature.</source>
+        <translation>Die geöffnete Kamera hat dieses Merkmal nicht.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

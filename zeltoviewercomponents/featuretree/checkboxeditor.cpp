@@ -36,6 +36,8 @@ void CheckBoxEditor::setEditorData(EditorData data)
         m_keeper->keep(data);
         setChecked(snapshot.value);
         setEnabled(EditorHelpers::canBeChanged(snapshot));
+        // Unlike other widgets, a disabled button keeps clicks from the row.
+        setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
     });
 }
 

@@ -48,6 +48,7 @@ EnumEditor::EnumEditor(QWidget *parent)
             "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
     }
     setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::NoContextMenu); // the box has none and would keep the row's from showing
     setAutoFillBackground(true);
     new WheelGuard(this, this);
 }

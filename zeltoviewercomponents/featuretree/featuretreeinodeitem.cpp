@@ -12,6 +12,7 @@
 
 #include <QBrush>
 #include <QCoreApplication>
+#include <QPointer>
 #include <QUuid>
 
 #include <algorithm>
@@ -231,8 +232,12 @@ int FeatureTreeINodeItem::childCount()
         Core::Logging::createLogEntry(
             Core::Logging::ELogLevel::Debug, logCategory(),
             QStringLiteral("FeatureTreeINodeItem::childCount() - Adding children for %1").arg(getFullName()));
+        const QPointer<FeatureTreeINodeItem> self(this);
         if (IFeatureTreeModelExtension *const extension = getExtension()) {
             extension->addChildren(this);
+        }
+        if (!self) {
+            return 0; // the new rows had the tree cleared
         }
     }
     return FeatureTreeItem::childCount();
@@ -447,17 +452,19 @@ bool FeatureTreeINodeItem::isEditable() const
 
 void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
 {
-    if (column != FeatureTreeColumns::value || role != Qt::EditRole || !m_parameter
-        || m_parameter->isExcluded()) {
+    // A copy, which keeps the parameter alive while it is at work: it may have the tree cleared.
+    const QSharedPointer<IParameter> parameter = m_parameter;
+    if (column != FeatureTreeColumns::value || role != Qt::EditRole || !parameter
+        || parameter->isExcluded()) {
         return;
     }
-    if (!m_parameter->isWritableNow()) {
+    if (!parameter->isWritableNow()) {
         // What was entered is dropped; the check makes its editor show the real value again.
         scheduleForcedParameterDataChangedCheck();
         return;
     }
     if (m_editorType == Command) {
-        if (const auto command = qSharedPointerObjectCast<ICommandParameter>(m_parameter)) {
+        if (const auto command = qSharedPointerObjectCast<ICommandParameter>(parameter)) {
             command->execute(true);
             command->scheduleParameterDataChangedCheck(true);
         }
@@ -472,7 +479,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
                 .arg(m_nodeName, text));
     }
-    m_parameter->setValueFromString(text);
+    parameter->setValueFromString(text);
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
@@ -480,9 +487,13 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     if (!ptrParameterData || !getExtension() || !getExtension()->getGenICamCallbackEnable()) {
         return;
     }
-    const auto headline = [this] { return QStringLiteral("Failed to adjust a node: %1").arg(m_nodeName); };
+    const QPointer<FeatureTreeINodeItem> self(this); // adjusting may have the tree cleared
+    const auto headline = [name = m_nodeName] {
+        return QStringLiteral("Failed to adjust a node: %1").arg(name);
+    };
     if (Core::guarded(site("FeatureTreeINodeItem::onParameterDataChanged"), headline, false,
-                      [this, &ptrParameterData] { return clamp(ptrParameterData); })) {
+                      [this, &ptrParameterData] { return clamp(ptrParameterData); })
+        || !self) {
         return;
     }
     const bool comesAlive = !m_data;
@@ -491,7 +502,9 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         m_editorType = editorType(m_parameter);
         childCount();
     }
-    emit nodeUpdated(row(), this);
+    if (self) {
+        emit nodeUpdated(row(), this);
+    }
 }
 
 // Writes the limit that the value has left. Returns whether it did; the camera's answer brings the next

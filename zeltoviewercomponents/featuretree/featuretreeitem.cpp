@@ -13,6 +13,7 @@
 #include <QTextDocumentFragment>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -96,9 +97,10 @@ void FeatureTreeItem::clearChildren()
     if (m_children.isEmpty()) {
         return;
     }
-    qDeleteAll(m_children);
-    m_children.clear();
+    // Out of the tree first: whom the death of one of them calls meets no other.
+    const QList<FeatureTreeItem *> children = std::exchange(m_children, {});
     ++revision;
+    qDeleteAll(children);
 }
 
 int FeatureTreeItem::childCount()

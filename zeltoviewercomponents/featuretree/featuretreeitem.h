@@ -94,6 +94,13 @@ public:
     virtual GenApi::EVisibility getVisibility();
     virtual void setVisibility(GenApi::EVisibility visibility);
     virtual Qt::ItemFlags flags(int column);
+
+protected:
+    /*! Returns the brush of the row's texts, or nothing for the default colour. */
+    virtual QVariant GetForegroundRole();
+
+public:
+    // Behind the others: the order of virtual functions is part of the interface.
     /*! Returns whether the row stands for a group of features. */
     virtual bool isCategory() const;
     /*! Returns the text of the name column. */
@@ -137,8 +144,6 @@ public:
     static QString foldedForSearch(QString text);
 
 protected:
-    /*! Returns the brush of the row's texts, or nothing for the default colour. */
-    virtual QVariant GetForegroundRole();
     /*! Returns the brush of rows that cannot be changed. */
     static QBrush disabledTextBrush();
 

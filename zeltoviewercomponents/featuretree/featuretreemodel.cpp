@@ -81,6 +81,18 @@ QString favoritesRowName(const FavoriteEntry &entry)
     return parts.join(QLatin1Char(FeatureTreeNames::separator));
 }
 
+// A category below itself would make an endless tree.
+bool standsAbove(const FeatureTreeItem *row, const QSharedPointer<IParameter> &category)
+{
+    for (; row; row = row->parent()) {
+        const auto *const nodeItem = qobject_cast<const FeatureTreeINodeItem *>(row);
+        if (nodeItem && nodeItem->node() == category) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool isPlaceholder(const FeatureTreeItem *row)
 {
     return !qobject_cast<const FeatureTreeINodeItem *>(row) && row->getFullName() != FeatureTreeNames::dummy;
@@ -197,7 +209,8 @@ void FeatureTreeModel::reportReadFailure() const
 
 bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    // A write may have the tree cleared.
+    const QPointer<FeatureTreeItem> item(index.isValid() ? getFeatureTreeItem(index) : nullptr);
     if (!item || role != Qt::EditRole || index.column() != FeatureTreeColumns::value || !value.isValid()
         || !m_deviceAlive) {
         return false;
@@ -216,7 +229,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
     }
 }
 
-// Reports the exception that is being handled.
+// Reports the exception that is being handled. The item is null when it is gone by now.
 void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
 {
     const QString context = QStringLiteral("FeatureTreeModel::setData");
@@ -451,17 +464,21 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
     }
 
     const QString fullName = nodeMapName + QLatin1Char(FeatureTreeNames::separator) + FeatureTreeNames::root;
-    auto *const item =
-        new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false);
+    const QPointer<FeatureTreeINodeItem> item(
+        new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false));
     adoptNodeItem(item, true);
     emit layoutAboutToBeChanged();
     m_rootItem->appendChild(item);
     emit layoutChanged();
 
     replaceFavoritesZombies(collection, nodeMapName);
-    item->childCount();
-    m_collections.append({nodeMapName, collection, childNodeFlag});
-    refreshSpecialItems();
+    if (item) {
+        item->childCount();
+    }
+    if (item) { // no receiver of these signals had the tree cleared
+        m_collections.append({nodeMapName, collection, childNodeFlag});
+        refreshSpecialItems();
+    }
 }
 
 void FeatureTreeModel::adoptNodeItem(FeatureTreeINodeItem *item, bool isFullRowItem)
@@ -526,7 +543,8 @@ FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent,
     if (!parameter || parameter->isExcluded()) {
         return nullptr;
     }
-    if (parameter->type() == ParameterType::Category && parameter->visibility() >= GenApi::Invisible) {
+    if (parameter->type() == ParameterType::Category
+        && (parameter->visibility() >= GenApi::Invisible || standsAbove(parent, parameter))) {
         return nullptr;
     }
     auto *const item =
@@ -623,6 +641,7 @@ FeatureTreeItem *FeatureTreeModel::getSearchHelpItem() const
 
 void FeatureTreeModel::refreshSpecialItems()
 {
+    const quint64 removals = m_removals;
     QList<FeatureTreeItem *> level{m_rootItem.get()};
     for (int depth = 0; depth < refreshedLevels; ++depth) {
         QList<FeatureTreeItem *> nextLevel;
@@ -636,6 +655,9 @@ void FeatureTreeModel::refreshSpecialItems()
             if (data(index, FeatureTreeItem::IsFullRowItem).toBool()
                 && item->getFullName() != FeatureTreeNames::dummy) {
                 emit dataChanged(index, index);
+            }
+            if (removals != m_removals) {
+                return; // who removed rows has refreshed what is left
             }
         }
         level = nextLevel;
@@ -651,6 +673,7 @@ void FeatureTreeModel::clear()
     for (const QModelIndex &index : persistent) {
         changePersistentIndex(index, QModelIndex());
     }
+    ++m_removals;
     m_rootItem->clearChildren();
 }
 
@@ -722,10 +745,11 @@ void FeatureTreeModel::CreateFavoritesRoot()
     m_favoritesRoot->SetIsSpecialNode(true);
     insertTopItem(m_favoritesRoot);
     emit layoutChanged();
-    for (FeatureTreeItem *const changed :
-         {m_rootItem.get(), static_cast<FeatureTreeItem *>(m_favoritesRoot)}) {
-        const QModelIndex index = indexForItem(changed, FeatureTreeColumns::name);
-        emit dataChanged(index, index);
+    const QModelIndex root = indexForItem(m_rootItem.get(), FeatureTreeColumns::name);
+    emit dataChanged(root, root);
+    if (m_favoritesRoot) {
+        const QModelIndex favoritesRoot = GetFavoritesRootIndex();
+        emit dataChanged(favoritesRoot, favoritesRoot);
     }
 }
 
@@ -733,12 +757,15 @@ void FeatureTreeModel::rebuildFavoriteItems()
 {
     CreateFavoritesRoot();
     removeFavoriteRows();
+    if (!m_favoritesRoot || m_favoritesRoot->hasChildren()) {
+        return; // a receiver of these signals had the tree cleared or the rows made
+    }
     insertFavoritePlaceholders();
     const QList<Collection> collections = m_collections;
     for (const Collection &entry : collections) {
         replaceFavoritesZombies(entry.collection, entry.nodeMapName);
     }
-    if (!m_searchHelpItem) {
+    if (m_favoritesRoot && !m_searchHelpItem) {
         createSearchRow();
     }
     refreshSpecialItems();
@@ -746,11 +773,12 @@ void FeatureTreeModel::rebuildFavoriteItems()
 
 void FeatureTreeModel::removeFavoriteRows()
 {
-    const int count = m_favoritesRoot->existingChildCount();
+    const int count = m_favoritesRoot ? m_favoritesRoot->existingChildCount() : 0;
     if (count == 0) {
         return;
     }
     beginRemoveRows(GetFavoritesRootIndex(), 0, count - 1);
+    ++m_removals;
     m_favoritesRoot->clearChildren();
     endRemoveRows();
 }
@@ -776,8 +804,9 @@ void FeatureTreeModel::insertFavoritePlaceholders()
 
 void FeatureTreeModel::showEmptyFavoritesHint()
 {
-    auto *const hint = new FeatureTreeItem(tr("Add favorites by right-clicking a feature below."), this,
-                                           FeatureTreeNames::dummy, m_favoritesRoot);
+    const QPointer<FeatureTreeItem> hint(
+        new FeatureTreeItem(tr("Add favorites by right-clicking a feature below."), this,
+                            FeatureTreeNames::dummy, m_favoritesRoot));
     hint->SetToolTip(
         tr("To add a feature, right-click the feature and choose 'Add to Favorites' from the context "
            "menu. You can also use drag and drop to add features to your favorites."));
@@ -787,8 +816,10 @@ void FeatureTreeModel::showEmptyFavoritesHint()
     beginInsertRows(GetFavoritesRootIndex(), 0, 0);
     m_favoritesRoot->appendChild(hint);
     endInsertRows();
-    const QModelIndex index = indexForItem(hint, FeatureTreeColumns::name);
-    emit dataChanged(index, index);
+    if (hint) {
+        const QModelIndex index = indexForItem(hint, FeatureTreeColumns::name);
+        emit dataChanged(index, index);
+    }
 }
 
 void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollection> collection,
@@ -798,8 +829,8 @@ void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollecti
         return;
     }
     const Collection source{nodeMapName, collection, childNodeFlagOf(collection.data())};
-    const int count = std::min(m_favorites.count(), m_favoritesRoot->existingChildCount());
-    for (int i = 0; i < count; ++i) {
+    const quint64 removals = m_removals;
+    for (int i = 0; i < std::min(m_favorites.count(), m_favoritesRoot->existingChildCount()); ++i) {
         const FavoriteEntry entry = *m_favorites.entryAt(i);
         // The list may be ahead of its rows while its updates are deferred.
         if (entry.nodeMapKey != nodeMapName
@@ -815,6 +846,9 @@ void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollecti
                     replaceFavoritesPlaceholder(source, i, parameter);
                 }
             });
+        if (removals != m_removals) {
+            return; // a receiver of these signals had the tree cleared or the rows made anew
+        }
     }
     updateFavoritesToolTip();
     refreshSpecialItems();
@@ -829,18 +863,25 @@ void FeatureTreeModel::replaceFavoritesPlaceholder(const Collection &source, int
         old->SetIsSpecialNode(false);
         return;
     }
-    auto *const item = new FeatureTreeINodeItem(source.collection, parameter, this, old->getFullName(),
-                                                m_favoritesRoot, source.childNodeFlag);
+    auto item = std::make_unique<FeatureTreeINodeItem>(source.collection, parameter, this, old->getFullName(),
+                                                       nullptr, source.childNodeFlag);
+    adoptNodeItem(item.get(), false);
     const QModelIndex parent = GetFavoritesRootIndex();
+    const quint64 removals = m_removals;
     beginRemoveRows(parent, row, row);
-    delete m_favoritesRoot->removeChild(row);
+    std::unique_ptr<FeatureTreeItem> placeholder(m_favoritesRoot->removeChild(row));
     endRemoveRows();
+    placeholder.reset();
+    if (removals != m_removals) {
+        return;
+    }
     beginInsertRows(parent, row, row);
-    m_favoritesRoot->insertChild(item, row);
+    m_favoritesRoot->insertChild(item.release(), row);
     endInsertRows();
-    adoptNodeItem(item, false);
-    const QModelIndex index = indexForItem(item, FeatureTreeColumns::name);
-    emit dataChanged(index, index);
+    if (removals == m_removals) {
+        const QModelIndex index = this->index(row, FeatureTreeColumns::name, parent);
+        emit dataChanged(index, index);
+    }
 }
 
 void FeatureTreeModel::updateFavoritesToolTip()
@@ -883,9 +924,11 @@ bool FeatureTreeModel::AddFavorite(QSharedPointer<IParameter> parameter, int row
                              }
                              FavoriteEntry entry;
                              entry.featureName = parameter->name();
-                             if (const auto access = parameter->propertyAccess()) {
-                                 entry.displayName = access->property(QStringLiteral("DisplayName"));
-                             }
+                             // Without a text it would not survive being stored.
+                             const auto access = parameter->propertyAccess();
+                             entry.displayName = access
+                                 ? access->property(QStringLiteral("DisplayName"), entry.featureName)
+                                 : entry.featureName;
                              entry.nodeMapKey = firstSegment(parameter->fullName());
                              return row < m_favorites.count() ? m_favorites.insertEntry(row, entry)
                                                               : m_favorites.appendEntry(entry);

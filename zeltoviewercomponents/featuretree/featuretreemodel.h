@@ -154,4 +154,5 @@ private:
     bool m_childNodeFlag = false;
     FeatureTreeHighlighter *m_highlighter = nullptr;
     mutable bool m_inRowCount = false;
+    quint64 m_removals = 0; // tells who emits signals that items are gone when they return
 };

@@ -24,13 +24,6 @@ quint64 nextPass()
     return ++pass;
 }
 
-// An index made of the invisible root item: valid, but no row. The search row is announced below it.
-bool isPhantom(const QModelIndex &sourceIndex)
-{
-    const auto *const item = static_cast<const FeatureTreeItem *>(sourceIndex.internalPointer());
-    return sourceIndex.isValid() && item && !item->parent();
-}
-
 GenApi::EVisibility effectiveVisibility(FeatureTreeItem *item, GenApi::EVisibility level)
 {
     const bool shown = level == GenApi::Invisible || item->ShowMe(GenApi::Guru)
@@ -56,6 +49,7 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
         }
     }
     m_treeJudged = false;
+    m_index = FeatureTreeSearchIndex();
     startPass();
     QSortFilterProxyModel::setSourceModel(sourceModel);
     if (!sourceModel) {
@@ -83,6 +77,19 @@ FeatureTreeItem *FeatureTreeProxyModel::rootItem() const
 {
     const QModelIndex top = model() ? model()->index(0, 0) : QModelIndex();
     return top.isValid() ? model()->getFeatureTreeItem(top)->parent() : nullptr;
+}
+
+// An index made of the invisible root item: valid, but no row. The search row is announced below it.
+bool FeatureTreeProxyModel::isPhantom(const QModelIndex &sourceIndex) const
+{
+    const FeatureTreeItem *const item =
+        sourceIndex.isValid() && model() ? model()->getFeatureTreeItem(sourceIndex) : nullptr;
+    return item && !item->parent();
+}
+
+QModelIndex FeatureTreeProxyModel::mapped(const QModelIndex &sourceIndex) const
+{
+    return isPhantom(sourceIndex) ? QModelIndex() : mapFromSource(sourceIndex);
 }
 
 QModelIndex FeatureTreeProxyModel::mapToSource(const QModelIndex &proxyIndex) const
@@ -246,14 +253,15 @@ void FeatureTreeProxyModel::noticePattern() const
 
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (m_rejectAll || isPhantom(sourceParent)) {
-        return false;
-    }
-    if (m_acceptAll || !model()) {
-        return true;
+    if (m_rejectAll || !model()) {
+        return !m_rejectAll;
     }
     // Asked once a row at every key: straight to the item.
     const auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    const bool isBelowPhantom = parent && !parent->parent();
+    if (m_acceptAll || isBelowPhantom) {
+        return !isBelowPhantom;
+    }
     FeatureTreeItem *const item = (parent ? parent : rootItem())->child(sourceRow);
     if (!item) {
         return false;
@@ -485,6 +493,7 @@ void FeatureTreeProxyModel::onSourceRowsAboutToBeInserted(const QModelIndex &par
 {
     Q_UNUSED(first)
     Q_UNUSED(last)
+    m_insertionParent = parent;
     if (isPhantom(parent)) {
         emit layoutAboutToBeChanged();
         blockSignals(true);
@@ -495,6 +504,9 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
 {
     Q_UNUSED(first)
     Q_UNUSED(last)
+    if (parent.isValid() && !m_insertionParent.isValid()) {
+        return; // a receiver of the base's signals had the tree cleared
+    }
     if (isPhantom(parent)) {
         {
             // The row stands above all others, where the base's mapping knows nothing of it.
@@ -584,7 +596,7 @@ bool FeatureTreeProxyModel::IsFavoriteTreeRoot(const FeatureTreeItem *item) cons
 
 QModelIndex FeatureTreeProxyModel::indexForItem(FeatureTreeItem *item, int column)
 {
-    return model() ? mapFromSource(model()->indexForItem(item, column)) : QModelIndex();
+    return model() ? mapped(model()->indexForItem(item, column)) : QModelIndex();
 }
 
 QModelIndex FeatureTreeProxyModel::GetFavoritesRootIndex()
@@ -614,19 +626,19 @@ void FeatureTreeProxyModel::SetDeviceAlive(bool alive)
 QModelIndex FeatureTreeProxyModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start,
                                             int column)
 {
-    return model() ? mapFromSource(model()->findItem(item, start, column)) : QModelIndex();
+    return model() ? mapped(model()->findItem(item, start, column)) : QModelIndex();
 }
 
 QModelIndex FeatureTreeProxyModel::findItemByFullName(const QString &fullName, FeatureTreeItem *start,
                                                       int column)
 {
-    return model() ? mapFromSource(model()->findItemByFullName(fullName, start, column)) : QModelIndex();
+    return model() ? mapped(model()->findItemByFullName(fullName, start, column)) : QModelIndex();
 }
 
 QModelIndex FeatureTreeProxyModel::findItemByRole(int role, const QVariant &value, FeatureTreeItem *start,
                                                   int column)
 {
-    return model() ? mapFromSource(model()->findItemByRole(role, value, start, column)) : QModelIndex();
+    return model() ? mapped(model()->findItemByRole(role, value, start, column)) : QModelIndex();
 }
 
 void FeatureTreeProxyModel::addParameterCollection(

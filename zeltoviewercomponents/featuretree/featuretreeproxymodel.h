@@ -8,6 +8,7 @@
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QPersistentModelIndex>
 #include <QSet>
 #include <QSortFilterProxyModel>
 #include <QString>
@@ -27,7 +28,7 @@ class FeatureTreeModel;
  * Dynamic sorting and filtering stays off. Rows whose level or availability flips are filtered anew, once,
  * when the event loop comes round. As IFeatureTreeModelExtension it forwards to its source, a
  * FeatureTreeModel; all indexes that go in and come out are the proxy's, and a row that is filtered out gives
- * an invalid one.
+ * an invalid one. A model serves one such proxy at a time, which keeps its verdicts in the items.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension
@@ -126,6 +127,8 @@ private slots:
 private:
     FeatureTreeModel *model() const;
     FeatureTreeItem *rootItem() const;
+    bool isPhantom(const QModelIndex &sourceIndex) const;
+    QModelIndex mapped(const QModelIndex &sourceIndex) const;
 
     template <typename Work>
     void rebuild(Work work);
@@ -177,6 +180,7 @@ private:
     mutable quint64 m_markedPass = 0; // the last pass that left marks
     mutable bool m_treeJudged = false;
 
+    QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
     bool m_rejectAll = false; // nothing passes while the tree is being cleared
     bool m_shiftTopRows = false; // the mapping is one top row behind the source

@@ -14,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -39,6 +40,11 @@ bool isInUse(const QWidget *editor)
     const bool hasFocus = focus && (focus == editor || editor->isAncestorOf(focus));
     const QWidget *const popup = QApplication::activePopupWidget();
     return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
+}
+
+bool isSameRow(const QModelIndex &a, const QModelIndex &b)
+{
+    return a.row() == b.row() && a.parent() == b.parent();
 }
 
 // Returns the colours in which a selected row looks like any other.
@@ -320,6 +326,7 @@ void FeatureTreeView::doItemsLayout()
 
 void FeatureTreeView::updateGeometries()
 {
+    takeFocusFromHiddenRow();
     QTreeView::updateGeometries();
     ensureEditors();
 }
@@ -405,7 +412,7 @@ void FeatureTreeView::spanRow(const QModelIndex &index, const FeatureTreeItem &i
 void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
 {
     QTreeView::rowsInserted(parent, start, end);
-    if (!isOpen(parent)) {
+    if (m_isRebuilding || !isOpen(parent)) {
         return;
     }
     for (int row = start; row <= end; ++row) {
@@ -416,6 +423,10 @@ void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end
 void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QList<int> &roles)
 {
+    if (m_isRebuilding) {
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+        return;
+    }
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
@@ -511,6 +522,23 @@ void FeatureTreeView::takeFocusFromLostRow()
     }
 }
 
+// Returns the row of the editor with the focus; one that is not permanent belongs to the current row.
+QModelIndex FeatureTreeView::rowOfFocus(const QModelIndex &current) const
+{
+    const QModelIndex permanent = rowOfEditor(QApplication::focusWidget());
+    return permanent.isValid() ? permanent : current;
+}
+
+// The base hides editors of rows out of sight, and the focus would go on to whatever row comes next.
+void FeatureTreeView::takeFocusFromHiddenRow()
+{
+    const QWidget *const editor = focusedEditor();
+    const QModelIndex row = editor ? rowOfFocus(currentIndex()) : QModelIndex();
+    if (row.isValid() && !visualRect(row).isValid()) {
+        setFocus();
+    }
+}
+
 // Takes the focus from an editor that has no row to commit to.
 void FeatureTreeView::abandonFocusedEditor()
 {
@@ -532,7 +560,9 @@ void FeatureTreeView::onLayoutChanged()
     takeFocusFromLostRow();
     forgetClosedEditors();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
-    updateRows(QModelIndex());
+    if (!m_isRebuilding) {
+        updateRows(QModelIndex());
+    }
     if (m_hadCurrent && !currentIndex().isValid()) {
         emit onCurrentChanged(QModelIndex()); // filtered out, of which the base tells nobody
     }
@@ -652,8 +682,10 @@ void FeatureTreeView::onFavoriteDataUpdated()
         selectionModel()->clear();
     }
 
-    extension->rebuildFavoriteItems();
-
+    {
+        const QScopedValueRollback<bool> rebuilding(m_isRebuilding, true);
+        extension->rebuildFavoriteItems();
+    }
     for (const QString &name : std::as_const(selectedNames)) {
         const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -729,11 +761,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
     }
     const QModelIndex current = currentIndex();
     if (current.isValid() && current.row() == index.row() && current.parent() == index.parent()) {
-        painter->save();
-        painter->setPen(palette().color(QPalette::Active, QPalette::Highlight));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(options.rect.adjusted(0, 0, -1, -1));
-        painter->restore();
+        // No pen, which on scaled screens is drawn half beside the row.
+        const QRect &row = options.rect;
+        const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+        painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
+        painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
+        painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
     }
 }
 
@@ -754,12 +788,30 @@ void FeatureTreeView::initViewItemOption(QStyleOptionViewItem *option) const
 
 void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
+    // Who is told may clear the tree.
+    const QPersistentModelIndex newRow(current);
+    const QPersistentModelIndex oldRow(previous);
     emit onCurrentChanged(current);
-    QTreeView::currentChanged(current, previous);
+    if (!m_keepsFocus && newRow.isValid() && !isSameRow(rowOfFocus(oldRow), newRow)) {
+        takeFocusFrom(viewport());
+    }
+    QTreeView::currentChanged(newRow, oldRow);
+    // The base repaints the cells; the frame goes around the whole row, with its indentation.
+    for (const QModelIndex &index : {QModelIndex(newRow), QModelIndex(oldRow)}) {
+        const QRect cell = visualRect(index);
+        viewport()->update(0, cell.y(), viewport()->width(), cell.height());
+    }
 }
 
 void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 {
+    const QModelIndex name = currentIndex().siblingAtColumn(FeatureTreeColumns::name);
+    if (event->matches(QKeySequence::Copy) && name.data(FeatureTreeItem::IsSpecialNode).toBool()) {
+        // The base would copy the markup.
+        QApplication::clipboard()->setText(name.data(Qt::AccessibleTextRole).toString());
+        event->accept();
+        return;
+    }
     const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && state() != EditingState && edit(currentIndex(), EditKeyPressed, event)) {
@@ -781,9 +833,14 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
         return false; // keys walk over editors
     }
     if (trigger != EditKeyPressed && trigger != AnyKeyPressed) {
-        return QTreeView::edit(index, trigger, event);
+        const QWidget *const editor = indexWidget(index);
+        // The base would take a click for an edit, and not go to the row.
+        return (!editor || editor->isEnabled()) && QTreeView::edit(index, trigger, event);
     }
     const QModelIndex value = index.siblingAtColumn(FeatureTreeColumns::value);
+    if (!visualRect(value).isValid()) {
+        return false; // the current row may be in a collapsed branch, where nobody sees what is typed
+    }
     return indexWidget(value) ? activateEditor(value, trigger, event)
                               : QTreeView::edit(value, trigger, event);
 }
@@ -794,7 +851,7 @@ void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
     Q_UNUSED(old)
     const QModelIndex index = rowOfEditor(now);
     const QModelIndex current = currentIndex();
-    if (index.isValid() && (index.row() != current.row() || index.parent() != current.parent())) {
+    if (index.isValid() && !isSameRow(index, current)) {
         const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
         setCurrentIndex(index);
     }
@@ -816,10 +873,15 @@ QModelIndex FeatureTreeView::rowOfEditor(const QWidget *focus) const
 bool FeatureTreeView::focusNextPrevChild(bool next)
 {
     const QModelIndex row = rowOfEditor(QApplication::focusWidget());
-    if (!row.isValid()) {
-        return QTreeView::focusNextPrevChild(next);
+    if (row.isValid()) {
+        return editNeighbour(row, next) || leaveEditors(next);
     }
-    return editNeighbour(row, next) || leaveEditors(next);
+    // From the tree itself into the editors where the current row is, not up to the first one.
+    const QModelIndex above = next && hasFocus() ? indexAbove(currentIndex()) : QModelIndex();
+    if (above.isValid()) {
+        return editNeighbour(above, true) || leaveEditors(true);
+    }
+    return QTreeView::focusNextPrevChild(next);
 }
 
 // The focus goes from the first editor back to the tree and from the last one to what comes after the tree.

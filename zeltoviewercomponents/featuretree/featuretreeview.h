@@ -120,6 +120,8 @@ private:
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void takeFocusFrom(const QWidget *editor);
     void takeFocusFromLostRow();
+    void takeFocusFromHiddenRow();
+    QModelIndex rowOfFocus(const QModelIndex &current) const;
     QWidget *focusedEditor() const;
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
@@ -147,6 +149,7 @@ private:
     QPersistentModelIndex m_currentBeforeLayout;
     bool m_hadCurrent = false;
     bool m_isBulkWork = false;
+    bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
     bool m_isEnsuringEditors = false;
     bool m_isTabOrderStale = false;
     bool m_isForwardingKey = false;

@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QShortcut>
@@ -118,6 +119,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
                           | QAbstractItemView::AnyKeyPressed);
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->header()->setContextMenuPolicy(Qt::PreventContextMenu); // the menu is that of a row
     m_ui->resetButton->setIcon(refreshIcon());
     m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
     setPollingVisible(pollingVisible);
@@ -719,6 +721,11 @@ bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
     if (isClick || (isKey && static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)) {
         escapePressed() = false;
     }
+    if (isKey && watched == m_ui->treeView && IsCurrentFavorite()) {
+        // Else one Ctrl+Down too many would leave the favorite that is being moved.
+        const QKeySequence keys(static_cast<QKeyEvent *>(event)->keyCombination());
+        return keys == m_actionMoveFavouriteUp->shortcut() || keys == m_actionMoveFavouriteDown->shortcut();
+    }
     return TreeWidgetBase::eventFilter(watched, event);
 }
 
@@ -729,6 +736,9 @@ void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
         m_ui->filterEdit->clear();
     }
     escapePressed() = isEscape;
+    if (event->key() == Qt::Key_Down && m_ui->filterEdit->hasFocus()) {
+        m_ui->treeView->setFocus(); // from the search to what it found
+    }
     TreeWidgetBase::keyPressEvent(event);
 }
 

@@ -26,6 +26,7 @@ using CollectionPointer = QSharedPointer<IParameterCollection>;
 using ParameterPointer = QSharedPointer<IParameter>;
 
 constexpr qint64 maximumFileSize = 1024 * 1024;
+constexpr qsizetype maximumAttributes = 1000; // the parser compares each with all others of its element
 constexpr int maximumDepth = 64;
 
 struct ParseError
@@ -93,21 +94,30 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
     return nullptr;
 }
 
-/* Nodes of a document are freed recursively, so its depth is bounded before it is built. */
-bool isTooDeep(const QByteArray &contents)
+/* Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
+ * text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
+ */
+QString refusal(const QByteArray &contents)
 {
+    if (contents.count('=') > maximumAttributes) {
+        return QStringLiteral("there are more than %1 attributes").arg(maximumAttributes);
+    }
     QXmlStreamReader reader(contents);
+    reader.setNamespaceProcessing(false); // as for the document: an unknown prefix ends neither
     int depth = 0;
     while (!reader.atEnd()) {
         const auto token = reader.readNext();
+        if (token == QXmlStreamReader::DTD && reader.text().contains(QLatin1Char('['))) {
+            return QStringLiteral("the document type has declarations");
+        }
         if (token == QXmlStreamReader::StartElement && ++depth > maximumDepth) {
-            return true;
+            return QStringLiteral("elements are nested more than %1 deep").arg(maximumDepth);
         }
         if (token == QXmlStreamReader::EndElement) {
             --depth;
         }
     }
-    return false;
+    return {};
 }
 
 bool parse(QDomDocument &document, QFile &file, ParseError &error)
@@ -117,8 +127,8 @@ bool parse(QDomDocument &document, QFile &file, ParseError &error)
         error.message = QStringLiteral("the file is larger than %1 bytes").arg(maximumFileSize);
         return false;
     }
-    if (isTooDeep(contents)) {
-        error.message = QStringLiteral("elements are nested more than %1 deep").arg(maximumDepth);
+    error.message = refusal(contents);
+    if (!error.message.isEmpty()) {
         return false;
     }
     return document.setContent(contents, &error.message, &error.line, &error.column);

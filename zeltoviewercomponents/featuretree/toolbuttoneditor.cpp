@@ -44,6 +44,8 @@ void ToolButtonEditor::setEditorData(EditorData data)
         m_keeper->keep(data);
         setChecked(!snapshot.isDone);
         setEnabled(EditorHelpers::canBeChanged(snapshot));
+        // Unlike other widgets, a disabled button keeps clicks from the row.
+        setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
     });
 }
 

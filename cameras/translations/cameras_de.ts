@@ -1,0 +1,155 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Cameras::Camera</name>
+    <message>
+        <source>it is a directory</source>
+        <translation>es ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>the archive holds no camera description</source>
+        <translation>das Archiv enthält keine Kamerabeschreibung</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Transport Layer</source>
+        <translation>Transportschicht</translation>
+    </message>
+    <message>
+        <source>Stream Grabber</source>
+        <translation>Datenstrom</translation>
+    </message>
+    <message>
+        <source>the control of the camera was lost</source>
+        <translation>die Kontrolle über die Kamera ging verloren</translation>
+    </message>
+    <message>
+        <source>there is no such camera</source>
+        <translation>es gibt keine solche Kamera</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2</source>
+        <translation>%1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>the embedded camera</source>
+        <translation>Die eingebaute Kamera</translation>
+    </message>
+    <message>
+        <source>the camera %1</source>
+        <translation>Die Kamera %1</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::Description</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>document type declarations are not allowed</source>
+        <translation>Dokumenttyp-Deklarationen sind nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>this is no camera description</source>
+        <translation>dies ist keine Kamerabeschreibung</translation>
+    </message>
+    <message>
+        <source>the description has no category &quot;Root&quot;</source>
+        <translation>der Beschreibung fehlt die Kategorie &quot;Root&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::Engine</name>
+    <message>
+        <source>the engine cannot read the description</source>
+        <translation>die Beschreibung lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not allowed, expected %3</source>
+        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written now</source>
+        <translation>%1 kann jetzt nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>true, false, 1 or 0</source>
+        <translation>true, false, 1 oder 0</translation>
+    </message>
+    <message>
+        <source>no text</source>
+        <translation>kein Text</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is out of range, allowed are %3 to %4</source>
+        <translation>%1: &quot;%2&quot; liegt außerhalb des Bereichs, erlaubt sind %3 bis %4</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not allowed, expected %3 plus a multiple of %4</source>
+        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3 plus ein Vielfaches von %4</translation>
+    </message>
+    <message>
+        <source>no null characters</source>
+        <translation>keine Nullzeichen</translation>
+    </message>
+    <message>
+        <source>at most %1 bytes</source>
+        <translation>höchstens %1 Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::NodeParameter</name>
+    <message>
+        <source>%1: &quot;%2&quot; is no %3, expected %4</source>
+        <translation>%1: &quot;%2&quot; ist nicht vom Typ %3, erwartet: %4</translation>
+    </message>
+    <message>
+        <source>%1: the property &quot;%2&quot; cannot be imposed, only Visibility and AccessMode can</source>
+        <translation>%1: Die Eigenschaft &quot;%2&quot; kann nicht vorgegeben werden, nur Visibility und AccessMode</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::Session</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine rechtzeitige Antwort</translation>
+    </message>
+    <message>
+        <source>the camera was closed</source>
+        <translation>die Kamera wurde geschlossen</translation>
+    </message>
+    <message>
+        <source>%1: the camera is lost (%2)</source>
+        <translation>%1: Die Kamera ist verloren (%2)</translation>
+    </message>
+    <message>
+        <source>no answer within a second</source>
+        <translation>keine Antwort innerhalb einer Sekunde</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+</TS>
