@@ -7,9 +7,13 @@
 #include <platform/core/exception.h>
 #include <platform/parametercollection/iparameter.h>
 
+#include <support/table.h>
+
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <memory>
 
 using namespace ParameterCollection;
 using namespace Cameras;
@@ -56,47 +60,46 @@ private slots:
     void impossibleLengthsAreUnreadable();
     void endlessNestingIsCut();
     void dependentsFollowTheLinks();
-    void valuesLiveOnRegisters();
     void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
 
 private:
     QString saved(const QByteArray &contents);
+    std::unique_ptr<Camera> opened(const QByteArray &nodes);
 
     QTemporaryDir m_directory;
 };
 
 QString TestDescription::saved(const QByteArray &contents)
 {
-    QFile file(m_directory.filePath(QStringLiteral("camera.xml")));
+    QFile file(m_directory.filePath("camera.xml"));
     file.open(QIODevice::WriteOnly);
     file.write(contents);
     return file.fileName();
 }
 
+std::unique_ptr<Camera> TestDescription::opened(const QByteArray &nodes)
+{
+    return Camera::openDescription(saved(description(nodes)));
+}
+
 void TestDescription::refusesBrokenFiles_data()
 {
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QString>("reason");
-    const QByteArray good = description(root("A") + "<Integer Name=\"A\"><Value>1</Value></Integer>");
-    QTest::newRow("no xml") << QByteArray("This is a letter.") << QStringLiteral("line 1");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("end of document");
-    QTest::newRow("truncated") << good.left(good.size() / 2) << QStringLiteral("end of document");
-    QTest::newRow("truncated at the end") << good.chopped(8) << QStringLiteral("end of document");
-    QTest::newRow("other xml") << QByteArray("<html/>") << QStringLiteral("no camera description");
-    QTest::newRow("no root") << description("<Integer Name=\"A\"><Value>1</Value></Integer>")
-                             << QStringLiteral("\"Root\"");
-    QTest::newRow("entities") << QByteArray("<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>") + good
-                              << QStringLiteral("document type");
-    const QString wide = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE a>\n")
-        + QString::fromUtf8(good.mid(good.indexOf("<RegisterDescription")));
-    QTest::newRow("entities in UTF-16")
-        << QStringEncoder(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom)
-               .encode(wide)
-               .
-               operator QByteArray()
-        << QStringLiteral("document type");
-    QTest::newRow("broken archive") << QByteArray("PK\3\4 and nothing else") << QStringLiteral("archive");
+    columns<QByteArray, QString>({"contents", "reason"});
+    const QByteArray integer = "<Integer Name=\"A\"><Value>1</Value></Integer>";
+    const QByteArray good = description(root("A") + integer);
+    row("no xml", QByteArray("This is a letter."), "line 1");
+    row("empty", QByteArray(), "end of document");
+    row("truncated", good.left(good.size() / 2), "end of document");
+    row("truncated at the end", good.chopped(8), "end of document");
+    row("other xml", QByteArray("<html/>"), "no camera description");
+    row("no root", description(integer), "\"Root\"");
+    row("entities", "<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>" + good, "document type");
+    const QString wide = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE a>\n"
+        + QString(good.mid(good.indexOf("<RegisterDescription")));
+    QStringEncoder encoder(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom);
+    row("entities in UTF-16", QByteArray(encoder.encode(wide)), "document type");
+    row("broken archive", QByteArray("PK\3\4 and nothing else"), "archive");
 }
 
 void TestDescription::refusesBrokenFiles()
@@ -105,7 +108,7 @@ void TestDescription::refusesBrokenFiles()
     QFETCH(QString, reason);
     const QString fileName = saved(contents);
     for (const QString &name :
-         {fileName, m_directory.path(), QStringLiteral("/no/such/file.xml"), QStringLiteral("/dev/zero")}) {
+         {fileName, m_directory.path(), QString("/no/such/file.xml"), QString("/dev/zero")}) {
         try {
             Camera::openDescription(name);
             QFAIL("opened");
@@ -120,46 +123,45 @@ void TestDescription::refusesBrokenFiles()
 
 void TestDescription::oneBadFeatureLeavesTheTree()
 {
-    const auto camera = Camera::openDescription(saved(
-        description(root("NoEntry Ratio Lost Good Portless Nobody")
-                    + "<Enumeration Name=\"NoEntry\"><EnumEntry Name=\"One\"><Value>1</Value></EnumEntry>"
-                      "<pValue>Zero</pValue></Enumeration>"
-                      "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
-                      "<SwissKnife Name=\"Knife\"><pVariable Name=\"N\">Zero</pVariable><Formula>1.0 / "
-                      "N</Formula></SwissKnife>"
-                      "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
-                      "<Integer Name=\"Good\"><pInvalidator>Lost</pInvalidator><Value>7</Value></Integer>"
-                    + "<StringReg Name=\"Portless\"><Address>0x20</Address><Length>4</Length></StringReg>"
-                    + integerRegister("Zero", "0x10"))));
+    const auto camera =
+        opened(root("NoEntry Ratio Lost Good Portless Nobody")
+               + "<Enumeration Name=\"NoEntry\"><EnumEntry Name=\"One\"><Value>1</Value></EnumEntry>"
+                 "<pValue>Zero</pValue></Enumeration>"
+                 "<Float Name=\"Ratio\"><pValue>Knife</pValue></Float>"
+                 "<SwissKnife Name=\"Knife\"><pVariable Name=\"N\">Zero</pVariable><Formula>1.0 / "
+                 "N</Formula></SwissKnife>"
+                 "<Integer Name=\"Lost\"><pValue>NotThere</pValue></Integer>"
+                 "<Integer Name=\"Good\"><pInvalidator>Lost</pInvalidator><Value>7</Value></Integer>"
+               + "<StringReg Name=\"Portless\"><Address>0x20</Address><Length>4</Length></StringReg>"
+               + integerRegister("Zero", "0x10"));
     const auto collection = camera->nodeMaps().first().collection;
-    QCOMPARE(collection->childNames(QStringLiteral("Root"), 0, false),
-             QStringList({QStringLiteral("NoEntry"), QStringLiteral("Ratio"), QStringLiteral("Lost"),
-                          QStringLiteral("Good"), QStringLiteral("Portless")}));
-    QVERIFY(!collection->parameter(QStringLiteral("Portless"))->parameterData()->isReadable);
-    QVERIFY(!collection->parameter(QStringLiteral("NoEntry"))->parameterData()->isReadable);
-    QVERIFY(!collection->parameter(QStringLiteral("Lost"))->parameterData()->isReadable);
-    const auto good = collection->parameter(QStringLiteral("Good"));
-    QCOMPARE(good->parameterData()->valueString, QStringLiteral("7"));
-    QCOMPARE(good->propertyAccess()->property(QStringLiteral("DisplayName")), QStringLiteral("Good"));
-    QCOMPARE(camera->info()->vendorName(), QStringLiteral("Vendor"));
-    QCOMPARE(collection->deviceClass(), QStringLiteral("GEV"));
+    QCOMPARE(collection->childNames("Root", 0, false),
+             QStringList({"NoEntry", "Ratio", "Lost", "Good", "Portless"}));
+    for (const char *name : {"Portless", "NoEntry", "Lost"}) {
+        QVERIFY2(!collection->parameter(name)->parameterData()->isReadable, name);
+    }
+    const auto good = collection->parameter("Good");
+    QCOMPARE(good->parameterData()->valueString, "7");
+    QCOMPARE(good->propertyAccess()->property("DisplayName"), "Good");
+    QCOMPARE(camera->info()->vendorName(), "Vendor");
+    QCOMPARE(collection->deviceClass(), "GEV");
 }
 
 void TestDescription::circlesAreUnreadable()
 {
-    const auto camera = Camera::openDescription(saved(description(
+    const auto camera = opened(
         root("A Limited Switched Good")
         + "<Integer Name=\"A\"><pValue>B</pValue></Integer><Integer Name=\"B\"><pValue>A</pValue></Integer>"
           "<Integer Name=\"Limited\"><Value>1</Value><pMax>B</pMax></Integer>"
           "<Integer Name=\"Switched\"><pIsAvailable>B</pIsAvailable><Value>1</Value></Integer>"
-          "<Integer Name=\"Good\"><Value>7</Value></Integer>")));
+          "<Integer Name=\"Good\"><Value>7</Value></Integer>");
     const auto collection = camera->nodeMaps().first().collection;
     for (const char *name : {"A", "Limited", "Switched"}) {
-        const auto bad = collection->parameter(QString::fromLatin1(name));
+        const auto bad = collection->parameter(name);
         QVERIFY2(!bad->parameterData()->isReadable, name);
-        QVERIFY_EXCEPTION_THROWN(bad->setValueFromString(QStringLiteral("1")), std::exception);
+        QVERIFY_EXCEPTION_THROWN(bad->setValueFromString("1"), std::exception);
     }
-    QVERIFY(collection->parameter(QStringLiteral("Good"))->parameterData()->isReadable);
+    QVERIFY(collection->parameter("Good")->parameterData()->isReadable);
 }
 
 // The engine would end the program over such an allocation.
@@ -169,33 +171,31 @@ void TestDescription::impossibleLengthsAreUnreadable()
         return QByteArray("<StringReg Name=\"") + name + "\"><Address>0x20</Address>" + length
             + "<AccessMode>RW</AccessMode><pPort>Device</pPort></StringReg>";
     };
-    const auto camera = Camera::openDescription(saved(description(
-        root("Negative Huge Sized Size User Chained") + text("Negative", "<Length>-5</Length>")
-        + text("Huge", "<Length>0x5af3107a3fff</Length>") + text("Sized", "<pLength>Size</pLength>")
-        + "<Integer Name=\"Size\"><pValue>SizeRegister</pValue></Integer>"
-          "<String Name=\"User\"><pValue>Sized</pValue></String>"
-          "<IntReg Name=\"Chained\"><Address>0x80</Address><pLength>Sizing</pLength>"
-          "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
-          "<IntReg Name=\"Sizing\"><Address>0x80</Address><pLength>Size</pLength>"
-          "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
-        + integerRegister("SizeRegister", "0x10"))));
+    const auto camera =
+        opened(root("Negative Huge Sized Size User Chained") + text("Negative", "<Length>-5</Length>")
+               + text("Huge", "<Length>0x5af3107a3fff</Length>") + text("Sized", "<pLength>Size</pLength>")
+               + "<Integer Name=\"Size\"><pValue>SizeRegister</pValue></Integer>"
+                 "<String Name=\"User\"><pValue>Sized</pValue></String>"
+                 "<IntReg Name=\"Chained\"><Address>0x80</Address><pLength>Sizing</pLength>"
+                 "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
+                 "<IntReg Name=\"Sizing\"><Address>0x80</Address><pLength>Size</pLength>"
+                 "<AccessMode>RW</AccessMode><pPort>Device</pPort></IntReg>"
+               + integerRegister("SizeRegister", "0x10"));
     const auto collection = camera->nodeMaps().first().collection;
-    const auto parameter = [&collection](const char *name) {
-        return collection->parameter(QString::fromLatin1(name));
-    };
+    const auto parameter = [&collection](const char *name) { return collection->parameter(name); };
     const auto isReadable = [&parameter](const char *name) {
         return parameter(name)->parameterData()->isReadable;
     };
     QVERIFY(!isReadable("Negative"));
     QVERIFY(!isReadable("Huge"));
     QVERIFY(!isReadable("Chained"));
-    parameter("Size")->setValueFromString(QStringLiteral("8"));
+    parameter("Size")->setValueFromString("8");
     QTRY_VERIFY(isReadable("Sized") && isReadable("User"));
-    parameter("User")->setValueFromString(QStringLiteral("abc"));
-    QCOMPARE(parameter("User")->parameterData()->valueString, QStringLiteral("abc"));
-    parameter("Size")->setValueFromString(QStringLiteral("4294967295"));
+    parameter("User")->setValueFromString("abc");
+    QCOMPARE(parameter("User")->parameterData()->valueString, "abc");
+    parameter("Size")->setValueFromString("4294967295");
     QTRY_VERIFY(!isReadable("Sized") && !isReadable("User"));
-    QVERIFY_EXCEPTION_THROWN(parameter("User")->setValueFromString(QStringLiteral("abc")), std::exception);
+    QVERIFY_EXCEPTION_THROWN(parameter("User")->setValueFromString("abc"), std::exception);
     QVERIFY(isReadable("Size"));
 }
 
@@ -206,15 +206,15 @@ void TestDescription::endlessNestingIsCut()
         + "<Category Name=\"Outer\"><pFeature>Inner</pFeature><pFeature>Value</pFeature></Category>"
           "<Category Name=\"Inner\"><pFeature>Outer</pFeature><pFeature>Value</pFeature></Category>"
           "<Integer Name=\"Value\"><Value>7</Value></Integer>"));
-    const int inner = parsed.indexOf(QStringLiteral("Inner"));
-    const int value = parsed.indexOf(QStringLiteral("Value"));
+    const int inner = parsed.indexOf("Inner");
+    const int value = parsed.indexOf("Value");
     QCOMPARE(parsed.children(inner), QList<int>({value}));
-    QCOMPARE(parsed.children(parsed.indexOf(QStringLiteral("Outer"))), QList<int>({inner, value}));
+    QCOMPARE(parsed.children(parsed.indexOf("Outer")), QList<int>({inner, value}));
 
-    const auto camera = Camera::openDescription(saved(description(
-        root("A") + "<Enumeration Name=\"A\">" + QByteArray("<EnumEntry Name=\"E\">").repeated(50000)
-        + QByteArray("</EnumEntry>").repeated(50000) + "</Enumeration>")));
-    QVERIFY(camera->nodeMaps().first().collection->hasParameter(QStringLiteral("A")));
+    const auto camera =
+        opened(root("A") + "<Enumeration Name=\"A\">" + QByteArray("<EnumEntry Name=\"E\">").repeated(50000)
+               + QByteArray("</EnumEntry>").repeated(50000) + "</Enumeration>");
+    QVERIFY(camera->nodeMaps().first().collection->hasParameter("A"));
 }
 
 void TestDescription::dependentsFollowTheLinks()
@@ -239,37 +239,19 @@ void TestDescription::dependentsFollowTheLinks()
         + integerRegister("Invalidated", "0x1c", "<pInvalidator>Unrelated</pInvalidator>")));
     const auto namesAfter = [&parsed](const char *written) {
         QStringList names;
-        for (const int node : parsed.dependents(parsed.indexOf(QString::fromLatin1(written)))) {
+        for (const int node : parsed.dependents(parsed.indexOf(written))) {
             names.append(parsed.name(node));
         }
         names.sort();
         return names.join(QLatin1Char(' '));
     };
-    QCOMPARE(namesAfter("Written"), QStringLiteral("Chosen Limited Same Selector"));
-    QCOMPARE(namesAfter("Same"), QStringLiteral("Chosen Limited Selector Written"));
-    QCOMPARE(namesAfter("Selector"), QStringLiteral("Chosen"));
+    QCOMPARE(namesAfter("Written"), "Chosen Limited Same Selector");
+    QCOMPARE(namesAfter("Same"), "Chosen Limited Selector Written");
+    QCOMPARE(namesAfter("Selector"), "Chosen");
     QCOMPARE(namesAfter("Chosen"), QString());
-    QCOMPARE(namesAfter("Unrelated"), QStringLiteral("Kept"));
-    QCOMPARE(parsed.pollingTime(parsed.indexOf(QStringLiteral("Polled"))), 250);
-    QCOMPARE(parsed.pollingTime(parsed.indexOf(QStringLiteral("Kept"))), 0);
-}
-
-void TestDescription::valuesLiveOnRegisters()
-{
-    const auto camera = Camera::openDescription(saved(description(
-        root("Number Go")
-        + "<Integer "
-          "Name=\"Number\"><pValue>Register</pValue><Representation>HexNumber</Representation></Integer>"
-          "<Command Name=\"Go\"><pValue>Trigger</pValue><CommandValue>1</CommandValue></Command>"
-        + integerRegister("Register", "0x10") + integerRegister("Trigger", "0x14"))));
-    const auto collection = camera->nodeMaps().first().collection;
-    const auto number = collection->parameter(QStringLiteral("Number"));
-    QCOMPARE(number->parameterData()->valueString, QStringLiteral("0x0"));
-    number->setValueFromString(QStringLiteral("0xCAFE"));
-    QCOMPARE(number->parameterData()->valueString, QStringLiteral("0xcafe"));
-    const auto go = qSharedPointerObjectCast<ICommandParameter>(collection->parameter(QStringLiteral("Go")));
-    go->execute(true);
-    QVERIFY(static_cast<const CommandParameterData &>(*go->parameterData()).isDone);
+    QCOMPARE(namesAfter("Unrelated"), "Kept");
+    QCOMPARE(parsed.pollingTime(parsed.indexOf("Polled")), 250);
+    QCOMPARE(parsed.pollingTime(parsed.indexOf("Kept")), 0);
 }
 
 void TestDescription::singlePrecisionIsShownAsItWasMeant()
@@ -280,36 +262,34 @@ void TestDescription::singlePrecisionIsShownAsItWasMeant()
             + "</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Endianess>LittleEndian</Endianess>"
               "</FloatReg>";
     };
-    const auto camera = Camera::openDescription(
-        saved(description(root("Single Double Large") + floatRegister("Single", "0x10", "4")
-                          + floatRegister("Double", "0x18", "8") + floatRegister("Large", "0x20", "4"))));
+    const auto camera = opened(root("Single Double Large") + floatRegister("Single", "0x10", "4")
+                               + floatRegister("Double", "0x18", "8") + floatRegister("Large", "0x20", "4"));
     const auto collection = camera->nodeMaps().first().collection;
     const auto written = [&collection](const char *name, const char *text) {
-        const auto parameter = collection->parameter(QString::fromLatin1(name));
-        parameter->setValueFromString(QString::fromLatin1(text));
+        const auto parameter = collection->parameter(name);
+        parameter->setValueFromString(text);
         return parameter->parameterData()->valueString;
     };
-    QCOMPARE(written("Single", "0.1"), QStringLiteral("0.1"));
-    QCOMPARE(written("Single", "46.099998"), QStringLiteral("46.1"));
-    QCOMPARE(written("Double", "0.30000000000000004"), QStringLiteral("0.30000000000000004"));
-    QCOMPARE(written("Large", "123456792"), QStringLiteral("123456792"));
+    QCOMPARE(written("Single", "0.1"), "0.1");
+    QCOMPARE(written("Single", "46.099998"), "46.1");
+    QCOMPARE(written("Double", "0.30000000000000004"), "0.30000000000000004");
+    QCOMPARE(written("Large", "123456792"), "123456792");
 }
 
 void TestDescription::groupsAndStructEntries()
 {
-    const auto camera = Camera::openDescription(saved(description(
+    const auto camera = opened(
         "<Group Comment=\"all\">" + root("Low High")
         + "<Integer Name=\"Low\"><pValue>LowBits</pValue></Integer>"
           "<Integer Name=\"High\"><pValue>HighBits</pValue></Integer></Group>"
           "<StructReg Comment=\"bits\"><Address>0x20</Address><Length>4</Length><AccessMode>RW</AccessMode>"
           "<pPort>Device</pPort><Endianess>LittleEndian</Endianess>"
           "<StructEntry Name=\"LowBits\"><LSB>0</LSB><MSB>7</MSB></StructEntry>"
-          "<StructEntry Name=\"HighBits\"><LSB>8</LSB><MSB>15</MSB></StructEntry></StructReg>")));
+          "<StructEntry Name=\"HighBits\"><LSB>8</LSB><MSB>15</MSB></StructEntry></StructReg>");
     const auto collection = camera->nodeMaps().first().collection;
-    collection->parameter(QStringLiteral("High"))->setValueFromString(QStringLiteral("3"));
-    QCOMPARE(collection->parameter(QStringLiteral("High"))->parameterData()->valueString,
-             QStringLiteral("3"));
-    QCOMPARE(collection->parameter(QStringLiteral("Low"))->parameterData()->valueString, QStringLiteral("0"));
+    collection->parameter("High")->setValueFromString("3");
+    QCOMPARE(collection->parameter("High")->parameterData()->valueString, "3");
+    QCOMPARE(collection->parameter("Low")->parameterData()->valueString, "0");
 }
 
 QTEST_GUILESS_MAIN(TestDescription)

@@ -55,7 +55,7 @@ void TestLiveCamera::cleanup()
 QString TestLiveCamera::id() const
 {
     for (const auto &info : Camera::list()) {
-        if (info->serialNumber() == QLatin1String("ZTEST")) {
+        if (info->serialNumber() == "ZTEST") {
             return info->id();
         }
     }
@@ -65,10 +65,10 @@ QString TestLiveCamera::id() const
 void TestLiveCamera::unknownCameraIsRefused()
 {
     try {
-        Camera::openLive(QStringLiteral("Nobody-1234"));
+        Camera::openLive("Nobody-1234");
         QFAIL("opened");
     } catch (const Core::Exception::BaseException &exception) {
-        QVERIFY(exception.getMessage().contains(QLatin1String("Nobody-1234")));
+        QVERIFY(exception.getMessage().contains("Nobody-1234"));
     }
 }
 
@@ -77,15 +77,15 @@ void TestLiveCamera::listsReadsAndWrites()
     const QString camera = id();
     QVERIFY(!camera.isEmpty());
     const auto open = Camera::openLive(camera);
-    QCOMPARE(open->info()->deviceClass(), QStringLiteral("GEV"));
+    QCOMPARE(open->info()->deviceClass(), "GEV");
     QCOMPARE(open->nodeMaps().size(), 1);
-    QCOMPARE(open->nodeMaps().first().name, QStringLiteral("@CameraDevice"));
+    QCOMPARE(open->nodeMaps().first().name, "@CameraDevice");
     const auto collection = open->nodeMaps().first().collection;
-    const auto width = collection->parameter(QStringLiteral("Width"));
+    const auto width = collection->parameter("Width");
     QVERIFY(width->isWritableNow());
-    width->setValueFromString(QStringLiteral("256"));
-    QCOMPARE(width->parameterData()->valueString, QStringLiteral("256"));
-    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("-1")), std::exception);
+    width->setValueFromString("256");
+    QCOMPARE(width->parameterData()->valueString, "256");
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString("-1"), std::exception);
     QVERIFY(!open->isLost());
 }
 
@@ -95,7 +95,7 @@ void TestLiveCamera::lossIsToldOnceAndReopeningWorks()
     auto open = Camera::openLive(camera);
     QSignalSpy lost(open.get(), SIGNAL(lost(QString)));
     const auto collection = open->nodeMaps().first().collection;
-    const auto width = collection->parameter(QStringLiteral("Width"));
+    const auto width = collection->parameter("Width");
     const QString before = width->parameterData()->valueString;
     collection->refresh();
     g_clear_object(&m_server);
@@ -109,24 +109,24 @@ void TestLiveCamera::lossIsToldOnceAndReopeningWorks()
     startServer();
     open = Camera::openLive(camera);
     QVERIFY(!open->isLost());
-    const auto again = open->nodeMaps().first().collection->parameter(QStringLiteral("Width"));
-    again->setValueFromString(QStringLiteral("128"));
-    QCOMPARE(again->parameterData()->valueString, QStringLiteral("128"));
+    const auto again = open->nodeMaps().first().collection->parameter("Width");
+    again->setValueFromString("128");
+    QCOMPARE(again->parameterData()->valueString, "128");
 }
 
 void TestLiveCamera::writeToALostCamera()
 {
     auto open = Camera::openLive(id());
     QSignalSpy lost(open.get(), SIGNAL(lost(QString)));
-    const auto width = open->nodeMaps().first().collection->parameter(QStringLiteral("Width"));
+    const auto width = open->nodeMaps().first().collection->parameter("Width");
     g_clear_object(&m_server);
     QElapsedTimer timer;
     timer.start();
-    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("256")), std::exception);
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString("256"), std::exception);
     QVERIFY(timer.elapsed() < 1500);
     QVERIFY(lost.size() == 1 || lost.wait(1000));
     timer.restart();
-    QVERIFY_EXCEPTION_THROWN(width->setValueFromString(QStringLiteral("256")), std::exception);
+    QVERIFY_EXCEPTION_THROWN(width->setValueFromString("256"), std::exception);
     open.reset();
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(lost.size(), 1);

@@ -9,13 +9,13 @@
 #include <platform/parametercollection/parameterdata.h>
 
 #include <support/logcapture.h>
-#include <support/memorycollection.h>
+#include <support/table.h>
 
 #include <QLoggingCategory>
-#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 
+#include <functional>
 #include <limits>
 
 using namespace ParameterCollection;
@@ -34,8 +34,6 @@ private slots:
     void formatDouble_data();
     void formatDouble();
     void snapshotsCompareByContents();
-    void typedInterfacesAreFoundByObjectCast();
-    void changeSignalCrossesThreads();
 };
 
 void TestPlatform::categoryIdsAreStableAcrossThreads()
@@ -46,7 +44,7 @@ void TestPlatform::categoryIdsAreStableAcrossThreads()
         threads.append(QThread::create([&ids = found[i]] {
             for (int n = 0; n < 200; ++n) {
                 ids.append(Core::Logging::getCatId(qPrintable(QStringLiteral("zelto.test.%1").arg(n))));
-                Core::Logging::createLogEntry(ELogLevel::Debug, ids.constLast(), QStringLiteral("unseen"));
+                Core::Logging::createLogEntry(ELogLevel::Debug, ids.constLast(), "unseen");
             }
         }));
         threads.constLast()->start();
@@ -66,54 +64,49 @@ void TestPlatform::logLevelsAndRules()
     const auto id = Core::Logging::getCatId("zelto.test.levels");
     LogCapture log;
     for (const auto level : {ELogLevel::Debug, ELogLevel::Info, ELogLevel::Warning, ELogLevel::Critical}) {
-        Core::Logging::createLogEntry(level, id, QStringLiteral("a \"text\""));
+        Core::Logging::createLogEntry(level, id, "a \"text\"");
     }
     QCOMPARE(log.entries(),
-             QStringList({QStringLiteral("0 zelto.test.levels: a \"text\""),
-                          QStringLiteral("1 zelto.test.levels: a \"text\""),
-                          QStringLiteral("2 zelto.test.levels: a \"text\""),
-                          QStringLiteral("3 zelto.test.levels: a \"text\"")}));
+             QStringList({"0 zelto.test.levels: a \"text\"", "1 zelto.test.levels: a \"text\"",
+                          "2 zelto.test.levels: a \"text\"", "3 zelto.test.levels: a \"text\""}));
     log.clear();
     QLoggingCategory::setFilterRules(QString());
-    Core::Logging::createLogEntry(ELogLevel::Debug, id, QStringLiteral("off unless asked for"));
-    QLoggingCategory::setFilterRules(QStringLiteral("zelto.test.levels.warning=false"));
-    Core::Logging::createLogEntry(ELogLevel::Warning, id, QStringLiteral("filtered"));
-    Core::Logging::createLogEntry(ELogLevel::Critical, 0, QStringLiteral("no category"));
+    Core::Logging::createLogEntry(ELogLevel::Debug, id, "off unless asked for");
+    QLoggingCategory::setFilterRules("zelto.test.levels.warning=false");
+    Core::Logging::createLogEntry(ELogLevel::Warning, id, "filtered");
+    Core::Logging::createLogEntry(ELogLevel::Critical, 0, "no category");
     QCOMPARE(log.entries(), QStringList());
 }
 
 void TestPlatform::guardLogsAndFallsBack_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("detail");
-    QTest::newRow("own exception") << 0 << QStringLiteral("Test::run:broken");
-    QTest::newRow("standard exception") << 1 << QStringLiteral("Test::run: broken");
-    QTest::newRow("GenICam exception") << 2 << QStringLiteral("Test::run: broken");
-    QTest::newRow("anything else") << 3 << QStringLiteral("Test::run: Unspecified exception occurred.");
+    columns<std::function<void()>, QString>({"fail", "detail"});
+    const auto rowOf = [](const char *name, const std::function<void()> &fail, const char *detail) {
+        row(name, fail, detail);
+    };
+    rowOf(
+        "own exception", [] { throw Core::Exception::BaseException("broken"); }, "Test::run:broken");
+    rowOf(
+        "standard exception", [] { throw std::runtime_error("broken"); }, "Test::run: broken");
+    rowOf(
+        "GenICam exception", [] { throw GenICam::AccessException("broken"); }, "Test::run: broken");
+    rowOf(
+        "anything else", [] { throw 42; }, "Test::run: Unspecified exception occurred.");
 }
 
 void TestPlatform::guardLogsAndFallsBack()
 {
-    QFETCH(const int, kind);
+    QFETCH(const std::function<void()>, fail);
     QFETCH(const QString, detail);
     const Core::GuardSite site{Core::Logging::getCatId("zelto.test.guard"), "Test::run", "%1:%2"};
     LogCapture log;
-    const int result = Core::guarded(site, QStringLiteral("Headline %1"), 7, [kind]() -> int {
-        switch (kind) {
-        case 0:
-            throw Core::Exception::BaseException(QStringLiteral("broken"));
-        case 1:
-            throw std::runtime_error("broken");
-        case 2:
-            throw GenICam::AccessException(QStringLiteral("broken"));
-        default:
-            throw 42;
-        }
+    const int result = Core::guarded(site, QString("Headline %1"), 7, [&fail] {
+        fail();
+        return 1;
     });
     QCOMPARE(result, 7);
     QCOMPARE(log.entries(),
-             QStringList({QStringLiteral("2 zelto.test.guard: Headline %1"),
-                          QStringLiteral("2 zelto.test.guard: ") + detail}));
+             QStringList({"2 zelto.test.guard: Headline %1", "2 zelto.test.guard: " + detail}));
 
     log.clear();
     const auto badHeadline = []() -> QString { throw 1; };
@@ -126,7 +119,7 @@ void TestPlatform::guardLogsAndFallsBack()
 
 void TestPlatform::exceptionsCarryTheirText()
 {
-    const QString text = QStringLiteral("Belichtung: 5 µs ist zu kurz");
+    const QString text = "Belichtung: 5 µs ist zu kurz";
     const Core::Exception::BaseException own(text);
     QCOMPARE(own.getMessage(), text);
     QCOMPARE(QString::fromUtf8(own.what()), own.getMessage());
@@ -140,25 +133,18 @@ void TestPlatform::exceptionsCarryTheirText()
 
 void TestPlatform::formatDouble_data()
 {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<bool>("compact");
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("text");
+    columns<double, int, bool, QLocale, QString>({"value", "decimals", "compact", "locale", "text"});
     const QLocale c = QLocale::c();
-    const QLocale german(QLocale::German, QLocale::Germany);
-    QTest::newRow("trailing zeros") << 5000.0 << 3 << true << c << QStringLiteral("5000");
-    QTest::newRow("fraction") << 0.1 << 3 << true << c << QStringLiteral("0.1");
-    QTest::newRow("zeros before the point stay") << 100.0 << 0 << true << c << QStringLiteral("100");
-    QTest::newRow("not compact") << 5000.0 << 3 << false << c << QStringLiteral("5000.000");
-    QTest::newRow("no group separators") << 1234567.5 << 2 << true << german << QStringLiteral("1234567,5");
-    QTest::newRow("tiny") << 1e-9 << 2 << true << c << QStringLiteral("1e-09");
-    QTest::newRow("rounds up to one digit") << 0.006 << 2 << true << c << QStringLiteral("0.01");
-    QTest::newRow("largest") << std::numeric_limits<double>::max() << 2 << true << c
-                             << QStringLiteral("1.7976931348623157e+308");
-    QTest::newRow("zero") << 0.0 << 2 << true << c << QStringLiteral("0");
-    QTest::newRow("infinity") << -std::numeric_limits<double>::infinity() << 2 << true << c
-                              << QStringLiteral("-inf");
+    row("trailing zeros", 5000.0, 3, true, c, "5000");
+    row("fraction", 0.1, 3, true, c, "0.1");
+    row("zeros before the point stay", 100.0, 0, true, c, "100");
+    row("not compact", 5000.0, 3, false, c, "5000.000");
+    row("no group separators", 1234567.5, 2, true, QLocale(QLocale::German), "1234567,5");
+    row("tiny", 1e-9, 2, true, c, "1e-09");
+    row("rounds up to one digit", 0.006, 2, true, c, "0.01");
+    row("largest", std::numeric_limits<double>::max(), 2, true, c, "1.7976931348623157e+308");
+    row("zero", 0.0, 2, true, c, "0");
+    row("infinity", -std::numeric_limits<double>::infinity(), 2, true, c, "-inf");
 }
 
 void TestPlatform::formatDouble()
@@ -167,8 +153,7 @@ void TestPlatform::formatDouble()
     QFETCH(const int, decimals);
     QFETCH(const bool, compact);
     QFETCH(const QLocale, locale);
-    QFETCH(const QString, text);
-    QCOMPARE(formatDoubleValue(value, decimals, compact, locale), text);
+    QTEST(formatDoubleValue(value, decimals, compact, locale), "text");
 }
 
 void TestPlatform::snapshotsCompareByContents()
@@ -181,34 +166,8 @@ void TestPlatform::snapshotsCompareByContents()
     QVERIFY(!left.equals(right));
     QVERIFY(!ParameterData(ParameterType::Integer).equals(IntegerParameterData()));
     EnumParameterData entries;
-    entries.symbolicNames.append(QStringLiteral("Off"));
+    entries.symbolicNames.append("Off");
     QVERIFY(!entries.equals(EnumParameterData()));
-}
-
-void TestPlatform::typedInterfacesAreFoundByObjectCast()
-{
-    const auto sample = MemoryCollection::createSample();
-    const auto width = sample->parameter(QStringLiteral("@CameraDevice/Width"));
-    QVERIFY(qSharedPointerObjectCast<IIntegerParameter>(width));
-    QVERIFY(!qSharedPointerObjectCast<IFloatParameter>(width));
-}
-
-void TestPlatform::changeSignalCrossesThreads()
-{
-    const auto sample = MemoryCollection::createSample();
-    const auto width = qSharedPointerDynamicCast<MemoryInteger>(sample->parameter(QStringLiteral("Width")));
-    QSignalSpy spy(
-        width.data(),
-        SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)));
-    QVERIFY(spy.isValid());
-    QThread *const thread = QThread::create([&width] { width->publish(); });
-    QObject receiver;
-    int received = 0;
-    connect(width.data(), &IParameter::parameterDataChangedDecoupled, &receiver, [&received] { ++received; });
-    thread->start();
-    QVERIFY(thread->wait());
-    delete thread;
-    QTRY_COMPARE(received, 1);
 }
 
 QTEST_GUILESS_MAIN(TestPlatform)

@@ -3,29 +3,17 @@
 
 #include "memorycollection.h"
 
-#include <QLocale>
-
 using namespace ParameterCollection;
 
 namespace {
 
-template <typename Data>
-QSharedPointer<Data> usableSnapshot()
+template <typename Data, typename... Arguments>
+QSharedPointer<Data> usableSnapshot(Arguments... arguments)
 {
-    auto data = QSharedPointer<Data>::create();
+    auto data = QSharedPointer<Data>::create(arguments...);
     data->visibility = GenApi::Beginner;
     data->isReadable = true;
     data->isWritable = true;
-    data->isImplemented = true;
-    return data;
-}
-
-QSharedPointer<ParameterData> plainSnapshot(ParameterType type, bool writable)
-{
-    auto data = QSharedPointer<ParameterData>::create(type);
-    data->visibility = GenApi::Beginner;
-    data->isReadable = true;
-    data->isWritable = writable;
     data->isImplemented = true;
     return data;
 }
@@ -36,60 +24,69 @@ QSharedPointer<ParameterData> plainSnapshot(ParameterType type, bool writable)
         QStringLiteral("%1: \"%2\" is not allowed, expected %3").arg(node.shortName, text, allowed));
 }
 
-void writeInteger(MemoryNode &node, const IntegerParameterData &old, const QString &text)
+template <typename Data>
+QSharedPointer<Data> copyOf(const QSharedPointer<ParameterData> &snapshot)
 {
-    bool ok = false;
-    const qint64 value = text.trimmed().toLongLong(&ok, 0);
-    if (!ok) {
-        refuse(node, text, QStringLiteral("an integer"));
-    }
-    if (value < old.minimum || value > old.maximum) {
-        throw GenICam::OutOfRangeException(
-            QStringLiteral("%1: %2 is out of range").arg(node.shortName, text));
-    }
-    auto data = QSharedPointer<IntegerParameterData>::create(old);
-    data->value = value;
-    data->valueString = QString::number(value);
-    node.snapshot = data;
+    return QSharedPointer<Data>::create(static_cast<const Data &>(*snapshot));
 }
 
-void writeFloat(MemoryNode &node, const FloatParameterData &old, const QString &text)
+template <typename Data, typename Value>
+QSharedPointer<Data> withNumber(const MemoryNode &node, const QString &text, Value value, bool isNumber)
 {
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok) {
+    if (!isNumber) {
         refuse(node, text, QStringLiteral("a number"));
     }
-    if (value < old.minimum || value > old.maximum) {
+    auto data = copyOf<Data>(node.snapshot);
+    if (value < data->minimum || value > data->maximum) {
         throw GenICam::OutOfRangeException(
             QStringLiteral("%1: %2 is out of range").arg(node.shortName, text));
     }
-    auto data = QSharedPointer<FloatParameterData>::create(old);
     data->value = value;
-    data->valueString = QString::number(value, 'g', QLocale::FloatingPointShortest);
-    node.snapshot = data;
+    data->valueString = QVariant(value).toString();
+    return data;
 }
 
-void writeBoolean(MemoryNode &node, const BooleanParameterData &old, const QString &text)
+QSharedPointer<ParameterData> withBoolean(const MemoryNode &node, const QString &text)
 {
-    const bool on = text == QLatin1String("1") || text == QLatin1String("true");
-    if (!on && text != QLatin1String("0") && text != QLatin1String("false")) {
+    auto data = copyOf<BooleanParameterData>(node.snapshot);
+    data->value = text == QLatin1String("1") || text == QLatin1String("true");
+    if (!data->value && text != QLatin1String("0") && text != QLatin1String("false")) {
         refuse(node, text, QStringLiteral("1 or 0"));
     }
-    auto data = QSharedPointer<BooleanParameterData>::create(old);
-    data->value = on;
-    data->valueString = on ? QStringLiteral("true") : QStringLiteral("false");
-    node.snapshot = data;
+    data->valueString = QVariant(data->value).toString();
+    return data;
 }
 
-void writeEnum(MemoryNode &node, const EnumParameterData &old, const QString &text)
+QSharedPointer<ParameterData> withText(const MemoryNode &node, const QString &text)
 {
-    if (!old.symbolicNames.contains(text)) {
-        refuse(node, text, old.symbolicNames.join(QStringLiteral(", ")));
+    bool ok = false;
+    switch (node.snapshot->type) {
+    case ParameterType::Integer: {
+        const qint64 value = text.trimmed().toLongLong(&ok, 0);
+        return withNumber<IntegerParameterData>(node, text, value, ok);
     }
-    auto data = QSharedPointer<EnumParameterData>::create(old);
-    data->valueString = text;
-    node.snapshot = data;
+    case ParameterType::Float: {
+        const double value = text.trimmed().toDouble(&ok);
+        return withNumber<FloatParameterData>(node, text, value, ok);
+    }
+    case ParameterType::Boolean:
+        return withBoolean(node, text);
+    case ParameterType::Enumeration: {
+        auto data = copyOf<EnumParameterData>(node.snapshot);
+        if (!data->symbolicNames.contains(text)) {
+            refuse(node, text, data->symbolicNames.join(QStringLiteral(", ")));
+        }
+        data->valueString = text;
+        return data;
+    }
+    case ParameterType::String: {
+        auto data = copyOf<ParameterData>(node.snapshot);
+        data->valueString = text;
+        return data;
+    }
+    default:
+        refuse(node, text, QStringLiteral("no text"));
+    }
 }
 
 } // namespace
@@ -99,29 +96,7 @@ void writeMemoryNode(MemoryNode &node, const QString &text)
     if (!node.snapshot->isImplemented || !node.snapshot->isWritable) {
         throw GenICam::AccessException(QStringLiteral("%1 cannot be written now").arg(node.shortName));
     }
-    const QSharedPointer<ParameterData> old = node.snapshot;
-    switch (old->type) {
-    case ParameterType::Integer:
-        writeInteger(node, static_cast<const IntegerParameterData &>(*old), text);
-        break;
-    case ParameterType::Float:
-        writeFloat(node, static_cast<const FloatParameterData &>(*old), text);
-        break;
-    case ParameterType::Boolean:
-        writeBoolean(node, static_cast<const BooleanParameterData &>(*old), text);
-        break;
-    case ParameterType::Enumeration:
-        writeEnum(node, static_cast<const EnumParameterData &>(*old), text);
-        break;
-    case ParameterType::String: {
-        auto data = QSharedPointer<ParameterData>::create(*old);
-        data->valueString = text;
-        node.snapshot = data;
-        break;
-    }
-    default:
-        refuse(node, text, QStringLiteral("no text"));
-    }
+    node.snapshot = withText(node, text);
     node.writes.append(text);
 }
 
@@ -140,34 +115,6 @@ void MemoryPropertyAccess::setProperty(const QString &name, const QString &value
 {
     m_node->enter("setProperty");
     m_node->properties.insert(name, value);
-}
-
-void MemoryInteger::setValue(qint64 value)
-{
-    enter("setValue");
-    writeMemoryNode(*this, QString::number(value));
-    publishLater();
-}
-
-void MemoryFloat::setValue(double value)
-{
-    enter("setValue");
-    writeMemoryNode(*this, QString::number(value, 'g', QLocale::FloatingPointShortest));
-    publishLater();
-}
-
-void MemoryEnum::setValue(const QString &name)
-{
-    enter("setValue");
-    writeMemoryNode(*this, name);
-    publishLater();
-}
-
-void MemoryBoolean::setValue(bool value)
-{
-    enter("setValue");
-    writeMemoryNode(*this, value ? QStringLiteral("1") : QStringLiteral("0"));
-    publishLater();
 }
 
 void MemoryCommand::execute(bool verify)
@@ -228,39 +175,40 @@ QSharedPointer<Parameter> MemoryCollection::add(const QString &name, const QStri
 
 QSharedPointer<MemoryPlain> MemoryCollection::addCategory(const QString &name, const QString &parent)
 {
-    return add<MemoryPlain>(name, parent, plainSnapshot(ParameterType::Category, false));
+    auto data = usableSnapshot<ParameterData>(ParameterType::Category);
+    data->isWritable = false;
+    return add<MemoryPlain>(name, parent, data);
+}
+
+template <typename Parameter, typename Value>
+QSharedPointer<Parameter> MemoryCollection::addNumber(const QString &name, const QString &parent, Value value,
+                                                      Value minimum, Value maximum, Value increment,
+                                                      const QString &representation)
+{
+    auto data = usableSnapshot<typename Parameter::Data>();
+    data->value = value;
+    data->minimum = minimum;
+    data->maximum = maximum;
+    data->increment = increment;
+    data->representation = representation;
+    data->valueString = QVariant(value).toString();
+    auto added = add<Parameter>(name, parent, data);
+    added->properties.insert(QStringLiteral("Representation"), representation);
+    return added;
 }
 
 QSharedPointer<MemoryInteger> MemoryCollection::addInteger(const QString &name, const QString &parent,
                                                            qint64 value, qint64 minimum, qint64 maximum,
                                                            qint64 increment, const QString &representation)
 {
-    auto data = usableSnapshot<IntegerParameterData>();
-    data->value = value;
-    data->minimum = minimum;
-    data->maximum = maximum;
-    data->increment = increment;
-    data->representation = representation;
-    data->valueString = QString::number(value);
-    auto added = add<MemoryInteger>(name, parent, data);
-    added->properties.insert(QStringLiteral("Representation"), representation);
-    return added;
+    return addNumber<MemoryInteger>(name, parent, value, minimum, maximum, increment, representation);
 }
 
 QSharedPointer<MemoryFloat> MemoryCollection::addFloat(const QString &name, const QString &parent,
                                                        double value, double minimum, double maximum,
                                                        double increment, const QString &representation)
 {
-    auto data = usableSnapshot<FloatParameterData>();
-    data->value = value;
-    data->minimum = minimum;
-    data->maximum = maximum;
-    data->increment = increment;
-    data->representation = representation;
-    data->valueString = QString::number(value, 'g', QLocale::FloatingPointShortest);
-    auto added = add<MemoryFloat>(name, parent, data);
-    added->properties.insert(QStringLiteral("Representation"), representation);
-    return added;
+    return addNumber<MemoryFloat>(name, parent, value, minimum, maximum, increment, representation);
 }
 
 QSharedPointer<MemoryEnum> MemoryCollection::addEnum(const QString &name, const QString &parent,
@@ -278,7 +226,7 @@ QSharedPointer<MemoryBoolean> MemoryCollection::addBoolean(const QString &name, 
 {
     auto data = usableSnapshot<BooleanParameterData>();
     data->value = value;
-    data->valueString = value ? QStringLiteral("true") : QStringLiteral("false");
+    data->valueString = QVariant(value).toString();
     return add<MemoryBoolean>(name, parent, data);
 }
 
@@ -292,7 +240,7 @@ QSharedPointer<MemoryCommand> MemoryCollection::addCommand(const QString &name, 
 QSharedPointer<MemoryPlain> MemoryCollection::addString(const QString &name, const QString &parent,
                                                         const QString &value)
 {
-    auto data = plainSnapshot(ParameterType::String, true);
+    auto data = usableSnapshot<ParameterData>(ParameterType::String);
     data->valueString = value;
     return add<MemoryPlain>(name, parent, data);
 }
@@ -315,6 +263,11 @@ void MemoryCollection::enter(const char *operation) const
     if (before) {
         before(QString::fromLatin1(operation));
     }
+}
+
+MemoryNode *MemoryCollection::node(const QString &name) const
+{
+    return m_entries.value(shortName(name)).node;
 }
 
 QSharedPointer<IParameter> MemoryCollection::parameter(const QString &name) const

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QPointer>
 #include <QStringList>
+#include <QVariant>
 
 #include <functional>
 #include <utility>
@@ -41,7 +42,21 @@ struct MemoryNode
             before(QString::fromLatin1(operation));
         }
     }
+
+    /*! Makes each of \a operations throw \a exception until `before` is reset. */
+    template <typename Exception>
+    void fail(const QStringList &operations, const Exception &exception)
+    {
+        before = [operations, exception](const QString &operation) {
+            if (operations.contains(operation)) {
+                throw exception;
+            }
+        };
+    }
 };
+
+/*! Writes \a text into the snapshot of \a node; throws as IParameter::setValueFromString() does. */
+void writeMemoryNode(MemoryNode &node, const QString &text);
 
 /*! \brief Property access of a MemoryNode; imposed properties are stored like any other. */
 class MemoryPropertyAccess : public ParameterCollection::NodePropertyAccess
@@ -57,48 +72,44 @@ private:
     MemoryNode *m_node;
 };
 
-/*! \brief A parameter that lives in memory: an implementation of \a Interface over a MemoryNode. */
-template <typename Interface>
+/*! \brief A parameter that lives in memory: an implementation of \a Interface over a MemoryNode, whose
+ * snapshots are of the class \a Snapshot. */
+template <typename Interface, typename Snapshot = ParameterCollection::ParameterData>
 class MemoryParameter : public Interface, public MemoryNode
 {
 public:
+    using Data = Snapshot;
+
     explicit MemoryParameter(const QString &name, const QString &fullName)
     {
         shortName = name;
         path = fullName;
     }
 
-    void setValueFromString(const QString &text) override;
-    bool isExcluded() const override
+    void setValueFromString(const QString &text) override
     {
-        enter("isExcluded");
-        return excluded;
+        enter("setValueFromString");
+        writeMemoryNode(*this, text);
+        publishLater();
     }
+    bool isExcluded() const override { return entered("isExcluded").excluded; }
     bool isWritableNow() const override
     {
-        enter("isWritableNow");
-        return snapshot && snapshot->isImplemented && snapshot->isWritable;
+        const auto data = entered("isWritableNow").snapshot;
+        return data && data->isImplemented && data->isWritable;
     }
     GenApi::EVisibility visibility() const override
     {
-        enter("visibility");
-        return snapshot ? snapshot->visibility : GenApi::UndefinedVisibility;
+        const auto data = entered("visibility").snapshot;
+        return data ? data->visibility : GenApi::UndefinedVisibility;
     }
     ParameterCollection::ParameterType type() const override
     {
-        enter("type");
-        return snapshot ? snapshot->type : ParameterCollection::ParameterType::Unknown;
+        const auto data = entered("type").snapshot;
+        return data ? data->type : ParameterCollection::ParameterType::Unknown;
     }
-    QString fullName() const override
-    {
-        enter("fullName");
-        return path;
-    }
-    QString name() const override
-    {
-        enter("name");
-        return shortName;
-    }
+    QString fullName() const override { return entered("fullName").path; }
+    QString name() const override { return entered("name").shortName; }
     QSharedPointer<ParameterCollection::NodePropertyAccess> propertyAccess() const override
     {
         enter("propertyAccess");
@@ -106,8 +117,7 @@ public:
     }
     QSharedPointer<const ParameterCollection::ParameterData> parameterData() const override
     {
-        enter("parameterData");
-        return snapshot;
+        return entered("parameterData").snapshot;
     }
     void scheduleParameterDataChangedCheck(bool force) override
     {
@@ -128,12 +138,20 @@ public:
     }
 
     /*! Replaces the snapshot by a copy that \a change has changed. Publishes nothing. */
-    template <typename Data>
-    void edit(const std::function<void(Data &)> &change)
+    template <typename Changed = Snapshot, typename Change>
+    void edit(const Change &change)
     {
-        auto copy = QSharedPointer<Data>::create(static_cast<const Data &>(*snapshot));
+        auto copy = QSharedPointer<Changed>::create(static_cast<const Changed &>(*snapshot));
         change(*copy);
         snapshot = copy;
+    }
+
+    /*! Changes the snapshot as edit() does and publishes it. */
+    template <typename Change>
+    void update(const Change &change)
+    {
+        edit(change);
+        publish();
     }
 
     /*! Publishes the current snapshot at once, as if it arrived from the event loop. */
@@ -145,37 +163,40 @@ public:
         QMetaObject::invokeMethod(
             this, [this] { publish(); }, Qt::QueuedConnection);
     }
+
+private:
+    const MemoryNode &entered(const char *operation) const
+    {
+        enter(operation);
+        return *this;
+    }
 };
 
-class MemoryInteger : public MemoryParameter<ParameterCollection::IIntegerParameter>
+/*! \brief A parameter in memory whose value can be set as \a Value, too. */
+template <typename Interface, typename Snapshot, typename Value>
+class MemoryValue : public MemoryParameter<Interface, Snapshot>
 {
 public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(qint64 value) override;
+    using MemoryParameter<Interface, Snapshot>::MemoryParameter;
+    void setValue(Value value) override
+    {
+        this->enter("setValue");
+        writeMemoryNode(*this, QVariant(value).toString());
+        this->publishLater();
+    }
 };
 
-class MemoryFloat : public MemoryParameter<ParameterCollection::IFloatParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(double value) override;
-};
+using MemoryInteger =
+    MemoryValue<ParameterCollection::IIntegerParameter, ParameterCollection::IntegerParameterData, qint64>;
+using MemoryFloat =
+    MemoryValue<ParameterCollection::IFloatParameter, ParameterCollection::FloatParameterData, double>;
+using MemoryEnum =
+    MemoryValue<ParameterCollection::IEnumParameter, ParameterCollection::EnumParameterData, const QString &>;
+using MemoryBoolean =
+    MemoryValue<ParameterCollection::IBooleanParameter, ParameterCollection::BooleanParameterData, bool>;
 
-class MemoryEnum : public MemoryParameter<ParameterCollection::IEnumParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(const QString &name) override;
-};
-
-class MemoryBoolean : public MemoryParameter<ParameterCollection::IBooleanParameter>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void setValue(bool value) override;
-};
-
-class MemoryCommand : public MemoryParameter<ParameterCollection::ICommandParameter>
+class MemoryCommand : public MemoryParameter<ParameterCollection::ICommandParameter,
+                                             ParameterCollection::CommandParameterData>
 {
 public:
     using MemoryParameter::MemoryParameter;
@@ -216,6 +237,15 @@ public:
     /*! Makes \a alias what look-ups of \a name followed by "/Alias" find. */
     void setAlias(const QString &name, const QString &alias);
 
+    /*! Returns what the parameter \a name has in common with all others. */
+    MemoryNode *node(const QString &name) const;
+    /*! Returns the parameter \a name as the class that it is. */
+    template <typename Parameter>
+    QSharedPointer<Parameter> get(const QString &name) const
+    {
+        return qSharedPointerDynamicCast<Parameter>(m_entries.value(shortName(name)).parameter);
+    }
+
     QSharedPointer<ParameterCollection::IParameter> parameter(const QString &name) const override;
     bool hasParameter(const QString &name) const override;
     QStringList childNames(const QString &parent, int depth, bool fullNames) const override;
@@ -240,6 +270,10 @@ private:
     template <typename Parameter>
     QSharedPointer<Parameter> add(const QString &name, const QString &parent,
                                   const QSharedPointer<ParameterCollection::ParameterData> &snapshot);
+    template <typename Parameter, typename Value>
+    QSharedPointer<Parameter> addNumber(const QString &name, const QString &parent, Value value,
+                                        Value minimum, Value maximum, Value increment,
+                                        const QString &representation);
     QString shortName(const QString &name) const;
     void enter(const char *operation) const;
 
@@ -248,14 +282,3 @@ private:
     QHash<QString, Entry> m_entries;
     QHash<QString, QString> m_aliases;
 };
-
-/*! Writes \a text into the snapshot of \a node; throws as IParameter::setValueFromString() does. */
-void writeMemoryNode(MemoryNode &node, const QString &text);
-
-template <typename Interface>
-void MemoryParameter<Interface>::setValueFromString(const QString &text)
-{
-    enter("setValueFromString");
-    writeMemoryNode(*this, text);
-    publishLater();
-}

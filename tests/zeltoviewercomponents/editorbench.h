@@ -7,8 +7,10 @@
 
 #include <support/memorycollection.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QStringList>
+#include <QTest>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -36,6 +38,37 @@ public:
             this, SLOT(refresh()));
         refresh();
         return editor;
+    }
+
+    /*! Shows the bench and waits until keys reach its editors. */
+    void present()
+    {
+        show();
+        QApplication::setActiveWindow(this);
+        QVERIFY(QTest::qWaitForWindowActive(this));
+    }
+
+    static QLineEdit *lineOf(QWidget *editor)
+    {
+        auto *const line = qobject_cast<QLineEdit *>(editor);
+        return line ? line : editor->findChild<QLineEdit *>();
+    }
+
+    /*! Types \a text in the place of what \a editor shows. */
+    static void type(QWidget *editor, const QString &text)
+    {
+        editor->setFocus();
+        lineOf(editor)->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), text);
+    }
+
+    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+    /*! Types \a text and commits it. */
+    static void enter(QWidget *editor, const QString &text)
+    {
+        type(editor, text);
+        press(Qt::Key_Return);
     }
 
     QStringList refusals;

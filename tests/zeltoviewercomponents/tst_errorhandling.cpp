@@ -4,6 +4,7 @@
 #include <platform/core/exception.h>
 #include <platform/genicam/genericexception.h>
 #include <support/logcapture.h>
+#include <support/table.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
@@ -11,6 +12,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <functional>
 #include <stdexcept>
 
 class TestErrorHandling : public QObject
@@ -23,7 +25,6 @@ private slots:
     void messageFunctionsLogAndQueue_data();
     void messageFunctionsLogAndQueue();
     void deliversInOrderFromAnyThread();
-    void belongsToTheApplicationsThread();
     void clearedMessagesAreNotDelivered();
     void appendedMessagesWaitForAReport();
     void deadParentBecomesNull();
@@ -31,9 +32,25 @@ private slots:
 
 namespace {
 
+const char *const displayError =
+    SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *));
+
 AsyncErrorQueue &queue()
 {
     return *GetTheGlobalAsyncErrorQueue();
+}
+
+void runInThreads(int count, const std::function<void(int)> &work)
+{
+    QList<QThread *> threads;
+    for (int i = 0; i < count; ++i) {
+        threads.append(QThread::create([&work, i] { work(i); }));
+        threads.constLast()->start();
+    }
+    for (QThread *thread : std::as_const(threads)) {
+        QVERIFY(thread->wait());
+        delete thread;
+    }
 }
 
 using Report = std::function<void()>;
@@ -45,10 +62,7 @@ Q_DECLARE_METATYPE(Report)
 void TestErrorHandling::initTestCase()
 {
     // Every test then uses a queue that a worker asked for first.
-    QThread *const thread = QThread::create([] { GetTheGlobalAsyncErrorQueue(); });
-    thread->start();
-    QVERIFY(thread->wait());
-    delete thread;
+    runInThreads(1, [](int) { GetTheGlobalAsyncErrorQueue(); });
 }
 
 void TestErrorHandling::init()
@@ -59,141 +73,110 @@ void TestErrorHandling::init()
 
 void TestErrorHandling::messageFunctionsLogAndQueue_data()
 {
-    QTest::addColumn<Report>("report");
-    QTest::addColumn<int>("severity");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("details");
-    QTest::addColumn<QString>("logged");
-    const QString none;
-    const QString euro = QStringLiteral("5 €");
-
-    QTest::newRow("error") << Report([] { showErrorMessage("m", "d"); }) << 20 << "m"
-                           << "d" << none;
-    QTest::newRow("error without details")
-        << Report([] { showErrorMessage("m"); }) << 20 << "m" << none << none;
-    QTest::newRow("warning") << Report([] { showWarningMessage("cap", "ctx", "m", QString("d")); }) << 30
-                             << "m"
-                             << "d"
-                             << "2 zelto.viewer.components.errorHandling: Warning: ctx: cap : m";
-    QTest::newRow("critical, Latin-1 in the log alone")
-        << Report([euro] { showCriticalMessage("cap", "ctx", euro, QString("d")); }) << 10 << euro << "d"
-        << "3 zelto.viewer.components.errorHandling: Critical message: ctx : cap : 5 ? : d";
-    QTest::newRow("standard exception")
-        << Report([] { showException("ctx", std::runtime_error("what")); }) << 10 << "what" << none
-        << "3 zelto.viewer.components.errorHandling: Critical message: ctx : Error : what : ";
-    QTest::newRow("own exception")
-        << Report([] { showException("ctx", Core::Exception::BaseException("own"), QString("d")); }) << 10
-        << "own"
-        << "d"
-        << "3 zelto.viewer.components.errorHandling: Critical message: ctx : Error : own : d";
-    QTest::newRow("GenICam exception")
-        << Report([] { showException("ctx", GenICam::AccessException("locked")); }) << 10 << "locked" << none
-        << "3 zelto.viewer.components.errorHandling: Critical message: ctx : Error : locked : ";
-    QTest::newRow("unexpected exception")
-        << Report([] { showUnexpectedException("ctx", "m"); }) << 10 << "m" << none
-        << "3 zelto.viewer.components.errorHandling: Critical message: ctx : Unexpected exception occurred : "
-           "m : ";
-    QTest::newRow("percent signs") << Report([] { showWarningMessage("%3", "%2", "%1", QString()); }) << 30
-                                   << "%1" << none
-                                   << "2 zelto.viewer.components.errorHandling: Warning: %2: %3 : %1";
+    columns<Report, int, QString, QString, QString>({"report", "severity", "message", "details", "logged"});
+    const QString critical = "3 zelto.viewer.components.errorHandling: Critical message: ctx : ";
+    const auto rowOf = [](const char *name, const Report &report, int severity, const QString &message,
+                          const QString &details,
+                          const QString &logged) { row(name, report, severity, message, details, logged); };
+    rowOf(
+        "error", [] { showErrorMessage("m", "d"); }, 20, "m", "d", "");
+    rowOf(
+        "error without details", [] { showErrorMessage("m"); }, 20, "m", "", "");
+    rowOf(
+        "warning", [] { showWarningMessage("cap", "ctx", "m", QString("d")); }, 30, "m", "d",
+        "2 zelto.viewer.components.errorHandling: Warning: ctx: cap : m");
+    rowOf(
+        "percent signs", [] { showWarningMessage("%3", "%2", "%1", QString()); }, 30, "%1", "",
+        "2 zelto.viewer.components.errorHandling: Warning: %2: %3 : %1");
+    rowOf(
+        "critical, Latin-1 in the log alone", [] { showCriticalMessage("cap", "ctx", "5 €", QString("d")); },
+        10, "5 €", "d", critical + "cap : 5 ? : d");
+    rowOf(
+        "standard exception", [] { showException("ctx", std::runtime_error("what")); }, 10, "what", "",
+        critical + "Error : what : ");
+    rowOf(
+        "own exception", [] { showException("ctx", Core::Exception::BaseException("own"), QString("d")); },
+        10, "own", "d", critical + "Error : own : d");
+    rowOf(
+        "GenICam exception", [] { showException("ctx", GenICam::AccessException("locked")); }, 10, "locked",
+        "", critical + "Error : locked : ");
+    rowOf(
+        "unexpected exception", [] { showUnexpectedException("ctx", "m"); }, 10, "m", "",
+        critical + "Unexpected exception occurred : m : ");
 }
 
 void TestErrorHandling::messageFunctionsLogAndQueue()
 {
     QFETCH(const Report, report);
     QFETCH(const int, severity);
-    QFETCH(const QString, message);
-    QFETCH(const QString, details);
     QFETCH(const QString, logged);
-    QSignalSpy spy(&queue(),
-                   SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
-    QStringList entries;
+    QSignalSpy spy(&queue(), displayError);
     {
         LogCapture log;
         report();
-        entries = log.entries();
+        QCOMPARE(log.entries(), logged.isEmpty() ? QStringList() : QStringList(logged));
     }
-    QCOMPARE(entries, logged.isEmpty() ? QStringList() : QStringList(logged));
     QCOMPARE(spy.count(), 0);
     QCOMPARE(queue().count(), size_t(1));
     QTRY_COMPARE(spy.count(), 1);
     QCOMPARE(spy[0][0].value<AsyncErrorQueue::ErrorSeverity>(), AsyncErrorQueue::ErrorSeverity(severity));
-    QCOMPARE(spy[0][1].toString(), message);
-    QCOMPARE(spy[0][2].toString(), details);
+    QTEST(spy[0][1].toString(), "message");
+    QTEST(spy[0][2].toString(), "details");
     QCOMPARE(queue().count(), size_t(0));
 }
 
 void TestErrorHandling::deliversInOrderFromAnyThread()
 {
-    QSignalSpy spy(&queue(),
-                   SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
-    QList<QThread *> threads;
-    for (int t = 0; t < 4; ++t) {
-        threads.append(QThread::create([t] {
-            for (int i = 0; i < 100; ++i) {
-                showErrorMessage(QString::number(t), QString::number(i));
-            }
-        }));
-        threads.constLast()->start();
-    }
-    for (QThread *thread : threads) {
-        QVERIFY(thread->wait());
-        delete thread;
-    }
+    QSignalSpy spy(&queue(), displayError);
+    bool isOwnThread = true;
+    const auto connection = connect(&queue(), &AsyncErrorQueue::displayError, &queue(), [&isOwnThread] {
+        isOwnThread = isOwnThread && QThread::currentThread() == qApp->thread();
+    });
+    runInThreads(4, [](int thread) {
+        for (int i = 0; i < 100; ++i) {
+            showErrorMessage(QString::number(thread), QString::number(i));
+        }
+    });
     QTRY_COMPARE(spy.count(), 400);
+    disconnect(connection);
+    QVERIFY(isOwnThread);
     QHash<QString, int> next;
     for (const auto &emission : std::as_const(spy)) {
         QCOMPARE(emission[2].toInt(), next[emission[1].toString()]++);
     }
 }
 
-void TestErrorHandling::belongsToTheApplicationsThread()
-{
-    QCOMPARE(queue().thread(), qApp->thread());
-    QThread *delivered = nullptr;
-    connect(&queue(), &AsyncErrorQueue::displayError, this,
-            [&delivered] { delivered = QThread::currentThread(); });
-    QThread *const thread = QThread::create([] { showErrorMessage(QStringLiteral("from a worker")); });
-    thread->start();
-    QVERIFY(thread->wait());
-    delete thread;
-    QTRY_COMPARE(delivered, qApp->thread());
-    disconnect(&queue(), nullptr, this, nullptr);
-}
-
 void TestErrorHandling::clearedMessagesAreNotDelivered()
 {
-    QSignalSpy spy(&queue(),
-                   SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
-    showErrorMessage(QStringLiteral("gone"));
+    QSignalSpy spy(&queue(), displayError);
+    showErrorMessage("gone");
     queue().clear();
-    showErrorMessage(QStringLiteral("kept"));
+    showErrorMessage("kept");
     QTRY_COMPARE(spy.count(), 1);
     QCoreApplication::processEvents();
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy[0][1].toString(), QStringLiteral("kept"));
+    QCOMPARE(spy[0][1].toString(), "kept");
 }
 
 void TestErrorHandling::appendedMessagesWaitForAReport()
 {
     AsyncErrorQueue own;
-    QSignalSpy spy(&own, SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
-    QVERIFY(own.append(AsyncErrorQueue::Error, QStringLiteral("first"), QString(), nullptr));
+    QSignalSpy spy(&own, displayError);
+    QVERIFY(own.append(AsyncErrorQueue::Error, "first", QString(), nullptr));
     QCoreApplication::processEvents();
     QCOMPARE(spy.count(), 0);
-    QVERIFY(own.reportErrorAsync(AsyncErrorQueue::Error, QStringLiteral("second"), QString(), nullptr));
+    QVERIFY(own.reportErrorAsync(AsyncErrorQueue::Error, "second", QString(), nullptr));
     QTRY_COMPARE(spy.count(), 1);
-    QCOMPARE(spy[0][1].toString(), QStringLiteral("first"));
+    QCOMPARE(spy[0][1].toString(), "first");
 }
 
 void TestErrorHandling::deadParentBecomesNull()
 {
-    QSignalSpy spy(&queue(),
-                   SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)));
+    QSignalSpy spy(&queue(), displayError);
     QWidget alive;
     auto *const dying = new QWidget;
-    showErrorMessage(QStringLiteral("a"), &alive);
-    showErrorMessage(QStringLiteral("b"), dying);
+    showErrorMessage("a", &alive);
+    showErrorMessage("b", dying);
     delete dying;
     QTRY_COMPARE(spy.count(), 2);
     QCOMPARE(spy[0][3].value<QWidget *>(), &alive);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include <support/memorycollection.h>
-#include <support/strictidentityproxy.h>
+#include <support/randomnodes.h>
+#include <support/table.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>
@@ -24,8 +24,7 @@ using namespace ParameterCollection;
 
 namespace {
 
-const QStringList mapNames{QStringLiteral("@CameraDevice"), QStringLiteral("@StreamGrabber0"),
-                           QStringLiteral("@Other")};
+const QStringList mapNames{"@CameraDevice", "@StreamGrabber0", "@Other"};
 const QStringList texts{"", "gain", "TRIGGER", "e", "1", "zzz", "fav", "off", ""};
 
 QString nameOf(const QModelIndex &index)
@@ -116,7 +115,7 @@ class TestFeatureTreeChurn : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QSettings().clear(); }
     void churn_data();
     void churn();
     void viewsShareTheList_data();
@@ -124,7 +123,6 @@ private slots:
 
 private:
     void fillCollections();
-    void addNode(MemoryCollection &collection, QStringList &categories, int number);
     void step(Tree &tree);
     void changeFavorites(Tree &tree);
     void flipFeature();
@@ -137,41 +135,13 @@ private:
     int m_lastStep = 0;
 };
 
-void TestFeatureTreeChurn::initTestCase()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_featuretreechurn"));
-    QSettings().clear();
-}
-
-void TestFeatureTreeChurn::addNode(MemoryCollection &collection, QStringList &categories, int number)
-{
-    static const QStringList words{"Gain", "Exposure", "Trigger", "Line", "Offset"};
-    const QString parent = categories[m_random.bounded(categories.size())];
-    const QString name = words[m_random.bounded(words.size())] + QString::number(number);
-    if (m_random.bounded(3) == 0) {
-        const auto category = collection.addCategory(name, parent);
-        category->snapshot->visibility = GenApi::EVisibility(m_random.bounded(3));
-        categories.append(name);
-        return;
-    }
-    const auto feature = collection.addInteger(name, parent);
-    feature->snapshot->visibility = GenApi::EVisibility(m_random.bounded(4));
-    feature->snapshot->isImplemented = m_random.bounded(4) > 0;
-    m_features.append(feature);
-}
-
 void TestFeatureTreeChurn::fillCollections()
 {
     m_collections.clear();
     m_features.clear();
     for (const QString &mapName : mapNames) {
-        const auto collection = QSharedPointer<MemoryCollection>::create(mapName);
-        QStringList categories{QStringLiteral("Root")};
-        for (int number = 0; number < 14; ++number) {
-            addNode(*collection, categories, number);
-        }
-        m_collections.append(collection);
+        m_collections.append(QSharedPointer<MemoryCollection>::create(mapName));
+        m_features.append(addRandomNodes(*m_collections.constLast(), m_random, 14));
     }
 }
 
@@ -213,7 +183,7 @@ void TestFeatureTreeChurn::changeFavorites(Tree &tree)
         break;
     }
     case 4:
-        favorites.appendEntry({QStringLiteral("Missing"), QStringLiteral("Missing gain"), mapNames[0]});
+        favorites.appendEntry({"Missing", "Missing gain", mapNames[0]});
         break;
     default:
         tree.proxy().AddFavorite(m_features[m_random.bounded(m_features.size())], m_random.bounded(5));
@@ -227,11 +197,10 @@ void TestFeatureTreeChurn::flipFeature()
         const auto &feature = m_features[m_random.bounded(m_features.size())];
         const auto visibility = GenApi::EVisibility(m_random.bounded(4));
         const bool implemented = m_random.bounded(3) > 0;
-        feature->edit<IntegerParameterData>([visibility, implemented](auto &data) {
+        feature->update([visibility, implemented](auto &data) {
             data.visibility = visibility;
             data.isImplemented = implemented;
         });
-        feature->publish();
     }
 }
 
@@ -291,8 +260,7 @@ void TestFeatureTreeChurn::check(Tree &tree, int number) const
 
 void TestFeatureTreeChurn::churn_data()
 {
-    QTest::addColumn<int>("seed");
-    QTest::addColumn<bool>("isWatched");
+    columns<int, bool>({"seed", "isWatched"});
     for (int seed = 1; seed <= 40; ++seed) {
         // The tester visits all rows; without it branches stay unloaded until they are shown.
         QTest::addRow("%d", seed) << seed << (seed % 2 == 0);
@@ -332,7 +300,7 @@ void TestFeatureTreeChurn::churn()
 
 void TestFeatureTreeChurn::viewsShareTheList_data()
 {
-    QTest::addColumn<int>("seed");
+    columns<int>({"seed"});
     for (int seed = 1; seed <= 6; ++seed) {
         QTest::addRow("%d", seed) << seed;
     }

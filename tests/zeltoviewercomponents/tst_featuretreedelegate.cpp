@@ -3,18 +3,13 @@
 
 #include "treebench.h"
 
-#include <zeltoviewercomponents/featuretree/checkboxeditor.h>
-#include <zeltoviewercomponents/featuretree/enumeditor.h>
+#include <support/table.h>
 #include <zeltoviewercomponents/featuretree/featuretreedelegate.h>
 #include <zeltoviewercomponents/featuretree/featuretreehighlighter.h>
-#include <zeltoviewercomponents/featuretree/floateditor.h>
-#include <zeltoviewercomponents/featuretree/floatslidereditor.h>
-#include <zeltoviewercomponents/featuretree/inteditor.h>
-#include <zeltoviewercomponents/featuretree/intslidereditor.h>
-#include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
 #include <QImage>
 #include <QLineEdit>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QPair>
 #include <QSettings>
@@ -105,76 +100,60 @@ private slots:
 
 void TestFeatureTreeDelegate::createsEditors_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("className");
-    QTest::addColumn<QByteArray>("commitSignal");
-    QTest::newRow("linear integer") << "Linear" << QByteArray("IntSliderEditor")
-                                    << QByteArray(SIGNAL(valueChanged(int)));
-    QTest::newRow("logarithmic integer")
-        << "Logarithmic" << QByteArray("IntSliderEditor") << QByteArray(SIGNAL(valueChanged(int)));
-    QTest::newRow("pure integer") << "PureNumber" << QByteArray("IntEditor") << QByteArray();
-    QTest::newRow("hexadecimal integer") << "HexNumber" << QByteArray("IntEditor") << QByteArray();
-    QTest::newRow("float without alias")
-        << "ExposureTime" << QByteArray("FloatEditor") << QByteArray(SIGNAL(boxValueChanged()));
-    QTest::newRow("float with alias")
-        << "Aliased" << QByteArray("FloatSliderEditor") << QByteArray(SIGNAL(boxValueChanged()));
-    QTest::newRow("pure float with alias")
-        << "PureAliased" << QByteArray("FloatEditor") << QByteArray(SIGNAL(boxValueChanged()));
-    QTest::newRow("enumeration") << "PixelFormat" << QByteArray("EnumEditor")
-                                 << QByteArray(SIGNAL(activated(int)));
-    QTest::newRow("boolean") << "ReverseX" << QByteArray("CheckBoxEditor")
-                             << QByteArray(SIGNAL(clicked(bool)));
-    QTest::newRow("command") << "TriggerSoftware" << QByteArray("ToolButtonEditor")
-                             << QByteArray(SIGNAL(clicked(bool)));
-    QTest::newRow("string") << "DeviceUserID" << QByteArray("QExpandingLineEdit") << QByteArray();
-    QTest::newRow("read-only") << "ReadOnly" << QByteArray("CheckBoxEditor")
-                               << QByteArray(SIGNAL(clicked(bool)));
-    QTest::newRow("not available") << "NotAvailable" << QByteArray() << QByteArray();
-    QTest::newRow("not implemented") << "NotImplemented" << QByteArray() << QByteArray();
-    QTest::newRow("category") << "DeviceControl" << QByteArray("QExpandingLineEdit") << QByteArray();
+    columns<QString, QByteArray, QByteArray>({"name", "className", "commitSignal"});
+    const auto editor = [](const char *name, const char *className, const char *commitSignal) {
+        row(name, name, QByteArray(className), QByteArray(commitSignal));
+    };
+    editor("Linear", "IntSliderEditor", SIGNAL(valueChanged(int)));
+    editor("Logarithmic", "IntSliderEditor", SIGNAL(valueChanged(int)));
+    editor("PureNumber", "IntEditor", "");
+    editor("HexNumber", "IntEditor", "");
+    editor("ExposureTime", "FloatEditor", SIGNAL(boxValueChanged()));
+    editor("Aliased", "FloatSliderEditor", SIGNAL(boxValueChanged()));
+    editor("PureAliased", "FloatEditor", SIGNAL(boxValueChanged()));
+    editor("PixelFormat", "EnumEditor", SIGNAL(activated(int)));
+    editor("ReverseX", "CheckBoxEditor", SIGNAL(clicked(bool)));
+    editor("TriggerSoftware", "ToolButtonEditor", SIGNAL(clicked(bool)));
+    editor("DeviceUserID", "QExpandingLineEdit", "");
+    editor("ReadOnly", "CheckBoxEditor", SIGNAL(clicked(bool)));
+    editor("NotAvailable", "", "");
+    editor("NotImplemented", "", "");
+    editor("DeviceControl", "QExpandingLineEdit", "");
 }
 
 void TestFeatureTreeDelegate::createsEditors()
 {
     QFETCH(QString, name);
-    QFETCH(QByteArray, className);
     QFETCH(QByteArray, commitSignal);
     auto camera = MemoryCollection::createSample();
-    const QString parent = QStringLiteral("DeviceControl");
+    const QString parent = "DeviceControl";
     for (const char *const representation : {"Linear", "Logarithmic", "PureNumber", "HexNumber"}) {
-        const QString text = QString::fromLatin1(representation);
-        camera->addInteger(text, parent, 1, 0, 10, 1, text);
+        camera->addInteger(representation, parent, 1, 0, 10, 1, representation);
     }
-    camera->addFloat(QStringLiteral("Aliased"), parent, 1, 0, 10, 0, QStringLiteral("Linear"));
-    camera->addFloat(QStringLiteral("PureAliased"), parent, 1, 0, 10);
-    camera->setAlias(QStringLiteral("Aliased"), QStringLiteral("Linear"));
-    camera->setAlias(QStringLiteral("PureAliased"), QStringLiteral("Linear"));
-    camera->addBoolean(QStringLiteral("ReadOnly"), parent)
-        ->edit<ParameterCollection::BooleanParameterData>([](auto &data) { data.isWritable = false; });
-    camera->addInteger(QStringLiteral("NotAvailable"), parent)
-        ->edit<ParameterCollection::IntegerParameterData>([](auto &data) {
-            data.isReadable = false;
-            data.isWritable = false;
-        });
-    const auto missing = camera->addInteger(QStringLiteral("NotImplemented"), parent);
+    camera->addFloat("Aliased", parent, 1, 0, 10, 0, "Linear");
+    camera->addFloat("PureAliased", parent, 1, 0, 10);
+    camera->setAlias("Aliased", "Linear");
+    camera->setAlias("PureAliased", "Linear");
+    camera->addBoolean("ReadOnly", parent)->snapshot->isWritable = false;
+    camera->addInteger("NotAvailable", parent)->edit([](auto &data) {
+        data.isReadable = data.isWritable = false;
+    });
+    const auto missing = camera->addInteger("NotImplemented", parent);
 
     TreeBench bench(camera);
     const QModelIndex index = bench.value(name); // found before the row is filtered out
     QVERIFY(index.isValid());
-    missing->edit<ParameterCollection::IntegerParameterData>([](auto &data) { data.isImplemented = false; });
-    missing->publish();
+    missing->update([](auto &data) { data.isImplemented = false; });
     const FeatureTreeDelegate delegate(nullptr, bench.extension(), nullptr);
     QSignalSpy commits(&delegate, SIGNAL(commitData(QWidget *)));
     const std::unique_ptr<QWidget> editor(
         delegate.createEditor(bench.view()->viewport(), optionFor(bench.view(), 100), index));
-    QCOMPARE(editor ? QByteArray(editor->metaObject()->className()) : QByteArray(), className);
+    QTEST(QByteArray(editor ? editor->metaObject()->className() : ""), "className");
     if (!commitSignal.isEmpty()) {
-        const QByteArray signal = commitSignal.mid(1);
-        const int method = editor->metaObject()->indexOfSignal(signal);
-        QVERIFY(method >= 0);
-        QVERIFY(editor->metaObject()->method(method).invoke(editor.get(), Q_ARG(int, 1))
-                || editor->metaObject()->method(method).invoke(editor.get(), Q_ARG(bool, true))
-                || editor->metaObject()->method(method).invoke(editor.get()));
+        const QMetaObject &metaObject = *editor->metaObject();
+        const QMetaMethod method = metaObject.method(metaObject.indexOfSignal(commitSignal.mid(1)));
+        QVERIFY(method.invoke(editor.get(), Q_ARG(int, 1)) || method.invoke(editor.get(), Q_ARG(bool, true))
+                || method.invoke(editor.get()));
         QCOMPARE(commits.size(), 1);
         QCOMPARE(commits.value(0).value(0).value<QWidget *>(), editor.get());
     }
@@ -197,13 +176,9 @@ void TestFeatureTreeDelegate::createsNoEditorForUnusableRows()
         QCOMPARE(editor != nullptr, QByteArray(name) == "Gain");
     }
     // A parameter that throws costs the editor, nothing else.
-    bench.node(QStringLiteral("Gain"))->excluded = false;
-    bench.node(QStringLiteral("Gain"))->before = [](const QString &operation) {
-        if (operation == QLatin1String("property")) {
-            throw GenICam::GenericException(QStringLiteral("gone"));
-        }
-    };
-    QVERIFY(!delegate.createEditor(parent, option, bench.value(QStringLiteral("Gain"))));
+    bench.node("Gain")->excluded = false;
+    bench.node("Gain")->fail({"property"}, GenICam::GenericException("gone"));
+    QVERIFY(!delegate.createEditor(parent, option, bench.value("Gain")));
 }
 
 void TestFeatureTreeDelegate::commitsForTheSender()
@@ -214,7 +189,7 @@ void TestFeatureTreeDelegate::commitsForTheSender()
     delegate.emitCommitData();
     QObject noWidget;
     connect(&noWidget, SIGNAL(objectNameChanged(QString)), &delegate, SLOT(emitCommitData()));
-    noWidget.setObjectName(QStringLiteral("renamed"));
+    noWidget.setObjectName("renamed");
     QCOMPARE(commits.size(), 2);
     for (const QVariantList &arguments : std::as_const(commits)) {
         QCOMPARE(arguments.constFirst().value<QWidget *>(), nullptr);
@@ -225,20 +200,20 @@ void TestFeatureTreeDelegate::keepsWhatIsTyped()
 {
     TreeBench bench;
     const FeatureTreeDelegate delegate(nullptr, bench.extension(), nullptr);
-    const QModelIndex index = bench.value(QStringLiteral("DeviceUserID"));
+    const QModelIndex index = bench.value("DeviceUserID");
     auto *const edit =
         qobject_cast<QLineEdit *>(delegate.createEditor(&bench.widget, optionFor(bench.view(), 100), index));
     QVERIFY(edit);
     edit->show();
     delegate.setEditorData(edit, index);
-    QCOMPARE(edit->text(), QStringLiteral("left"));
-    edit->setText(QStringLiteral("typed"));
+    QCOMPARE(edit->text(), "left");
+    edit->setText("typed");
     edit->setFocus();
     delegate.setEditorData(edit, index);
-    QCOMPARE(edit->text(), QStringLiteral("typed"));
+    QCOMPARE(edit->text(), "typed");
     bench.box()->setFocus();
     delegate.setEditorData(edit, index);
-    QCOMPARE(edit->text(), QStringLiteral("left"));
+    QCOMPARE(edit->text(), "left");
 
     QPointer<QWidget> gone(edit);
     delegate.destroyEditor(edit, index);
@@ -251,7 +226,7 @@ void TestFeatureTreeDelegate::leavesOtherCellsToTheBase()
 {
     TreeBench bench;
     FeatureTreeHighlighter highlighter;
-    highlighter.setText(QStringLiteral("o"));
+    highlighter.setText("o");
     const FeatureTreeDelegate with(bench.view(), bench.extension(), &highlighter);
     const FeatureTreeDelegate without(bench.view(), bench.extension(), nullptr);
     const QStyledItemDelegate base(bench.view());
@@ -260,9 +235,9 @@ void TestFeatureTreeDelegate::leavesOtherCellsToTheBase()
         return painted([&](QPainter *painter) { base.paint(painter, option, index); },
                        option.palette.color(QPalette::Base));
     };
-    const QModelIndex category = bench.row(QStringLiteral("DeviceControl"));
-    const QModelIndex name = bench.row(QStringLiteral("OffsetX"));
-    const QModelIndex value = bench.value(QStringLiteral("OffsetX"));
+    const QModelIndex category = bench.row("DeviceControl");
+    const QModelIndex name = bench.row("OffsetX");
+    const QModelIndex value = bench.value("OffsetX");
     QCOMPARE(paintedRow(with, bench.view(), category), baseRow(category));
     QCOMPARE(paintedRow(with, bench.view(), value), baseRow(value));
     QCOMPARE(paintedRow(without, bench.view(), name), baseRow(name));
@@ -272,17 +247,17 @@ void TestFeatureTreeDelegate::leavesOtherCellsToTheBase()
 void TestFeatureTreeDelegate::marksMatches()
 {
     auto camera = MemoryCollection::createSample();
-    camera->addInteger(QStringLiteral("AnnotationAnna"), QStringLiteral("DeviceControl"));
+    camera->addInteger("AnnotationAnna", "DeviceControl");
     TreeBench bench(camera);
     FeatureTreeHighlighter highlighter;
     const FeatureTreeDelegate delegate(bench.view(), bench.extension(), &highlighter);
-    const QModelIndex index = bench.row(QStringLiteral("AnnotationAnna"));
+    const QModelIndex index = bench.row("AnnotationAnna");
     QCOMPARE(runsOf(highlighter.color(), paintedRow(delegate, bench.view(), index)).size(), 0);
 
-    highlighter.setText(QStringLiteral("ANN"));
+    highlighter.setText("ANN");
     const auto runs = runsOf(highlighter.color(), paintedRow(delegate, bench.view(), index));
     const QFontMetrics metrics(QApplication::font());
-    const QString name = QStringLiteral("AnnotationAnna");
+    const QString name = "AnnotationAnna";
     QStyleOptionViewItem option = optionFor(bench.view(), 300);
     option.features |= QStyleOptionViewItem::HasDisplay;
     option.text = name;
@@ -293,7 +268,7 @@ void TestFeatureTreeDelegate::marksMatches()
     QCOMPARE(runs.at(1).first, left + metrics.horizontalAdvance(name, 10));
     QCOMPARE(runs.at(1).second, left + metrics.horizontalAdvance(name, 13) - 1);
     // What was elided has nothing to mark.
-    const int narrow = metrics.horizontalAdvance(QStringLiteral("Annotation")) + 12;
+    const int narrow = metrics.horizontalAdvance("Annotation") + 12;
     QCOMPARE(runsOf(highlighter.color(), paintedRow(delegate, bench.view(), index, narrow)).size(), 1);
 }
 
@@ -302,7 +277,7 @@ void TestFeatureTreeDelegate::elidesEarlier()
     TreeBench bench;
     FeatureTreeHighlighter highlighter;
     const FeatureTreeDelegate delegate(bench.view(), bench.extension(), &highlighter);
-    const QModelIndex index = bench.row(QStringLiteral("TriggerSoftware"));
+    const QModelIndex index = bench.row("TriggerSoftware");
     const auto cellOf = [&](int width) {
         const QStyleOptionViewItem option = optionFor(bench.view(), width);
         return painted([&](QPainter *painter) { delegate.paint(painter, option, index); }, Qt::white);
@@ -317,16 +292,15 @@ void TestFeatureTreeDelegate::elidesEarlier()
         return width;
     };
     const int before = neededWidth();
-    highlighter.setText(QStringLiteral("zzzzz"));
+    highlighter.setText("zzzzz");
     QCOMPARE(neededWidth() - before, 10);
 }
 
 void TestFeatureTreeDelegate::paintsOneText_data()
 {
-    QTest::addColumn<QColor>("base");
-    QTest::addColumn<QColor>("text");
-    QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
-    QTest::newRow("dark") << QColor(30, 30, 30) << QColor(Qt::white);
+    columns<QColor, QColor>({"base", "text"});
+    row("light", QColor(Qt::white), QColor(Qt::black));
+    row("dark", QColor(30, 30, 30), QColor(Qt::white));
 }
 
 void TestFeatureTreeDelegate::paintsOneText()
@@ -340,32 +314,28 @@ void TestFeatureTreeDelegate::paintsOneText()
     bench.view()->setPalette(palette);
     FeatureTreeHighlighter highlighter;
     const FeatureTreeDelegate delegate(bench.view(), bench.extension(), &highlighter);
-    const QModelIndex index = bench.row(QStringLiteral("Width"));
+    const QModelIndex index = bench.row("Width");
     const QImage row = paintedRow(delegate, bench.view(), index);
     // The same as one drawing of the name in the palette's colour on the palette's base.
     QStyleOptionViewItem option = optionFor(bench.view(), 300);
     option.features |= QStyleOptionViewItem::HasDisplay;
-    option.text = QStringLiteral("Width");
+    option.text = "Width";
     const QRect rect = bench.view()->style()->subElementRect(QStyle::SE_ItemViewItemText, &option);
     const QImage alone = painted(
         [&](QPainter *painter) {
             painter->setPen(text);
             const int dy = static_cast<int>(rect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
-            painter->drawText(rect.adjusted(0, dy, 0, 0), 0, QStringLiteral("Width"));
+            painter->drawText(rect.adjusted(0, dy, 0, 0), 0, "Width");
         },
         base);
     QCOMPARE(row, alone);
 
     // On a mark, letters are dark, whatever they are beside it.
-    highlighter.setText(QStringLiteral("Width"));
+    highlighter.setText("Width");
     const QImage marked = paintedRow(delegate, bench.view(), index);
+    const QPair<int, int> run = runsOf(highlighter.color(), marked).value(0);
     int darkest = 255;
-    for (int x = 0; x < marked.width(); ++x) {
-        if (!QRect(runsOf(highlighter.color(), marked).value(0).first, 0,
-                   runsOf(highlighter.color(), marked).value(0).second, 24)
-                 .contains(x, 12)) {
-            continue;
-        }
+    for (int x = run.first; x < run.second; ++x) {
         for (int y = 0; y < marked.height(); ++y) {
             darkest = std::min(darkest, qGray(marked.pixel(x, y)));
         }
@@ -379,7 +349,7 @@ void TestFeatureTreeDelegate::paintsSelectionAndCurrentRow()
     const auto picture = [&bench] { return bench.view()->viewport()->grab().toImage(); };
     bench.view()->selectionModel()->clear();
     const QImage plain = picture();
-    const QModelIndex index = bench.row(QStringLiteral("OffsetX"));
+    const QModelIndex index = bench.row("OffsetX");
     bench.view()->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     QCOMPARE(picture(), plain);
     QVERIFY(bench.view()->selectionModel()->isSelected(index));
@@ -401,7 +371,7 @@ void TestFeatureTreeDelegate::rendersRichTextOnce()
 {
     TreeBench bench;
     FeatureTreeHighlighter highlighter;
-    highlighter.setText(QStringLiteral("b"));
+    highlighter.setText("b");
     const FeatureTreeDelegate delegate(bench.view(), bench.extension(), &highlighter);
     FeatureTreeItem *const row = bench.extension()->getSearchHelpItem();
     row->setVisibility(GenApi::Beginner);
@@ -423,10 +393,10 @@ void TestFeatureTreeDelegate::rendersRichTextOnce()
         }
         return last;
     };
-    const int plain = widthOf(QStringLiteral("bbbb bbbb"));
+    const int plain = widthOf("bbbb bbbb");
     QVERIFY(plain > 0);
-    QCOMPARE(widthOf(QStringLiteral("<HTML>bbbb bbbb")), plain);
-    QVERIFY(widthOf(QStringLiteral("<HTML><B>bbbb bbbb</B>")) < 2 * plain);
+    QCOMPARE(widthOf("<HTML>bbbb bbbb"), plain);
+    QVERIFY(widthOf("<HTML><B>bbbb bbbb</B>") < 2 * plain);
 }
 
 QTEST_MAIN(TestFeatureTreeDelegate)

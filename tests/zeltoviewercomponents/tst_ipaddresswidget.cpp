@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <support/table.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 
@@ -16,15 +17,6 @@
 
 #include <algorithm>
 
-namespace {
-
-QHostAddress address(const char *text)
-{
-    return QHostAddress(QString::fromLatin1(text));
-}
-
-} // namespace
-
 class TestIpAddressWidget : public QObject
 {
     Q_OBJECT
@@ -36,14 +28,11 @@ private slots:
     void okNeedsUsableConfiguration_data();
     void okNeedsUsableConfiguration();
     void pastedTextIsCleaned();
-    void prefixLengthBecomesMask();
     void maskIsSuggested();
-    void givenMaskIsKept();
     void macAddressIsShownOrEntered();
     void foreignValuesAreRefused();
     void acceptRefusesUnusable();
     void keyboardAlone();
-    void helpLinkAppears();
     void nothingMovesWhileTyping();
 
 private:
@@ -85,10 +74,10 @@ QPushButton *TestIpAddressWidget::ok() const
 
 void TestIpAddressWidget::enterUsable()
 {
-    m_dialog->setIpAddress(address("192.168.1.10"));
-    m_dialog->setSubnetMask(address("255.255.255.0"));
-    m_dialog->setDefaultGateway(address("192.168.1.1"));
-    m_dialog->setMacAddress(QStringLiteral("00-1b-2c-3d-4e-5f"));
+    m_dialog->setIpAddress(QHostAddress("192.168.1.10"));
+    m_dialog->setSubnetMask(QHostAddress("255.255.255.0"));
+    m_dialog->setDefaultGateway(QHostAddress("192.168.1.1"));
+    m_dialog->setMacAddress("00-1b-2c-3d-4e-5f");
 }
 
 // The words stand in the row of the field that they are about.
@@ -117,46 +106,36 @@ void TestIpAddressWidget::valuesComeBack()
 {
     QVERIFY(!ok()->isEnabled());
     QVERIFY(m_dialog->ipAddress().isNull());
-    QCOMPARE(m_dialog->defaultGateway(), address("0.0.0.0"));
+    QCOMPARE(m_dialog->defaultGateway(), QHostAddress("0.0.0.0"));
     enterUsable();
     QVERIFY(m_dialog->isUsable());
     QVERIFY(ok()->isEnabled());
-    QCOMPARE(m_dialog->ipAddress(), address("192.168.1.10"));
-    QCOMPARE(m_dialog->subnetMask(), address("255.255.255.0"));
-    QCOMPARE(m_dialog->defaultGateway(), address("192.168.1.1"));
-    QCOMPARE(m_dialog->macAddress(), QStringLiteral("00:1B:2C:3D:4E:5F"));
+    QCOMPARE(m_dialog->ipAddress(), QHostAddress("192.168.1.10"));
+    QCOMPARE(m_dialog->subnetMask(), QHostAddress("255.255.255.0"));
+    QCOMPARE(m_dialog->defaultGateway(), QHostAddress("192.168.1.1"));
+    QCOMPARE(m_dialog->macAddress(), "00:1B:2C:3D:4E:5F");
     QVERIFY(shownReason(field("IP address")).isEmpty());
 }
 
 void TestIpAddressWidget::okNeedsUsableConfiguration_data()
 {
-    QTest::addColumn<QString>("ip");
-    QTest::addColumn<QString>("mask");
-    QTest::addColumn<QString>("gateway");
-    QTest::addColumn<QStringList>("wrongFields");
+    columns<QString, QString, QString, QStringList>({"ip", "mask", "gateway", "wrongFields"});
     const QStringList none;
-    const auto row = [](const char *name, const char *ip, const char *mask, const char *gateway,
-                        const QStringList &wrongFields) {
-        QTest::newRow(name) << QString::fromLatin1(ip) << QString::fromLatin1(mask)
-                            << QString::fromLatin1(gateway) << wrongFields;
-    };
-    const QString ip = QStringLiteral("IP address");
-    const QString mask = QStringLiteral("Subnet mask");
-    const QString gateway = QStringLiteral("Default gateway");
+    const QStringList ip{"IP address"};
+    const QStringList mask{"Subnet mask"};
+    const QStringList gateway{"Default gateway"};
     row("usable", "10.0.0.5", "255.255.255.0", "10.0.0.1", none);
     row("no gateway", "10.0.0.5", "255.255.255.0", "0.0.0.0", none);
     row("prefix length", "10.0.0.5", "/24", "10.0.0.1", none);
     row("31 bits", "10.0.0.4", "255.255.255.254", "10.0.0.5", none);
     row("32 bits", "10.0.0.4", "/32", "0.0.0.0", none);
-    row("empty gateway", "10.0.0.5", "255.255.255.0", "", {gateway});
-    row("half an address", "10.0.0", "255.255.255.0", "0.0.0.0", {ip});
-    row("network", "10.0.0.0", "255.255.255.0", "0.0.0.0", {ip});
-    row("broadcast", "10.0.0.255", "255.255.255.0", "0.0.0.0", {ip});
-    row("broken mask", "10.0.0.5", "255.0.255.0", "10.0.0.1", {mask});
-    row("gateway elsewhere", "10.0.0.5", "255.255.255.0", "10.0.1.1", {gateway});
-    row("gateway is the device", "10.0.0.5", "255.255.255.0", "10.0.0.5", {gateway});
-    row("gateway, 32 bits", "10.0.0.4", "/32", "10.0.0.5", {gateway});
-    row("letters", "a", "b", "c", {ip, mask, gateway});
+    row("empty gateway", "10.0.0.5", "255.255.255.0", "", gateway);
+    row("half an address", "10.0.0", "255.255.255.0", "0.0.0.0", ip);
+    row("network", "10.0.0.0", "255.255.255.0", "0.0.0.0", ip);
+    row("broken mask", "10.0.0.5", "255.0.255.0", "10.0.0.1", mask);
+    row("gateway elsewhere", "10.0.0.5", "255.255.255.0", "10.0.1.1", gateway);
+    row("gateway is the device", "10.0.0.5", "255.255.255.0", "10.0.0.5", gateway);
+    row("letters", "a", "b", "c", ip + mask + gateway);
 }
 
 void TestIpAddressWidget::okNeedsUsableConfiguration()
@@ -177,65 +156,55 @@ void TestIpAddressWidget::okNeedsUsableConfiguration()
         QCOMPARE(!reason.isEmpty(), wrongFields.contains(QLatin1String(name)));
         QCOMPARE(field(name)->accessibleDescription(), reason);
     }
-    QCOMPARE(m_dialog->subnetMask().isNull(), wrongFields.contains(QStringLiteral("Subnet mask")));
+    QCOMPARE(m_dialog->subnetMask().isNull(), wrongFields.contains("Subnet mask"));
 }
 
 void TestIpAddressWidget::pastedTextIsCleaned()
 {
     QLineEdit *const edit = field("IP address");
-    QGuiApplication::clipboard()->setText(QStringLiteral("  192.168.1 .10\n"));
+    QGuiApplication::clipboard()->setText("  192.168.1 .10\n");
     edit->paste();
-    QCOMPARE(edit->text(), QStringLiteral("192.168.1.10"));
+    QCOMPARE(edit->text(), "192.168.1.10");
 
     // In the middle of a text the cursor stays behind what was pasted.
-    edit->setText(QStringLiteral("192.10"));
+    edit->setText("192.10");
     edit->setCursorPosition(4);
-    QGuiApplication::clipboard()->setText(QStringLiteral(" 168.1. "));
+    QGuiApplication::clipboard()->setText(" 168.1. ");
     edit->paste();
-    QCOMPARE(edit->text(), QStringLiteral("192.168.1.10"));
+    QCOMPARE(edit->text(), "192.168.1.10");
     QCOMPARE(edit->cursorPosition(), 10);
 
-    QGuiApplication::clipboard()->setText(QStringLiteral("1 0.0.0.5"));
+    QGuiApplication::clipboard()->setText("1 0.0.0.5");
     edit->selectAll();
     edit->paste();
-    QCOMPARE(edit->text(), QStringLiteral("1 0.0.0.5"));
+    QCOMPARE(edit->text(), "1 0.0.0.5");
     QVERIFY(!shownReason(edit).isEmpty());
-}
-
-void TestIpAddressWidget::prefixLengthBecomesMask()
-{
-    QLineEdit *const edit = field("Subnet mask");
-    edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("/20"));
-    QCOMPARE(m_dialog->subnetMask(), address("255.255.240.0"));
-    QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(edit->text(), QStringLiteral("255.255.240.0"));
 }
 
 void TestIpAddressWidget::maskIsSuggested()
 {
     QLineEdit *const edit = field("IP address");
-    edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("172.20.1"));
-    QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(field("Subnet mask")->text(), QString());
-    edit->setFocus();
-    edit->deselect();
-    QTest::keyClicks(edit, QStringLiteral(".7"));
-    QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(field("Subnet mask")->text(), QStringLiteral("255.255.0.0"));
+    QLineEdit *const mask = field("Subnet mask");
+    const auto enter = [edit](const char *text) {
+        edit->setFocus();
+        edit->deselect();
+        QTest::keyClicks(edit, text);
+        QTest::keyClick(edit, Qt::Key_Tab);
+    };
+    enter("172.20.1");
+    QCOMPARE(mask->text(), QString());
+    enter(".7");
+    QCOMPARE(mask->text(), "255.255.0.0");
     QVERIFY(ok()->isEnabled());
-    QVERIFY(m_dialog->findChild<QComboBox *>()->findText(QStringLiteral("255.255.255.0")) >= 0);
-}
-
-void TestIpAddressWidget::givenMaskIsKept()
-{
-    m_dialog->setSubnetMask(address("255.255.255.240"));
-    QLineEdit *const edit = field("IP address");
-    edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("10.1.1.1"));
-    QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(m_dialog->subnetMask(), address("255.255.255.240"));
+    QVERIFY(m_dialog->findChild<QComboBox *>()->findText("255.255.255.0") >= 0);
+    // One that was given is kept; a prefix length becomes what it stands for.
+    QTest::keyClicks(mask, "/20");
+    QCOMPARE(m_dialog->subnetMask(), QHostAddress("255.255.240.0"));
+    QTest::keyClick(mask, Qt::Key_Tab);
+    QCOMPARE(mask->text(), "255.255.240.0");
+    edit->clear();
+    enter("10.1.1.1");
+    QCOMPARE(mask->text(), "255.255.240.0");
 }
 
 void TestIpAddressWidget::macAddressIsShownOrEntered()
@@ -252,22 +221,22 @@ void TestIpAddressWidget::macAddressIsShownOrEntered()
     QVERIFY(!ok()->isEnabled());
     QVERIFY(!shownReason(edit).isEmpty());
     edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("001b2c3d4e5f"));
+    QTest::keyClicks(edit, "001b2c3d4e5f");
     QVERIFY(ok()->isEnabled());
     QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(edit->text(), QStringLiteral("00:1B:2C:3D:4E:5F"));
+    QCOMPARE(edit->text(), "00:1B:2C:3D:4E:5F");
 }
 
 void TestIpAddressWidget::foreignValuesAreRefused()
 {
     enterUsable();
-    m_dialog->setIpAddress(address("fe80::1"));
+    m_dialog->setIpAddress(QHostAddress("fe80::1"));
     QVERIFY(!m_dialog->isUsable());
     QVERIFY(m_dialog->ipAddress().isNull());
     m_dialog->setIpAddress(QHostAddress());
     QCOMPARE(field("IP address")->text(), QString());
     m_dialog->setIpAddress(QHostAddress(quint32(0)));
-    QCOMPARE(field("IP address")->text(), QStringLiteral("0.0.0.0"));
+    QCOMPARE(field("IP address")->text(), "0.0.0.0");
     QVERIFY(!shownReason(field("IP address")).isEmpty());
 }
 
@@ -278,7 +247,7 @@ void TestIpAddressWidget::acceptRefusesUnusable()
     QVERIFY(m_dialog->isVisible());
     QVERIFY(accepted.isEmpty());
     // A suggestion that nobody has seen is not accepted.
-    m_dialog->setIpAddress(address("10.0.0.5"));
+    m_dialog->setIpAddress(QHostAddress("10.0.0.5"));
     m_dialog->accept();
     QVERIFY(m_dialog->isVisible());
     enterUsable();
@@ -290,38 +259,29 @@ void TestIpAddressWidget::acceptRefusesUnusable()
 void TestIpAddressWidget::keyboardAlone()
 {
     enterUsable();
-    m_dialog->setHelpAddress(QUrl(QStringLiteral("https://help.example/")));
+    auto *const link = m_dialog->findChild<HelpLink *>();
+    QVERIFY(!link->isVisible());
+    m_dialog->setHelpAddress(QUrl("https://help.example/"));
+    QVERIFY(link->isVisible());
     field("IP address")->setFocus();
     QStringList visited;
     for (int i = 0; i < 7; ++i) {
         QWidget *const focus = m_dialog->focusWidget();
-        const auto *const button = qobject_cast<QPushButton *>(focus);
-        visited.append(button ? QStringLiteral("button") : focus->accessibleName());
+        visited.append(qobject_cast<QPushButton *>(focus) ? "button" : focus->accessibleName());
         QTest::keyClick(focus, Qt::Key_Tab);
     }
-    const QString button = QStringLiteral("button");
-    QCOMPARE(visited,
-             QStringList({QStringLiteral("IP address"), QStringLiteral("Subnet mask"),
-                          QStringLiteral("Default gateway"), QStringLiteral("MAC address"),
-                          QStringLiteral("Get help"), button, button}));
+    QCOMPARE(visited.join(", "),
+             "IP address, Subnet mask, Default gateway, MAC address, Get help, button, button");
 
     QSignalSpy accepted(m_dialog, SIGNAL(accepted()));
     field("Subnet mask")->setFocus();
     field("Subnet mask")->selectAll();
-    QTest::keyClicks(field("Subnet mask"), QStringLiteral("/28"));
+    QTest::keyClicks(field("Subnet mask"), "/28");
     QTest::keyClick(field("Subnet mask"), Qt::Key_Return);
     QCOMPARE(accepted.size(), 1);
-    QCOMPARE(m_dialog->subnetMask(), address("255.255.255.240"));
-}
-
-void TestIpAddressWidget::helpLinkAppears()
-{
-    auto *const link = m_dialog->findChild<HelpLink *>();
-    QVERIFY(!link->isVisible());
-    m_dialog->setHelpAddress(QUrl(QStringLiteral("https://help.example/")));
-    QVERIFY(link->isVisible());
+    QCOMPARE(m_dialog->subnetMask(), QHostAddress("255.255.255.240"));
     m_dialog->setHelpAddress(QUrl());
-    QVERIFY(!link->isVisible());
+    QVERIFY(link->isHidden());
 }
 
 void TestIpAddressWidget::nothingMovesWhileTyping()
@@ -334,28 +294,20 @@ void TestIpAddressWidget::nothingMovesWhileTyping()
     QCoreApplication::processEvents();
     const QSize size = m_dialog->size();
     const QRect mask = m_dialog->findChild<QComboBox *>()->geometry();
-    const QStringList texts{QString(),
-                            QStringLiteral("10.0.0.255"),
-                            QStringLiteral("192.168.1.10"),
-                            QStringLiteral("1.2.3.4"),
-                            QStringLiteral("127.0.0.1"),
-                            QStringLiteral("224.0.0.1"),
-                            QStringLiteral("x")};
+    const auto nothingMoved = [&] {
+        QCoreApplication::processEvents();
+        return wordsFit() && m_dialog->size() == size
+            && m_dialog->findChild<QComboBox *>()->geometry() == mask;
+    };
     m_dialog->setMacAddressEditable(true);
-    for (const QString &text : texts) {
+    for (const char *text : {"", "10.0.0.255", "192.168.1.10", "1.2.3.4", "127.0.0.1", "224.0.0.1", "x"}) {
         for (QLineEdit *edit : m_dialog->findChildren<QLineEdit *>()) {
             edit->setText(text);
         }
-        QCoreApplication::processEvents();
-        QVERIFY(wordsFit());
-        QCOMPARE(m_dialog->size(), size);
-        QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);
+        QVERIFY2(nothingMoved(), text);
         enterUsable();
         field("Default gateway")->setText(text);
-        QCoreApplication::processEvents();
-        QVERIFY(wordsFit());
-        QCOMPARE(m_dialog->size(), size);
-        QCOMPARE(m_dialog->findChild<QComboBox *>()->geometry(), mask);
+        QVERIFY2(nothingMoved(), text);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <support/table.h>
 #include <zeltoviewercomponents/featuretree/searchedit.h>
 #include <zeltoviewercomponents/featuretree/treewidgetbase.h>
 
@@ -69,11 +70,6 @@ QByteArray stateOf(const QList<qint32> &numbers, const QString &own = {})
     return state;
 }
 
-QAction *actionAt(const SearchEdit &edit, int index)
-{
-    return edit.actions().value(index);
-}
-
 QPalette paletteOf(const QColor &base, const QColor &text, const QColor &grey)
 {
     QPalette palette(base);
@@ -110,7 +106,6 @@ private slots:
     void restores();
     void refusedStates_data();
     void refusedStates();
-    void wildSizes();
     void randomStates();
     void searchEditTakesTurns();
     void searchEditPaintsPlaceholder_data();
@@ -122,10 +117,10 @@ private slots:
 void TestTreeState::savedForm()
 {
     Tree tree;
-    tree.own = QStringLiteral("x");
+    tree.own = "x";
     tree.treeView()->header()->resizeSection(0, 210);
     tree.treeView()->header()->resizeSection(1, 90);
-    QCOMPARE(tree.saveState(7), stateOf({7, 3, 210, 90, tree.widths().at(2)}, QStringLiteral("x")));
+    QCOMPARE(tree.saveState(7), stateOf({7, 3, 210, 90, tree.widths().at(2)}, "x"));
     tree.hasView = false;
     QCOMPARE(tree.saveState(7), QByteArray());
     QVERIFY(!tree.restoreState(stateOf({7, 3, 1, 2, 3}), 7));
@@ -136,41 +131,40 @@ void TestTreeState::restores()
     Tree tree;
     const int last = tree.widths().at(2);
     QVERIFY(last != 500);
-    QVERIFY(tree.restoreState(stateOf({7, 3, 222, 111, 500}, QStringLiteral("mine")), 7));
+    QVERIFY(tree.restoreState(stateOf({7, 3, 222, 111, 500}, "mine"), 7));
     QCOMPARE(tree.widths().mid(0, 2), QList<int>({222, 111}));
-    QCOMPARE(tree.own, QStringLiteral("mine"));
+    QCOMPARE(tree.own, "mine");
     QCOMPARE(tree.widths().at(2), last);
+    const QList<int> before = tree.widths();
+    const qint32 smallest = std::numeric_limits<qint32>::min();
+    QVERIFY(tree.restoreState(stateOf({7, 3, smallest, std::numeric_limits<qint32>::max(), -1}, ""), 7));
+    QCOMPARE(tree.widths(), before);
     Tree empty(0);
     QVERIFY(empty.restoreState(empty.saveState(1), 1));
 }
 
 void TestTreeState::refusedStates_data()
 {
-    QTest::addColumn<QByteArray>("state");
-    QTest::addColumn<int>("resized");
-    const qint32 huge = std::numeric_limits<qint32>::max();
-    QTest::newRow("empty") << QByteArray() << 0;
-    QTest::newRow("half a number") << QByteArray("\0\0", 2) << 0;
-    QTest::newRow("version alone") << stateOf({7}) << 0;
-    QTest::newRow("other version") << stateOf({8, 3, 222, 111, 50}) << 0;
-    QTest::newRow("fewer columns") << stateOf({7, 2, 222, 111}) << 0;
-    QTest::newRow("more columns") << stateOf({7, 4, 222, 111, 50, 50}) << 0;
-    QTest::newRow("huge count") << stateOf({7, huge, 222, 111, 50}) << 0;
-    QTest::newRow("negative count") << stateOf({7, -3, 222, 111, 50}) << 0;
-    QTest::newRow("cut before the second size") << stateOf({7, 3, 222}) << 1;
-    QTest::newRow("cut inside the last size") << stateOf({7, 3, 222, 111, 50}).chopped(1) << 2;
+    columns<QByteArray, QList<int>>({"state", "resized"});
+    const QList<int> none;
+    row("empty", QByteArray(), none);
+    row("half a number", QByteArray("\0\0", 2), none);
+    row("version alone", stateOf({7}), none);
+    row("other version", stateOf({8, 3, 222, 111, 50}), none);
+    row("fewer columns", stateOf({7, 2, 222, 111}), none);
+    row("more columns", stateOf({7, 4, 222, 111, 50, 50}), none);
+    row("huge count", stateOf({7, std::numeric_limits<qint32>::max(), 222, 111, 50}), none);
+    row("negative count", stateOf({7, -3, 222, 111, 50}), none);
+    row("cut before the second size", stateOf({7, 3, 222}), QList<int>({222}));
+    row("cut inside the last size", stateOf({7, 3, 222, 111, 50}).chopped(1), QList<int>({222, 111}));
 }
 
 void TestTreeState::refusedStates()
 {
     QFETCH(QByteArray, state);
-    QFETCH(int, resized);
+    QFETCH(QList<int>, resized);
     Tree tree;
-    QList<int> expected = tree.widths();
-    const QList<int> stored{222, 111};
-    for (int i = 0; i < resized; ++i) {
-        expected[i] = stored.at(i);
-    }
+    const QList<int> expected = resized + tree.widths().mid(resized.size());
     QElapsedTimer timer;
     timer.start();
     QVERIFY(!tree.restoreState(state, 7));
@@ -179,19 +173,10 @@ void TestTreeState::refusedStates()
     QVERIFY(tree.own.isNull());
 }
 
-void TestTreeState::wildSizes()
-{
-    Tree tree;
-    const QList<int> before = tree.widths();
-    QVERIFY(tree.restoreState(
-        stateOf({7, 3, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max(), -1}), 7));
-    QCOMPARE(tree.widths(), before);
-}
-
 void TestTreeState::randomStates()
 {
     Tree tree;
-    tree.own = QStringLiteral("own");
+    tree.own = "own";
     const QByteArray good = tree.saveState(7);
     QRandomGenerator random(19);
     int restored = 0;
@@ -206,37 +191,33 @@ void TestTreeState::randomStates()
     }
     QVERIFY(restored > 0 && restored < 5000);
     QVERIFY(tree.restoreState(good, 7));
-    QCOMPARE(tree.own, QStringLiteral("own"));
+    QCOMPARE(tree.own, "own");
 }
 
 void TestTreeState::searchEditTakesTurns()
 {
     SearchEdit edit;
-    QAction *const search = actionAt(edit, 0);
-    QAction *const clear = actionAt(edit, 1);
+    QAction *const search = edit.actions().value(0);
+    QAction *const clear = edit.actions().value(1);
     QVERIFY(search && clear);
     QVERIFY(search->isVisible() && !search->isEnabled() && !clear->isVisible());
     QTest::keyClick(&edit, Qt::Key_G);
     QVERIFY(!search->isVisible() && clear->isVisible());
     edit.show();
-    QToolButton *button = nullptr;
-    const auto buttons = edit.findChildren<QToolButton *>();
-    for (QToolButton *candidate : buttons) {
-        if (candidate->defaultAction() == clear) {
-            button = candidate;
+    for (QToolButton *button : edit.findChildren<QToolButton *>()) {
+        if (button->defaultAction() == clear) {
+            QTest::mouseClick(button, Qt::LeftButton);
         }
     }
-    QVERIFY(button);
-    QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(edit.text(), QString());
     QVERIFY(search->isVisible() && !clear->isVisible());
 }
 
 void TestTreeState::searchEditPaintsPlaceholder_data()
 {
-    QTest::addColumn<QPalette>("palette");
-    QTest::newRow("light") << paletteOf(Qt::white, Qt::black, QColor(120, 120, 120));
-    QTest::newRow("dark") << paletteOf(QColor(30, 30, 30), Qt::white, QColor(150, 150, 150));
+    columns<QPalette>({"palette"});
+    row("light", paletteOf(Qt::white, Qt::black, QColor(120, 120, 120)));
+    row("dark", paletteOf(QColor(30, 30, 30), Qt::white, QColor(150, 150, 150)));
 }
 
 void TestTreeState::searchEditPaintsPlaceholder()
@@ -248,7 +229,7 @@ void TestTreeState::searchEditPaintsPlaceholder()
     edit.resize(240, 28);
     const auto picture = [&edit] { return edit.grab().toImage(); };
     const QImage bare = picture();
-    edit.setPlaceholder(QStringLiteral("HHHH"));
+    edit.setPlaceholder("HHHH");
     QCOMPARE(edit.placeholderText(), QString());
     const QImage hinted = picture();
     const QRect hint = difference(bare, hinted);
@@ -269,7 +250,7 @@ void TestTreeState::searchEditPaintsPlaceholder()
     // It stands on the line of the text that will take its place.
     edit.setPlaceholderEnabled(false);
     QCOMPARE(picture(), bare);
-    edit.setText(QStringLiteral("HHHH"));
+    edit.setText("HHHH");
     const QImage typed = picture();
     // Beside the text, the clear button has taken the place of the lens.
     const QRect besideButtons(0, 0, edit.width() - edit.height(), edit.height());
@@ -286,7 +267,7 @@ void TestTreeState::searchEditMirrorsAndElides()
 {
     SearchEdit edit;
     const QImage bare = edit.grab().toImage();
-    edit.setPlaceholder(QStringLiteral("Search for features by their names (Ctrl+F)"));
+    edit.setPlaceholder("Search for features by their names (Ctrl+F)");
     QVERIFY(edit.sizeHint().width() > edit.fontMetrics().horizontalAdvance(edit.placeholder()));
     edit.setLayoutDirection(Qt::RightToLeft);
     edit.resize(120, 28);
