@@ -8,6 +8,7 @@
 #include "valuetext_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/singleprecision.h>
 #include <platform/genicam/genericexception.h>
 
 #include <QCoreApplication>
@@ -346,7 +347,7 @@ void Engine::readFloatLimits(int node, FloatParameterData &data)
     // The engine says "no increment" with the smallest number there is.
     data.increment = failure.take() || data.increment <= DBL_MIN ? 0.0 : data.increment;
     for (double *const limit : {&data.minimum, &data.maximum, &data.increment}) {
-        *limit = ValueText::withoutSinglePrecisionNoise(*limit);
+        *limit = Core::withoutSinglePrecisionNoise(*limit);
     }
     data.representation = representation(node);
     data.displayNotation =
@@ -401,7 +402,7 @@ bool Engine::readFloat(int node, FloatParameterData &data)
 {
     Failure failure(this);
     data.value =
-        ValueText::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
+        Core::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
     data.valueString = ValueText::fromFloat(data.value);
     return !failure.take() && std::isfinite(data.value);
 }
