@@ -4,19 +4,25 @@
 #include "description_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/logging.h>
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace Cameras {
+
+ZELTO_LOG_CATEGORY("zelto.cameras.description")
 
 namespace {
 
 // Value chains beyond this length are no better than circles: the engine walks them by recursion.
 constexpr int deepestChain = 500;
 constexpr int deepestNesting = 32;
+constexpr int mostRepeatedRows = 10000;
 
 QString tr(const char *text)
 {
@@ -228,6 +234,23 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
     m_nodes[node].properties.emplace_back(key, text);
 }
 
+/*! \brief The state of the walk that gives each category its first place in the tree. */
+struct Description::Placing
+{
+    explicit Placing(size_t nodeCount)
+        : isOnPath(nodeCount, 0)
+        , rows(nodeCount, 0)
+        , height(nodeCount, 0)
+    {
+    }
+
+    std::vector<char> isOnPath;
+    std::vector<int> rows; //!< below each node, those of repeated categories included
+    std::vector<int> height; //!< levels below each node
+    int repeatedRows = 0; //!< below the further places of categories
+    QStringList leftOut;
+};
+
 void Description::collectFeatures()
 {
     const int root = indexOf(QStringLiteral("Root"));
@@ -235,8 +258,9 @@ void Description::collectFeatures()
         throw Core::Exception::BaseException(tr("the description has no category \"Root\""));
     }
     m_isFeature.assign(m_nodes.size(), 0);
-    std::vector<char> onPath(m_nodes.size(), 0);
-    dropCategoryLoops(root, onPath);
+    Placing placing(m_nodes.size());
+    place(root, 0, placing);
+    reportLeftOut(placing);
     m_isPublished = m_isFeature;
     for (int i = 0; i < m_published.size(); ++i) {
         const int mirrored = alias(m_published[i]);
@@ -247,22 +271,59 @@ void Description::collectFeatures()
     }
 }
 
-// A category that lists one of the categories above it would make an endless tree.
-void Description::dropCategoryLoops(int category, std::vector<char> &onPath)
+void Description::place(int category, int depth, Placing &placing)
 {
     m_isFeature[category] = 1;
     m_published.append(category);
-    onPath[category] = 1;
-    std::erase_if(m_nodes[category].links, [this, &onPath](const Link &link) {
-        return link.kind == LinkKind::Feature && (onPath[link.target] || !m_nodes[link.target].isDefined);
-    });
-    const bool isDeep = std::count(onPath.begin(), onPath.end(), 1) > deepestNesting;
-    for (const Link &link : m_nodes[category].links) {
-        if (link.kind == LinkKind::Feature && !m_isFeature[link.target] && !isDeep) {
-            dropCategoryLoops(link.target, onPath);
+    placing.isOnPath[category] = 1;
+    std::vector<Link> kept;
+    for (const Link &link : std::exchange(m_nodes[category].links, {})) {
+        if (link.kind != LinkKind::Feature || placeBelow(category, link.target, depth + 1, placing)) {
+            kept.push_back(link);
         }
     }
-    onPath[category] = 0;
+    m_nodes[category].links = std::move(kept);
+    placing.isOnPath[category] = 0;
+}
+
+// Returns false when the node must not stand below the category. A category may stand in several places with
+// all that is below it, but places that nest into each other multiply.
+bool Description::placeBelow(int category, int node, int depth, Placing &placing)
+{
+    if (!m_nodes[node].isDefined) {
+        return false;
+    }
+    const int repeatedRows =
+        m_isFeature[node] ? placing.repeatedRows + placing.rows[node] : placing.repeatedRows;
+    if (placing.isOnPath[node] || depth + placing.height[node] > deepestNesting
+        || repeatedRows > mostRepeatedRows) {
+        placing.leftOut.append(m_nodes[category].name + QLatin1Char('/') + m_nodes[node].name);
+        return false;
+    }
+    placing.repeatedRows = repeatedRows;
+    if (!m_isFeature[node]) {
+        place(node, depth, placing);
+    }
+    placing.rows[category] += 1 + placing.rows[node];
+    placing.height[category] = std::max(placing.height[category], 1 + placing.height[node]);
+    return true;
+}
+
+void Description::reportLeftOut(const Placing &placing) const
+{
+    if (placing.leftOut.isEmpty()) {
+        return;
+    }
+    Core::Logging::createLogEntry(
+        Core::Logging::ELogLevel::Warning, logCategory(),
+        QStringLiteral(
+            "%1 entries of categories are left out of the tree of %2: they lead back up, nest more "
+            "than %3 deep or repeat more than %4 rows (%5)")
+            .arg(placing.leftOut.size())
+            .arg(m_modelName)
+            .arg(deepestNesting)
+            .arg(mostRepeatedRows)
+            .arg(placing.leftOut.first()));
 }
 
 void Description::collectDependencies()

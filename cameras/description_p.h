@@ -50,7 +50,8 @@ public:
     const QList<int> &published() const;
     /*! Returns whether \a node can be reached from "Root". */
     bool isFeature(int node) const;
-    /*! Returns what the category \a node lists, in its order. */
+    /*! Returns what the category \a node lists, in its order. Links that would make the tree endless, too
+     * deep or, by repeating categories, far larger than the description are left out. */
     QList<int> children(int node) const;
     /*! Returns the integer that mirrors the floating-point feature \a node, -1 when there is none. */
     int alias(int node) const;
@@ -85,6 +86,8 @@ private:
         bool hasLinkedLength = false;
     };
 
+    struct Placing;
+
     static LinkKind linkKind(QStringView tag);
     int intern(const QString &name);
     void readDocument(QXmlStreamReader &xml);
@@ -92,7 +95,9 @@ private:
     void readNode(QXmlStreamReader &xml, const QString &name, int owner);
     void readNodeElement(QXmlStreamReader &xml, int node);
     void collectFeatures();
-    void dropCategoryLoops(int category, std::vector<char> &onPath);
+    void place(int category, int depth, Placing &placing);
+    bool placeBelow(int category, int node, int depth, Placing &placing);
+    void reportLeftOut(const Placing &placing) const;
     void collectDependencies();
     std::vector<std::vector<int>> evaluators() const;
     bool hasBadLength(int node) const;
