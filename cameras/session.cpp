@@ -149,11 +149,12 @@ void Session::open(const Opener &opener)
     std::vector<std::unique_ptr<MapState>> maps;
     for (NodeMapSource &mapSource : source.maps) {
         auto map = std::make_unique<MapState>();
-        map->engine = std::make_unique<Engine>(std::exchange(mapSource.device, nullptr),
-                                               mapSource.description, mapSource.registers);
-        map->source = mapSource;
-        map->nodes.resize(size_t(mapSource.description->nodeCount()));
-        for (const int node : mapSource.description->published()) {
+        map->source = std::move(mapSource);
+        const auto &description = map->source.description;
+        map->engine =
+            std::make_unique<Engine>(std::move(map->source.device), description, map->source.registers);
+        map->nodes.resize(size_t(description->nodeCount()));
+        for (const int node : description->published()) {
             Engine::Reading reading = map->engine->read(node);
             if (!map->engine->lossReason().isEmpty()) {
                 throw Core::Exception::BaseException(map->engine->lossReason());

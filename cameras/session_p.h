@@ -5,6 +5,7 @@
 
 #include <cameras/cameras_export.h>
 #include <cameras/description_p.h>
+#include <cameras/deviceptr_p.h>
 #include <cameras/engine_p.h>
 
 #include <platform/core/camerainfo.h>
@@ -33,7 +34,7 @@ struct NodeMapSource
 {
     QString name;
     QString title;
-    ArvDevice *device = nullptr; //!< taken over by the session
+    DevicePtr device; //!< moves on into the engine
     std::shared_ptr<const Description> description;
     std::shared_ptr<SimulatedRegisters> registers; //!< null for a live camera
 };
