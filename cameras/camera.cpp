@@ -31,7 +31,7 @@ ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(256) * 1024 * 1024;
 
 QString deviceClassOf(const QString &protocol)
 {

@@ -18,7 +18,7 @@ class QXmlStreamReader;
 namespace Cameras {
 
 /*! In bytes; no camera has one of that size. */
-constexpr qint64 largestRegister = 16 * 1024 * 1024;
+constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
 
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-typedef struct _ArvDevice ArvDevice;
+using ArvDevice = struct _ArvDevice;
 
 namespace Cameras {
 

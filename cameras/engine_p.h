@@ -14,7 +14,7 @@
 #include <variant>
 #include <vector>
 
-typedef struct _ArvGcNode ArvGcNode;
+using ArvGcNode = struct _ArvGcNode;
 
 namespace Cameras {
 

@@ -61,7 +61,6 @@ public:
                                 const QString &rootName, const QString &roleName, bool isUtf8);
     /*! Removes all rows; collections can be added again afterwards. */
     void clear();
-    void setMonitorMode(bool enable);
     /*! Tells that the device does not answer any more: nothing is polled or written until collections are
      * added. */
     void deviceIsClosed();
@@ -103,6 +102,8 @@ public:
     QSize sizeHint() const override;
 
 public slots:
+    /*! Sets whether polling re-reads the whole first collection, not only its volatile features. */
+    void setMonitorMode(bool enable);
     /*! Expands the tree to depth 2. */
     void expandTree();
     void onCurrentChanged(const QModelIndex &index);

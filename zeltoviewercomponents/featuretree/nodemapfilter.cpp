@@ -46,7 +46,7 @@ Core::GuardSite guardSite(const char *function)
     return {logCategory(), function};
 }
 
-/* "@StreamGrabber0" gives "StreamGrabber_". */
+// "@StreamGrabber0" gives "StreamGrabber_".
 QString nameStem(const QString &nodeMapName)
 {
     qsizetype begin = 0;
@@ -94,9 +94,9 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
     return nullptr;
 }
 
-/* Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
- * text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
- */
+// Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
+// text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
+// 
 QString refusal(const QByteArray &contents)
 {
     if (contents.count('=') > maximumAttributes) {
@@ -151,7 +151,7 @@ QString entryName(const QDomElement &entry)
     return element.text();
 }
 
-/* Returns the parameter called \a name, null when there is none or none that may be filtered. */
+// Returns the parameter called \a name, null when there is none or none that may be filtered.
 ParameterPointer filterableParameter(const CollectionPointer &collection, const QString &name)
 {
     return Core::guarded(guardSite("NodeMapFilter::processElement"),
@@ -165,7 +165,7 @@ ParameterPointer filterableParameter(const CollectionPointer &collection, const 
                          });
 }
 
-/* Imposes the property called \a tag when \a entry has an element of that name. */
+// Imposes the property called \a tag when \a entry has an element of that name.
 bool impose(const QDomElement &entry, const ParameterPointer &parameter, const QString &tag,
             const QString &headline)
 {
