@@ -31,14 +31,18 @@ public:
     /*! Parses \a xml. Throws Core::Exception::BaseException telling what is wrong and where. */
     explicit Description(const QByteArray &xml);
 
+    /*! Returns the vendor's name as the description gives it. */
     QString vendorName() const;
+    /*! Returns the model's name as the description gives it. */
     QString modelName() const;
     /*! Returns the standard name space, such as "GEV"; empty when there is none. */
     QString standardNameSpace() const;
 
+    /*! Returns the number of nodes, those without a definition included. */
     int nodeCount() const;
     /*! Returns the node called \a name, -1 when there is none. */
     int indexOf(const QString &name) const;
+    /*! Returns the name of \a node. */
     QString name(int node) const;
 
     /*! Returns the text of the node's element \a property, null when it has none. */

@@ -34,6 +34,7 @@ public:
 
     /*! Copies registers to \a buffer. Returns false when the request is larger than a register can be. */
     bool read(quint64 address, quint32 size, void *buffer);
+    /*! Copies \a buffer to registers. Returns false as read() does. */
     bool write(quint64 address, quint32 size, const void *buffer);
 
     /*! Returns whether the register at \a address lives on its own. */
