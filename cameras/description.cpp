@@ -42,14 +42,14 @@ bool isKept(QStringView tag)
 // Returns where the edges lead to from the nodes, which come first.
 std::vector<int> reached(std::vector<int> nodes, const std::vector<std::vector<int>> &edges)
 {
-    std::vector<char> isReached(edges.size(), 0);
+    std::vector<bool> isReached(edges.size());
     for (const int node : nodes) {
-        isReached[node] = 1;
+        isReached[node] = true;
     }
     for (size_t i = 0; i < nodes.size(); ++i) {
         for (const int next : edges[nodes[i]]) {
             if (!isReached[next]) {
-                isReached[next] = 1;
+                isReached[next] = true;
                 nodes.push_back(next);
             }
         }
@@ -123,8 +123,7 @@ int Description::intern(const QString &name)
     }
     const int index = int(m_nodes.size());
     m_indices.insert(name, index);
-    m_nodes.push_back(Node());
-    m_nodes.back().name = name;
+    m_nodes.emplace_back().name = name;
     return index;
 }
 
@@ -238,13 +237,13 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
 struct Description::Placing
 {
     explicit Placing(size_t nodeCount)
-        : isOnPath(nodeCount, 0)
+        : isOnPath(nodeCount)
         , rows(nodeCount, 0)
         , height(nodeCount, 0)
     {
     }
 
-    std::vector<char> isOnPath;
+    std::vector<bool> isOnPath;
     std::vector<int> rows; //!< below each node, those of repeated categories included
     std::vector<int> height; //!< levels below each node
     int repeatedRows = 0; //!< below the further places of categories
@@ -257,7 +256,7 @@ void Description::collectFeatures()
     if (root < 0) {
         throw Core::Exception::BaseException(tr("the description has no category \"Root\""));
     }
-    m_isFeature.assign(m_nodes.size(), 0);
+    m_isFeature.assign(m_nodes.size(), false);
     Placing placing(m_nodes.size());
     place(root, 0, placing);
     reportLeftOut(placing);
@@ -265,7 +264,7 @@ void Description::collectFeatures()
     for (int i = 0; i < m_published.size(); ++i) {
         const int mirrored = alias(m_published[i]);
         if (mirrored >= 0 && !m_isPublished[mirrored]) {
-            m_isPublished[mirrored] = 1;
+            m_isPublished[mirrored] = true;
             m_published.append(mirrored);
         }
     }
@@ -273,9 +272,9 @@ void Description::collectFeatures()
 
 void Description::place(int category, int depth, Placing &placing)
 {
-    m_isFeature[category] = 1;
+    m_isFeature[category] = true;
     m_published.append(category);
-    placing.isOnPath[category] = 1;
+    placing.isOnPath[category] = true;
     std::vector<Link> kept;
     for (const Link &link : std::exchange(m_nodes[category].links, {})) {
         if (link.kind != LinkKind::Feature || placeBelow(category, link.target, depth + 1, placing)) {
@@ -283,7 +282,7 @@ void Description::place(int category, int depth, Placing &placing)
         }
     }
     m_nodes[category].links = std::move(kept);
-    placing.isOnPath[category] = 0;
+    placing.isOnPath[category] = false;
 }
 
 // Returns false when the node must not stand below the category. A category may stand in several places with
@@ -369,7 +368,7 @@ void Description::collectBroken()
             }
         }
     }
-    m_isBroken.assign(m_nodes.size(), 0);
+    m_isBroken.assign(m_nodes.size(), false);
     std::vector<char> state(m_nodes.size(), 0);
     std::vector<int> broken;
     for (int node = 0; node < nodeCount(); ++node) {
@@ -378,7 +377,7 @@ void Description::collectBroken()
         }
     }
     for (const int node : reached(std::move(broken), edges)) {
-        m_isBroken[node] = 1;
+        m_isBroken[node] = true;
     }
 }
 
@@ -466,10 +465,10 @@ QString Description::name(int node) const
     return m_nodes[node].name;
 }
 
-QString Description::property(int node, const QString &property) const
+QString Description::property(int node, const QString &name) const
 {
     for (const auto &[key, text] : m_nodes[node].properties) {
-        if (key == property) {
+        if (key == name) {
             return text;
         }
     }
@@ -479,7 +478,7 @@ QString Description::property(int node, const QString &property) const
 QString Description::inheritedProperty(int node, const QString &name) const
 {
     for (int steps = 0; node >= 0 && steps < deepestChain; ++steps) {
-        const QString text = property(node, name);
+        QString text = property(node, name);
         if (!text.isEmpty()) {
             return text;
         }
@@ -533,12 +532,12 @@ QList<int> Description::dependents(int node) const
 {
     // A write goes down to the nodes that hold the value; whoever reads one of those is affected.
     std::vector<int> written{node};
-    std::vector<char> isWritten(m_nodes.size(), 0);
-    isWritten[node] = 1;
+    std::vector<bool> isWritten(m_nodes.size());
+    isWritten[node] = true;
     for (size_t i = 0; i < written.size(); ++i) {
         for (const Link &link : m_nodes[written[i]].links) {
             if (link.kind == LinkKind::Value && !isWritten[link.target]) {
-                isWritten[link.target] = 1;
+                isWritten[link.target] = true;
                 written.push_back(link.target);
             }
         }

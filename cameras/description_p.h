@@ -45,10 +45,10 @@ public:
     /*! Returns the name of \a node. */
     QString name(int node) const;
 
-    /*! Returns the text of the node's element \a property, null when it has none. */
-    QString property(int node, const QString &property) const;
+    /*! Returns the text of the node's element \a name, null when it has none. */
+    QString property(int node, const QString &name) const;
     /*! As property(), but also looks at the node that gives \a node its value, if need be. */
-    QString inheritedProperty(int node, const QString &property) const;
+    QString inheritedProperty(int node, const QString &name) const;
 
     /*! Returns the nodes that can be reached from "Root", which is the first, and their aliases. */
     const QList<int> &published() const;
@@ -77,8 +77,8 @@ private:
 
     struct Link
     {
-        LinkKind kind;
-        int target;
+        LinkKind kind = LinkKind::Related;
+        int target = -1;
     };
 
     struct Node
@@ -116,9 +116,9 @@ private:
     std::vector<Node> m_nodes;
     QHash<QString, int> m_indices;
     QList<int> m_published;
-    std::vector<char> m_isPublished;
-    std::vector<char> m_isFeature;
-    std::vector<char> m_isBroken;
+    std::vector<bool> m_isPublished;
+    std::vector<bool> m_isFeature;
+    std::vector<bool> m_isBroken;
     std::vector<QList<int>> m_sizedRegisters;
     std::vector<int> m_pollingTimes;
     std::vector<std::vector<int>> m_readers; //!< of each node, those that are affected by it
