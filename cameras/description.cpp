@@ -6,7 +6,6 @@
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
 
-#include <QCoreApplication>
 #include <QStringList>
 #include <QXmlStreamReader>
 
@@ -23,11 +22,6 @@ namespace {
 constexpr int deepestChain = 500;
 constexpr int deepestNesting = 32;
 constexpr int mostRepeatedRows = 10000;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Description", text);
-}
 
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)

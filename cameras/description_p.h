@@ -6,6 +6,7 @@
 #include <cameras/cameras_export.h>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -27,6 +28,8 @@ constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
  */
 class ZELTO_CAMERAS_EXPORT Description
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Description)
+
 public:
     /*! Parses \a xml. Throws Core::Exception::BaseException telling what is wrong and where. */
     explicit Description(const QByteArray &xml);

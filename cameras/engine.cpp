@@ -11,8 +11,6 @@
 #include <platform/core/singleprecision.h>
 #include <platform/genicam/genericexception.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
@@ -26,11 +24,6 @@ namespace Cameras {
 namespace {
 
 constexpr gint64 longestShownRegister = 64;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Engine", text);
-}
 
 ParameterType typeOf(ArvGcNode *node)
 {

@@ -8,6 +8,7 @@
 
 #include <platform/parametercollection/parameterdata.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
@@ -34,6 +35,8 @@ using NodeValue = std::variant<QString, qint64, double, bool, ExecuteCommand>;
  */
 class Engine
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Engine)
+
 public:
     struct Reading
     {

@@ -9,8 +9,6 @@
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <utility>
 
@@ -26,11 +24,6 @@ namespace {
 constexpr auto writeTime = 1s;
 constexpr auto openTime = 20s;
 constexpr auto closeTime = 500ms;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Session", text);
-}
 
 /*! \brief Threads of cameras that were closed while an access hung; joined before the process ends. */
 class LeftThreads

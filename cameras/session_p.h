@@ -11,6 +11,7 @@
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/parameterdata.h>
 
+#include <QCoreApplication>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -47,6 +48,8 @@ struct NodeMapSource
  */
 class ZELTO_CAMERAS_EXPORT Session : public std::enable_shared_from_this<Session>
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Session)
+
 public:
     struct Source
     {

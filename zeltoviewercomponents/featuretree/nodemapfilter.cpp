@@ -96,7 +96,6 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
 
 // Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
 // text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
-// 
 QString refusal(const QByteArray &contents)
 {
     if (contents.count('=') > maximumAttributes) {
