@@ -8,9 +8,9 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QHash>
-#include <QMutex>
 
 #include <atomic>
+#include <mutex>
 
 namespace Cameras {
 
@@ -62,7 +62,7 @@ private:
     void refreshLiving(quint64 address, quint32 size);
     void wait() const;
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QHash<quint64, QByteArray> m_pages;
     QHash<quint64, QByteArray> m_loadedPages;
     QHash<quint64, Living> m_living;
