@@ -480,7 +480,7 @@ void MainWindow::onMatchesChanged(int total, int hidden)
     }
 }
 
-void MainWindow::onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu)
+void MainWindow::onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu)
 {
     menu->exec(m_tree->mapToGlobal(pos));
 }

@@ -25,7 +25,7 @@ ZELTO_LOG_CATEGORY("zelto.viewer.plugins.FeatureTreeWidget")
 using CollectionPointer = QSharedPointer<IParameterCollection>;
 using ParameterPointer = QSharedPointer<IParameter>;
 
-constexpr qint64 maximumFileSize = 1024 * 1024;
+constexpr qint64 maximumFileSize = qint64(1024) * 1024;
 constexpr qsizetype maximumAttributes = 1000; // the parser compares each with all others of its element
 constexpr int maximumDepth = 64;
 
@@ -156,7 +156,7 @@ ParameterPointer filterableParameter(const CollectionPointer &collection, const 
     return Core::guarded(guardSite("NodeMapFilter::processElement"),
                          QStringLiteral("Failed to find the node %1").arg(name), ParameterPointer(),
                          [&collection, &name]() -> ParameterPointer {
-                             const ParameterPointer parameter = collection->parameter(name);
+                             ParameterPointer parameter = collection->parameter(name);
                              if (parameter && parameter->isExcluded() && !parameter->isImposingAllowed()) {
                                  return {};
                              }
