@@ -69,11 +69,10 @@ void openWithEngine(const QString &fileName, bool whole)
 {
     QFile file(fileName);
     (void)file.open(QIODevice::ReadOnly);
-    ArvDevice *const device =
+    const Cameras::DevicePtr device =
         Cameras::newSimulatedDevice(file.readAll(), std::make_shared<Cameras::SimulatedRegisters>());
-    ArvGc *const genicam = arv_device_get_genicam(device);
+    ArvGc *const genicam = arv_device_get_genicam(device.get());
     readCategory(genicam, arv_gc_get_node(genicam, "Root"), whole);
-    g_object_unref(device);
 }
 
 qsizetype openTree(const QString &fileName)

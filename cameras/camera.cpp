@@ -18,7 +18,9 @@
 
 #include <array>
 #include <future>
+#include <memory>
 #include <mutex>
+#include <utility>
 
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::Exception::BaseException;
@@ -29,7 +31,7 @@ ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(256) * 1024 * 1024;
 
 QString deviceClassOf(const QString &protocol)
 {
@@ -54,13 +56,8 @@ NodeMapSource simulatedMap(const QString &name, const QString &title, const QByt
     auto parsing = std::async(std::launch::async, [&xml] { return std::make_shared<Description>(xml); });
     const auto registers = std::make_shared<SimulatedRegisters>();
     registers->load(registerLines);
-    ArvDevice *device = newSimulatedDevice(xml, registers);
-    try {
-        return {name, title, device, parsing.get(), registers};
-    } catch (...) {
-        g_object_unref(device);
-        throw;
-    }
+    DevicePtr device = newSimulatedDevice(xml, registers);
+    return {name, title, std::move(device), parsing.get(), registers};
 }
 
 QByteArray fileContents(const QString &fileName)
@@ -85,21 +82,23 @@ QByteArray fileContents(const QString &fileName)
 
 QByteArray unzipped(const QByteArray &archive)
 {
-    ArvZip *zip = arv_zip_new(archive.constData(), size_t(archive.size()));
+    const std::unique_ptr<ArvZip, decltype(&arv_zip_free)> zip(
+        arv_zip_new(archive.constData(), size_t(archive.size())), arv_zip_free);
     QByteArray xml;
-    for (const GSList *entry = zip ? arv_zip_get_file_list(zip) : nullptr; entry && xml.isEmpty();
+    for (const GSList *entry = zip ? arv_zip_get_file_list(zip.get()) : nullptr; entry && xml.isEmpty();
          entry = entry->next) {
-        const char *name = arv_zip_file_get_name(static_cast<ArvZipFile *>(entry->data));
+        auto *file = static_cast<ArvZipFile *>(entry->data);
+        const char *name = arv_zip_file_get_name(file);
         if (!QString::fromUtf8(name).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
             continue;
         }
+        if (arv_zip_file_get_uncompressed_size(file) > size_t(largestFile)) {
+            throw BaseException(Camera::tr("the file is too large"));
+        }
         size_t size = 0;
-        void *data = arv_zip_get_file(zip, name, &size);
+        void *data = arv_zip_get_file(zip.get(), name, &size);
         xml = QByteArray(static_cast<const char *>(data), qsizetype(size));
         g_free(data);
-    }
-    if (zip) {
-        arv_zip_free(zip);
     }
     if (xml.isEmpty()) {
         throw BaseException(Camera::tr("the archive holds no camera description"));
@@ -193,28 +192,23 @@ void dropSession(gpointer session, GClosure *)
 Session::Source liveSource(const QString &id, const std::weak_ptr<Session> &session)
 {
     GError *error = nullptr;
-    ArvDevice *device = arv_open_device(id.toUtf8().constData(), &error);
+    DevicePtr device(arv_open_device(id.toUtf8().constData(), &error));
     if (!device) {
         const QString reason =
             error ? QString::fromUtf8(error->message) : Camera::tr("there is no such camera");
         g_clear_error(&error);
         throw BaseException(reason);
     }
-    try {
-        g_signal_connect_data(device, "control-lost", G_CALLBACK(onControlLost),
-                              new std::weak_ptr<Session>(session), dropSession, GConnectFlags(0));
-        size_t size = 0;
-        const char *xml = arv_device_get_genicam_xml(device, &size);
-        const QByteArray text = xml ? QByteArray(xml, qsizetype(size)) : QByteArray();
-        Session::Source source;
-        source.info = liveInfo(id, device);
-        source.maps.push_back({QStringLiteral("@CameraDevice"), Camera::tr("Camera"), device,
-                               std::make_shared<Description>(text), nullptr});
-        return source;
-    } catch (...) {
-        g_object_unref(device);
-        throw;
-    }
+    g_signal_connect_data(device.get(), "control-lost", G_CALLBACK(onControlLost),
+                          new std::weak_ptr<Session>(session), dropSession, GConnectFlags(0));
+    size_t size = 0;
+    const char *xml = arv_device_get_genicam_xml(device.get(), &size);
+    const QByteArray text = xml ? QByteArray(xml, qsizetype(size)) : QByteArray();
+    Session::Source source;
+    source.info = liveInfo(id, device.get());
+    source.maps.push_back({QStringLiteral("@CameraDevice"), Camera::tr("Camera"), std::move(device),
+                           std::make_shared<Description>(text), nullptr});
+    return source;
 }
 
 void logEngineMessage(const gchar *, GLogLevelFlags, const gchar *message, gpointer)

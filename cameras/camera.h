@@ -53,7 +53,9 @@ public:
     /*! Opens the live camera called \a id, as list() names it. */
     static std::unique_ptr<Camera> openLive(const QString &id);
 
+    /*! Returns what identifies the camera. */
     Core::CameraPoolComponents::CameraInfoPtr info() const;
+    /*! Returns the node maps, in the order in which they are to be shown. */
     QList<NodeMap> nodeMaps() const;
 
     /*! Returns whether the camera has stopped answering; it has to be opened again then. */

@@ -3,10 +3,12 @@
 
 #include "camerarecord_p.h"
 
+#include <utility>
+
 namespace Cameras {
 
-CameraRecord::CameraRecord(const Texts &texts)
-    : m_texts(texts)
+CameraRecord::CameraRecord(Texts texts)
+    : m_texts(std::move(texts))
 {
 }
 

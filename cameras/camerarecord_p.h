@@ -20,7 +20,7 @@ public:
         QString deviceClass;
     };
 
-    explicit CameraRecord(const Texts &texts);
+    explicit CameraRecord(Texts texts);
     ~CameraRecord() override;
 
     QString id() const override;

@@ -4,24 +4,24 @@
 #include "description_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/logging.h>
 
-#include <QCoreApplication>
+#include <QStringList>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace Cameras {
+
+ZELTO_LOG_CATEGORY("zelto.cameras.description")
 
 namespace {
 
 // Value chains beyond this length are no better than circles: the engine walks them by recursion.
 constexpr int deepestChain = 500;
 constexpr int deepestNesting = 32;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Description", text);
-}
+constexpr int mostRepeatedRows = 10000;
 
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)
@@ -36,14 +36,14 @@ bool isKept(QStringView tag)
 // Returns where the edges lead to from the nodes, which come first.
 std::vector<int> reached(std::vector<int> nodes, const std::vector<std::vector<int>> &edges)
 {
-    std::vector<char> isReached(edges.size(), 0);
+    std::vector<bool> isReached(edges.size());
     for (const int node : nodes) {
-        isReached[node] = 1;
+        isReached[node] = true;
     }
     for (size_t i = 0; i < nodes.size(); ++i) {
         for (const int next : edges[nodes[i]]) {
             if (!isReached[next]) {
-                isReached[next] = 1;
+                isReached[next] = true;
                 nodes.push_back(next);
             }
         }
@@ -117,8 +117,7 @@ int Description::intern(const QString &name)
     }
     const int index = int(m_nodes.size());
     m_indices.insert(name, index);
-    m_nodes.push_back(Node());
-    m_nodes.back().name = name;
+    m_nodes.emplace_back().name = name;
     return index;
 }
 
@@ -228,41 +227,96 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
     m_nodes[node].properties.emplace_back(key, text);
 }
 
+/*! \brief The state of the walk that gives each category its first place in the tree. */
+struct Description::Placing
+{
+    explicit Placing(size_t nodeCount)
+        : isOnPath(nodeCount)
+        , rows(nodeCount, 0)
+        , height(nodeCount, 0)
+    {
+    }
+
+    std::vector<bool> isOnPath;
+    std::vector<int> rows; //!< below each node, those of repeated categories included
+    std::vector<int> height; //!< levels below each node
+    int repeatedRows = 0; //!< below the further places of categories
+    QStringList leftOut;
+};
+
 void Description::collectFeatures()
 {
     const int root = indexOf(QStringLiteral("Root"));
     if (root < 0) {
         throw Core::Exception::BaseException(tr("the description has no category \"Root\""));
     }
-    m_isFeature.assign(m_nodes.size(), 0);
-    std::vector<char> onPath(m_nodes.size(), 0);
-    dropCategoryLoops(root, onPath);
+    m_isFeature.assign(m_nodes.size(), false);
+    Placing placing(m_nodes.size());
+    place(root, 0, placing);
+    reportLeftOut(placing);
     m_isPublished = m_isFeature;
     for (int i = 0; i < m_published.size(); ++i) {
         const int mirrored = alias(m_published[i]);
         if (mirrored >= 0 && !m_isPublished[mirrored]) {
-            m_isPublished[mirrored] = 1;
+            m_isPublished[mirrored] = true;
             m_published.append(mirrored);
         }
     }
 }
 
-// A category that lists one of the categories above it would make an endless tree.
-void Description::dropCategoryLoops(int category, std::vector<char> &onPath)
+void Description::place(int category, int depth, Placing &placing)
 {
-    m_isFeature[category] = 1;
+    m_isFeature[category] = true;
     m_published.append(category);
-    onPath[category] = 1;
-    std::erase_if(m_nodes[category].links, [this, &onPath](const Link &link) {
-        return link.kind == LinkKind::Feature && (onPath[link.target] || !m_nodes[link.target].isDefined);
-    });
-    const bool isDeep = std::count(onPath.begin(), onPath.end(), 1) > deepestNesting;
-    for (const Link &link : m_nodes[category].links) {
-        if (link.kind == LinkKind::Feature && !m_isFeature[link.target] && !isDeep) {
-            dropCategoryLoops(link.target, onPath);
+    placing.isOnPath[category] = true;
+    std::vector<Link> kept;
+    for (const Link &link : std::exchange(m_nodes[category].links, {})) {
+        if (link.kind != LinkKind::Feature || placeBelow(category, link.target, depth + 1, placing)) {
+            kept.push_back(link);
         }
     }
-    onPath[category] = 0;
+    m_nodes[category].links = std::move(kept);
+    placing.isOnPath[category] = false;
+}
+
+// Returns false when the node must not stand below the category. A category may stand in several places with
+// all that is below it, but places that nest into each other multiply.
+bool Description::placeBelow(int category, int node, int depth, Placing &placing)
+{
+    if (!m_nodes[node].isDefined) {
+        return false;
+    }
+    const int repeatedRows =
+        m_isFeature[node] ? placing.repeatedRows + placing.rows[node] : placing.repeatedRows;
+    if (placing.isOnPath[node] || depth + placing.height[node] > deepestNesting
+        || repeatedRows > mostRepeatedRows) {
+        placing.leftOut.append(m_nodes[category].name + QLatin1Char('/') + m_nodes[node].name);
+        return false;
+    }
+    placing.repeatedRows = repeatedRows;
+    if (!m_isFeature[node]) {
+        place(node, depth, placing);
+    }
+    placing.rows[category] += 1 + placing.rows[node];
+    placing.height[category] = std::max(placing.height[category], 1 + placing.height[node]);
+    return true;
+}
+
+void Description::reportLeftOut(const Placing &placing) const
+{
+    if (placing.leftOut.isEmpty()) {
+        return;
+    }
+    Core::Logging::createLogEntry(
+        Core::Logging::ELogLevel::Warning, logCategory(),
+        QStringLiteral(
+            "%1 entries of categories are left out of the tree of %2: they lead back up, nest more "
+            "than %3 deep or repeat more than %4 rows (%5)")
+            .arg(placing.leftOut.size())
+            .arg(m_modelName)
+            .arg(deepestNesting)
+            .arg(mostRepeatedRows)
+            .arg(placing.leftOut.first()));
 }
 
 void Description::collectDependencies()
@@ -308,7 +362,7 @@ void Description::collectBroken()
             }
         }
     }
-    m_isBroken.assign(m_nodes.size(), 0);
+    m_isBroken.assign(m_nodes.size(), false);
     std::vector<char> state(m_nodes.size(), 0);
     std::vector<int> broken;
     for (int node = 0; node < nodeCount(); ++node) {
@@ -317,7 +371,7 @@ void Description::collectBroken()
         }
     }
     for (const int node : reached(std::move(broken), edges)) {
-        m_isBroken[node] = 1;
+        m_isBroken[node] = true;
     }
 }
 
@@ -405,10 +459,10 @@ QString Description::name(int node) const
     return m_nodes[node].name;
 }
 
-QString Description::property(int node, const QString &property) const
+QString Description::property(int node, const QString &name) const
 {
     for (const auto &[key, text] : m_nodes[node].properties) {
-        if (key == property) {
+        if (key == name) {
             return text;
         }
     }
@@ -418,7 +472,7 @@ QString Description::property(int node, const QString &property) const
 QString Description::inheritedProperty(int node, const QString &name) const
 {
     for (int steps = 0; node >= 0 && steps < deepestChain; ++steps) {
-        const QString text = property(node, name);
+        QString text = property(node, name);
         if (!text.isEmpty()) {
             return text;
         }
@@ -472,12 +526,12 @@ QList<int> Description::dependents(int node) const
 {
     // A write goes down to the nodes that hold the value; whoever reads one of those is affected.
     std::vector<int> written{node};
-    std::vector<char> isWritten(m_nodes.size(), 0);
-    isWritten[node] = 1;
+    std::vector<bool> isWritten(m_nodes.size());
+    isWritten[node] = true;
     for (size_t i = 0; i < written.size(); ++i) {
         for (const Link &link : m_nodes[written[i]].links) {
             if (link.kind == LinkKind::Value && !isWritten[link.target]) {
-                isWritten[link.target] = 1;
+                isWritten[link.target] = true;
                 written.push_back(link.target);
             }
         }

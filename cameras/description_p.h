@@ -6,6 +6,7 @@
 #include <cameras/cameras_export.h>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -18,7 +19,7 @@ class QXmlStreamReader;
 namespace Cameras {
 
 /*! In bytes; no camera has one of that size. */
-constexpr qint64 largestRegister = 16 * 1024 * 1024;
+constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
 
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *
@@ -27,30 +28,37 @@ constexpr qint64 largestRegister = 16 * 1024 * 1024;
  */
 class ZELTO_CAMERAS_EXPORT Description
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Description)
+
 public:
     /*! Parses \a xml. Throws Core::Exception::BaseException telling what is wrong and where. */
     explicit Description(const QByteArray &xml);
 
+    /*! Returns the vendor's name as the description gives it. */
     QString vendorName() const;
+    /*! Returns the model's name as the description gives it. */
     QString modelName() const;
     /*! Returns the standard name space, such as "GEV"; empty when there is none. */
     QString standardNameSpace() const;
 
+    /*! Returns the number of nodes, those without a definition included. */
     int nodeCount() const;
     /*! Returns the node called \a name, -1 when there is none. */
     int indexOf(const QString &name) const;
+    /*! Returns the name of \a node. */
     QString name(int node) const;
 
-    /*! Returns the text of the node's element \a property, null when it has none. */
-    QString property(int node, const QString &property) const;
+    /*! Returns the text of the node's element \a name, null when it has none. */
+    QString property(int node, const QString &name) const;
     /*! As property(), but also looks at the node that gives \a node its value, if need be. */
-    QString inheritedProperty(int node, const QString &property) const;
+    QString inheritedProperty(int node, const QString &name) const;
 
     /*! Returns the nodes that can be reached from "Root", which is the first, and their aliases. */
     const QList<int> &published() const;
     /*! Returns whether \a node can be reached from "Root". */
     bool isFeature(int node) const;
-    /*! Returns what the category \a node lists, in its order. */
+    /*! Returns what the category \a node lists, in its order. Links that would make the tree endless, too
+     * deep or, by repeating categories, far larger than the description are left out. */
     QList<int> children(int node) const;
     /*! Returns the integer that mirrors the floating-point feature \a node, -1 when there is none. */
     int alias(int node) const;
@@ -72,8 +80,8 @@ private:
 
     struct Link
     {
-        LinkKind kind;
-        int target;
+        LinkKind kind = LinkKind::Related;
+        int target = -1;
     };
 
     struct Node
@@ -85,6 +93,8 @@ private:
         bool hasLinkedLength = false;
     };
 
+    struct Placing;
+
     static LinkKind linkKind(QStringView tag);
     int intern(const QString &name);
     void readDocument(QXmlStreamReader &xml);
@@ -92,7 +102,9 @@ private:
     void readNode(QXmlStreamReader &xml, const QString &name, int owner);
     void readNodeElement(QXmlStreamReader &xml, int node);
     void collectFeatures();
-    void dropCategoryLoops(int category, std::vector<char> &onPath);
+    void place(int category, int depth, Placing &placing);
+    bool placeBelow(int category, int node, int depth, Placing &placing);
+    void reportLeftOut(const Placing &placing) const;
     void collectDependencies();
     std::vector<std::vector<int>> evaluators() const;
     bool hasBadLength(int node) const;
@@ -107,9 +119,9 @@ private:
     std::vector<Node> m_nodes;
     QHash<QString, int> m_indices;
     QList<int> m_published;
-    std::vector<char> m_isPublished;
-    std::vector<char> m_isFeature;
-    std::vector<char> m_isBroken;
+    std::vector<bool> m_isPublished;
+    std::vector<bool> m_isFeature;
+    std::vector<bool> m_isBroken;
     std::vector<QList<int>> m_sizedRegisters;
     std::vector<int> m_pollingTimes;
     std::vector<std::vector<int>> m_readers; //!< of each node, those that are affected by it

@@ -8,14 +8,14 @@
 #include "valuetext_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/singleprecision.h>
 #include <platform/genicam/genericexception.h>
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -24,11 +24,6 @@ namespace Cameras {
 namespace {
 
 constexpr gint64 longestShownRegister = 64;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Engine", text);
-}
 
 ParameterType typeOf(ArvGcNode *node)
 {
@@ -185,21 +180,20 @@ private:
     GError *m_error = nullptr;
 };
 
-Engine::Engine(ArvDevice *device, std::shared_ptr<const Description> description,
+Engine::Engine(DevicePtr device, std::shared_ptr<const Description> description,
                std::shared_ptr<SimulatedRegisters> registers)
-    : m_device(device)
+    : m_device(std::move(device))
     , m_description(std::move(description))
     , m_registers(std::move(registers))
     , m_nodes(size_t(m_description->nodeCount()), nullptr)
     , m_types(size_t(m_description->nodeCount()), ParameterType::Unknown)
 {
-    ArvGc *genicam = arv_device_get_genicam(m_device);
+    ArvGc *genicam = arv_device_get_genicam(m_device.get());
     if (!genicam || !arv_gc_get_node(genicam, "Root")) {
-        g_clear_object(&m_device);
         throw Core::Exception::BaseException(tr("the engine cannot read the description"));
     }
     for (const int node : m_description->published()) {
-        ArvGcNode *found = arv_gc_get_node(genicam, m_description->name(node).toUtf8().constData());
+        ArvGcNode *found = engineNode(node);
         if (ARV_IS_GC_FEATURE_NODE(found)) {
             m_nodes[node] = found;
             m_types[node] = typeOf(found);
@@ -207,9 +201,12 @@ Engine::Engine(ArvDevice *device, std::shared_ptr<const Description> description
     }
 }
 
-Engine::~Engine()
+Engine::~Engine() = default;
+
+ArvGcNode *Engine::engineNode(int node) const
 {
-    g_clear_object(&m_device);
+    return arv_gc_get_node(arv_device_get_genicam(m_device.get()),
+                           m_description->name(node).toUtf8().constData());
 }
 
 ParameterType Engine::type(int node) const
@@ -261,8 +258,7 @@ bool Engine::isEvaluable(int node)
 {
     const QList<int> &sized = m_description->sizedRegisters(node);
     return !m_description->isBroken(node) && std::all_of(sized.begin(), sized.end(), [this](int sizedNode) {
-        ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
-                                           m_description->name(sizedNode).toUtf8().constData());
+        ArvGcNode *found = engineNode(sizedNode);
         Failure failure(this);
         const bool isSane = !ARV_IS_GC_REGISTER(found)
             || arv_gc_register_get_length(ARV_GC_REGISTER(found), failure) <= guint64(largestRegister);
@@ -346,7 +342,7 @@ void Engine::readFloatLimits(int node, FloatParameterData &data)
     // The engine says "no increment" with the smallest number there is.
     data.increment = failure.take() || data.increment <= DBL_MIN ? 0.0 : data.increment;
     for (double *const limit : {&data.minimum, &data.maximum, &data.increment}) {
-        *limit = ValueText::withoutSinglePrecisionNoise(*limit);
+        *limit = Core::withoutSinglePrecisionNoise(*limit);
     }
     data.representation = representation(node);
     data.displayNotation =
@@ -401,7 +397,7 @@ bool Engine::readFloat(int node, FloatParameterData &data)
 {
     Failure failure(this);
     data.value =
-        ValueText::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
+        Core::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
     data.valueString = ValueText::fromFloat(data.value);
     return !failure.take() && std::isfinite(data.value);
 }
@@ -443,8 +439,7 @@ bool Engine::readCommandDone(int node)
     if (valueNode < 0 || !hasCommandValue || m_description->isBroken(node)) {
         return true;
     }
-    ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
-                                       m_description->name(valueNode).toUtf8().constData());
+    ArvGcNode *found = engineNode(valueNode);
     if (!ARV_IS_GC_INTEGER(found)
         || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(found)) != ARV_GC_ACCESS_MODE_RW) {
         return true;
@@ -621,8 +616,7 @@ void Engine::finishCommand(int node)
     if (valueNode < 0 || readCommandDone(node)) {
         return;
     }
-    ArvGcNode *found = arv_gc_get_node(arv_device_get_genicam(m_device),
-                                       m_description->name(valueNode).toUtf8().constData());
+    ArvGcNode *found = engineNode(valueNode);
     Failure failure(this);
     if (ARV_IS_GC_REGISTER(found)
         && m_registers->isLiving(arv_gc_register_get_address(ARV_GC_REGISTER(found), failure))) {

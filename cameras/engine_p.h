@@ -4,18 +4,18 @@
 #pragma once
 
 #include <cameras/description_p.h>
+#include <cameras/deviceptr_p.h>
 
 #include <platform/parametercollection/parameterdata.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <memory>
 #include <variant>
 #include <vector>
 
-typedef struct _ArvDevice ArvDevice;
-typedef struct _ArvGcNode ArvGcNode;
-typedef struct _GError GError;
+using ArvGcNode = struct _ArvGcNode;
 
 namespace Cameras {
 
@@ -35,6 +35,8 @@ using NodeValue = std::variant<QString, qint64, double, bool, ExecuteCommand>;
  */
 class Engine
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Engine)
+
 public:
     struct Reading
     {
@@ -42,9 +44,8 @@ public:
         GenApi::EAccessMode access = GenApi::NI;
     };
 
-    /*! Takes \a device over. \a registers are null for a live camera. Throws when the engine cannot read the
-     * description. */
-    Engine(ArvDevice *device, std::shared_ptr<const Description> description,
+    /*! \a registers are null for a live camera. Throws when the engine cannot read the description. */
+    Engine(DevicePtr device, std::shared_ptr<const Description> description,
            std::shared_ptr<SimulatedRegisters> registers);
     ~Engine();
     Q_DISABLE_COPY_MOVE(Engine)
@@ -63,6 +64,7 @@ public:
 private:
     class Failure;
 
+    ArvGcNode *engineNode(int node) const;
     bool isEvaluable(int node);
     GenApi::EAccessMode readAccess(int node);
     void readLimits(int node, ParameterCollection::ParameterData &data);
@@ -86,7 +88,7 @@ private:
     void finishCommand(int node);
     [[noreturn]] void refuse(int node, const QString &text, const QString &allowed) const;
 
-    ArvDevice *m_device = nullptr;
+    DevicePtr m_device;
     std::shared_ptr<const Description> m_description;
     std::shared_ptr<SimulatedRegisters> m_registers;
     std::vector<ArvGcNode *> m_nodes;

@@ -5,9 +5,7 @@
 
 #include <platform/genicam/genericexception.h>
 
-#include <QCoreApplication>
-
-#include <algorithm>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -37,7 +35,7 @@ int indexOrThrow(const QStringList &names, const NodeHandle &handle, const QStri
     if (index < 0) {
         const QString feature = handle.session->description(handle.map)->name(handle.node);
         throw GenICam::InvalidArgumentException(
-            QCoreApplication::translate("Cameras::NodeParameter", "%1: \"%2\" is no %3, expected %4")
+            NodeProperties::tr("%1: \"%2\" is no %3, expected %4")
                 .arg(feature, value, property, names.join(QLatin1String(", "))));
     }
     return int(index);
@@ -72,8 +70,8 @@ public:
 
 } // namespace
 
-NodeProperties::NodeProperties(const NodeHandle &handle)
-    : m_handle(handle)
+NodeProperties::NodeProperties(NodeHandle handle)
+    : m_handle(std::move(handle))
 {
 }
 
@@ -94,8 +92,8 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
     }
     const bool isInherited = name == QLatin1String("Representation") || name == QLatin1String("Unit");
     const QString element = name == QLatin1String("Tooltip") ? QStringLiteral("ToolTip") : name;
-    const QString text = isInherited ? description.inheritedProperty(m_handle.node, element)
-                                     : description.property(m_handle.node, element);
+    QString text = isInherited ? description.inheritedProperty(m_handle.node, element)
+                               : description.property(m_handle.node, element);
     if (!text.isEmpty()) {
         return text;
     }
@@ -113,9 +111,7 @@ void NodeProperties::setProperty(const QString &name, const QString &value)
     } else {
         const QString feature = m_handle.session->description(m_handle.map)->name(m_handle.node);
         throw GenICam::InvalidArgumentException(
-            QCoreApplication::translate(
-                "Cameras::NodeParameter",
-                "%1: the property \"%2\" cannot be imposed, only Visibility and AccessMode can")
+            tr("%1: the property \"%2\" cannot be imposed, only Visibility and AccessMode can")
                 .arg(feature, name));
     }
 }

@@ -7,6 +7,8 @@
 
 #include <platform/parametercollection/iparameter.h>
 
+#include <QCoreApplication>
+
 #include <memory>
 
 namespace Cameras {
@@ -22,8 +24,10 @@ struct NodeHandle
 /*! \brief The static properties of a node, and what is imposed on it. */
 class NodeProperties : public ParameterCollection::NodePropertyAccess
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::NodeProperties)
+
 public:
-    explicit NodeProperties(const NodeHandle &handle);
+    explicit NodeProperties(NodeHandle handle);
     ~NodeProperties() override;
 
     using NodePropertyAccess::property;

@@ -9,8 +9,6 @@
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <utility>
 
@@ -26,11 +24,6 @@ namespace {
 constexpr auto writeTime = 1s;
 constexpr auto openTime = 20s;
 constexpr auto closeTime = 500ms;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cameras::Session", text);
-}
 
 /*! \brief Threads of cameras that were closed while an access hung; joined before the process ends. */
 class LeftThreads
@@ -149,11 +142,12 @@ void Session::open(const Opener &opener)
     std::vector<std::unique_ptr<MapState>> maps;
     for (NodeMapSource &mapSource : source.maps) {
         auto map = std::make_unique<MapState>();
-        map->engine = std::make_unique<Engine>(std::exchange(mapSource.device, nullptr),
-                                               mapSource.description, mapSource.registers);
-        map->source = mapSource;
-        map->nodes.resize(size_t(mapSource.description->nodeCount()));
-        for (const int node : mapSource.description->published()) {
+        map->source = std::move(mapSource);
+        const auto &description = map->source.description;
+        map->engine =
+            std::make_unique<Engine>(std::move(map->source.device), description, map->source.registers);
+        map->nodes.resize(size_t(description->nodeCount()));
+        for (const int node : description->published()) {
             Engine::Reading reading = map->engine->read(node);
             if (!map->engine->lossReason().isEmpty()) {
                 throw Core::Exception::BaseException(map->engine->lossReason());

@@ -5,11 +5,13 @@
 
 #include <cameras/cameras_export.h>
 #include <cameras/description_p.h>
+#include <cameras/deviceptr_p.h>
 #include <cameras/engine_p.h>
 
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/parameterdata.h>
 
+#include <QCoreApplication>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -33,7 +35,7 @@ struct NodeMapSource
 {
     QString name;
     QString title;
-    ArvDevice *device = nullptr; //!< taken over by the session
+    DevicePtr device; //!< moves on into the engine
     std::shared_ptr<const Description> description;
     std::shared_ptr<SimulatedRegisters> registers; //!< null for a live camera
 };
@@ -46,6 +48,8 @@ struct NodeMapSource
  */
 class ZELTO_CAMERAS_EXPORT Session : public std::enable_shared_from_this<Session>
 {
+    Q_DECLARE_TR_FUNCTIONS(Cameras::Session)
+
 public:
     struct Source
     {

@@ -112,13 +112,13 @@ static void zelto_simulated_device_class_init(ZeltoSimulatedDeviceClass *deviceC
 
 namespace Cameras {
 
-ArvDevice *newSimulatedDevice(const QByteArray &xml, const std::shared_ptr<SimulatedRegisters> &registers)
+DevicePtr newSimulatedDevice(const QByteArray &xml, const std::shared_ptr<SimulatedRegisters> &registers)
 {
-    auto *device = static_cast<ArvDevice *>(g_object_new(zelto_simulated_device_get_type(), nullptr));
-    SimulatedDeviceState *state = stateOf(device);
+    DevicePtr device(static_cast<ArvDevice *>(g_object_new(zelto_simulated_device_get_type(), nullptr)));
+    SimulatedDeviceState *state = stateOf(device.get());
     state->xml = xml;
     state->registers = registers;
-    state->genicam = arv_gc_new(device, state->xml.constData(), size_t(state->xml.size()));
+    state->genicam = arv_gc_new(device.get(), state->xml.constData(), size_t(state->xml.size()));
     return device;
 }
 

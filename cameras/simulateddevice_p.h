@@ -4,20 +4,19 @@
 #pragma once
 
 #include <cameras/cameras_export.h>
+#include <cameras/deviceptr_p.h>
 
 #include <QByteArray>
 
 #include <memory>
 
-typedef struct _ArvDevice ArvDevice;
-
 namespace Cameras {
 
 class SimulatedRegisters;
 
-/*! Returns a new device, owned by the caller, that serves the description \a xml from \a registers. It has no
- * genicam when the engine cannot read the description. */
-ZELTO_CAMERAS_EXPORT ArvDevice *newSimulatedDevice(const QByteArray &xml,
-                                                   const std::shared_ptr<SimulatedRegisters> &registers);
+/*! Returns a new device that serves the description \a xml from \a registers. It has no genicam when the
+ * engine cannot read the description. */
+ZELTO_CAMERAS_EXPORT DevicePtr newSimulatedDevice(const QByteArray &xml,
+                                                  const std::shared_ptr<SimulatedRegisters> &registers);
 
 } // namespace Cameras

@@ -72,7 +72,7 @@ SimulatedRegisters::SimulatedRegisters()
 
 void SimulatedRegisters::load(const QByteArray &lines)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     for (const QByteArray &line : lines.split('\n')) {
         const QByteArray text = line.left(line.indexOf('#')).trimmed();
         if (!text.isEmpty()) {
@@ -114,7 +114,7 @@ bool SimulatedRegisters::read(quint64 address, quint32 size, void *buffer)
     if (size > largestRegister) {
         return false;
     }
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     refreshLiving(address, size);
     char *to = static_cast<char *>(buffer);
     for (quint32 done = 0; done < size;) {
@@ -138,7 +138,7 @@ bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer
     if (size > largestRegister) {
         return false;
     }
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     store(address, QByteArray(static_cast<const char *>(buffer), size));
     const auto living = m_living.find(address);
     if (living == m_living.end()) {
@@ -191,7 +191,7 @@ void SimulatedRegisters::refreshLiving(quint64 address, quint32 size)
 
 bool SimulatedRegisters::isLiving(quint64 address)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_living.contains(address);
 }
 

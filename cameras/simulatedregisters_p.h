@@ -8,9 +8,9 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QHash>
-#include <QMutex>
 
 #include <atomic>
+#include <mutex>
 
 namespace Cameras {
 
@@ -34,6 +34,7 @@ public:
 
     /*! Copies registers to \a buffer. Returns false when the request is larger than a register can be. */
     bool read(quint64 address, quint32 size, void *buffer);
+    /*! Copies \a buffer to registers. Returns false as read() does. */
     bool write(quint64 address, quint32 size, const void *buffer);
 
     /*! Returns whether the register at \a address lives on its own. */
@@ -61,7 +62,7 @@ private:
     void refreshLiving(quint64 address, quint32 size);
     void wait() const;
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QHash<quint64, QByteArray> m_pages;
     QHash<quint64, QByteArray> m_loadedPages;
     QHash<quint64, Living> m_living;

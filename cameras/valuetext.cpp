@@ -7,8 +7,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 
 namespace Cameras::ValueText {
@@ -75,20 +73,6 @@ QString fromFloat(double value)
     const double magnitude = std::abs(value);
     const bool isPlain = magnitude == 0.0 || (magnitude >= smallestPlain && magnitude < largestPlain);
     return QString::number(value, isPlain ? 'f' : 'g', QLocale::FloatingPointShortest);
-}
-
-double withoutSinglePrecisionNoise(double value)
-{
-    if (!std::isfinite(value) || value == std::trunc(value)) {
-        return value;
-    }
-    const auto single = static_cast<float>(value); // a fraction is within its range
-    if (static_cast<double>(single) != value) {
-        return value;
-    }
-    std::array<char, 32> text{};
-    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), single);
-    return error == std::errc() ? QByteArray(text.data(), end - text.data()).toDouble() : value;
 }
 
 std::optional<qint64> toInteger(const QString &text, const QString &representation)

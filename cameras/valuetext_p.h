@@ -14,9 +14,6 @@ namespace Cameras::ValueText {
 QString fromInteger(qint64 value, const QString &representation);
 /*! Returns the shortest text that gives \a value again. */
 QString fromFloat(double value);
-/*! Returns the number that was meant by what a single precision register holds: 0.1 for 0.10000000149011612.
- * Other numbers are returned as they are. */
-double withoutSinglePrecisionNoise(double value);
 
 /*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a
  * representation. */

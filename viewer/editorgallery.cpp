@@ -5,6 +5,7 @@
 
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
 #include <zeltoviewercomponents/featuretree/enumeditor.h>
+#include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
 #include <zeltoviewercomponents/featuretree/floateditor.h>
 #include <zeltoviewercomponents/featuretree/floatslidereditor.h>
 #include <zeltoviewercomponents/featuretree/inteditor.h>
@@ -30,31 +31,27 @@ struct Choice
     const char *commitSignal = nullptr;
 };
 
-bool hasSlider(const QString &representation)
+Choice createEditor(const QSharedPointer<IParameterCollection> &collection,
+                    const QSharedPointer<IParameter> &parameter, const QString &representation,
+                    QWidget *parent)
 {
-    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
-}
-
-Choice createEditor(const QSharedPointer<IParameterCollection> &collection, const IParameter &parameter,
-                    const QString &representation, QWidget *parent)
-{
-    switch (parameter.type()) {
-    case ParameterType::Integer:
-        if (hasSlider(representation)) {
-            return {new IntSliderEditor(parent), SIGNAL(valueChanged(int))};
-        }
+    switch (FeatureTreeINodeItem::editorType(parameter)) {
+    case FeatureTreeItem::Integer:
         return {new IntEditor(parent), SIGNAL(editingFinished())};
-    case ParameterType::Float:
-        if (hasSlider(representation)
-            && collection->hasParameter(parameter.fullName() + QLatin1String("/Alias"))) {
+    case FeatureTreeItem::IntegerSlider:
+        return {new IntSliderEditor(parent), SIGNAL(valueChanged(int))};
+    case FeatureTreeItem::FloatSlider:
+        if (collection->hasParameter(parameter->fullName() + QLatin1String("/Alias"))) {
             return {new FloatSliderEditor(collection, parent), SIGNAL(boxValueChanged())};
         }
+        [[fallthrough]];
+    case FeatureTreeItem::Float:
         return {new FloatEditor(parent, representation), SIGNAL(boxValueChanged())};
-    case ParameterType::Boolean:
+    case FeatureTreeItem::Boolean:
         return {new CheckBoxEditor(parent), SIGNAL(clicked(bool))};
-    case ParameterType::Enumeration:
+    case FeatureTreeItem::Enumeration:
         return {new EnumEditor(parent), SIGNAL(activated(int))};
-    case ParameterType::Command:
+    case FeatureTreeItem::Command:
         return {new ToolButtonEditor(parent), SIGNAL(clicked(bool))};
     default:
         return {};
@@ -104,7 +101,7 @@ void EditorGallery::addEditors(const QSharedPointer<IParameterCollection> &colle
         if (m_kinds.contains(kind)) {
             continue;
         }
-        const Choice choice = createEditor(collection, *parameter, representation, layout->parentWidget());
+        const Choice choice = createEditor(collection, parameter, representation, layout->parentWidget());
         if (choice.editor) {
             m_kinds.insert(kind);
             addEditor(choice.editor, choice.commitSignal, parameter, layout);

@@ -6,5 +6,5 @@
 class QLocale;
 
 /*! Makes the application speak the language of \a locale, as far as there are translations: the viewer's
- * texts, the library's and Qt's own. What has none stays English. */
+ * texts, the libraries' and Qt's own. What has none stays English. */
 void installTranslations(const QLocale &locale);

@@ -223,7 +223,7 @@ void MainWindow::createViewMenu()
     m_monitorAction->setCheckable(true);
     m_monitorAction->setToolTip(tr("Polling re-reads all features, not only the volatile ones"));
     m_monitorAction->setStatusTip(m_monitorAction->toolTip());
-    connect(m_monitorAction, &QAction::toggled, m_tree, &FeatureTreeWidget::setMonitorMode);
+    connect(m_monitorAction, SIGNAL(toggled(bool)), m_tree, SLOT(setMonitorMode(bool)));
 }
 
 void MainWindow::createCameraMenu()
@@ -263,9 +263,6 @@ QMenu *MainWindow::createLevelMenu(QMenu *parent)
     connect(m_levels, SIGNAL(triggered(QAction *)), this, SLOT(setLevel(QAction *)));
     return menu;
 }
-
-// Camera
-// ----------------------------------------------------------------------------------------------------------
 
 void MainWindow::openCamera(const Options &options)
 {
@@ -439,9 +436,6 @@ QString MainWindow::ipObstacle() const
     return m_camera->isLost() ? tr("The camera was lost") : IpConfiguration(m_camera->nodeMaps()).obstacle();
 }
 
-// Tree
-// ------------------------------------------------------------------------------------------------------------
-
 void MainWindow::applyOptions(const Options &options)
 {
     if (options.visibility) {
@@ -486,7 +480,7 @@ void MainWindow::onMatchesChanged(int total, int hidden)
     }
 }
 
-void MainWindow::onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu)
+void MainWindow::onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu)
 {
     menu->exec(m_tree->mapToGlobal(pos));
 }
@@ -521,9 +515,6 @@ void MainWindow::about()
            "Vision cameras and for any GenICam camera description file.")
             .arg(QCoreApplication::applicationVersion()));
 }
-
-// State
-// -----------------------------------------------------------------------------------------------------------
 
 void MainWindow::restoreState()
 {

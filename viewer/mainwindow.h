@@ -81,7 +81,7 @@ private slots:
     void onRowChanged(const QModelIndex &index);
     void onColumnResized(int column, int oldWidth, int newWidth);
     void onMatchesChanged(int total, int hidden);
-    void onContextMenu(const QPoint &pos, QSharedPointer<QMenu> menu);
+    void onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
     void copyTree();

@@ -61,7 +61,8 @@ QString helpText(const QCommandLineParser &parser)
     return parser.helpText().replace(QLatin1String("<executable_name>"), QCoreApplication::applicationName());
 }
 
-QString contradiction(const QCommandLineParser &parser)
+// Returns what is wrong with the arguments, empty when nothing is.
+QString mistakeIn(const QCommandLineParser &parser)
 {
     // An empty text, as from an unset variable of a script, must not pass for an option that was not given.
     for (const char *const option : {"description", "camera", "screenshot"}) {
@@ -94,30 +95,18 @@ QString contradiction(const QCommandLineParser &parser)
                 .arg(one, other);
         }
     }
+    const QString level = parser.value(QStringLiteral("visibility"));
+    if (parser.isSet(QStringLiteral("visibility")) && !visibilityFrom(level)) {
+        return QCoreApplication::translate(
+                   "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
+            .arg(level);
+    }
     return {};
 }
 
-} // namespace
-
-bool Options::isInteractive() const
+Options optionsFrom(const QCommandLineParser &parser)
 {
-    return !list && !dump && !favorites && screenshot.isEmpty() && helpText.isEmpty();
-}
-
-ParsedOptions parseOptions(const QStringList &arguments)
-{
-    QCommandLineParser parser;
-    addOptions(parser);
-    ParsedOptions parsed;
-    if (!parser.parse(arguments)) {
-        parsed.error = parser.errorText();
-        return parsed;
-    }
-    parsed.error = contradiction(parser);
-    if (!parsed.error.isEmpty()) {
-        return parsed;
-    }
-    Options &options = parsed.options;
+    Options options;
     if (parser.isSet(QStringLiteral("help"))) {
         options.helpText = helpText(parser);
     } else if (parser.isSet(QStringLiteral("version"))) {
@@ -133,18 +122,29 @@ ParsedOptions parseOptions(const QStringList &arguments)
     options.expand = parser.isSet(QStringLiteral("expand"));
     options.search = parser.value(QStringLiteral("search"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
-    if (parser.isSet(QStringLiteral("visibility"))) {
-        const QString level = parser.value(QStringLiteral("visibility"));
-        options.visibility = visibilityFrom(level);
-        if (!options.visibility) {
-            parsed.error =
-                QCoreApplication::translate(
-                    "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
-                    .arg(level);
-        }
-    } else if (options.dump || options.favorites) {
+    options.visibility = visibilityFrom(parser.value(QStringLiteral("visibility")));
+    if (!options.visibility && (options.dump || options.favorites)) {
         // What a script reads must not depend on the level that the window was left at.
         options.visibility = GenApi::Guru;
+    }
+    return options;
+}
+
+} // namespace
+
+bool Options::isInteractive() const
+{
+    return !list && !dump && !favorites && screenshot.isEmpty() && helpText.isEmpty();
+}
+
+ParsedOptions parseOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    ParsedOptions parsed;
+    parsed.error = parser.parse(arguments) ? mistakeIn(parser) : parser.errorText();
+    if (parsed.error.isEmpty()) {
+        parsed.options = optionsFrom(parser);
     }
     return parsed;
 }

@@ -36,5 +36,5 @@ struct ParsedOptions
     QString error;
 };
 
-/*! Needs no application object. */
+/*! Returns what \a arguments ask for. Needs no application object. */
 ParsedOptions parseOptions(const QStringList &arguments);

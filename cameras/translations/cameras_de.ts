@@ -119,7 +119,7 @@
     </message>
 </context>
 <context>
-    <name>Cameras::NodeParameter</name>
+    <name>Cameras::NodeProperties</name>
     <message>
         <source>%1: &quot;%2&quot; is no %3, expected %4</source>
         <translation>%1: &quot;%2&quot; ist nicht vom Typ %3, erwartet: %4</translation>

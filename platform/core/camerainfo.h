@@ -19,8 +19,11 @@ public:
 
     /*! Returns the text by which the camera is opened. */
     virtual QString id() const = 0;
+    /*! Returns the vendor's name, empty when it is not known. */
     virtual QString vendorName() const = 0;
+    /*! Returns the model's name, empty when it is not known. */
     virtual QString modelName() const = 0;
+    /*! Returns the serial number, empty when it is not known. */
     virtual QString serialNumber() const = 0;
     /*! Returns the device class word, such as "GEV" or "U3V". */
     virtual QString deviceClass() const = 0;

@@ -5,9 +5,11 @@
 
 #include <QHash>
 #include <QLoggingCategory>
-#include <QReadWriteLock>
 
 #include <memory>
+#include <mutex>
+#include <shared_mutex>
+#include <utility>
 #include <vector>
 
 namespace Core::Logging {
@@ -16,8 +18,8 @@ namespace {
 
 struct Category
 {
-    explicit Category(const QByteArray &categoryName)
-        : name(categoryName)
+    explicit Category(QByteArray categoryName)
+        : name(std::move(categoryName))
         , category(name.constData(), QtInfoMsg)
     {
     }
@@ -28,7 +30,7 @@ struct Category
 
 struct Registry
 {
-    QReadWriteLock lock;
+    std::shared_mutex mutex;
     QHash<QByteArray, CategoryId> ids;
     std::vector<std::unique_ptr<Category>> categories; // the category of id i is at i - 1
 };
@@ -43,7 +45,7 @@ Registry &registry()
 const QLoggingCategory *category(CategoryId id)
 {
     Registry &all = registry();
-    const QReadLocker locker(&all.lock);
+    const std::shared_lock lock(all.mutex);
     return id >= 1 && id <= all.categories.size() ? &all.categories[id - 1]->category : nullptr;
 }
 
@@ -53,7 +55,7 @@ CategoryId getCatId(const char *name)
 {
     const QByteArray key(name);
     Registry &all = registry();
-    const QWriteLocker locker(&all.lock);
+    const std::unique_lock lock(all.mutex);
     CategoryId &id = all.ids[key];
     if (id == 0) {
         all.categories.push_back(std::make_unique<Category>(key));

@@ -36,11 +36,13 @@ public:
 
     /*! Returns the visibility, imposed or own, whichever shows less. */
     virtual GenApi::EVisibility visibility() const = 0;
+    /*! Returns the parameter's kind. */
     virtual ParameterType type() const = 0;
     /*! Returns the path within the collection's tree, such as "@CameraDevice/ExposureTime". */
     virtual QString fullName() const = 0;
     /*! Returns the short name, such as "ExposureTime". */
     virtual QString name() const = 0;
+    /*! Returns the access to the node's static properties. */
     virtual QSharedPointer<NodePropertyAccess> propertyAccess() const = 0;
 
     /*! Returns the current snapshot. Never touches the device. */
@@ -64,30 +66,35 @@ protected:
     explicit IParameter(QObject *parent = nullptr);
 };
 
+/*! \brief An integer feature; its snapshots are IntegerParameterData. */
 class ZELTO_PLATFORM_EXPORT IIntegerParameter : public IParameter
 {
     Q_OBJECT
 
 public:
     ~IIntegerParameter() override;
+    /*! Writes \a value. */
     virtual void setValue(qint64 value) = 0;
 
 protected:
     using IParameter::IParameter;
 };
 
+/*! \brief A floating-point feature; its snapshots are FloatParameterData. */
 class ZELTO_PLATFORM_EXPORT IFloatParameter : public IParameter
 {
     Q_OBJECT
 
 public:
     ~IFloatParameter() override;
+    /*! Writes \a value. */
     virtual void setValue(double value) = 0;
 
 protected:
     using IParameter::IParameter;
 };
 
+/*! \brief An enumeration; its snapshots are EnumParameterData. */
 class ZELTO_PLATFORM_EXPORT IEnumParameter : public IParameter
 {
     Q_OBJECT
@@ -101,6 +108,7 @@ protected:
     using IParameter::IParameter;
 };
 
+/*! \brief A command; its snapshots are CommandParameterData. */
 class ZELTO_PLATFORM_EXPORT ICommandParameter : public IParameter
 {
     Q_OBJECT
@@ -114,12 +122,14 @@ protected:
     using IParameter::IParameter;
 };
 
+/*! \brief A boolean feature; its snapshots are BooleanParameterData. */
 class ZELTO_PLATFORM_EXPORT IBooleanParameter : public IParameter
 {
     Q_OBJECT
 
 public:
     ~IBooleanParameter() override;
+    /*! Writes \a value. */
     virtual void setValue(bool value) = 0;
 
 protected:

@@ -27,6 +27,7 @@ public:
 
     /*! Returns the parameter called \a name, null when there is none. */
     virtual QSharedPointer<IParameter> parameter(const QString &name) const = 0;
+    /*! Returns whether there is a parameter called \a name. */
     virtual bool hasParameter(const QString &name) const = 0;
 
     /*! Returns the names of the nodes below the category \a parent, in the order of the description.

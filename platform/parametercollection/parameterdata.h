@@ -50,6 +50,7 @@ public:
     QString valueString; //!< the current value as text
 };
 
+/*! \brief Snapshot of an integer with its limits. */
 class ZELTO_PLATFORM_EXPORT IntegerParameterData : public ParameterData
 {
 public:
@@ -65,6 +66,7 @@ public:
         representation; //!< GenICam representation, "PureNumber" when the description has none; never empty
 };
 
+/*! \brief Snapshot of a floating-point number with its limits and how it is to be printed. */
 class ZELTO_PLATFORM_EXPORT FloatParameterData : public ParameterData
 {
 public:
@@ -81,6 +83,7 @@ public:
     int displayPrecision = 6; //!< significant digits asked for by the description
 };
 
+/*! \brief Snapshot of a boolean. */
 class ZELTO_PLATFORM_EXPORT BooleanParameterData : public ParameterData
 {
 public:
@@ -91,6 +94,7 @@ public:
     bool value = false;
 };
 
+/*! \brief Snapshot of a command. */
 class ZELTO_PLATFORM_EXPORT CommandParameterData : public ParameterData
 {
 public:
@@ -101,6 +105,7 @@ public:
     bool isDone = true; //!< the command has completed, or never ran
 };
 
+/*! \brief Snapshot of an enumeration with its entries; the current one is valueString. */
 class ZELTO_PLATFORM_EXPORT EnumParameterData : public ParameterData
 {
 public:

@@ -6,7 +6,7 @@
 
 #include <platform/core/exception.h>
 #include <platform/parametercollection/iparameter.h>
-
+#include <support/logcapture.h>
 #include <support/table.h>
 
 #include <QStringEncoder>
@@ -59,6 +59,8 @@ private slots:
     void circlesAreUnreadable();
     void impossibleLengthsAreUnreadable();
     void endlessNestingIsCut();
+    void repeatedCategoriesStayBounded_data();
+    void repeatedCategoriesStayBounded();
     void dependentsFollowTheLinks();
     void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
@@ -217,6 +219,55 @@ void TestDescription::endlessNestingIsCut()
     QVERIFY(camera->nodeMaps().first().collection->hasParameter("A"));
 }
 
+void TestDescription::repeatedCategoriesStayBounded_data()
+{
+    QTest::addColumn<QByteArray>("nodes");
+    QTest::addColumn<int>("fewestRows");
+    QTest::addColumn<int>("mostRows");
+    const auto category = [](int number, const QByteArray &features) {
+        return "<Category Name=\"C" + QByteArray::number(number) + "\">" + features + "</Category>";
+    };
+    const auto entry = [](int number) { return "<pFeature>C" + QByteArray::number(number) + "</pFeature>"; };
+    const QByteArray leaf("<pFeature>Leaf</pFeature>");
+    QByteArray lattice = "<Category Name=\"Root\">" + entry(0) + "</Category>";
+    QByteArray ladder = "<Category Name=\"Root\">";
+    QByteArray rungs;
+    for (int i = 0; i < 60; ++i) {
+        lattice += category(i, i < 30 ? entry(i + 1) + entry(i + 1) : leaf);
+        ladder += entry(59 - i);
+        rungs += category(i, leaf + (i < 59 ? entry(i + 1) : QByteArray()));
+    }
+    QTest::newRow("lattice") << lattice << 31 << 20000;
+    QTest::newRow("each lists all that is below") << ladder + "</Category>" + rungs << 120 << 20000;
+    QTest::newRow("a feature and a category in two places") << "<Category Name=\"Root\">" + entry(1)
+            + entry(2) + leaf + "</Category>" + category(1, entry(2) + leaf)
+            + category(2, leaf) << 7 << 7;
+}
+
+void TestDescription::repeatedCategoriesStayBounded()
+{
+    QFETCH(QByteArray, nodes);
+    QFETCH(int, fewestRows);
+    QFETCH(int, mostRows);
+    LogCapture log;
+    const Description parsed(description(nodes + "<Integer Name=\"Leaf\"><Value>7</Value></Integer>"));
+    const bool isWhole = fewestRows == mostRows;
+    int rows = 0;
+    int depth = 0;
+    QList<int> generation{parsed.indexOf(QStringLiteral("Root"))};
+    for (; !generation.isEmpty() && rows <= mostRows; ++depth) {
+        QList<int> next;
+        for (const int node : std::as_const(generation)) {
+            next.append(parsed.children(node));
+        }
+        rows += int(next.size());
+        generation = next;
+    }
+    QVERIFY2(rows >= fewestRows && rows <= mostRows, qPrintable(QString::number(rows)));
+    QVERIFY2(depth <= 33, qPrintable(QString::number(depth)));
+    QCOMPARE(log.messages().filter(QStringLiteral("left out")).isEmpty(), isWhole);
+}
+
 void TestDescription::dependentsFollowTheLinks()
 {
     const Description parsed(description(
@@ -273,6 +324,7 @@ void TestDescription::singlePrecisionIsShownAsItWasMeant()
     QCOMPARE(written("Single", "0.1"), "0.1");
     QCOMPARE(written("Single", "46.099998"), "46.1");
     QCOMPARE(written("Double", "0.30000000000000004"), "0.30000000000000004");
+    QCOMPARE(written("Double", "131072.015625"), "131072.015625");
     QCOMPARE(written("Large", "123456792"), "123456792");
 }
 

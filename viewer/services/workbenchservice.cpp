@@ -77,8 +77,7 @@ void WorkbenchService::onPageDestroyed(QObject *page)
     if (found == m_items.cend()) {
         return;
     }
-    const WorkbenchBaseInfoPtr item = *found;
-    m_items.erase(found);
+    const WorkbenchBaseInfoPtr item = m_items.takeAt(found - m_items.cbegin());
     if (item == m_selected) {
         select(nullptr);
     }

@@ -58,7 +58,7 @@ protected slots:
 private:
     struct Entry
     {
-        ErrorSeverity severity;
+        ErrorSeverity severity = Critical;
         QString message;
         QString details;
         QPointer<QWidget> parent;

@@ -25,29 +25,44 @@ public:
 
     /*! Shows the grid point at or below \a value. */
     virtual void setValue(int value);
+    /*! Sets the lowest value, where the grid starts. */
     virtual void setMinimum(int minimum);
+    /*! Sets the highest value. */
     virtual void setMaximum(int maximum);
+    /*! Sets both limits. */
     virtual void setRange(int minimum, int maximum);
+    /*! Sets both limits and the distance of the grid points. */
     virtual void setRangeAndStep(int minimum, int maximum, int singleStep);
+    /*! Sets the distance of the grid points. */
     virtual void setSingleStep(int singleStep);
+    /*! Sets by how much a page key changes the value. */
     virtual void setPageStep(int pageStep);
 
+    /*! Returns the value that is shown. */
     int value() const;
+    /*! Returns the lowest value. */
     int minimum() const;
+    /*! Returns the highest value. */
     int maximum() const;
+    /*! Returns the distance of the grid points. */
     int singleStep() const;
+    /*! Returns by how much a page key changes the value. */
     int pageStep() const;
 
+    /*! Returns the least width of the spin box. */
     int editBoxWidth() const;
     /*! Sets the least width of the spin box. */
     void setEditBoxWidth(int width);
 
     /*! Sets whether movements of the slider emit valueChanged(). */
     void enableUpdate(bool enable);
+    /*! Returns whether movements of the slider emit valueChanged(). */
     bool isUpdateEnabled() const;
 
 signals:
+    /*! The user has changed the value. */
     void valueChanged(int value);
+    /*! The limits were set. */
     void rangeChanged(int minimum, int maximum);
 
 protected:

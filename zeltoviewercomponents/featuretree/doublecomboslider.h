@@ -23,42 +23,65 @@ public:
     explicit DoubleComboSlider(QWidget *parent);
     ~DoubleComboSlider() override;
 
+    /*! Shows \a value in the spin box; the slider stays where it is. */
     virtual void setValue(double value);
     /*! Sets the slider's position. */
     virtual void setIntValue(int position);
+    /*! Sets the lowest value of the spin box. */
     virtual void setMinimum(double minimum);
+    /*! Sets the slider's first position. */
     virtual void setIntMinimum(int minimum);
+    /*! Sets the highest value of the spin box. */
     virtual void setMaximum(double maximum);
+    /*! Sets the slider's last position. */
     virtual void setIntMaximum(int maximum);
+    /*! Sets how many decimals the spin box keeps. */
     virtual void setDecimals(int decimals);
+    /*! Sets both limits of the spin box. */
     virtual void setRange(double minimum, double maximum);
+    /*! Sets the slider's first and last position. */
     virtual void setIntRange(int minimum, int maximum);
     /*! Sets the slider step that corresponds to one increment of the value. */
     virtual void setIntIncrement(int increment);
     /*! Sets the page step to the larger of two increments and a twentieth of the slider's range, on the grid.
      */
     virtual void setPageStep();
+    /*! Sets the range of the slider, its step and its page step. */
     virtual void setRangeStepAndIncrement(int minIntRangeLimit, int maxIntRangeLimit, int intIncrement);
+    /*! Sets the limits of the spin box, the slider's step and its page step. */
     virtual void setRangeStepAndIncrement(double minRangeLimit, double maxRangeLimit, int intIncrement);
+    /*! Sets the ranges of both controls, the steps and the position of the slider. */
     virtual void initControls(double minRangeLimit, double maxRangeLimit, int intValue, int minIntRangeLimit,
                               int maxIntRangeLimit, int intIncrement);
 
+    /*! Returns the value in the spin box. */
     double value() const;
+    /*! Returns the lowest value of the spin box. */
     double minimum() const;
+    /*! Returns the highest value of the spin box. */
     double maximum() const;
+    /*! Returns how many decimals the spin box keeps. */
     int decimals() const;
+    /*! Returns the slider's position. */
     int intValue() const;
+    /*! Returns the slider's first position. */
     int intMinimum() const;
+    /*! Returns the slider's last position. */
     int intMaximum() const;
+    /*! Returns the slider step that corresponds to one increment of the value. */
     int intIncrement() const;
+    /*! Returns the least width of the spin box. */
     int editBoxWidth() const;
 
+    /*! Sets whether a refresh may overwrite the shown value although the user has the focus. */
     void enableUpdate(bool enable);
     /*! Returns whether a refresh may overwrite the shown value although the user has the focus. */
     bool isUpdateExspected() const;
+    /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
 signals:
+    /*! The slider's range was set. */
     void rangeChanged(int minimum, int maximum);
 
 protected:

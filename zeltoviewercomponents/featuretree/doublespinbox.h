@@ -26,28 +26,45 @@ public:
     DoubleSpinBox(QWidget *parent, const QString &representation);
     ~DoubleSpinBox() override;
 
+    /*! Shows \a value, limited to the range. */
     virtual void setValue(double value);
+    /*! Sets the lowest value. */
     virtual void setMinimum(double minimum);
+    /*! Sets the highest value. */
     virtual void setMaximum(double maximum);
+    /*! Sets how many decimals are kept. */
     virtual void setDecimals(int decimals);
+    /*! Sets the increment, which the tool tip tells; 0 for none. */
     virtual void setIncrement(double increment);
+    /*! Sets both limits. */
     virtual void setRange(double minimum, double maximum);
     /*! Sets the page step to the larger of two increments and a twentieth of the range. */
     virtual void setPageStep();
+    /*! Sets limits, increment and page step; without an increment the step buttons go. */
     virtual void setRangeStepAndIncrement(double minimum, double maximum, double increment);
+    /*! Shows \a value and sets limits, increment and page step. */
     virtual void initControls(double minimum, double maximum, double value, double increment);
 
+    /*! Returns the value that is shown. */
     double value() const;
+    /*! Returns the lowest value. */
     double minimum() const;
+    /*! Returns the highest value. */
     double maximum() const;
+    /*! Returns how many decimals are kept. */
     int decimals() const;
+    /*! Returns the increment, 0 for none. */
     double increment() const;
+    /*! Returns the page step, cut to 32 bits. */
     int pageStep() const;
+    /*! Returns the least width of the spin box, 0 when none was set. */
     int editBoxWidth() const;
 
+    /*! Sets whether a refresh may overwrite the shown value although the user has the focus. */
     void enableUpdate(bool enable);
     /*! Returns whether a refresh may overwrite the shown value although the user has the focus. */
     bool isUpdateExspected() const;
+    /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
 protected:

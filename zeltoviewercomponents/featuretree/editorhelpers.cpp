@@ -133,6 +133,11 @@ QString nodeName(const ParameterCollection::IParameter *parameter)
     return parameter ? QString::fromUtf8(parameter->name().toUtf8()) : QString();
 }
 
+bool wantsSlider(const QString &representation)
+{
+    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
+}
+
 bool canBeChanged(const ParameterCollection::ParameterData &data)
 {
     return data.isImplemented && data.isWritable;

@@ -66,6 +66,9 @@ void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::Editor
 /*! Returns the name of \a parameter as log entries show it; empty for a null one. */
 QString nodeName(const ParameterCollection::IParameter *parameter);
 
+/*! Returns whether features of the GenICam \a representation are edited with a slider. */
+bool wantsSlider(const QString &representation);
+
 /*! Returns whether the tree may change what \a data shows: implemented and writable. */
 bool canBeChanged(const ParameterCollection::ParameterData &data);
 

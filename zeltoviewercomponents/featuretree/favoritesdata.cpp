@@ -16,7 +16,7 @@ namespace {
 
 constexpr QLatin1Char separator('*');
 constexpr int formatVersion = 3;
-/* Far beyond any feature; what is longer is damage, and would stall whoever has to paint it. */
+// Far beyond any feature; what is longer is damage, and would stall whoever has to paint it.
 constexpr int maximumStoredLength = 65536;
 
 QString versionKey()
@@ -39,14 +39,14 @@ QString expandedKey()
     return QStringLiteral("Expanded");
 }
 
-/* During static destruction the names that a QSettings needs may be gone already. */
+// During static destruction the names that a QSettings needs may be gone already.
 bool settingsUsable()
 {
     return QCoreApplication::instance() != nullptr;
 }
 
-/* Returns the numbers of the numbered keys that exist, ascending. Going by these instead of counting up makes
- * a damaged number of entries harmless. */
+// Returns the numbers of the numbered keys that exist, ascending. Going by these instead of counting up makes
+// a damaged number of entries harmless.
 QList<qint64> storedNumbers(const QSettings &settings)
 {
     QList<qint64> numbers;
@@ -74,7 +74,7 @@ std::optional<FavoriteEntry> parseEntry(const QString &stored)
     return FavoriteEntry{QString::fromLocal8Bit(parts.at(0).toLocal8Bit()), parts.at(1), parts.at(2)};
 }
 
-/* Not arg(): a "%1" in a name is part of the name. */
+// Not arg(): a "%1" in a name is part of the name.
 QString storedText(const FavoriteEntry &entry)
 {
     return entry.featureName + separator + entry.displayName + separator + entry.nodeMapKey;

@@ -34,6 +34,7 @@ public:
     /*! Saves, and disconnects \a view (or model), when given. */
     void detach(QObject *view);
 
+    /*! Returns the settings group, empty before there is one. */
     QString settingsGroup() const { return m_settingsGroup; }
     /*! Makes \a group the settings group. Another one than before is loaded, replacing the entries; what had
      * changed before is saved to the previous group. */
@@ -45,6 +46,7 @@ public:
      */
     bool save(const QString &group);
 
+    /*! Returns the number of entries. */
     int count() const { return static_cast<int>(m_entries.size()); }
     /*! Returns the entry at \a index, none when there is no such. */
     std::optional<FavoriteEntry> entryAt(int index) const;
@@ -54,6 +56,7 @@ public:
     /*! Inserts \a entry before \a position, which counts from the end when negative. Returns false for a
      * position out of range, an entry without a feature name and one that the list holds already. */
     bool insertEntry(int position, const FavoriteEntry &entry);
+    /*! Inserts \a entry at the end, as insertEntry() does. */
     bool appendEntry(const FavoriteEntry &entry);
     /*! Removes the entry at \a index without notification, into \a taken when given. */
     bool takeEntry(int index, FavoriteEntry *taken = nullptr);
@@ -65,8 +68,10 @@ public:
 
     /*! Returns whether unavailable favorites are shown at every user level. */
     bool viewAll() const { return m_viewAll; }
+    /*! Sets whether unavailable favorites are shown at every user level. */
     void setViewAll(bool viewAll);
 
+    /*! Returns whether the branch is to be shown expanded. */
     bool isExpanded() const { return m_expanded; }
     /*! Stores whether the branch is expanded; a change is signalled at once, deferred updates or not. */
     void setExpanded(bool expand);
@@ -77,6 +82,7 @@ public:
 signals:
     /*! The list or viewAll() changed. */
     void dataUpdated();
+    /*! The branch is to be expanded or collapsed. */
     void expanded(bool isExpanded);
 
 private slots:

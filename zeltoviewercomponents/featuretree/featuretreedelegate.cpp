@@ -5,6 +5,7 @@
 
 #include "abstractitemeditor.h"
 #include "checkboxeditor.h"
+#include "editorhelpers.h"
 #include "enumeditor.h"
 #include "featuretreehighlighter.h"
 #include "featuretreeinodeitem.h"
@@ -36,11 +37,6 @@ namespace {
 bool isUsable(const QSharedPointer<IParameter> &parameter)
 {
     return parameter && !parameter->isExcluded();
-}
-
-bool wantsSlider(const QString &representation)
-{
-    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
 }
 
 QString representationOf(const IParameter &parameter)
@@ -144,7 +140,7 @@ QWidget *FeatureTreeDelegate::createIntEditor(QWidget *parent, const QStyleOptio
     if (!isUsable(parameter)) {
         return nullptr;
     }
-    if (!wantsSlider(representationOf(*parameter))) {
+    if (!EditorHelpers::wantsSlider(representationOf(*parameter))) {
         return new IntEditor(parent); // commits by the delegate's own handling of its line edit
     }
     auto *const editor = new IntSliderEditor(parent);
@@ -164,7 +160,7 @@ QWidget *FeatureTreeDelegate::createFloatEditor(QWidget *parent, const QStyleOpt
     const bool hasAlias =
         collection && collection->hasParameter(parameter->fullName() + QLatin1String("/Alias"));
     QWidget *editor = nullptr;
-    if (hasAlias && wantsSlider(representation)) {
+    if (hasAlias && EditorHelpers::wantsSlider(representation)) {
         editor = new FloatSliderEditor(collection, parent);
     } else {
         editor = new FloatEditor(parent, representation);

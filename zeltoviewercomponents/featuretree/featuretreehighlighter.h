@@ -22,10 +22,13 @@ public:
 
     FeatureTreeHighlighter();
 
+    /*! Returns the search text. */
     QString text() const;
+    /*! Sets the search text; an empty one matches nothing. */
     void setText(const QString &text);
     /*! Returns the number of characters of the search text. */
     int length() const;
+    /*! Returns the colour of marks. */
     QColor color() const;
     /*! Sets the colour for this run; an invalid one is ignored. */
     void setColor(const QColor &color);

@@ -3,6 +3,7 @@
 
 #include "featuretreeinodeitem.h"
 
+#include "editorhelpers.h"
 #include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
@@ -60,8 +61,7 @@ QString nodeMapKindOf(const QString &fullName)
 bool hasSlider(const QSharedPointer<IParameter> &parameter)
 {
     const QSharedPointer<NodePropertyAccess> access = parameter->propertyAccess();
-    const QString representation = access ? access->property(QStringLiteral("Representation")) : QString();
-    return representation == QLatin1String("Linear") || representation == QLatin1String("Logarithmic");
+    return access && EditorHelpers::wantsSlider(access->property(QStringLiteral("Representation")));
 }
 
 FeatureTreeItem::EditorType editorOf(const QSharedPointer<IParameter> &parameter)

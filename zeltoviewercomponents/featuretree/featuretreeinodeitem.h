@@ -39,6 +39,7 @@ public:
 
     /*! Returns the editor for \a parameter: None for a null or excluded one, Integer for one that fails. */
     static EditorType editorType(QSharedPointer<ParameterCollection::IParameter> parameter);
+    /*! Returns the editor for the item's parameter, None for a null item. */
     static EditorType editorType(const FeatureTreeINodeItem *item);
 
     void clearChildren() override;
@@ -60,13 +61,19 @@ public:
     QString displayText() const override;
     QString nodeName() const override;
 
+    /*! Appends \a child and takes ownership. */
     void appendChild(FeatureTreeItem *child);
+    /*! Returns the child at \a row, null when there is none. */
     FeatureTreeItem *child(int row) const;
+    /*! Returns the number of columns. */
     int columnCount() const;
+    /*! Returns the collection that the parameter belongs to. */
     QSharedPointer<ParameterCollection::IParameterCollection> collection() const;
+    /*! Returns the parameter, which may be null. */
     QSharedPointer<ParameterCollection::IParameter> node() const;
     /*! Returns the latest snapshot, null until a read succeeded. */
     QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
+    /*! Returns whether the user may change the value now. */
     bool isEditable() const;
     /*! Sets what marks search hits in the tool tip; not owned, may be null. */
     void setHighlighter(FeatureTreeHighlighter *highlighter);
@@ -82,6 +89,8 @@ signals:
     void nodeUpdated(int row, FeatureTreeINodeItem *item);
 
 public slots:
+    /*! Takes the snapshot, unless callbacks are disabled or the value has to go back into its limits
+     * first. */
     void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData);
 
 protected:

@@ -72,27 +72,39 @@ public:
     FeatureTreeItem *child(int row) const;
     /*! Returns the number of children that exist now; unlike childCount() it never loads any. */
     int existingChildCount() const;
+    /*! Returns the number of columns. */
     int columnCount() const;
 
     /*! Deletes all children. */
     virtual void clearChildren();
+    /*! Returns the number of children, which are loaded for that if need be. */
     virtual int childCount();
+    /*! Returns what the row has for \a role in \a column, an invalid value when it has nothing. */
     virtual QVariant data(int column, int role);
+    /*! Takes an edited value; a plain row ignores it. */
     virtual void setData(int column, const QVariant &value, int role);
     /*! Returns the position among the parent's children, 0 without a parent, -1 when the parent does not have
      * it. */
     virtual int row() const;
+    /*! Returns the parent, null for the invisible root and for an item that was removed. */
     virtual const FeatureTreeItem *parent() const;
     virtual FeatureTreeItem *parent();
+    /*! Returns the model that the item belongs to, as far as items know it. */
     virtual const IFeatureTreeModelExtension *getExtension() const;
     virtual IFeatureTreeModelExtension *getExtension();
+    /*! Returns the row's editor. */
     virtual EditorType editorType();
+    /*! Returns whether the row has children, without loading any. */
     virtual bool hasChildren() const;
     /*! Returns whether the row is shown at the user level \a level. */
     virtual bool ShowMe(GenApi::EVisibility level) const;
+    /*! Returns what can be done with the value now. */
     virtual GenApi::EAccessMode getAccessMode();
+    /*! Returns the user level from which on the row is shown. */
     virtual GenApi::EVisibility getVisibility();
+    /*! Sets the user level from which on the row is shown; rows of parameters keep to their parameter. */
     virtual void setVisibility(GenApi::EVisibility visibility);
+    /*! Returns the flags of the cell in \a column. */
     virtual Qt::ItemFlags flags(int column);
 
 protected:
@@ -114,6 +126,7 @@ public:
 
     /*! Returns whether the row's editor is shown all the time, not only while the row is edited. */
     bool usePersistentEditor() const;
+    /*! Returns false: only rows of parameters can be edited. */
     bool isEditable() const;
 
     /*! Returns whether \a item is this item or one of its existing descendants. */
@@ -125,15 +138,25 @@ public:
      * null. */
     FeatureTreeItem *findByRoleShallow(int role, const QVariant &value);
 
+    /*! Returns the name that is shown, without a unit. */
     QString getDisplayedName() const;
+    /*! Sets the name that is shown. */
     void setDisplayedName(const QString &name);
+    /*! Returns the full name, the key by which the row is found. */
     QString getFullName() const;
+    /*! Returns the description for the host to show, which may be rich text. */
     QString GetDescription() const;
+    /*! Sets the description. */
     void SetDescription(const QString &description);
+    /*! Returns whether there is a description. */
     bool HasDescription() const;
+    /*! Returns the tool tip of both columns. */
     QString GetToolTip() const;
+    /*! Sets the tool tip. */
     void SetToolTip(const QString &toolTip);
+    /*! Sets whether the name spans both columns. */
     void SetIsFullRowItem(bool isFullRowItem);
+    /*! Sets whether the row is one of the tree itself, whose name may be rich text. */
     void SetIsSpecialNode(bool isSpecialNode);
 
     /*! Returns a number that is another one once any item of the process has come, gone or changed a name

@@ -175,7 +175,7 @@ QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
         return {};
     }
     try {
-        const QVariant result = item->data(index.column(), role);
+        QVariant result = item->data(index.column(), role);
         m_dataErrorShown = false;
         return result;
     } catch (...) {

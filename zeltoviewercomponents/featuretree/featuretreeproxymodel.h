@@ -49,6 +49,7 @@ public:
 
     /*! Sets whether every row passes; takes effect with the next invalidation. */
     void setAcceptAll(bool acceptAll);
+    /*! Returns whether every row passes. */
     bool acceptAll() const;
 
     /*! Returns the names of the features that match the search text within the level; empty without a text.
@@ -58,6 +59,7 @@ public:
     int visibleMatchCount() const;
     /*! Returns the names of the features that would match at a higher level, Invisible ones apart. */
     QSet<QString> hiddenMatches() const;
+    /*! Returns the number of hiddenMatches(). */
     int hiddenMatchCount() const;
 
     bool IsFavoriteTreeItem(const FeatureTreeItem *item) const override;

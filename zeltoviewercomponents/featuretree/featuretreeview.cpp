@@ -172,9 +172,6 @@ bool FeatureTreeView::isOpen(const QModelIndex &parent) const
     return !parent.isValid() || isExpanded(parent);
 }
 
-// Editors
-// ---------------------------------------------------------------------------------------------------------
-
 bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
 {
     return item->usePersistentEditor() && item->getVisibility() <= m_visibility
@@ -336,9 +333,6 @@ void FeatureTreeView::scrollContentsBy(int dx, int dy)
     QTreeView::scrollContentsBy(dx, dy);
     ensureEditors();
 }
-
-// Rows
-// ------------------------------------------------------------------------------------------------------------
 
 void FeatureTreeView::updateRows(const QModelIndex &parent)
 {
@@ -575,9 +569,6 @@ void FeatureTreeView::onModelReset()
     updateRows(QModelIndex());
 }
 
-// Expansion
-// -------------------------------------------------------------------------------------------------------
-
 void FeatureTreeView::expandToDepth(int depth)
 {
     expandBranches([depth](const QModelIndex &, int level) { return level <= depth; });
@@ -650,9 +641,6 @@ void FeatureTreeView::onSelfCollapsed(const QModelIndex &index)
         extension->GetFavorites().setExpanded(false);
     }
 }
-
-// Favorites and level
-// ---------------------------------------------------------------------------------------------
 
 void FeatureTreeView::onFavoriteDataExpanded(bool expanded)
 {
@@ -741,9 +729,6 @@ void FeatureTreeView::setVisibility(GenApi::EVisibility level)
     }
 }
 
-// Painting
-// --------------------------------------------------------------------------------------------------------
-
 void FeatureTreeView::paintEvent(QPaintEvent *event)
 {
     QTreeView::paintEvent(event);
@@ -792,9 +777,6 @@ void FeatureTreeView::initViewItemOption(QStyleOptionViewItem *option) const
     }
     option->palette = *m_rowPalette;
 }
-
-// Keyboard
-// --------------------------------------------------------------------------------------------------------
 
 void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {

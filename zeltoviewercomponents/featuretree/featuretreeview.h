@@ -39,10 +39,12 @@ public:
     /*! Returns the model's extension, null when the model is of another kind. */
     IFeatureTreeModelExtension *getFeatureExtension();
     const IFeatureTreeModelExtension *getFeatureExtension() const;
+    /*! Returns what marks the search text in names. */
     FeatureTreeHighlighter *getHightlighter();
 
     /*! Returns the settings group of the favorites. */
     QString getSettingsPath() const;
+    /*! Sets the settings group of the favorites. */
     void setSettingsPath(const QString &path);
 
     /*! Expands branches down to \a depth (0: the top rows) and collapses those below. Leaves are left alone,
@@ -62,10 +64,15 @@ public slots:
     /*! Collapses every branch and records that for the favorites branch. */
     void collapseAll();
     void doItemsLayout() override;
+    /*! Sets the user level and shows and hides rows accordingly. */
     void setVisibility(GenApi::EVisibility level);
+    /*! Equips the rows below \a index, and records it for the favorites branch. */
     void onSelfExpanded(const QModelIndex &index);
+    /*! Records for the favorites branch that it is collapsed. */
     void onSelfCollapsed(const QModelIndex &index);
+    /*! Has the favorites branch built anew; current and selected rows stay what they were. */
     void onFavoriteDataUpdated();
+    /*! Expands or collapses the favorites branch. */
     void onFavoriteDataExpanded(bool expanded);
 
 signals:

@@ -235,9 +235,6 @@ QSize FeatureTreeWidget::sizeHint() const
     return {unit * 28, unit * 36};
 }
 
-// Collections
-// -----------------------------------------------------------------------------------------------------
-
 void FeatureTreeWidget::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &rootName,
     const QString &roleName, bool isUtf8)
@@ -350,9 +347,6 @@ QString FeatureTreeWidget::cameraType() const
 {
     return m_cameraType;
 }
-
-// Current row
-// -----------------------------------------------------------------------------------------------------
 
 QModelIndex FeatureTreeWidget::GetCurrentIndex() const
 {
@@ -483,9 +477,6 @@ void FeatureTreeWidget::FavouriteRemove_triggered()
     }
 }
 
-// Polling, level, favorites
-// ---------------------------------------------------------------------------------------
-
 bool FeatureTreeWidget::getPolling() const
 {
     return getFeatureExtension()->GetPolling();
@@ -566,9 +557,6 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
     onFilterTextChanged(m_filterText);
     refreshTree();
 }
-
-// Search
-// ----------------------------------------------------------------------------------------------------------
 
 void FeatureTreeWidget::onFilterTextChanged(const QString &text)
 {
@@ -736,9 +724,6 @@ void FeatureTreeWidget::restoreScrollPosition()
     m_ui->treeView->horizontalScrollBar()->setValue(m_savedScroll.x());
     m_ui->treeView->verticalScrollBar()->setValue(m_savedScroll.y());
 }
-
-// Events
-// ----------------------------------------------------------------------------------------------------------
 
 bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
 {

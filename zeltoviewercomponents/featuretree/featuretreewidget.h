@@ -61,7 +61,6 @@ public:
                                 const QString &rootName, const QString &roleName, bool isUtf8);
     /*! Removes all rows; collections can be added again afterwards. */
     void clear();
-    void setMonitorMode(bool enable);
     /*! Tells that the device does not answer any more: nothing is polled or written until collections are
      * added. */
     void deviceIsClosed();
@@ -73,50 +72,83 @@ public:
     void setExpandOnRefresh(bool expand);
     /*! Puts the tree, as filtered, on the clipboard as text. */
     void copyToClipboard();
+    /*! Expands the top rows. */
     void expandRootNodes();
 
+    /*! Returns the current row's item, null when no visible row is current. */
     FeatureTreeItem *getDeepestSelectedItem() const;
+    /*! Returns the view's current index, an invalid one when its row is hidden. */
     QModelIndex GetCurrentIndex() const;
+    /*! Returns the current row's item, null when no visible row is current. */
     FeatureTreeItem *GetCurrentItem() const;
+    /*! Returns the current row's parameter, null when it has none. */
     QSharedPointer<ParameterCollection::IParameter> GetCurrentNode() const;
     /*! Returns whether the current row is one of the favorites branch. */
     bool IsCurrentFavorite() const;
     /*! Returns whether the mouse pointer is on the current row. */
     bool IsOnCurrentItem() const;
 
+    /*! Sets whether rows follow the changes that their parameters report. */
     void EnableGenICamCallbacks(bool enable);
+    /*! Returns whether the first collection is polled. */
     bool getPolling() const;
+    /*! Switches the periodic poll of the first collection on or off. */
     void setPolling(bool enable);
+    /*! Shows or hides the check box that switches polling. */
     void setPollingVisible(bool visible);
+    /*! Returns whether favorites that the camera lacks are shown. */
     bool getViewAllFavorites() const;
+    /*! Sets whether favorites that the camera lacks are shown. */
     void setViewAllFavorites(bool viewAll);
+    /*! Shows or hides the check box for favorites that the camera lacks. */
     void setViewAllFavoritesVisible(bool visible);
+    /*! Returns the user level. */
     GenApi::EVisibility visibility() const;
+    /*! Sets the user level. */
     void setVisibility(GenApi::EVisibility level);
+    /*! Sets the device class word of the camera, for the host. */
     void setCameraType(const QString &cameraType);
+    /*! Returns what setCameraType() was given. */
     QString cameraType() const;
 
     QTreeView *treeView() const override;
+    /*! Returns the tree view. */
     FeatureTreeView *treeView();
+    /*! Returns the operations of the tree's model. */
     IFeatureTreeModelExtension *getFeatureExtension();
     const IFeatureTreeModelExtension *getFeatureExtension() const;
     QSize sizeHint() const override;
 
 public slots:
+    /*! Sets whether polling re-reads the whole first collection, not only its volatile features. */
+    void setMonitorMode(bool enable);
     /*! Expands the tree to depth 2. */
     void expandTree();
+    /*! Tells the host about the row at \a index. */
     void onCurrentChanged(const QModelIndex &index);
+    /*! Searches the tree for \a text; an empty one ends the search. */
     void onFilterTextChanged(const QString &text);
+    /*! Follows a change of polling. */
     void onPollingStateChanged(bool polling);
+    /*! Sets the user level, tells so and filters anew; other numbers than those of levels are ignored. */
     void onVisibilityChanged(int level);
+    /*! Makes the context menu of the current row and has the host show it. */
     void contextualMenu(const QPoint &pos);
+    /*! Switches polling as the check box says. */
     void on_checkBoxPolling_clicked();
+    /*! Shows or hides favorites that the camera lacks, as the check box says. */
     void on_checkBoxViewAllFavorites_clicked();
+    /*! Re-reads the first collection. */
     void on_resetButton_clicked();
+    /*! Appends the current feature to the favorites. */
     void AddToFavourites_triggered();
+    /*! Moves the current favorite up by one. */
     void FavouriteMoveUp_triggered();
+    /*! Moves the current favorite down by one. */
     void FavouriteMoveDown_triggered();
+    /*! Removes the current favorite. */
     void FavouriteRemove_triggered();
+    /*! Switches polling as the action says. */
     void TogglePolling_triggered();
 
 signals:
@@ -124,9 +156,13 @@ signals:
     void contextMenuRequested(const QPoint &pos, QSharedPointer<QMenu> menu);
     /*! A description of the current row for the host to show. */
     void newText(QString text);
+    /*! The user level was set by onVisibilityChanged(). */
     void visibilityChanged(GenApi::EVisibility level);
+    /*! A row with a parameter became the current one; not sent while a search text is typed. */
     void currentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    /*! Polling was switched on or off, or ended because the device does not answer. */
     void pollingStateChanged(bool polling);
+    /*! The user has shown or hidden favorites that the camera lacks. */
     void viewAllFavoritesStateChanged(bool viewAll);
     /*! The number of search results, and how many of them show at a higher level only. */
     void filterMatchesChanged(int total, int hidden);

@@ -25,7 +25,7 @@ ZELTO_LOG_CATEGORY("zelto.viewer.plugins.FeatureTreeWidget")
 using CollectionPointer = QSharedPointer<IParameterCollection>;
 using ParameterPointer = QSharedPointer<IParameter>;
 
-constexpr qint64 maximumFileSize = 1024 * 1024;
+constexpr qint64 maximumFileSize = qint64(1024) * 1024;
 constexpr qsizetype maximumAttributes = 1000; // the parser compares each with all others of its element
 constexpr int maximumDepth = 64;
 
@@ -46,7 +46,7 @@ Core::GuardSite guardSite(const char *function)
     return {logCategory(), function};
 }
 
-/* "@StreamGrabber0" gives "StreamGrabber_". */
+// "@StreamGrabber0" gives "StreamGrabber_".
 QString nameStem(const QString &nodeMapName)
 {
     qsizetype begin = 0;
@@ -94,9 +94,8 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
     return nullptr;
 }
 
-/* Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
- * text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
- */
+// Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
+// text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
 QString refusal(const QByteArray &contents)
 {
     if (contents.count('=') > maximumAttributes) {
@@ -151,13 +150,13 @@ QString entryName(const QDomElement &entry)
     return element.text();
 }
 
-/* Returns the parameter called \a name, null when there is none or none that may be filtered. */
+// Returns the parameter called \a name, null when there is none or none that may be filtered.
 ParameterPointer filterableParameter(const CollectionPointer &collection, const QString &name)
 {
     return Core::guarded(guardSite("NodeMapFilter::processElement"),
                          QStringLiteral("Failed to find the node %1").arg(name), ParameterPointer(),
                          [&collection, &name]() -> ParameterPointer {
-                             const ParameterPointer parameter = collection->parameter(name);
+                             ParameterPointer parameter = collection->parameter(name);
                              if (parameter && parameter->isExcluded() && !parameter->isImposingAllowed()) {
                                  return {};
                              }
@@ -165,7 +164,7 @@ ParameterPointer filterableParameter(const CollectionPointer &collection, const 
                          });
 }
 
-/* Imposes the property called \a tag when \a entry has an element of that name. */
+// Imposes the property called \a tag when \a entry has an element of that name.
 bool impose(const QDomElement &entry, const ParameterPointer &parameter, const QString &tag,
             const QString &headline)
 {

@@ -25,10 +25,12 @@ public:
     explicit SearchEdit(QWidget *parent = nullptr);
     ~SearchEdit() override;
 
+    /*! Returns the text that an empty box shows. */
     QString placeholder() const { return m_placeholder; }
     /*! Sets the text that an empty box shows, which also names the box for assistive tools. */
     void setPlaceholder(const QString &text);
 
+    /*! Returns whether an empty box shows the placeholder. */
     bool isPlaceholderEnabled() const { return m_placeholderEnabled; }
     /*! Sets whether an empty box shows the placeholder. */
     void setPlaceholderEnabled(bool enabled);

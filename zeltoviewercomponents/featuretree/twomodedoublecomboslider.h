@@ -27,7 +27,9 @@ public:
     explicit TwoModeDoubleComboSlider(QWidget *parent);
     ~TwoModeDoubleComboSlider() override;
 
+    /*! Sets how positions and values belong together, from the next value or movement on. */
     void setMode(ETwoModeDoubleComboSliderMode mode);
+    /*! Returns how positions and values belong together. */
     ETwoModeDoubleComboSliderMode mode() const;
 
     /*! Sets the distance of the values that can be entered, counted from the minimum; 0 for none. */

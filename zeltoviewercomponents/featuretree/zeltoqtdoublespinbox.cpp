@@ -6,6 +6,7 @@
 #include "editorhelpers.h"
 
 #include <platform/core/formatdoublevalue.h>
+#include <platform/core/singleprecision.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -21,32 +22,10 @@ namespace {
 constexpr int allDecimals =
     std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
-// More than numbers have that people enter, less than a 32-bit register adds to them.
-constexpr int intendedDigits = 12;
-
-// Returns the value with only the digits that tell it from its neighbours in a 32-bit register; as it is when
-// no such register holds it, or when it has no noise: a whole number, or one of few digits.
-double withoutRegisterNoise(double value)
-{
-    const auto held = static_cast<float>(value);
-    if (!std::isfinite(held) || static_cast<double>(held) != value || std::trunc(value) == value
-        || QString::number(value, 'g', intendedDigits).toDouble() == value) {
-        return value;
-    }
-    for (int digits = std::numeric_limits<float>::digits10; digits < std::numeric_limits<float>::max_digits10;
-         ++digits) {
-        const double shorter = QString::number(value, 'g', digits).toDouble();
-        if (static_cast<float>(shorter) == held) {
-            return shorter;
-        }
-    }
-    return value;
-}
-
 // Returns the fewest digits that give back the value.
 QString shortestText(double value, char format, const QLocale &locale)
 {
-    return locale.toString(withoutRegisterNoise(value), format, QLocale::FloatingPointShortest);
+    return locale.toString(Core::withoutSinglePrecisionNoise(value), format, QLocale::FloatingPointShortest);
 }
 
 bool isUnfinishedNumber(QString text, const QLocale &locale)
@@ -54,12 +33,11 @@ bool isUnfinishedNumber(QString text, const QLocale &locale)
     text.replace(locale.negativeSign(), QLatin1String("-"));
     text.replace(locale.positiveSign(), QLatin1String("+"));
     text.replace(locale.exponential(), QLatin1String("e"), Qt::CaseInsensitive);
-    static const QRegularExpression sign(QStringLiteral("^[+-]?$"));
     const QString point = QRegularExpression::escape(locale.decimalPoint());
     const QRegularExpression startsOfNumbers(
         QStringLiteral("^[+-]?(\\d*%1?\\d*|(\\d+%1?\\d*|%1\\d+)[eE][+-]?)$").arg(point),
         QRegularExpression::UseUnicodePropertiesOption);
-    return sign.match(text).hasMatch() || startsOfNumbers.match(text).hasMatch();
+    return startsOfNumbers.match(text).hasMatch();
 }
 
 } // namespace

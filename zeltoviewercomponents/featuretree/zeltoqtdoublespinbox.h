@@ -24,7 +24,9 @@ public:
     explicit ZeltoQtDoubleSpinBox(QWidget *parent = nullptr);
     ~ZeltoQtDoubleSpinBox() override;
 
+    /*! Returns the page step, which is kept for the owner. */
     double pageStep() const;
+    /*! Sets the page step. */
     void setPageStep(double pageStep);
 
     /*! Shows values with the digits that identify them, in \a notation. */
@@ -32,6 +34,7 @@ public:
 
     /*! Shows \a text instead of the value until the user types a number; an empty text shows the value. */
     void setSubstitute(const QString &text);
+    /*! Returns whether a text is shown instead of the value. */
     bool hasSubstitute() const;
 
     /*! Returns \a value as the spin box shows numbers. */
@@ -45,6 +48,7 @@ public:
     void fixup(QString &text) const override;
 
 signals:
+    /*! The user wants \a steps steps; negative ones go down. */
     void stepTriggered(int steps);
 
 protected:

@@ -37,7 +37,7 @@ AddressValidator::Verdict QMacAddressValidator::judge(const QString &text) const
     if (verdict.state != Acceptable) {
         return verdict;
     }
-    const bool isGroup = (digits.left(octetDigits).toUInt(nullptr, hexadecimal) & 1U) != 0;
+    const bool isGroup = (QStringView(digits).left(octetDigits).toUInt(nullptr, hexadecimal) & 1U) != 0;
     if (isGroup) {
         return {Intermediate, tr("This address is for a group of devices (multicast).")};
     }
