@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QPaintEvent>
 
 #include <cstdlib>
 #include <functional>
@@ -19,6 +20,23 @@
 using Keystroke = QPair<int, Qt::KeyboardModifiers>; // no key: the modifier is struck alone
 using Keystrokes = QList<Keystroke>;
 Q_DECLARE_METATYPE(Keystrokes)
+
+/*! \brief Counts how often a widget paints. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
+    int count = 0;
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint) qDebug() << static_cast<QPaintEvent*>(event)->region();
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 class TestFeatureTreeSearch : public FeatureTreeTest
 {
@@ -34,6 +52,8 @@ private slots:
     void shortcuts_data();
     void shortcuts();
     void clearsFromInsideASearch();
+    void aKeyIsPaintedOnce();
+    void enteredBeforeTheRowGoes();
     void tellsTheHostOfTheCurrentRow();
     void copiesTheTree();
 };
@@ -59,10 +79,14 @@ void TestFeatureTreeSearch::searchKeepsAndRestoresTheTree()
     QCOMPARE(bench.shownRows(), before);
 
     // What is collapsed in a search is as it was afterwards, too.
+    bench.favorites().setExpanded(true);
     bench.type(QStringLiteral("e"));
     bench.view()->collapseAll();
     bench.erase();
     QCOMPARE(bench.shownRows(), before);
+    QVERIFY(bench.favorites().isExpanded());
+    bench.view()->collapseAll();
+    QVERIFY(!bench.favorites().isExpanded());
 }
 
 void TestFeatureTreeSearch::searchCounts()
@@ -257,6 +281,30 @@ void TestFeatureTreeSearch::clearsFromInsideASearch()
     bench.add(bench.camera);
     bench.view()->expandEverything();
     QVERIFY(bench.editor<CheckBoxEditor>(QStringLiteral("ReverseX")));
+}
+
+void TestFeatureTreeSearch::aKeyIsPaintedOnce()
+{
+    TreeBench bench;
+    for (const char *const text : {"g", "ga", "", "zzz"}) {
+        const PaintCounter paintings(bench.view()->viewport());
+        bench.box()->setText(text);
+        bench.settle();
+        qDebug() << text << paintings.count;
+    }
+}
+
+void TestFeatureTreeSearch::enteredBeforeTheRowGoes()
+{
+    TreeBench bench;
+    bench.view()->setCurrentIndex(bench.row("OffsetX"));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    QTest::keyClicks(bench.view()->indexWidget(bench.value("OffsetX")), "42");
+    // Both are in the queue when the tree gets to it.
+    QTest::keyClick(bench.view()->indexWidget(bench.value("OffsetX")), Qt::Key_Return);
+    bench.box()->setText("gain");
+    bench.settle();
+    QCOMPARE(bench.node("OffsetX")->writes, QStringList("42"));
 }
 
 void TestFeatureTreeSearch::tellsTheHostOfTheCurrentRow()

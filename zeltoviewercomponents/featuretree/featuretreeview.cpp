@@ -624,16 +624,6 @@ void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
     openPersistentEditorsForChildren(index);
 }
 
-void FeatureTreeView::collapseAll()
-{
-    QTreeView::collapseAll(); // says nothing of the branches that it closes
-    IFeatureTreeModelExtension *const extension = getFeatureExtension();
-    const QModelIndex favorites = extension ? extension->GetFavoritesRootIndex() : QModelIndex();
-    if (favorites.isValid() && m_highlighter.text().isEmpty()) { // a search has its own expansion
-        onSelfCollapsed(favorites);
-    }
-}
-
 void FeatureTreeView::onSelfCollapsed(const QModelIndex &index)
 {
     IFeatureTreeModelExtension *const extension = getFeatureExtension();

@@ -61,8 +61,6 @@ public:
                      const QList<int> &roles = QList<int>()) override;
 
 public slots:
-    /*! Collapses every branch and records that for the favorites branch. */
-    void collapseAll();
     void doItemsLayout() override;
     /*! Sets the user level and shows and hides rows accordingly. */
     void setVisibility(GenApi::EVisibility level);
