@@ -8,11 +8,11 @@
 
 #include <QClipboard>
 #include <QList>
+#include <QPaintEvent>
 #include <QPair>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
-#include <QPaintEvent>
 
 #include <cstdlib>
 #include <functional>
@@ -21,21 +21,28 @@ using Keystroke = QPair<int, Qt::KeyboardModifiers>; // no key: the modifier is 
 using Keystrokes = QList<Keystroke>;
 Q_DECLARE_METATYPE(Keystrokes)
 
-/*! \brief Counts how often a widget paints. */
+/*! \brief Counts how often a place in a widget is painted. */
 class PaintCounter : public QObject
 {
 public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    PaintCounter(QWidget *widget, const QPoint &place)
+        : m_place(place)
+    {
+        widget->installEventFilter(this);
+    }
 
     int count = 0;
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        if (event->type() == QEvent::Paint) qDebug() << static_cast<QPaintEvent*>(event)->region();
+        if (event->type() == QEvent::Paint) {
+            count += static_cast<QPaintEvent *>(event)->region().contains(m_place) ? 1 : 0;
+        }
         return QObject::eventFilter(watched, event);
     }
+
+    QPoint m_place;
 };
 
 class TestFeatureTreeSearch : public FeatureTreeTest
@@ -79,14 +86,10 @@ void TestFeatureTreeSearch::searchKeepsAndRestoresTheTree()
     QCOMPARE(bench.shownRows(), before);
 
     // What is collapsed in a search is as it was afterwards, too.
-    bench.favorites().setExpanded(true);
     bench.type(QStringLiteral("e"));
     bench.view()->collapseAll();
     bench.erase();
     QCOMPARE(bench.shownRows(), before);
-    QVERIFY(bench.favorites().isExpanded());
-    bench.view()->collapseAll();
-    QVERIFY(!bench.favorites().isExpanded());
 }
 
 void TestFeatureTreeSearch::searchCounts()
@@ -286,11 +289,12 @@ void TestFeatureTreeSearch::clearsFromInsideASearch()
 void TestFeatureTreeSearch::aKeyIsPaintedOnce()
 {
     TreeBench bench;
-    for (const char *const text : {"g", "ga", "", "zzz"}) {
-        const PaintCounter paintings(bench.view()->viewport());
+    for (const char *const text : {"g", "ga", ""}) {
+        const QRect cell = bench.view()->visualRect(bench.view()->model()->index(0, 1));
+        const PaintCounter paintings(bench.view()->viewport(), cell.center());
         bench.box()->setText(text);
         bench.settle();
-        qDebug() << text << paintings.count;
+        QCOMPARE(paintings.count, 1);
     }
 }
 
