@@ -193,7 +193,9 @@ void FeatureTreeINodeItem::takeSnapshot(const QSharedPointer<const ParameterData
 {
     const bool first = !m_data;
     m_data = snapshot;
-    m_type = m_data ? m_data->type : ParameterType::Unknown;
+    m_state = m_data ? State{m_data->type, m_data->visibility, m_data->isImplemented, m_data->isReadable,
+                             m_data->isWritable}
+                     : State();
     if (first && m_data) {
         m_childrenLoaded = m_data->type != ParameterType::Category;
     }
@@ -245,7 +247,7 @@ int FeatureTreeINodeItem::childCount()
 
 bool FeatureTreeINodeItem::isOfType(ParameterType type) const
 {
-    return m_data && m_type == type;
+    return m_state.type == type;
 }
 
 bool FeatureTreeINodeItem::isCategory() const
@@ -386,8 +388,7 @@ QString FeatureTreeINodeItem::toolTipHtml() const
 
 QVariant FeatureTreeINodeItem::GetForegroundRole()
 {
-    const bool changeable = m_data && m_data->isWritable && m_editorType != Category && m_editorType != None;
-    if (!m_data || isCategory() || changeable) {
+    if (!m_data || isCategory() || isEditable()) {
         return {};
     }
     return disabledTextBrush();
@@ -399,13 +400,13 @@ Qt::ItemFlags FeatureTreeINodeItem::flags(int column)
         return Qt::NoItemFlags;
     }
     Qt::ItemFlags result = FeatureTreeItem::flags(column);
-    if (m_data->isWritable || isCategory()) {
+    if (m_state.isWritable || isCategory()) {
         result |= Qt::ItemIsEnabled;
-        if (column == FeatureTreeColumns::value && m_data->isWritable) {
+        if (column == FeatureTreeColumns::value && m_state.isWritable) {
             result |= Qt::ItemIsEditable;
         }
     }
-    if (column == FeatureTreeColumns::name && m_data->isReadable) {
+    if (column == FeatureTreeColumns::name && m_state.isReadable) {
         result.setFlag(Qt::ItemIsDragEnabled, !isCategory());
     }
     return result;
@@ -424,30 +425,30 @@ bool FeatureTreeINodeItem::ShowMe(GenApi::EVisibility level) const
     return Core::guarded(site("FeatureTreeINodeItem::ShowMe"),
                          QStringLiteral("Exception fired when trying to determine whether item is visible"),
                          false, [this, level] {
-                             return m_data && m_data->isImplemented
+                             return m_state.isImplemented
                                  && const_cast<FeatureTreeINodeItem *>(this)->getVisibility() <= level;
                          });
 }
 
 GenApi::EAccessMode FeatureTreeINodeItem::getAccessMode()
 {
-    if (!m_data || !m_data->isImplemented) {
+    if (!m_state.isImplemented) {
         return GenApi::NI;
     }
-    if (!m_data->isReadable) {
-        return m_data->isWritable ? GenApi::WO : GenApi::NA;
+    if (!m_state.isReadable) {
+        return m_state.isWritable ? GenApi::WO : GenApi::NA;
     }
-    return m_data->isWritable ? GenApi::RW : GenApi::RO;
+    return m_state.isWritable ? GenApi::RW : GenApi::RO;
 }
 
 GenApi::EVisibility FeatureTreeINodeItem::getVisibility()
 {
-    return m_data ? m_data->visibility : GenApi::UndefinedVisibility;
+    return m_state.visibility;
 }
 
 bool FeatureTreeINodeItem::isEditable() const
 {
-    return m_data && m_editorType != Category && m_editorType != None && m_data->isWritable;
+    return m_state.isWritable && m_editorType != Category && m_editorType != None;
 }
 
 void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)

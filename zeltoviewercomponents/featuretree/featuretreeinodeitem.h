@@ -97,6 +97,16 @@ protected:
     QVariant GetForegroundRole() override;
 
 private:
+    /*! \brief What is asked of every row at every search key: of the snapshot, but without a way there. */
+    struct State
+    {
+        ParameterCollection::ParameterType type = ParameterCollection::ParameterType::Unknown;
+        GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
+        bool isImplemented = false;
+        bool isReadable = false;
+        bool isWritable = false;
+    };
+
     void initInternal();
     void readProperties();
     void takeSnapshot(const QSharedPointer<const ParameterCollection::ParameterData> &snapshot);
@@ -113,8 +123,7 @@ private:
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
     QSharedPointer<const ParameterCollection::ParameterData> m_data;
-    ParameterCollection::ParameterType m_type =
-        ParameterCollection::ParameterType::Unknown; // of the snapshot
+    State m_state;
     bool m_useUtf8 = false;
     QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;
