@@ -24,13 +24,6 @@ quint64 nextPass()
     return ++pass;
 }
 
-GenApi::EVisibility effectiveVisibility(FeatureTreeItem *item, GenApi::EVisibility level)
-{
-    const bool shown = level == GenApi::Invisible || item->ShowMe(GenApi::Guru)
-        || item->getVisibility() == GenApi::Invisible;
-    return shown ? item->getVisibility() : GenApi::UndefinedVisibility;
-}
-
 } // namespace
 
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
@@ -363,10 +356,10 @@ GenApi::EVisibility FeatureTreeProxyModel::judgeAncestors(FeatureTreeItem *paren
 {
     GenApi::EVisibility highest = GenApi::Beginner;
     for (FeatureTreeItem *ancestor = parent; ancestor && ancestor->parent(); ancestor = ancestor->parent()) {
-        highest = std::max(highest, effectiveVisibility(ancestor, m_level));
         if (!isJudged(ancestor)) {
             mark(ancestor, false);
         }
+        highest = std::max(highest, effectiveVisibility(ancestor));
     }
     return highest;
 }
@@ -375,9 +368,11 @@ void FeatureTreeProxyModel::judgeHit(const FeatureTreeSearchIndex::Row &row,
                                      GenApi::EVisibility visibilityAbove) const
 {
     FeatureTreeItem *const item = row.item;
-    countHit(row, std::max(visibilityAbove, effectiveVisibility(item, m_level)));
-    const bool isMatch = passesLevel(item);
-    mark(item, isMatch);
+    mark(item, false);
+    countHit(row, std::max(visibilityAbove, effectiveVisibility(item)));
+    const FeatureTreeItem::FilterMark &found = item->m_filterMark;
+    const bool isMatch = passesLevel(found.visibility, found.isShownAtAll);
+    item->m_filterMark.isAccepted = isMatch;
     for (FeatureTreeItem *ancestor = item->parent();
          isMatch && ancestor && ancestor->parent() && !ancestor->m_filterMark.isAccepted;
          ancestor = ancestor->parent()) {
@@ -412,15 +407,23 @@ bool FeatureTreeProxyModel::isHit(const FeatureTreeItem *item) const
     return found && item->nodeName() != FeatureTreeNames::root;
 }
 
-bool FeatureTreeProxyModel::passesLevel(FeatureTreeItem *item) const
+bool FeatureTreeProxyModel::passesLevel(GenApi::EVisibility visibility, bool isShownAtAll) const
 {
-    const bool isShown = m_level == GenApi::Invisible || item->ShowMe(GenApi::Guru);
-    return isShown && item->getVisibility() <= m_level;
+    return (m_level == GenApi::Invisible || isShownAtAll) && visibility <= m_level;
+}
+
+// Returns the visibility at which a marked item would be seen, undefined when it is at none.
+GenApi::EVisibility FeatureTreeProxyModel::effectiveVisibility(const FeatureTreeItem *item) const
+{
+    const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
+    const bool isShown =
+        m_level == GenApi::Invisible || mark.isShownAtAll || mark.visibility == GenApi::Invisible;
+    return isShown ? mark.visibility : GenApi::UndefinedVisibility;
 }
 
 bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
 {
-    if (!passesLevel(item)) {
+    if (!passesLevel(item->getVisibility(), item->ShowMe(GenApi::Guru))) {
         return false;
     }
     if (item->getFullName() == FeatureTreeNames::search) {
@@ -440,7 +443,8 @@ void FeatureTreeProxyModel::countHit(const FeatureTreeSearchIndex::Row &row,
         return;
     }
     // Hidden by its category alone, it may be in sight among the favorites, which come first.
-    const bool isInSight = row.item->getVisibility() <= m_level && m_visibleMatches.isCounted[row.name];
+    const bool isInSight =
+        row.item->m_filterMark.visibility <= m_level && m_visibleMatches.isCounted[row.name];
     if (visibility < GenApi::Invisible && !isInSight) {
         m_hiddenMatches.add(row.name);
     }

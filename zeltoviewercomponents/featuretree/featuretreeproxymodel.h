@@ -151,7 +151,8 @@ private:
     bool isHit(const FeatureTreeItem *item) const;
     bool hasMatchBelow(FeatureTreeItem *item) const;
     bool hasMatchAbove(FeatureTreeItem *item) const;
-    bool passesLevel(FeatureTreeItem *item) const;
+    bool passesLevel(GenApi::EVisibility visibility, bool isShownAtAll) const;
+    GenApi::EVisibility effectiveVisibility(const FeatureTreeItem *item) const;
     void countHit(const FeatureTreeSearchIndex::Row &row, GenApi::EVisibility visibility) const;
     void loadChildren(FeatureTreeItem *item) const;
     void loadTree(FeatureTreeItem *item) const;
