@@ -46,7 +46,7 @@ int fail(const QString &reason)
 void onMessageWhileStarting(QtMsgType type, const QMessageLogContext &, const QString &)
 {
     if (type == QtFatalMsg) {
-        std::_Exit(fail(QCoreApplication::translate("main", "There is no display to show a window on.")));
+        std::_Exit(fail(QStringLiteral("There is no display to show a window on.")));
     }
 }
 

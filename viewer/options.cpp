@@ -27,32 +27,28 @@ std::optional<GenApi::EVisibility> visibilityFrom(const QString &text)
     return std::nullopt;
 }
 
+// Options are read before there is an application that could translate; the command line speaks English.
 void addOptions(QCommandLineParser &parser)
 {
     const auto add = [&parser](const char *name, const char *description, const char *value = "") {
-        parser.addOption({QString::fromLatin1(name), QCoreApplication::translate("Options", description),
-                          QString::fromLatin1(value)});
+        parser.addOption(
+            {QString::fromLatin1(name), QString::fromLatin1(description), QString::fromLatin1(value)});
     };
     parser.setApplicationDescription(
-        QCoreApplication::translate("Options",
-                                    "Shows a camera's features in a tree. Without --description and "
-                                    "--camera an embedded simulated camera is opened."));
-    add("description", QT_TRANSLATE_NOOP("Options", "Open a camera description file on simulated registers."),
-        "file");
-    add("camera", QT_TRANSLATE_NOOP("Options", "Open the live camera with this id (see --list)."), "id");
-    add("list", QT_TRANSLATE_NOOP("Options", "List the cameras that are reachable and exit."));
-    add("dump", QT_TRANSLATE_NOOP("Options", "Print the tree as text and exit."));
-    add("favorites", QT_TRANSLATE_NOOP("Options", "Print the favorites as text and exit."));
-    add("visibility", QT_TRANSLATE_NOOP("Options", "User level: beginner, expert, guru or invisible."),
-        "level");
-    add("search", QT_TRANSLATE_NOOP("Options", "Search the features for this text."), "text");
-    add("expand", QT_TRANSLATE_NOOP("Options", "Expand all branches."));
-    add("editors", QT_TRANSLATE_NOOP("Options", "Show the gallery of value editors."));
-    add("screenshot",
-        QT_TRANSLATE_NOOP("Options", "Render the window to a PNG file, without a display, and exit."),
-        "file");
-    add("help", QT_TRANSLATE_NOOP("Options", "Show this help."));
-    add("version", QT_TRANSLATE_NOOP("Options", "Show the version."));
+        QStringLiteral("Shows a camera's features in a tree. Without --description and "
+                       "--camera an embedded simulated camera is opened."));
+    add("description", "Open a camera description file on simulated registers.", "file");
+    add("camera", "Open the live camera with this id (see --list).", "id");
+    add("list", "List the cameras that are reachable and exit.");
+    add("dump", "Print the tree as text and exit.");
+    add("favorites", "Print the favorites as text and exit.");
+    add("visibility", "User level: beginner, expert, guru or invisible.", "level");
+    add("search", "Search the features for this text.", "text");
+    add("expand", "Expand all branches.");
+    add("editors", "Show the gallery of value editors.");
+    add("screenshot", "Render the window to a PNG file, without a display, and exit.", "file");
+    add("help", "Show this help.");
+    add("version", "Show the version.");
 }
 
 // Without an application object the parser does not know the program's name.
@@ -68,12 +64,11 @@ QString mistakeIn(const QCommandLineParser &parser)
     for (const char *const option : {"description", "camera", "screenshot"}) {
         const QString name = QString::fromLatin1(option);
         if (parser.isSet(name) && parser.value(name).isEmpty()) {
-            return QCoreApplication::translate("Options", "The value of --%1 is empty.").arg(name);
+            return QStringLiteral("The value of --%1 is empty.").arg(name);
         }
     }
     if (!parser.positionalArguments().isEmpty()) {
-        return QCoreApplication::translate("Options", "Unexpected argument '%1'.")
-            .arg(parser.positionalArguments().constFirst());
+        return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
     }
     // What would be ignored is refused as well, so that no script believes it was heeded.
     static constexpr std::array exclusive{
@@ -91,14 +86,12 @@ QString mistakeIn(const QCommandLineParser &parser)
         const QString one = QString::fromLatin1(first);
         const QString other = QString::fromLatin1(second);
         if (parser.isSet(one) && parser.isSet(other)) {
-            return QCoreApplication::translate("Options", "--%1 and --%2 exclude each other.")
-                .arg(one, other);
+            return QStringLiteral("--%1 and --%2 exclude each other.").arg(one, other);
         }
     }
     const QString level = parser.value(QStringLiteral("visibility"));
     if (parser.isSet(QStringLiteral("visibility")) && !visibilityFrom(level)) {
-        return QCoreApplication::translate(
-                   "Options", "Unknown visibility '%1', expected beginner, expert, guru or invisible.")
+        return QStringLiteral("Unknown visibility '%1', expected beginner, expert, guru or invisible.")
             .arg(level);
     }
     return {};

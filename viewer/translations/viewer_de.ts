@@ -414,12 +414,12 @@ Open a description file or connect to a camera (menu File).</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>There is no display to show a window on.</source>
-        <translation>Es gibt keinen Bildschirm, auf dem ein Fenster gezeigt werden kann.</translation>
-    </message>
-    <message>
         <source>Cannot write to the standard output.</source>
         <translation>Die Standardausgabe kann nicht beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Value Editors – Zelto Viewer</source>
+        <translation>Werteditoren – Zelto Viewer</translation>
     </message>
 </context>
 </TS>

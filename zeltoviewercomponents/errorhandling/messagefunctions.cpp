@@ -17,11 +17,6 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.errorHandling")
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ErrorHandling", text);
-}
-
 // The log line is limited to Latin-1; what is queued for the user is not.
 QString latin1(const QString &text)
 {
@@ -105,7 +100,8 @@ void showException(const QString &context, const GenICam::GenericException &exce
 void showException(const QString &context, const std::exception &exception, const QString &details,
                    QWidget *parent)
 {
-    showCriticalMessage(tr("Error"), context, QString::fromUtf8(exception.what()), details, parent);
+    showCriticalMessage(QCoreApplication::translate("ErrorHandling", "Error"), context,
+                        QString::fromUtf8(exception.what()), details, parent);
 }
 
 void showException(const QString &context, const std::exception &exception, QWidget *parent)
@@ -115,5 +111,6 @@ void showException(const QString &context, const std::exception &exception, QWid
 
 void showUnexpectedException(const QString &context, const QString &message, QWidget *parent)
 {
-    showCriticalMessage(tr("Unexpected exception occurred"), context, message, QString(), parent);
+    showCriticalMessage(QCoreApplication::translate("ErrorHandling", "Unexpected exception occurred"),
+                        context, message, QString(), parent);
 }

@@ -58,6 +58,17 @@
     </message>
 </context>
 <context>
+    <name>ErrorHandling</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Unexpected exception occurred</source>
+        <translation>Eine unerwartete Ausnahme ist aufgetreten</translation>
+    </message>
+</context>
+<context>
     <name>FeatureTreeINodeItem</name>
     <message>
         <source>&lt;not implemented&gt;</source>
