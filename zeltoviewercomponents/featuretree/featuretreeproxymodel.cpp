@@ -29,9 +29,10 @@ quint64 nextPass()
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
-    connect(this,
-            SIGNAL(layoutAboutToBeChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
-            this, SLOT(onLayoutAboutToBeChanged()));
+    connect(
+        this,
+        SIGNAL(layoutAboutToBeChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
+        this, SLOT(onLayoutAboutToBeChanged()));
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
