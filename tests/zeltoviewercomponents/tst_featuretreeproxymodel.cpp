@@ -134,6 +134,7 @@ private slots:
     void flippedRowsBelowCollapsedCategories();
     void rebuildingFiltersOnce();
     void searchRowNeedsASearch();
+    void invalidationJudgesAnew();
     void favoritesBranchStaysWithoutSearch();
     void lateBranchMakesItsParentsPass();
     void indexesAreTheProxys();
@@ -425,6 +426,29 @@ void TestFeatureTreeProxyModel::searchRowNeedsASearch()
         m_proxy->setFilterFixedString("zzz");
         QCOMPARE(m_proxy->rowCount(), 1);
         QCOMPARE(m_proxy->indexForItem(search, 0), m_proxy->index(0, 0));
+    }
+}
+
+void TestFeatureTreeProxyModel::invalidationJudgesAnew()
+{
+    addCamera();
+    m_proxy->rebuildFavoriteItems();
+    QSortFilterProxyModel &base = *m_proxy; // whoever knows no more of it
+    for (const QString &text : {QString(), QStringLiteral("width"), QStringLiteral("nothing like it")}) {
+        m_proxy->setFilterFixedString(text);
+        const int rows = base.rowCount();
+        m_proxy->getSearchHelpItem()->setVisibility(GenApi::Beginner);
+        QCOMPARE(base.rowCount(), rows);
+        base.invalidate();
+        QCOMPARE(base.rowCount(), rows + 1);
+        m_proxy->setAcceptAll(true);
+        QCOMPARE(base.rowCount(), rows + 1);
+        base.invalidate();
+        QCOMPARE(base.rowCount(), base.sourceModel()->rowCount());
+        m_proxy->setAcceptAll(false);
+        m_proxy->getSearchHelpItem()->setVisibility(GenApi::Invisible);
+        base.invalidate();
+        QCOMPARE(base.rowCount(), rows);
     }
 }
 

@@ -224,6 +224,9 @@ void TestFeatureTreeSearch::escapeTwiceClearsTheSearch()
     QCOMPARE(bench.box()->text(), QStringLiteral("gain"));
     QTest::keyClick(bench.view(), Qt::Key_Escape);
     QCOMPARE(bench.box()->text(), QString());
+    bench.box()->setText(QStringLiteral("width")); // by nobody's key
+    QTest::keyClick(bench.view(), Qt::Key_Escape);
+    QCOMPARE(bench.box()->text(), QStringLiteral("width"));
 }
 
 void TestFeatureTreeSearch::shortcuts_data()

@@ -80,6 +80,12 @@ public:
     /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
+public slots:
+    /*! Moves the slider as a step of the spin box asks for. */
+    void onSpinBoxStepTriggered(int steps);
+    /*! Takes note that the spin box got or lost the focus. */
+    void onSpinBoxFocusEventTriggered(bool focus);
+
 signals:
     /*! The slider's range was set. */
     void rangeChanged(int minimum, int maximum);
@@ -93,10 +99,6 @@ protected:
     int trimSliderValue(int position) const;
     QSlider *slider() const;
     ZeltoQtDoubleSpinBox *spinBox() const;
-
-protected slots:
-    void onSpinBoxStepTriggered(int steps);
-    void onSpinBoxFocusEventTriggered(bool focus);
 
 private:
     void reportIntRange();

@@ -67,14 +67,15 @@ public:
     /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
+public slots:
+    /*! Takes note that the spin box got or lost the focus. */
+    void onSpinBoxFocusEventTriggered(bool focus);
+
 protected:
     virtual void updateToolTip();
     void setEditBoxWidth(int width);
     bool checkIfLimitsChanged(double minimum, double maximum, double increment) const;
     ZeltoQtDoubleSpinBox *spinBox() const;
-
-protected slots:
-    void onSpinBoxFocusEventTriggered(bool focus);
 
 private:
     ZeltoQtDoubleSpinBox *m_spinBox;

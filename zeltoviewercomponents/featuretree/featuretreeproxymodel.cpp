@@ -29,6 +29,10 @@ quint64 nextPass()
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
+    connect(
+        this,
+        SIGNAL(layoutAboutToBeChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
+        this, SLOT(onLayoutAboutToBeChanged()));
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
@@ -209,7 +213,10 @@ void FeatureTreeProxyModel::refilter()
     if (!m_pattern.isEmpty()) {
         judgeTree();
     }
-    invalidate();
+    {
+        const QScopedValueRollback<bool> publishing(m_publishing, true);
+        invalidate();
+    }
     emit filtered();
 }
 
@@ -529,6 +536,14 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
     // branches filters at its end.
     if (!m_rebuilding && !mapFromSource(parent).isValid()) {
         refilter();
+    }
+}
+
+// The base's invalidate() and the source's new layout ask for all rows anew.
+void FeatureTreeProxyModel::onLayoutAboutToBeChanged()
+{
+    if (!m_publishing) {
+        startPass();
     }
 }
 

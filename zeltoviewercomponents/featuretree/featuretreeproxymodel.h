@@ -124,6 +124,7 @@ protected:
 private slots:
     void onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
+    void onLayoutAboutToBeChanged();
     void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     void onPollTimerShot();
     void refilter();
@@ -189,6 +190,7 @@ private:
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
     bool m_rejectAll = false; // nothing passes while the tree is being cleared
     bool m_shiftTopRows = false; // the mapping is one top row behind the source
+    bool m_publishing = false; // the verdicts are fresh when the base asks for them
     bool m_rebuilding = false; // the operation under way filters at its end
     bool m_refilterQueued = false;
     bool m_reportedPolling = false;

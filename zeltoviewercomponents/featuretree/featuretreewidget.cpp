@@ -170,7 +170,13 @@ void FeatureTreeWidget::setUpActions()
                                                  tr("Remove"), SLOT(FavouriteRemove_triggered()));
     m_actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
 
+    m_actionAddToFavourites->setObjectName(QStringLiteral("actionAddToFavourites"));
+    m_actionMoveFavouriteUp->setObjectName(QStringLiteral("actionMoveFavouriteUp"));
+    m_actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
+    m_actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
+
     m_actionTogglePolling = new QAction(refreshIcon(), tr("Polling"), this);
+    m_actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
     m_actionTogglePolling->setIconText(tr("Polling"));
     m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_actionTogglePolling->setEnabled(false);
@@ -744,10 +750,11 @@ bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
 void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
 {
     const bool isEscape = event->key() == Qt::Key_Escape;
-    if (isEscape && escapePressed()) {
+    const bool isSecondEscape = isEscape && escapePressed();
+    if (isSecondEscape) {
         m_ui->filterEdit->clear();
     }
-    escapePressed() = isEscape;
+    escapePressed() = isEscape && !isSecondEscape; // the next one is a first one again
     if (event->key() == Qt::Key_Down && m_ui->filterEdit->hasFocus()) {
         m_ui->treeView->setFocus(); // from the search to what it found
     }

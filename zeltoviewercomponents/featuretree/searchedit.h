@@ -38,12 +38,13 @@ public:
     /*! Returns a size in which the placeholder can be read. */
     QSize sizeHint() const override;
 
+public slots:
+    /*! Shows the magnifier while \a text is empty, else the cross. */
+    void onTextChanged(const QString &text);
+
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-
-private slots:
-    void onTextChanged(const QString &text);
 
 private:
     QAction *m_searchAction = nullptr;
