@@ -15,32 +15,19 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <map>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeView")
 
 namespace {
-
-constexpr qsizetype editorBudget = 200;
-constexpr int rowsBeyondViewport = 4;
-
-bool isInUse(const QWidget *editor)
-{
-    const QWidget *const focus = QApplication::focusWidget();
-    const bool hasFocus = focus && (focus == editor || editor->isAncestorOf(focus));
-    const QWidget *const popup = QApplication::activePopupWidget();
-    return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
-}
 
 bool isSameRow(const QModelIndex &a, const QModelIndex &b)
 {
@@ -66,6 +53,7 @@ QPalette unselectedPalette(QPalette colors)
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
+    , m_editors(this)
 {
     keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
@@ -178,36 +166,12 @@ bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
         && item->getAccessMode() > GenApi::NA;
 }
 
-bool FeatureTreeView::isBudgetSpent() const
-{
-    return isVisible() && m_editors.size() >= editorBudget;
-}
-
 void FeatureTreeView::openPersistentEditor(const QModelIndex &index)
 {
     FeatureTreeItem *const item = itemAt(index);
     if (item && getFeatureExtension()->indexForItem(item, index.column()).isValid() && wantsEditor(item)) {
-        addEditor(index);
+        m_editors.open(index);
     }
-}
-
-void FeatureTreeView::addEditor(const QModelIndex &index)
-{
-    QTreeView::openPersistentEditor(index);
-    QWidget *const editor = indexWidget(index);
-    if (!editor) {
-        return;
-    }
-    // The base selects the text of what it opens, as if all of them were about to be edited.
-    const QList<QLineEdit *> lineEdits = editor->findChildren<QLineEdit *>();
-    for (QLineEdit *const lineEdit : lineEdits) {
-        lineEdit->deselect();
-    }
-    m_editors.append({index, editor});
-    m_isTabOrderStale = true;
-    // When an editor's row is filtered out, the base releases the editor but keeps its address as that of a
-    // permanent one; a later editor at the same address could never be closed.
-    connect(editor, &QObject::destroyed, &m_editorWatch, [this](QObject *gone) { editorDestroyed(gone); });
 }
 
 void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent)
@@ -216,7 +180,7 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
         return;
     }
     const int count = model()->rowCount(parent);
-    for (int row = 0; row < count && !isBudgetSpent(); ++row) {
+    for (int row = 0; row < count && !m_editors.isBudgetSpent(); ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
         FeatureTreeItem *const item = itemAt(index);
         if (item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(index)) {
@@ -225,91 +189,12 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
     }
 }
 
-bool FeatureTreeView::isNearViewport(const QModelIndex &index) const
-{
-    const QRect row = visualRect(index);
-    const int margin = rowsBeyondViewport * row.height();
-    return row.isValid() && viewport()->rect().adjusted(0, -margin, 0, margin).intersects(row);
-}
-
-QModelIndexList FeatureTreeView::rowsNearViewport() const
-{
-    QModelIndexList rows;
-    QModelIndex index = indexAt(QPoint(0, 0));
-    for (int i = 0; i < rowsBeyondViewport && indexAbove(index).isValid(); ++i) {
-        index = indexAbove(index);
-    }
-    int below = 0;
-    while (index.isValid() && below <= rowsBeyondViewport) {
-        rows.append(index.siblingAtColumn(FeatureTreeColumns::value));
-        below += visualRect(index).top() > viewport()->height() ? 1 : 0;
-        index = indexBelow(index);
-    }
-    return rows;
-}
-
 void FeatureTreeView::ensureEditors()
 {
-    if (m_isEnsuringEditors || !isVisible()) {
-        return;
-    }
-    const QScopedValueRollback<bool> guard(m_isEnsuringEditors, true);
-    forgetClosedEditors();
-    const QModelIndexList near = rowsNearViewport();
-    for (const QModelIndex &index : near) {
+    m_editors.ensureNearViewport([this](const QModelIndex &index) {
         FeatureTreeItem *const item = itemAt(index);
-        if (item && wantsEditor(item) && item->ShowMe(m_visibility) && !indexWidget(index)) {
-            addEditor(index);
-        }
-    }
-    if (m_editors.size() > editorBudget) {
-        closeFarEditors(near);
-    }
-    if (m_isTabOrderStale) {
-        orderEditors();
-    }
-}
-
-void FeatureTreeView::forgetClosedEditors()
-{
-    m_editors.removeIf([this](const Editor &editor) {
-        return !editor.index.isValid() || !editor.widget || indexWidget(editor.index) != editor.widget;
+        return item && wantsEditor(item) && item->ShowMe(m_visibility);
     });
-}
-
-void FeatureTreeView::closeFarEditors(const QModelIndexList &near)
-{
-    for (qsizetype i = m_editors.size() - 1; i >= 0 && m_editors.size() > editorBudget; --i) {
-        const Editor editor = m_editors[i];
-        if (!near.contains(editor.index) && !isInUse(editor.widget)) {
-            m_editors.removeAt(i);
-            closePersistentEditor(editor.index);
-        }
-    }
-}
-
-// The focus walks from top to bottom; the base leaves editors in the order in which they were opened.
-void FeatureTreeView::orderEditors()
-{
-    m_isTabOrderStale = false;
-    const auto rowsTo = [](QModelIndex index) {
-        QList<int> rows;
-        for (; index.isValid(); index = index.parent()) {
-            rows.prepend(index.row());
-        }
-        return rows;
-    };
-    std::map<QList<int>, QWidget *> sorted;
-    for (const Editor &editor : std::as_const(m_editors)) {
-        if (editor.widget && editor.widget->focusPolicy() != Qt::NoFocus) {
-            sorted.emplace(rowsTo(editor.index), editor.widget);
-        }
-    }
-    QWidget *previous = this;
-    for (const auto &[rows, editor] : sorted) {
-        setTabOrder(previous, editor);
-        previous = editor;
-    }
 }
 
 void FeatureTreeView::doItemsLayout()
@@ -364,7 +249,7 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
     if (isRowHidden(row, parent)) {
         unhideRow(row, parent);
     }
-    if (item->usePersistentEditor() && !isBudgetSpent() && !indexWidget(index)) {
+    if (item->usePersistentEditor() && !m_editors.isBudgetSpent() && !indexWidget(index)) {
         openPersistentEditor(index);
     }
 }
@@ -466,8 +351,7 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
     const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
     QWidget *const editor = indexWidget(index);
     if (!editor) {
-        if (!isHidden && isAvailable && item->usePersistentEditor()
-            && (!isBudgetSpent() || isNearViewport(index))) {
+        if (!isHidden && isAvailable && item->usePersistentEditor() && m_editors.hasRoomFor(index)) {
             openPersistentEditor(index);
         }
     } else if (wasHidden) {
@@ -506,12 +390,9 @@ QWidget *FeatureTreeView::focusedEditor() const
 void FeatureTreeView::takeFocusFromLostRow()
 {
     QWidget *const editor = focusedEditor();
-    const auto permanent = std::find_if(m_editors.cbegin(), m_editors.cend(),
-                                        [editor](const Editor &entry) { return entry.widget == editor; });
     // An editor that is not permanent belongs to the current row.
-    const bool isRowLeft =
-        permanent == m_editors.cend() ? currentIndex().isValid() : permanent->index.isValid();
-    if (editor && !isRowLeft) {
+    const QModelIndex row = m_editors.contains(editor) ? m_editors.rowOf(editor) : currentIndex();
+    if (editor && !row.isValid()) {
         abandonFocusedEditor();
     }
 }
@@ -519,7 +400,7 @@ void FeatureTreeView::takeFocusFromLostRow()
 // Returns the row of the editor with the focus; one that is not permanent belongs to the current row.
 QModelIndex FeatureTreeView::rowOfFocus(const QModelIndex &current) const
 {
-    const QModelIndex permanent = rowOfEditor(QApplication::focusWidget());
+    const QModelIndex permanent = m_editors.rowOf(QApplication::focusWidget());
     return permanent.isValid() ? permanent : current;
 }
 
@@ -552,7 +433,7 @@ void FeatureTreeView::onLayoutAboutToChange()
 void FeatureTreeView::onLayoutChanged()
 {
     takeFocusFromLostRow();
-    forgetClosedEditors();
+    m_editors.forgetClosed();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     if (!m_isRebuilding) {
         updateRows(QModelIndex());
@@ -564,7 +445,7 @@ void FeatureTreeView::onLayoutChanged()
 
 void FeatureTreeView::onModelReset()
 {
-    m_editors.clear();
+    m_editors.forgetAll();
     emit onCurrentChanged(QModelIndex());
     updateRows(QModelIndex());
 }
@@ -831,7 +712,7 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
 void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 {
     Q_UNUSED(old)
-    const QModelIndex index = rowOfEditor(now);
+    const QModelIndex index = m_editors.rowOf(now);
     const QModelIndex current = currentIndex();
     if (index.isValid() && !isSameRow(index, current)) {
         const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
@@ -839,22 +720,9 @@ void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
     }
 }
 
-QModelIndex FeatureTreeView::rowOfEditor(const QWidget *focus) const
-{
-    if (!focus || !viewport()->isAncestorOf(focus)) {
-        return {};
-    }
-    for (const Editor &editor : m_editors) {
-        if (editor.widget && (editor.widget == focus || editor.widget->isAncestorOf(focus))) {
-            return editor.index;
-        }
-    }
-    return {};
-}
-
 bool FeatureTreeView::focusNextPrevChild(bool next)
 {
-    const QModelIndex row = rowOfEditor(QApplication::focusWidget());
+    const QModelIndex row = m_editors.rowOf(QApplication::focusWidget());
     if (row.isValid()) {
         return editNeighbour(row, next) || leaveEditors(next);
     }

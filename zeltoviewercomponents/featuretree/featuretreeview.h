@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "featuretreeeditors.h"
 #include "featuretreehighlighter.h"
 
 #include <platform/genicam/genapi.h>
@@ -10,8 +11,6 @@
 
 #include <QPalette>
 #include <QPersistentModelIndex>
-#include <QPointer>
-#include <QStringList>
 #include <QTreeView>
 
 #include <functional>
@@ -108,12 +107,6 @@ private slots:
     void onModelReset();
 
 private:
-    struct Editor
-    {
-        QPersistentModelIndex index;
-        QPointer<QWidget> widget;
-    };
-
     using ExpansionRule = std::function<bool(const QModelIndex &index, int depth)>;
 
     void keepBackgroundWhenDisabled();
@@ -135,30 +128,19 @@ private:
                              const ExpansionRule &isExpanded);
 
     bool wantsEditor(FeatureTreeItem *item) const;
-    bool isBudgetSpent() const;
-    bool isNearViewport(const QModelIndex &index) const;
-    QModelIndexList rowsNearViewport() const;
-    void forgetClosedEditors();
     void ensureEditors();
-    void closeFarEditors(const QModelIndexList &near);
-    void orderEditors();
-    QModelIndex rowOfEditor(const QWidget *focus) const;
     bool leaveEditors(bool next);
     bool editNeighbour(const QModelIndex &from, bool below);
     void restoreFavorite(const QString &fullName, int row);
-    void addEditor(const QModelIndex &index);
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
 
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
-    QList<Editor> m_editors;
-    QObject m_editorWatch; // context of the editors' destroyed(), gone before the view's base is
+    FeatureTreeEditors m_editors;
     QPersistentModelIndex m_currentBeforeLayout;
     bool m_hadCurrent = false;
     bool m_isBulkWork = false;
     bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
-    bool m_isEnsuringEditors = false;
-    bool m_isTabOrderStale = false;
     bool m_isForwardingKey = false;
     mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below
     mutable qint64 m_rowPaletteSource = 0;
