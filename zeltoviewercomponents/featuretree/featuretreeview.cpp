@@ -54,6 +54,7 @@ QPalette unselectedPalette(QPalette colors)
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
     , m_editors(this)
+    , m_focus(this, &m_editors)
 {
     keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
@@ -117,7 +118,7 @@ void FeatureTreeView::createModel()
         this, SLOT(onLayoutAboutToChange()));
     connect(proxy, SIGNAL(layoutChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
             this, SLOT(onLayoutChanged()));
-    connect(proxy, SIGNAL(modelAboutToBeReset()), this, SLOT(abandonFocusedEditor()));
+    connect(proxy, SIGNAL(modelAboutToBeReset()), this, SLOT(onModelAboutToReset()));
     connect(proxy, SIGNAL(modelReset()), this, SLOT(onModelReset()));
 }
 
@@ -208,7 +209,7 @@ void FeatureTreeView::doItemsLayout()
 
 void FeatureTreeView::updateGeometries()
 {
-    takeFocusFromHiddenRow();
+    m_focus.takeFromUnseenRow();
     QTreeView::updateGeometries();
     ensureEditors();
 }
@@ -361,67 +362,14 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
     } else if (!isAvailable || isHidden) {
-        takeFocusFrom(editor);
+        m_focus.takeFrom(editor);
         closePersistentEditor(index);
     }
 }
 
-// Called before an editor goes, or else the focus would go on to another row.
-void FeatureTreeView::takeFocusFrom(const QWidget *editor)
+void FeatureTreeView::onModelAboutToReset()
 {
-    const QWidget *const focus = QApplication::focusWidget();
-    if (focus && (focus == editor || editor->isAncestorOf(focus))) {
-        setFocus();
-    }
-}
-
-QWidget *FeatureTreeView::focusedEditor() const
-{
-    QWidget *editor = QApplication::focusWidget();
-    if (!editor || !viewport()->isAncestorOf(editor)) {
-        return nullptr;
-    }
-    while (editor->parentWidget() != viewport()) {
-        editor = editor->parentWidget();
-    }
-    return editor;
-}
-
-void FeatureTreeView::takeFocusFromLostRow()
-{
-    QWidget *const editor = focusedEditor();
-    // An editor that is not permanent belongs to the current row.
-    const QModelIndex row = m_editors.contains(editor) ? m_editors.rowOf(editor) : currentIndex();
-    if (editor && !row.isValid()) {
-        abandonFocusedEditor();
-    }
-}
-
-// Returns the row of the editor with the focus; one that is not permanent belongs to the current row.
-QModelIndex FeatureTreeView::rowOfFocus(const QModelIndex &current) const
-{
-    const QModelIndex permanent = m_editors.rowOf(QApplication::focusWidget());
-    return permanent.isValid() ? permanent : current;
-}
-
-// The base hides editors of rows out of sight, and the focus would go on to whatever row comes next.
-void FeatureTreeView::takeFocusFromHiddenRow()
-{
-    const QWidget *const editor = focusedEditor();
-    const QModelIndex row = editor ? rowOfFocus(currentIndex()) : QModelIndex();
-    if (row.isValid() && !visualRect(row).isValid()) {
-        setFocus();
-    }
-}
-
-// Takes the focus from an editor that has no row to commit to.
-void FeatureTreeView::abandonFocusedEditor()
-{
-    if (QWidget *const editor = focusedEditor()) {
-        editor->removeEventFilter(itemDelegate());
-        editor->blockSignals(true);
-        setFocus();
-    }
+    m_focus.abandonEditor();
 }
 
 void FeatureTreeView::onLayoutAboutToChange()
@@ -432,7 +380,7 @@ void FeatureTreeView::onLayoutAboutToChange()
 
 void FeatureTreeView::onLayoutChanged()
 {
-    takeFocusFromLostRow();
+    m_focus.takeFromLostRow();
     m_editors.forgetClosed();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     if (!m_isRebuilding) {
@@ -546,7 +494,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
     if (isFavorite) {
         // The base would make one neighbour after the other the current row while the rows go.
-        takeFocusFrom(viewport());
+        m_focus.takeFrom(viewport());
         const QSignalBlocker blocker(selectionModel());
         selectionModel()->clear();
     }
@@ -655,8 +603,8 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
     const QPersistentModelIndex newRow(current);
     const QPersistentModelIndex oldRow(previous);
     emit onCurrentChanged(current);
-    if (!m_keepsFocus && newRow.isValid() && !isSameRow(rowOfFocus(oldRow), newRow)) {
-        takeFocusFrom(viewport());
+    if (!m_keepsFocus && newRow.isValid() && !isSameRow(m_focus.row(oldRow), newRow)) {
+        m_focus.takeFrom(viewport());
     }
     QTreeView::currentChanged(newRow, oldRow);
     // The base repaints the cells; the frame goes around the whole row, with its indentation.
@@ -724,31 +672,16 @@ bool FeatureTreeView::focusNextPrevChild(bool next)
 {
     const QModelIndex row = m_editors.rowOf(QApplication::focusWidget());
     if (row.isValid()) {
-        return editNeighbour(row, next) || leaveEditors(next);
+        goToNeighbour(row, next);
+        return true;
     }
     // From the tree itself into the editors where the current row is, not up to the first one.
     const QModelIndex above = next && hasFocus() ? indexAbove(currentIndex()) : QModelIndex();
     if (above.isValid()) {
-        return editNeighbour(above, true) || leaveEditors(true);
+        goToNeighbour(above, true);
+        return true;
     }
     return QTreeView::focusNextPrevChild(next);
-}
-
-// The focus goes from the first editor back to the tree and from the last one to what comes after the tree.
-bool FeatureTreeView::leaveEditors(bool next)
-{
-    QWidget *target = this;
-    if (next) {
-        const auto takesFocus = [this](const QWidget *widget) {
-            return !isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
-                && (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
-        };
-        do {
-            target = target->nextInFocusChain();
-        } while (target != this && !takesFocus(target));
-    }
-    target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return true;
 }
 
 // An editor's keys take effect a little later, when it may have lost its row.
@@ -771,8 +704,14 @@ void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
     }
     // The base would go on in the column that happens to be the current one.
     QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    if (!editNeighbour(currentIndex(), below)) {
-        leaveEditors(below);
+    goToNeighbour(currentIndex(), below);
+}
+
+// The focus goes from the first editor back to the tree and from the last one to what comes after the tree.
+void FeatureTreeView::goToNeighbour(const QModelIndex &from, bool below)
+{
+    if (!editNeighbour(from, below)) {
+        m_focus.leaveEditors(below);
     }
 }
 
@@ -819,7 +758,7 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
         return false;
     }
     editor->setFocus(Qt::TabFocusReason);
-    if (trigger == AnyKeyPressed && event && focusedEditor() == editor) {
+    if (trigger == AnyKeyPressed && event && m_focus.editor() == editor) {
         // What the editor ignores comes back here, where the row is searched for by it.
         m_isForwardingKey = true;
         QCoreApplication::sendEvent(QApplication::focusWidget(), event);

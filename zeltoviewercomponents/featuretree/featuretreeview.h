@@ -4,6 +4,7 @@
 #pragma once
 
 #include "featuretreeeditors.h"
+#include "featuretreefocus.h"
 #include "featuretreehighlighter.h"
 
 #include <platform/genicam/genapi.h>
@@ -103,7 +104,7 @@ private slots:
     void onFocusChanged(QWidget *old, QWidget *now);
     void onLayoutAboutToChange();
     void onLayoutChanged();
-    void abandonFocusedEditor();
+    void onModelAboutToReset();
     void onModelReset();
 
 private:
@@ -118,18 +119,13 @@ private:
     void spanRow(const QModelIndex &index, const FeatureTreeItem &item);
     void updateValueCell(const QModelIndex &index);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
-    void takeFocusFrom(const QWidget *editor);
-    void takeFocusFromLostRow();
-    void takeFocusFromHiddenRow();
-    QModelIndex rowOfFocus(const QModelIndex &current) const;
-    QWidget *focusedEditor() const;
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
                              const ExpansionRule &isExpanded);
 
     bool wantsEditor(FeatureTreeItem *item) const;
     void ensureEditors();
-    bool leaveEditors(bool next);
+    void goToNeighbour(const QModelIndex &from, bool below);
     bool editNeighbour(const QModelIndex &from, bool below);
     void restoreFavorite(const QString &fullName, int row);
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
@@ -137,6 +133,7 @@ private:
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
     FeatureTreeEditors m_editors;
+    FeatureTreeFocus m_focus;
     QPersistentModelIndex m_currentBeforeLayout;
     bool m_hadCurrent = false;
     bool m_isBulkWork = false;
