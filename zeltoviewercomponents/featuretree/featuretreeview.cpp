@@ -49,6 +49,15 @@ QPalette unselectedPalette(QPalette colors)
     return colors;
 }
 
+// Without a pen, which on scaled screens is drawn half beside the row.
+void frameRow(QPainter *painter, const QRect &row, const QColor &color)
+{
+    painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
+    painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
+    painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
+    painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
+}
+
 } // namespace
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
@@ -70,9 +79,9 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
     FavoritesData &favorites = getFeatureExtension()->GetFavorites();
     favorites.attach(QStringLiteral("Favorites"));
     connect(&favorites, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
+    connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
     connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
             SLOT(onFocusChanged(QWidget *, QWidget *)));
-    connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
 }
 
 FeatureTreeView::~FeatureTreeView()
@@ -242,7 +251,10 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
     if (!item) {
         return;
     }
-    spanRow(index, *item);
+    const bool mayBeFullRow = item->isCategory() || !qobject_cast<FeatureTreeINodeItem *>(item);
+    if (mayBeFullRow) {
+        spanRow(index);
+    }
     if (!item->ShowMe(m_visibility)) {
         hideRow(row, parent);
         return;
@@ -255,14 +267,19 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
     }
 }
 
+bool FeatureTreeView::isCurrentRow(int row, const QModelIndex &parent) const
+{
+    return currentIndex().row() == row && currentIndex().parent() == parent;
+}
+
 void FeatureTreeView::hideRow(int row, const QModelIndex &parent)
 {
     if (isRowHidden(row, parent)) {
         return;
     }
-    const QModelIndex current = currentIndex();
+    const bool wasCurrent = isCurrentRow(row, parent);
     setRowHidden(row, parent, true);
-    if (current.isValid() && current.row() == row && current.parent() == parent) {
+    if (wasCurrent) {
         emit onCurrentChanged(QModelIndex());
     }
 }
@@ -270,18 +287,13 @@ void FeatureTreeView::hideRow(int row, const QModelIndex &parent)
 void FeatureTreeView::unhideRow(int row, const QModelIndex &parent)
 {
     setRowHidden(row, parent, false);
-    const QModelIndex current = currentIndex();
-    if (current.isValid() && current.row() == row && current.parent() == parent) {
-        emit onCurrentChanged(current);
+    if (isCurrentRow(row, parent)) {
+        emit onCurrentChanged(currentIndex());
     }
 }
 
-void FeatureTreeView::spanRow(const QModelIndex &index, const FeatureTreeItem &item)
+void FeatureTreeView::spanRow(const QModelIndex &index)
 {
-    const bool mayBeFullRow = item.isCategory() || !qobject_cast<const FeatureTreeINodeItem *>(&item);
-    if (!mayBeFullRow) {
-        return;
-    }
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
     if (isFirstColumnSpanned(index.row(), index.parent()) != isFullRow) {
@@ -311,19 +323,16 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
                              if (topLeft.column() == FeatureTreeColumns::name) {
-                                 const bool isFullRow = topLeft.data(FeatureTreeItem::IsFullRowItem).toBool();
-                                 if (isFirstColumnSpanned(topLeft.row(), topLeft.parent()) != isFullRow) {
-                                     setFirstColumnSpanned(topLeft.row(), topLeft.parent(), isFullRow);
-                                 }
+                                 spanRow(topLeft);
                              }
-                             updateValueCell(topLeft);
+                             updateCell(topLeft);
                          });
     }
     executeDelayedItemsLayout();
     QTreeView::dataChanged(topLeft, bottomRight, roles);
 }
 
-void FeatureTreeView::updateValueCell(const QModelIndex &index)
+void FeatureTreeView::updateCell(const QModelIndex &index)
 {
     FeatureTreeItem *const item = itemAt(index);
     if (!item) {
@@ -374,8 +383,7 @@ void FeatureTreeView::onModelAboutToReset()
 
 void FeatureTreeView::onLayoutAboutToChange()
 {
-    m_currentBeforeLayout = currentIndex();
-    m_hadCurrent = m_currentBeforeLayout.isValid();
+    m_hadCurrent = currentIndex().isValid();
 }
 
 void FeatureTreeView::onLayoutChanged()
@@ -415,7 +423,7 @@ void FeatureTreeView::setExpandedRows(const std::function<bool(const QModelIndex
 
 void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
 {
-    const QScopedValueRollback<bool> bulk(m_isBulkWork, true);
+    const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout(); // so that expanding merely stores the state
     expandBranchesBelow(QModelIndex(), 0, true, isExpanded);
 }
@@ -442,7 +450,7 @@ void FeatureTreeView::expandBranchesBelow(const QModelIndex &parent, int depth, 
 
 void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
 {
-    if (m_isBulkWork) {
+    if (m_isExpandingMany) {
         return;
     }
     updateRows(index);
@@ -456,7 +464,7 @@ void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
 void FeatureTreeView::onSelfCollapsed(const QModelIndex &index)
 {
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
-    if (!m_isBulkWork && extension && index == extension->GetFavoritesRootIndex()) {
+    if (!m_isExpandingMany && extension && index == extension->GetFavoritesRootIndex()) {
         extension->GetFavorites().setExpanded(false);
     }
 }
@@ -480,16 +488,10 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QModelIndex branch = extension->GetFavoritesRootIndex();
     const QModelIndex current = currentIndex();
     // Rows outside the branch stay as they are; a name would find a feature in the first of its categories.
-    const bool isFavorite = current.isValid() && branch.isValid() && current.parent() == branch;
+    const bool isFavorite = branch.isValid() && current.parent() == branch;
     const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
     const int row = current.row();
-    QStringList selectedNames;
-    const QModelIndexList selected = selectionModel()->selectedRows();
-    for (const QModelIndex &index : selected) {
-        if (branch.isValid() && index.parent() == branch) {
-            selectedNames.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
-        }
-    }
+    const QStringList selectedNames = selectedFavorites(branch);
     const bool isScrolled = isVisible() && verticalScrollBar()->value() > 0;
     const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
     if (isFavorite) {
@@ -503,7 +505,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
         const QScopedValueRollback<bool> rebuilding(m_isRebuilding, true);
         extension->rebuildFavoriteItems();
     }
-    for (const QString &name : std::as_const(selectedNames)) {
+    for (const QString &name : selectedNames) {
         const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
@@ -517,6 +519,18 @@ void FeatureTreeView::onFavoriteDataUpdated()
         executeDelayedItemsLayout();
         scrollTo(top, PositionAtTop); // rows that come and go above do not move what is looked at
     }
+}
+
+QStringList FeatureTreeView::selectedFavorites(const QModelIndex &branch) const
+{
+    QStringList fullNames;
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    for (const QModelIndex &index : selected) {
+        if (branch.isValid() && index.parent() == branch) {
+            fullNames.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
+        }
+    }
+    return fullNames;
 }
 
 // Makes the favorite of that name the current row, or else what took its place.
@@ -573,15 +587,8 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
             selection->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }
-    const QModelIndex current = currentIndex();
-    if (current.isValid() && current.row() == index.row() && current.parent() == index.parent()) {
-        // No pen, which on scaled screens is drawn half beside the row.
-        const QRect &row = options.rect;
-        const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
-        painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
-        painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
-        painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
-        painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
+    if (isSameRow(currentIndex(), index)) {
+        frameRow(painter, options.rect, palette().color(QPalette::Active, QPalette::Highlight));
     }
 }
 

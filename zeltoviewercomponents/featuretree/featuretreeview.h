@@ -11,7 +11,7 @@
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QPalette>
-#include <QPersistentModelIndex>
+#include <QStringList>
 #include <QTreeView>
 
 #include <functional>
@@ -112,34 +112,38 @@ private:
 
     void keepBackgroundWhenDisabled();
     FeatureTreeItem *itemAt(const QModelIndex &index) const;
+
     bool isOpen(const QModelIndex &parent) const;
-    void updateRow(int row, const QModelIndex &parent);
-    void hideRow(int row, const QModelIndex &parent);
-    void unhideRow(int row, const QModelIndex &parent);
-    void spanRow(const QModelIndex &index, const FeatureTreeItem &item);
-    void updateValueCell(const QModelIndex &index);
-    void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
                              const ExpansionRule &isExpanded);
 
+    void updateRow(int row, const QModelIndex &parent);
+    void updateCell(const QModelIndex &index);
+    bool isCurrentRow(int row, const QModelIndex &parent) const;
+    void hideRow(int row, const QModelIndex &parent);
+    void unhideRow(int row, const QModelIndex &parent);
+    void spanRow(const QModelIndex &index);
+
     bool wantsEditor(FeatureTreeItem *item) const;
     void ensureEditors();
-    void goToNeighbour(const QModelIndex &from, bool below);
-    bool editNeighbour(const QModelIndex &from, bool below);
-    void restoreFavorite(const QString &fullName, int row);
+    void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
+    bool editNeighbour(const QModelIndex &from, bool below);
+    void goToNeighbour(const QModelIndex &from, bool below);
+
+    QStringList selectedFavorites(const QModelIndex &branch) const;
+    void restoreFavorite(const QString &fullName, int row);
 
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
     FeatureTreeEditors m_editors;
     FeatureTreeFocus m_focus;
-    QPersistentModelIndex m_currentBeforeLayout;
-    bool m_hadCurrent = false;
-    bool m_isBulkWork = false;
+    bool m_hadCurrent = false; // before the layout changed
+    bool m_isExpandingMany = false; // the rows are updated elsewhere, and nothing is recorded
     bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
-    bool m_isForwardingKey = false;
+    bool m_keepsFocus = false; // no editor opens because another row becomes the current one
+    bool m_isForwardingKey = false; // to an editor that may leave it to the view
     mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below
     mutable qint64 m_rowPaletteSource = 0;
-    bool m_keepsFocus = false; // no editor opens because another row becomes the current one
 };
