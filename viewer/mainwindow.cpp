@@ -79,41 +79,15 @@ MainWindow::MainWindow(QWidget *parent)
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
 {
-    m_pages->addWidget(m_tree);
-    m_pages->addWidget(createEmptyPage());
-    m_splitter->addWidget(m_pages);
-    m_splitter->addWidget(m_description);
-    m_splitter->setStretchFactor(0, 3);
-    m_splitter->setStretchFactor(1, 2);
-    auto *const central = new QWidget(this);
-    auto *const layout = new QVBoxLayout(central);
-    layout->addWidget(m_splitter, 1);
-    layout->addWidget(m_messages); // below the tree, whose rows stay where they are when a message comes
-    setCentralWidget(central);
-    m_matches->setIndent(fontMetrics().averageCharWidth());
-    statusBar()->addWidget(m_matches, 1);
-    statusBar()->addPermanentWidget(m_cameraName);
+    layOut();
     createMenus();
     createServices();
     createPanels();
-
-    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
-            SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
-    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
-            SLOT(onRowChanged(const QModelIndex &)));
-    connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
-    connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
-            SLOT(onVisibilityChanged(GenApi::EVisibility)));
-    connect(m_tree, SIGNAL(filterMatchesChanged(int, int)), this, SLOT(onMatchesChanged(int, int)));
-    connect(m_tree, SIGNAL(contextMenuRequested(QPoint, QSharedPointer<QMenu>)), this,
-            SLOT(onContextMenu(QPoint, QSharedPointer<QMenu>)));
+    connectTree();
     connect(GetTheGlobalAsyncErrorQueue(),
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
-    connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
-            SLOT(onColumnResized(int, int, int)));
-    m_tree->installEventFilter(this);
     restoreState();
     updateActions();
 }
@@ -137,6 +111,41 @@ FeatureTreeWidget *MainWindow::featureTree() const
 QObject *MainWindow::services() const
 {
     return m_services;
+}
+
+void MainWindow::layOut()
+{
+    m_pages->addWidget(m_tree);
+    m_pages->addWidget(createEmptyPage());
+    m_splitter->addWidget(m_pages);
+    m_splitter->addWidget(m_description);
+    m_splitter->setStretchFactor(0, 3);
+    m_splitter->setStretchFactor(1, 2);
+    auto *const central = new QWidget(this);
+    auto *const layout = new QVBoxLayout(central);
+    layout->addWidget(m_splitter, 1);
+    layout->addWidget(m_messages); // below the tree, whose rows stay where they are when a message comes
+    setCentralWidget(central);
+    m_matches->setIndent(fontMetrics().averageCharWidth());
+    statusBar()->addWidget(m_matches, 1);
+    statusBar()->addPermanentWidget(m_cameraName);
+}
+
+void MainWindow::connectTree()
+{
+    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
+            SLOT(onRowChanged(const QModelIndex &)));
+    connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
+    connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
+            SLOT(onVisibilityChanged(GenApi::EVisibility)));
+    connect(m_tree, SIGNAL(filterMatchesChanged(int, int)), this, SLOT(onMatchesChanged(int, int)));
+    connect(m_tree, SIGNAL(contextMenuRequested(QPoint, QSharedPointer<QMenu>)), this,
+            SLOT(onContextMenu(QPoint, QSharedPointer<QMenu>)));
+    connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
+            SLOT(onColumnResized(int, int, int)));
+    m_tree->installEventFilter(this); // for its width
 }
 
 // An empty tree would say that a search found nothing.

@@ -88,6 +88,8 @@ private slots:
     void updateActions();
 
 private:
+    void layOut();
+    void connectTree();
     void createServices();
     void createPanels();
     void createMenus();
