@@ -255,40 +255,22 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
     if (mayBeFullRow) {
         spanRow(index);
     }
-    if (!item->ShowMe(m_visibility)) {
-        hideRow(row, parent);
-        return;
-    }
-    if (isRowHidden(row, parent)) {
-        unhideRow(row, parent);
-    }
-    if (item->usePersistentEditor() && !m_editors.isBudgetSpent() && !indexWidget(index)) {
+    const bool isShown = item->ShowMe(m_visibility);
+    showRow(row, parent, isShown);
+    if (isShown && item->usePersistentEditor() && !m_editors.isBudgetSpent() && !indexWidget(index)) {
         openPersistentEditor(index);
     }
 }
 
-bool FeatureTreeView::isCurrentRow(int row, const QModelIndex &parent) const
+void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
 {
-    return currentIndex().row() == row && currentIndex().parent() == parent;
-}
-
-void FeatureTreeView::hideRow(int row, const QModelIndex &parent)
-{
-    if (isRowHidden(row, parent)) {
+    if (isRowHidden(row, parent) != isShown) {
         return;
     }
-    const bool wasCurrent = isCurrentRow(row, parent);
-    setRowHidden(row, parent, true);
-    if (wasCurrent) {
-        emit onCurrentChanged(QModelIndex());
-    }
-}
-
-void FeatureTreeView::unhideRow(int row, const QModelIndex &parent)
-{
-    setRowHidden(row, parent, false);
-    if (isCurrentRow(row, parent)) {
-        emit onCurrentChanged(currentIndex());
+    const bool isCurrent = currentIndex().row() == row && currentIndex().parent() == parent;
+    setRowHidden(row, parent, !isShown);
+    if (isCurrent) {
+        emit onCurrentChanged(isShown ? currentIndex() : QModelIndex());
     }
 }
 
@@ -346,11 +328,7 @@ void FeatureTreeView::updateCell(const QModelIndex &index)
     }
     const bool wasHidden = isRowHidden(index.row(), index.parent());
     const bool isShown = item->ShowMe(m_visibility);
-    if (!isShown) {
-        hideRow(index.row(), index.parent());
-    } else if (wasHidden) {
-        unhideRow(index.row(), index.parent());
-    }
+    showRow(index.row(), index.parent(), isShown);
     updateEditor(index, item, wasHidden && !isShown);
 }
 

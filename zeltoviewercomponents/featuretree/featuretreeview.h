@@ -120,9 +120,7 @@ private:
 
     void updateRow(int row, const QModelIndex &parent);
     void updateCell(const QModelIndex &index);
-    bool isCurrentRow(int row, const QModelIndex &parent) const;
-    void hideRow(int row, const QModelIndex &parent);
-    void unhideRow(int row, const QModelIndex &parent);
+    void showRow(int row, const QModelIndex &parent, bool isShown);
     void spanRow(const QModelIndex &index);
 
     bool wantsEditor(FeatureTreeItem *item) const;
