@@ -468,7 +468,6 @@ void FeatureTreeView::onFavoriteDataUpdated()
     // Rows outside the branch stay as they are; a name would find a feature in the first of its categories.
     const bool isFavorite = branch.isValid() && current.parent() == branch;
     const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
-    const int row = current.row();
     const QStringList selectedNames = selectedFavorites(branch);
     const bool isScrolled = isVisible() && verticalScrollBar()->value() > 0;
     const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
@@ -492,7 +491,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
         onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
     }
     if (isFavorite) {
-        restoreFavorite(currentName, row);
+        restoreFavorite(currentName, current.row());
     } else if (top.isValid()) {
         executeDelayedItemsLayout();
         scrollTo(top, PositionAtTop); // rows that come and go above do not move what is looked at
