@@ -126,14 +126,7 @@ void searchKeyOnDescription(benchmark::State &state)
     const auto camera = Cameras::Camera::openDescription(fileName);
     const Cameras::NodeMap &nodeMap = camera->nodeMaps().constFirst();
     Window window(nodeMap.collection, nodeMap.name);
-    StockWindow stock(window);
-    Figure figure(state);
-    for (auto _ : state) {
-        figure.ours([&] { window.search(QStringLiteral("t")); });
-        figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
-        window.search(QString());
-        stock.search(QString());
-    }
+    measureSearchKey(state, window);
     state.counters["rows"] = visitRows(window.model());
     state.counters["editors"] =
         window.view().viewport()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly).size();

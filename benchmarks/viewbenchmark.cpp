@@ -84,14 +84,7 @@ BENCHMARK(growthOfSearchKey)
 void searchKeyOnCamera(benchmark::State &state)
 {
     Window window(makeCamera(featureNames(cameraRows), 4));
-    StockWindow stock(window);
-    Figure figure(state);
-    for (auto _ : state) {
-        figure.ours([&] { window.search(QStringLiteral("t")); });
-        figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
-        window.search(QString());
-        stock.search(QString());
-    }
+    measureSearchKey(state, window);
 }
 BENCHMARK(searchKeyOnCamera)->Iterations(25)->UseManualTime()->Unit(benchmark::kMillisecond);
 

@@ -64,3 +64,15 @@ void StockWindow::search(const QString &text)
     m_tree.proxy()->setFilterFixedString(text);
     settle();
 }
+
+void measureSearchKey(benchmark::State &state, Window &window)
+{
+    StockWindow stock(window);
+    Figure figure(state);
+    for (auto _ : state) {
+        figure.ours([&] { window.search(QStringLiteral("t")); });
+        figure.baseline("stock", [&] { stock.search(QStringLiteral("t")); });
+        window.search(QString());
+        stock.search(QString());
+    }
+}

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "figure.h"
 #include "trees.h"
 
 #include <platform/parametercollection/iparametercollection.h>
@@ -49,3 +50,6 @@ private:
     StockTree m_tree;
     QTreeView m_view;
 };
+
+/*! Measures one key of a search in \a window beside the same in the stock view, in turns. */
+void measureSearchKey(benchmark::State &state, Window &window);

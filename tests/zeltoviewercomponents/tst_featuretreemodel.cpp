@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "rownames.h"
+
 #include <support/logcapture.h>
 #include <support/memorycollection.h>
 #include <support/strictidentityproxy.h>
@@ -110,17 +112,6 @@ std::unique_ptr<QMimeData> mimeOf(const QByteArray &payload,
     auto data = std::make_unique<QMimeData>();
     data->setData(format, payload);
     return data;
-}
-
-QStringList namesBelow(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
-{
-    QStringList names;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
-        names.append(namesBelow(model, index));
-    }
-    return names;
 }
 
 } // namespace
@@ -468,7 +459,7 @@ void TestFeatureTreeModel::receiversMayClearAndRebuild()
         if (clears) {
             m_model->rebuildFavoriteItems();
         }
-        QStringList names = namesBelow(*m_model);
+        QStringList names = fullNames(*m_model);
         QVERIFY2(clears || names.size() == 16, qPrintable(names.join(QLatin1Char(' '))));
         QCOMPARE(names.removeDuplicates(), 0);
         QVERIFY(names.contains("Fav*CameraDevice*Gain"));

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "rownames.h"
+
 #include <support/memorycollection.h>
 #include <support/randomnodes.h>
 #include <support/strictidentityproxy.h>
@@ -85,17 +87,6 @@ private:
     GenApi::EVisibility m_level;
     QString m_text;
 };
-
-QStringList fullNames(const QAbstractItemModel &model, const QModelIndex &parent = QModelIndex())
-{
-    QStringList names;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
-        names.append(fullNames(model, index));
-    }
-    return names;
-}
 
 QStringList expectedNames(FeatureTreeModel &model, const Rule &rule, bool searching,
                           const QModelIndex &parent = QModelIndex())

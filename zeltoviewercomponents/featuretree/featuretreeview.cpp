@@ -399,30 +399,41 @@ void FeatureTreeView::setExpandedRows(const std::function<bool(const QModelIndex
     expandBranches([&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
 }
 
-void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
+void FeatureTreeView::setExpandedRows(const QModelIndex &top,
+                                      const std::function<bool(const QModelIndex &)> &isExpanded)
 {
     const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout(); // so that expanding merely stores the state
-    expandBranchesBelow(QModelIndex(), 0, true, isExpanded);
+    expandBranch(top, 0, isOpen(top.parent()),
+                 [&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
 }
 
-void FeatureTreeView::expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
-                                          const ExpansionRule &isExpanded)
+void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
 {
-    const int count = model()->rowCount(parent);
+    const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
+    scheduleDelayedItemsLayout();
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        expandBranch(model()->index(row, FeatureTreeColumns::name), 0, true, isExpanded);
+    }
+}
+
+void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, bool isReachable,
+                                   const ExpansionRule &isExpanded)
+{
+    if (!model()->hasChildren(index)) {
+        return;
+    }
+    const bool expand = isExpanded(index, depth);
+    if (expand != this->isExpanded(index)) {
+        setExpanded(index, expand);
+        if (expand && isReachable) {
+            updateRows(index);
+        }
+    }
+    const int count = model()->rowCount(index);
     for (int row = 0; row < count; ++row) {
-        const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
-        if (!model()->hasChildren(index)) {
-            continue;
-        }
-        const bool expand = isExpanded(index, depth);
-        if (expand != this->isExpanded(index)) {
-            setExpanded(index, expand);
-            if (expand && isReachable) {
-                updateRows(index);
-            }
-        }
-        expandBranchesBelow(index, depth + 1, isReachable && expand, isExpanded);
+        expandBranch(model()->index(row, FeatureTreeColumns::name, index), depth + 1, isReachable && expand,
+                     isExpanded);
     }
 }
 

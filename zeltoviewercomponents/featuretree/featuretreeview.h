@@ -54,6 +54,8 @@ public:
     void expandEverything();
     /*! Expands exactly the branches for which \a isExpanded says so, recording nothing. */
     void setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded);
+    /*! The same for \a top and the branches below it. */
+    void setExpandedRows(const QModelIndex &top, const std::function<bool(const QModelIndex &)> &isExpanded);
     /*! Lays out what is pending, so that expansion and geometry can be asked for. */
     using QTreeView::executeDelayedItemsLayout;
 
@@ -115,8 +117,7 @@ private:
 
     bool isOpen(const QModelIndex &parent) const;
     void expandBranches(const ExpansionRule &isExpanded);
-    void expandBranchesBelow(const QModelIndex &parent, int depth, bool isReachable,
-                             const ExpansionRule &isExpanded);
+    void expandBranch(const QModelIndex &index, int depth, bool isReachable, const ExpansionRule &isExpanded);
 
     void updateRow(int row, const QModelIndex &parent);
     void updateCell(const QModelIndex &index);

@@ -689,18 +689,16 @@ void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
 
 void FeatureTreeWidget::restoreExpandedStatus()
 {
-    m_ui->treeView->setExpandedRows(
-        [this](const QModelIndex &index) { return m_expandedRows.contains(pathKey(index)); });
+    const QAbstractItemModel *const model = m_ui->treeView->model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        restoreExpandedOnLevel(model->index(row, FeatureTreeColumns::name));
+    }
 }
 
 void FeatureTreeWidget::restoreExpandedOnLevel(const QModelIndex &index)
 {
-    m_ui->treeView->setExpanded(index, m_expandedRows.contains(pathKey(index)));
-    const QAbstractItemModel *const model = m_ui->treeView->model();
-    const int count = model->hasChildren(index) ? model->rowCount(index) : 0;
-    for (int row = 0; row < count; ++row) {
-        restoreExpandedOnLevel(model->index(row, FeatureTreeColumns::name, index));
-    }
+    m_ui->treeView->setExpandedRows(
+        index, [this](const QModelIndex &branch) { return m_expandedRows.contains(pathKey(branch)); });
 }
 
 void FeatureTreeWidget::saveSelectionStatus()
