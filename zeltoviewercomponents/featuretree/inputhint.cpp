@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "inputhint_p.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolTip>
+
+namespace {
+
+constexpr int tellingMilliseconds = 4000;
+
+// Between the colours of the text field and red: letters stay as legible as they were.
+QColor tinted(const QColor &color)
+{
+    constexpr int share = 25; // of a hundred
+    const QColor red(Qt::red);
+    const auto mixed = [](int a, int b) { return (a * (100 - share) + b * share) / 100; };
+    return QColor(mixed(color.red(), red.red()), mixed(color.green(), red.green()),
+                  mixed(color.blue(), red.blue()));
+}
+
+} // namespace
+
+InputHint::InputHint(QWidget *editor, QLineEdit *lineEdit)
+    : QObject(editor)
+    , m_editor(editor)
+    , m_lineEdit(lineEdit)
+    , m_toolTip(lineEdit->toolTip())
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, SIGNAL(timeout()), this, SLOT(endTelling()));
+}
+
+InputHint::~InputHint()
+{
+    delete m_label;
+}
+
+void InputHint::setProblem(const QString &problem)
+{
+    if (problem == m_problem) {
+        return;
+    }
+    m_problem = problem;
+    m_lineEdit->setToolTip(problem.isEmpty() ? m_toolTip : problem);
+    mark(!problem.isEmpty());
+}
+
+QString InputHint::problem() const
+{
+    return m_problem;
+}
+
+void InputHint::setToolTip(const QString &toolTip)
+{
+    m_toolTip = toolTip;
+    if (m_problem.isEmpty()) {
+        m_lineEdit->setToolTip(toolTip);
+    }
+}
+
+void InputHint::tell(const QString &text)
+{
+    QWidget *const window = m_editor->window();
+    if (!m_editor->isVisible() || window == m_editor) {
+        return;
+    }
+    if (!m_label) {
+        m_label = new QLabel(window);
+        m_label->setObjectName(QStringLiteral("inputHint"));
+        m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        m_label->setAutoFillBackground(true);
+        m_label->setFrameShape(QFrame::Box);
+        m_label->setMargin(2);
+    }
+    // A tool tip would go with the focus.
+    m_label->setPalette(QToolTip::palette());
+    m_label->setBackgroundRole(QPalette::ToolTipBase);
+    m_label->setForegroundRole(QPalette::ToolTipText);
+    m_label->setText(text);
+    m_label->adjustSize();
+    QPoint place = m_editor->mapTo(window, QPoint(0, m_editor->height()));
+    if (place.y() + m_label->height() > window->height()) {
+        place.ry() -= m_editor->height() + m_label->height();
+    }
+    place.setX(qBound(0, place.x(), qMax(0, window->width() - m_label->width())));
+    m_label->move(place);
+    m_label->raise();
+    m_label->show();
+    m_timer.start(tellingMilliseconds);
+}
+
+void InputHint::endTelling()
+{
+    delete m_label;
+}
+
+void InputHint::mark(bool isMarked)
+{
+    QPalette palette;
+    if (isMarked) {
+        const QPalette inherited = m_editor->palette();
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            palette.setColor(group, QPalette::Base, tinted(inherited.color(group, QPalette::Base)));
+        }
+    }
+    m_lineEdit->setPalette(palette); // an empty one takes back what the parents have
+}
