@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "editorgallery.h"
+#include "featuresamples.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "options.h"
@@ -12,6 +12,7 @@
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
@@ -101,18 +102,25 @@ int show(QWidget &widget, const Options &options)
     return QApplication::exec();
 }
 
+// A tree with one feature of each kind that the camera has.
 int showGallery(const Options &options)
 {
     const auto camera = MainWindow::cameraFor(options);
-    QList<QSharedPointer<ParameterCollection::IParameterCollection>> collections;
+    FeatureTreeWidget tree(QStringLiteral("editors"));
+    tree.setVisibility(GenApi::Invisible);
+    QSet<QString> kinds;
     const auto nodeMaps = camera->nodeMaps();
     for (const Cameras::NodeMap &nodeMap : nodeMaps) {
-        collections.append(nodeMap.collection);
+        const auto samples = QSharedPointer<FeatureSamples>::create(nodeMap.collection, kinds);
+        if (!samples->isEmpty()) {
+            tree.addParameterCollection(samples, nodeMap.title, nodeMap.name, nodeMap.usesUtf8);
+        }
     }
-    EditorGallery gallery(collections);
-    gallery.setWindowTitle(QCoreApplication::translate("main", "Value Editors – Zelto Viewer"));
-    gallery.resize(gallerySize);
-    return show(gallery, options);
+    tree.expandRootNodes();
+    tree.treeView()->header()->resizeSection(0, gallerySize.width() * 2 / 5);
+    tree.setWindowTitle(QCoreApplication::translate("main", "Value Editors – Zelto Viewer"));
+    tree.resize(gallerySize);
+    return show(tree, options);
 }
 
 int run(const Options &options)

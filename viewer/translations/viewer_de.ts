@@ -136,13 +136,6 @@
     </message>
 </context>
 <context>
-    <name>EditorGallery</name>
-    <message>
-        <source>Value editors</source>
-        <translation>Werteditoren</translation>
-    </message>
-</context>
-<context>
     <name>IpConfiguration</name>
     <message>
         <source>The reason is not known.</source>
