@@ -10,12 +10,6 @@ namespace {
 
 constexpr double millisecondsPerSecond = 1000.0;
 
-// The fastest turn: whatever else the machine does can only add to it.
-double bestOf(const std::vector<double> &values)
-{
-    return *std::min_element(values.begin(), values.end());
-}
-
 } // namespace
 
 Figure::~Figure()
@@ -23,13 +17,30 @@ Figure::~Figure()
     if (m_ours.empty()) {
         return;
     }
-    const double ours = bestOf(m_ours);
+    const double ours = chosenOf(m_ours);
     m_state.counters["ours_ms"] = ours * millisecondsPerSecond;
     for (const auto &[name, seconds] : m_baselines) {
-        const double theirs = bestOf(seconds);
+        const double theirs = chosenOf(seconds);
         m_state.counters[name + "_ms"] = theirs * millisecondsPerSecond;
         m_state.counters["ratio_" + name] = ours / theirs;
     }
+}
+
+// The fastest turn: whatever else the machine does can only add to it.
+double Figure::chosenOf(const std::vector<double> &seconds) const
+{
+    return m_turn == Turn::Best ? *std::min_element(seconds.begin(), seconds.end())
+                                : *std::max_element(seconds.begin(), seconds.end());
+}
+
+void Figure::wantAtMost(double milliseconds)
+{
+    m_state.counters["goal_ours_ms"] = milliseconds;
+}
+
+void Figure::wantShareOf(const std::string &baseline, double share)
+{
+    m_state.counters["goal_ratio_" + baseline] = share;
 }
 
 double Figure::processorSeconds()

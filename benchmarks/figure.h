@@ -13,13 +13,17 @@
 /*! \brief One figure: what the library takes and what its baselines take, measured in turns in the same run.
  *
  * The library's time is the benchmark's own (manual) time; the best turn of each side, in milliseconds, and
- * the library's share of each baseline become counters.
+ * the library's share of each baseline become counters. Where the worst turn is what a user notices, as when
+ * scrolling, that counts instead. What is wanted of a counter is a counter "goal_" and its name.
  */
 class Figure
 {
 public:
-    explicit Figure(benchmark::State &state)
+    enum class Turn { Best, Worst };
+
+    explicit Figure(benchmark::State &state, Turn turn = Turn::Best)
         : m_state(state)
+        , m_turn(turn)
     {
     }
     ~Figure();
@@ -42,6 +46,11 @@ public:
         m_baselines[baseline].push_back(secondsOf(std::move(work)));
     }
 
+    /*! States that the library is to take at most \a milliseconds. */
+    void wantAtMost(double milliseconds);
+    /*! States that the library is to take at most \a share of what \a baseline takes. */
+    void wantShareOf(const std::string &baseline, double share);
+
     /*! Returns the processor time, in seconds, that \a work takes in all threads: on a busy machine it tells
      * more than the clock on the wall. */
     template <typename Work>
@@ -54,8 +63,10 @@ public:
 
 private:
     static double processorSeconds();
+    double chosenOf(const std::vector<double> &seconds) const;
 
     benchmark::State &m_state;
+    Turn m_turn;
     std::vector<double> m_ours;
     std::map<std::string, std::vector<double>> m_baselines;
 };

@@ -1,15 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "goalreporter.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 
 int main(int argc, char **argv)
 {
     // Windows need no display, and favorites stay out of the user's settings.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // That platform says at each resizing that it has no window manager to tell.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     QApplication application(argc, argv);
@@ -17,9 +24,15 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("zelto-benchmarks"));
 
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
+    const bool isAboutGoals = argc == 2 && qstrcmp(argv[1], "--goals") == 0;
+    if (!isAboutGoals) {
+        if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+            return 1;
+        }
+        benchmark::RunSpecifiedBenchmarks();
+        return 0;
     }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    GoalReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return reporter.areAllMet() ? 0 : 1;
 }

@@ -20,7 +20,7 @@ const std::array searches{QStringLiteral("ExposureMode9"), QStringLiteral("e"), 
 struct Tree
 {
     explicit Tree(const QStringList &names)
-        : camera(makeCamera(names, 4))
+        : camera(makeCamera(names, Kinds::Usual))
     {
         proxy.setSourceModel(&model);
         proxy.setDynamicSortFilter(false);
@@ -97,6 +97,7 @@ void setSearchTextAndVisit(benchmark::State &state)
             visitRows(*stock.proxy());
         });
     }
+    figure.wantShareOf("stock", 0.25);
     state.SetLabel(text.toStdString());
 }
 BENCHMARK(setSearchTextAndVisit)
@@ -121,6 +122,7 @@ void growthOfSearch(benchmark::State &state)
         figure.ours([&] { search(large.proxy, text); });
         figure.baseline("tenth", [&] { search(small.proxy, text); });
     }
+    figure.wantShareOf("tenth", 12.0);
     state.SetLabel(text.toStdString());
 }
 BENCHMARK(growthOfSearch)->DenseRange(0, 3)->Iterations(9)->UseManualTime()->Unit(benchmark::kMillisecond);

@@ -3,6 +3,8 @@
 
 #include "trees.h"
 
+#include <zeltoviewercomponents/featuretree/featuretreeitem.h>
+
 #include <array>
 
 namespace {
@@ -14,21 +16,25 @@ constexpr std::array words{"Acquisition", "Exposure", "Trigger", "Gain",   "Bala
                            "Line",        "Sensor",   "Stream",  "Packet", "Region",  "Timer"};
 constexpr std::array endings{"Mode", "Time", "Selector", "Enable", "Source", "Delay", "Count"};
 
-void addWithEditor(MemoryCollection &camera, const QString &name, const QString &category, int kind)
+constexpr int expertEvery = 5; // categories
+
+// One feature of the usual mix; \a place is its place among twenty.
+void addUsual(MemoryCollection &camera, const QString &name, const QString &category, int place)
 {
-    switch (kind) {
-    case 0:
-        camera.addFloat(name, category, 1.5);
-        break;
-    case 1:
-        camera.addEnum(name, category, {QStringLiteral("Off"), QStringLiteral("On")}, QStringLiteral("Off"));
-        break;
-    case 2:
+    static const QStringList entries{QStringLiteral("Off"),        QStringLiteral("Once"),
+                                     QStringLiteral("Continuous"), QStringLiteral("Line0"),
+                                     QStringLiteral("Line1"),      QStringLiteral("Line2"),
+                                     QStringLiteral("Software"),   QStringLiteral("Action")};
+    if (place % 7 == 0) { // 0, 7, 14
+        camera.addFloat(name, category, 10.5 + place, 0.0, 1.0e6);
+    } else if (place % 5 == 1) { // 1, 6, 11, 16
+        camera.addEnum(name, category, entries, entries.constFirst());
+    } else if (place == 3) {
         camera.addBoolean(name, category);
-        break;
-    default:
-        camera.addInteger(name, category, 5, 0, 100, 1, QStringLiteral("Linear"));
-        break;
+    } else if (place % 2 == 0) {
+        camera.addInteger(name, category, place, 0, 1000);
+    } else {
+        camera.addString(name, category, QStringLiteral("value"));
     }
 }
 
@@ -38,7 +44,9 @@ void copyRows(const QAbstractItemModel &from, const QModelIndex &parent, QStanda
     for (int row = 0; row < count; ++row) {
         const QModelIndex name = from.index(row, 0, parent);
         auto *const copy = new QStandardItem(name.data().toString());
-        to->appendRow({copy, new QStandardItem(name.siblingAtColumn(1).data(Qt::EditRole).toString())});
+        auto *const value = new QStandardItem(name.siblingAtColumn(1).data(Qt::EditRole).toString());
+        value->setData(static_cast<FeatureTreeItem *>(name.internalPointer())->editorType(), Qt::UserRole);
+        to->appendRow({copy, value});
         copyRows(from, name, copy);
     }
 }
@@ -56,19 +64,22 @@ QStringList featureNames(int count)
     return names;
 }
 
-QSharedPointer<MemoryCollection> makeCamera(const QStringList &names, int withEditor)
+QSharedPointer<MemoryCollection> makeCamera(const QStringList &names, Kinds kinds, const QString &nodeMapName)
 {
-    auto camera = QSharedPointer<MemoryCollection>::create();
+    auto camera = QSharedPointer<MemoryCollection>::create(nodeMapName);
     QString category;
     for (int i = 0; i < names.size(); ++i) {
         if (i % categorySize == 0) {
             category = QStringLiteral("Category%1").arg(i / categorySize);
             camera->addCategory(category);
         }
-        if (i % 10 < withEditor) {
-            addWithEditor(*camera, names[i], category, i % 4);
+        if (kinds == Kinds::Usual) {
+            addUsual(*camera, names[i], category, i % 20);
         } else {
             camera->addString(names[i], category, QStringLiteral("value"));
+        }
+        if (i / categorySize % expertEvery == expertEvery - 1) {
+            camera->node(names[i])->snapshot->visibility = GenApi::Expert;
         }
     }
     return camera;

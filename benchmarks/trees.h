@@ -14,15 +14,23 @@
 /*! \brief The names of a synthetic camera's features, a hundred to a category. */
 QStringList featureNames(int count);
 
-/*! Returns a collection of features called \a names, a hundred to a category. Of each ten, as many as
- * \a withEditor have a permanent editor; the others are strings, which have none. */
-QSharedPointer<MemoryCollection> makeCamera(const QStringList &names, int withEditor);
+/*! \brief What kinds of features a synthetic camera has. */
+enum class Kinds {
+    Usual, //!< of twenty three floats, four lists of eight entries, a Boolean; the others have no permanent
+           //!< editor
+    Strings, //!< no permanent editor at all
+};
+
+/*! Returns a collection of features called \a names, a hundred to a category. The features of every fifth
+ * category are for experts. */
+QSharedPointer<MemoryCollection> makeCamera(const QStringList &names, Kinds kinds,
+                                            const QString &nodeMapName = QStringLiteral("@CameraDevice"));
 
 /*! \brief The stock stack that figures are compared with: the same names in the same shape. */
 class StockTree
 {
 public:
-    /*! Copies name and value of all rows of \a model. */
+    /*! Copies name, value and kind of editor (Qt::UserRole of the value) of all rows of \a model. */
     explicit StockTree(const QAbstractItemModel &model);
 
     QSortFilterProxyModel *proxy() { return &m_proxy; }

@@ -12,7 +12,9 @@
 
 #include <QTreeView>
 
-/*! Works until everything that is pending has been laid out and painted. */
+#include <memory>
+
+/*! Works until everything that is pending has been laid out, painted and deleted. */
 void settle();
 
 using Collection = QSharedPointer<ParameterCollection::IParameterCollection>;
@@ -23,10 +25,13 @@ class Window
 public:
     Window(const Collection &camera, const QString &nodeMapName);
     explicit Window(const QSharedPointer<MemoryCollection> &camera);
+    /*! Shows several node maps. */
+    explicit Window(const QList<QSharedPointer<MemoryCollection>> &nodeMaps);
 
     void fill(const Collection &camera, const QString &nodeMapName);
     /*! Puts \a text into the search box and waits until the result is painted. */
     void search(const QString &text);
+    void setLevel(GenApi::EVisibility level);
 
     FeatureTreeWidget &widget() { return m_widget; }
     FeatureTreeView &view() { return *m_widget.treeView(); }
@@ -34,22 +39,34 @@ public:
     const QAbstractItemModel &model();
 
 private:
+    void open();
+
     FeatureTreeWidget m_widget{QStringLiteral("benchmark")};
 };
 
-/*! \brief The stock view over the rows of a window, in the same size, shown with everything expanded. */
+/*! \brief The stock view over the rows of a window, in the same size, shown with all branches expanded. */
 class StockWindow
 {
 public:
-    explicit StockWindow(Window &window);
+    /*! How many rows have a permanent editor: none, or all of them. */
+    enum class Editors { None, All };
 
-    /*! Filters by \a text and waits until the result is painted. */
+    StockWindow(Window &window, Editors editors);
+
+    /*! Shows a new view over the rows. */
+    void open();
+    /*! Filters by \a text and waits until the result is painted; branches that come back are expanded. */
     void search(const QString &text);
+    QTreeView &view() { return *m_view; }
 
 private:
+    void expandAndEquip(const QModelIndex &parent);
+
     StockTree m_tree;
-    QTreeView m_view;
+    Editors m_editors;
+    QSize m_size;
+    std::unique_ptr<QTreeView> m_view;
 };
 
-/*! Measures one key of a search in \a window beside the same in the stock view, in turns. */
+/*! Measures one key of a search in \a window beside the same in the stock views, in turns. */
 void measureSearchKey(benchmark::State &state, Window &window);
