@@ -472,8 +472,9 @@ void MainWindow::configureIp()
     }
     try {
         configuration.write(dialog.ipAddress(), dialog.subnetMask(), dialog.defaultGateway());
+        m_messages->resolve(m_ipAction->text());
     } catch (const Core::Exception::BaseException &exception) {
-        m_messages->showMessage(exception.getMessage(), QString());
+        m_messages->showMessage(exception.getMessage(), QString(), m_ipAction->text());
     }
 }
 
