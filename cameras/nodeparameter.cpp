@@ -80,8 +80,12 @@ NodeProperties::~NodeProperties() = default;
 QString NodeProperties::property(const QString &name, const QString &defaultValue) const
 {
     const Description &description = *m_handle.session->description(m_handle.map);
+    const QString nodeName = description.name(m_handle.node);
     if (name == QLatin1String("Name")) {
-        return description.name(m_handle.node);
+        return nodeName;
+    }
+    if (name == QLatin1String("DisplayName") && nodeName == QLatin1String("Root")) {
+        return m_handle.session->mapTitle(m_handle.map); // the top of each node map has that name
     }
     const ParameterDataPtr data = m_handle.session->snapshot(m_handle.map, m_handle.node);
     if (name == QLatin1String("Visibility")) {
@@ -97,7 +101,7 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
     if (!text.isEmpty()) {
         return text;
     }
-    return name == QLatin1String("DisplayName") ? description.name(m_handle.node) : defaultValue;
+    return name == QLatin1String("DisplayName") ? nodeName : defaultValue;
 }
 
 void NodeProperties::setProperty(const QString &name, const QString &value)

@@ -6,6 +6,7 @@
 #include <platform/core/formatdoublevalue.h>
 #include <platform/core/guard.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
+#include <zeltoviewercomponents/featuretree/featuretreenames.h>
 
 #include <QTextBrowser>
 #include <QUrl>
@@ -113,19 +114,21 @@ void addRange(Page &page, const ParameterData &data, const QString &unit)
     }
 }
 
-QString describe(const IParameter &parameter, const QString &title)
+QString describe(const IParameter &parameter)
 {
     const auto access = parameter.propertyAccess();
     const auto data = parameter.parameterData();
     Page page;
-    page.heading(title.isEmpty() ? access->property(QStringLiteral("DisplayName"), parameter.name()) : title);
+    page.heading(access->property(QStringLiteral("DisplayName"), parameter.name()));
     const QString toolTip = access->property(QStringLiteral("Tooltip"));
     const QString description = access->property(QStringLiteral("Description"));
     page.paragraph(toolTip);
     if (description != toolTip) {
         page.paragraph(description);
     }
-    page.row(DescriptionPane::tr("Name"), parameter.name());
+    if (parameter.name() != FeatureTreeNames::root) { // by which nobody knows the row of a node map
+        page.row(DescriptionPane::tr("Name"), parameter.name());
+    }
     if (data) {
         page.row(DescriptionPane::tr("Type"), typeText(data->type));
         if (data->type != ParameterType::Category) {
@@ -164,13 +167,12 @@ DescriptionPane::DescriptionPane(QWidget *parent)
 
 DescriptionPane::~DescriptionPane() = default;
 
-void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter, const QString &title)
+void DescriptionPane::showParameter(QSharedPointer<IParameter> parameter)
 {
     if (m_parameter) {
         disconnect(m_parameter.data(), nullptr, this, nullptr);
     }
     m_parameter = std::move(parameter);
-    m_title = title;
     if (m_parameter) {
         connect(
             m_parameter.data(),
@@ -187,7 +189,7 @@ void DescriptionPane::refresh()
     Core::guardedRun({logCategory(), "DescriptionPane::refresh"},
                      QStringLiteral("Failed to describe a feature"), [this, &page, &help] {
                          if (m_parameter) {
-                             page = describe(*m_parameter, m_title);
+                             page = describe(*m_parameter);
                              help = documentation(*m_parameter);
                          }
                      });

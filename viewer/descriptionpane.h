@@ -24,9 +24,8 @@ public:
     ~DescriptionPane() override;
 
 public slots:
-    /*! Describes \a parameter under \a title, or else under its own name; null empties the pane. */
-    void showParameter(QSharedPointer<ParameterCollection::IParameter> parameter,
-                       const QString &title = QString());
+    /*! Describes \a parameter; null empties the pane. */
+    void showParameter(QSharedPointer<ParameterCollection::IParameter> parameter);
     /*! Shows \a text, which may be rich. */
     void showText(const QString &text);
 
@@ -39,6 +38,5 @@ private:
     QTextBrowser *m_text;
     HelpLink *m_help;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
-    QString m_title;
     QString m_page;
 };

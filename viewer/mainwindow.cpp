@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include "cameradialog.h"
+#include "commandquestion.h"
 #include "descriptionpane.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
@@ -13,10 +14,12 @@
 #include "services/featuretreecontrolservice.h"
 #include "services/featuretreestatusservice.h"
 #include "services/workbenchservice.h"
+#include "treemenu.h"
 #include "treestate.h"
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
+#include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
@@ -30,7 +33,6 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -42,6 +44,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -71,7 +74,9 @@ public:
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
+    , m_treeMenu(new TreeMenu(m_tree, this))
     , m_description(new DescriptionPane(this))
+    , m_descriptionTimer(new QTimer(this))
     , m_messages(new MessageBar(this))
     , m_splitter(new QSplitter(this))
     , m_pages(new QStackedWidget(this))
@@ -133,19 +138,39 @@ void MainWindow::layOut()
 
 void MainWindow::connectTree()
 {
-    connect(m_tree, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)), this,
-            SLOT(onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>)));
-    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
-            SLOT(onRowChanged(const QModelIndex &)));
-    connect(m_tree, SIGNAL(newText(QString)), m_description, SLOT(showText(QString)));
     connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this,
             SLOT(onVisibilityChanged(GenApi::EVisibility)));
     connect(m_tree, SIGNAL(filterMatchesChanged(int, int)), this, SLOT(onMatchesChanged(int, int)));
-    connect(m_tree, SIGNAL(contextMenuRequested(QPoint, QSharedPointer<QMenu>)), this,
-            SLOT(onContextMenu(QPoint, QSharedPointer<QMenu>)));
     connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
             SLOT(onColumnResized(int, int, int)));
+    connect(m_treeMenu, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
+    m_tree->setCommandVeto([this](const QSharedPointer<ParameterCollection::IParameter> &command) {
+        return !isExecutionWanted(*command);
+    });
     m_tree->installEventFilter(this); // for its width
+    connectModel();
+}
+
+// The widget keeps silent about the current row while a search is typed; what the pane shows is true all the
+// time.
+void MainWindow::connectModel()
+{
+    m_descriptionTimer->setSingleShot(true);
+    connect(m_descriptionTimer, SIGNAL(timeout()), this, SLOT(describeCurrentRow()));
+    connect(m_tree->treeView(), SIGNAL(onCurrentChanged(const QModelIndex &)), this,
+            SLOT(describeCurrentRow()));
+    connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), m_descriptionTimer, SLOT(start()));
+    connect(&m_tree->getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), m_descriptionTimer,
+            SLOT(start()));
+    const QAbstractItemModel *const model = m_tree->treeView()->model();
+    connect(model, SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>)), this,
+            SLOT(onRowsUpdated(QModelIndex, QModelIndex)));
+    connect(model, SIGNAL(filtered()), m_descriptionTimer, SLOT(start()));
+    connect(model, SIGNAL(modelReset()), m_descriptionTimer, SLOT(start()));
+    connect(model, SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onWritten(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(model, SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)), this,
+            SLOT(onWriteFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
 }
 
 // An empty tree would say that a search found nothing.
@@ -173,8 +198,7 @@ void MainWindow::createServices()
     m_description->setWindowTitle(tr("Description"));
     auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), m_description);
     find->setContext(Qt::WidgetWithChildrenShortcut); // the tree has its own
-    connect(find, SIGNAL(activated()), m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit")),
-            SLOT(setFocus()));
+    connect(find, SIGNAL(activated()), this, SLOT(focusSearch()));
     m_workbench->addPage(m_description);
 }
 
@@ -227,6 +251,8 @@ void MainWindow::createViewMenu()
     createLevelMenu(view);
     m_panels = view->addMenu(tr("&Panels"));
     m_panels->menuAction()->setVisible(false);
+    view->addSeparator();
+    view->addActions(m_treeMenu->expansionActions());
     view->addSeparator();
     m_monitorAction = view->addAction(tr("&Monitor Mode"));
     m_monitorAction->setCheckable(true);
@@ -309,16 +335,23 @@ void MainWindow::closeCamera()
     m_tree->clear();
     m_pages->setCurrentIndex(1);
     m_camera.reset();
+    m_failedWrites.clear();
     m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
     setWindowTitle(tr("Zelto Viewer"));
     updateActions();
 }
 
-void MainWindow::tryToOpen(const Options &options)
+void MainWindow::openInstead(const Options &options)
 {
+    if (!isCloseWanted()) {
+        return;
+    }
     try {
         const WaitCursor cursor;
+        if (m_camera && !options.camera.isEmpty() && options.camera == m_source.camera) {
+            closeCamera(); // nobody controls a camera twice
+        }
         openCamera(options);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showMessage(exception.getMessage(), QString());
@@ -331,7 +364,7 @@ void MainWindow::openDescriptionFile()
     options.description = QFileDialog::getOpenFileName(
         this, tr("Open Description File"), QString(), tr("Camera descriptions (*.xml *.zip);;All files (*)"));
     if (!options.description.isEmpty()) {
-        tryToOpen(options);
+        openInstead(options);
     }
 }
 
@@ -343,7 +376,7 @@ void MainWindow::connectToCamera()
     }
     Options options;
     options.camera = dialog.cameraId();
-    tryToOpen(options);
+    openInstead(options);
 }
 
 void MainWindow::onCameraLost(const QString &reason)
@@ -381,16 +414,20 @@ bool MainWindow::isCameraOpen() const
 
 void MainWindow::closeCameraIfWanted()
 {
+    if (isCloseWanted()) {
+        closeCamera();
+    }
+}
+
+bool MainWindow::isCloseWanted()
+{
     const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
-    const bool isWanted = !isLive
+    return !isLive
         || confirm(
             QStringLiteral("CloseLiveCamera"), tr("Close Camera"),
             tr("Close the camera %1?\nChanges that were not saved to one of its user sets last until it "
                "is switched off.")
                 .arg(m_camera->info()->modelName()));
-    if (isWanted) {
-        closeCamera();
-    }
 }
 
 // A message box that waits for yes or no; the user may have it say yes from then on.
@@ -400,6 +437,24 @@ bool MainWindow::confirm(const QString &key, const QString &title, const QString
                             this);
     box.setSaveResultOnButton(QMessageBox::Ok);
     return box.exec() == QMessageBox::Ok;
+}
+
+bool MainWindow::isExecutionWanted(const ParameterCollection::IParameter &command)
+{
+    if (!m_camera) {
+        return false;
+    }
+    const CommandQuestion question(command, m_camera->nodeMaps());
+    if (question.text().isEmpty()) {
+        return true;
+    }
+    MessageBoxCheckable box(question.key(), QMessageBox::Warning, question.title(), question.text(),
+                            QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText); // the camera has a say in it
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    box.setSaveResultOnButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void MainWindow::configureIp()
@@ -417,8 +472,9 @@ void MainWindow::configureIp()
     }
     try {
         configuration.write(dialog.ipAddress(), dialog.subnetMask(), dialog.defaultGateway());
+        m_messages->resolve(m_ipAction->text());
     } catch (const Core::Exception::BaseException &exception) {
-        m_messages->showMessage(exception.getMessage(), QString());
+        m_messages->showMessage(exception.getMessage(), QString(), m_ipAction->text());
     }
 }
 
@@ -454,8 +510,13 @@ void MainWindow::applyOptions(const Options &options)
         m_tree->treeView()->expandEverything();
     }
     if (!options.search.isEmpty()) {
-        m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit"))->setText(options.search);
+        m_tree->setSearchText(options.search);
     }
+}
+
+void MainWindow::focusSearch()
+{
+    m_tree->focusSearch();
 }
 
 void MainWindow::setLevel(QAction *action)
@@ -469,13 +530,30 @@ void MainWindow::onVisibilityChanged(GenApi::EVisibility level)
     updateActions();
 }
 
-void MainWindow::onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter)
+void MainWindow::describeCurrentRow()
 {
-    const QModelIndex index = m_tree->GetCurrentIndex();
-    // The category of a whole node map is called "Root" everywhere; the tree has a better name for it.
-    const bool isTop = index.isValid() && !index.parent().isValid();
-    m_description->showParameter(std::move(parameter),
-                                 isTop ? index.siblingAtColumn(0).data().toString() : QString());
+    const FeatureTreeItem *const item = m_tree->GetCurrentItem();
+    if (const auto parameter = m_tree->GetCurrentNode()) {
+        m_description->showParameter(parameter);
+    } else if (item && item->HasDescription()) {
+        m_description->showText(item->GetDescription());
+    } else if (m_tree->IsCurrentFavorite()) {
+        m_description->showText(
+            QStringLiteral("<h3>%1</h3><p>%2</p>")
+                .arg(item->getDisplayedName().toHtmlEscaped(), tr("The open camera has no such feature.")));
+    } else {
+        m_description->showText(QString());
+    }
+}
+
+// A row may become another one, or show again, without a change of the current index.
+void MainWindow::onRowsUpdated(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+{
+    const QModelIndex current = m_tree->treeView()->currentIndex();
+    if (topLeft.parent() == current.parent() && topLeft.row() <= current.row()
+        && current.row() <= bottomRight.row()) {
+        m_descriptionTimer->start();
+    }
 }
 
 void MainWindow::onMatchesChanged(int total, int hidden)
@@ -489,9 +567,16 @@ void MainWindow::onMatchesChanged(int total, int hidden)
     }
 }
 
-void MainWindow::onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu)
+// The message comes from the queue of errors, which does not know what it is about.
+void MainWindow::onWriteFailed(const QSharedPointer<ParameterCollection::IParameter> &parameter,
+                               const QString &message)
 {
-    menu->exec(m_tree->mapToGlobal(pos));
+    m_failedWrites.insert(message, parameter->fullName());
+}
+
+void MainWindow::onWritten(const QSharedPointer<ParameterCollection::IParameter> &parameter)
+{
+    m_messages->resolve(parameter->fullName());
 }
 
 void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message,
@@ -501,7 +586,7 @@ void MainWindow::onError(AsyncErrorQueue::ErrorSeverity severity, const QString 
     if (m_camera && m_camera->isLost()) {
         return; // the loss has been said
     }
-    m_messages->showMessage(message, details);
+    m_messages->showMessage(message, details, m_failedWrites.take(message));
 }
 
 void MainWindow::copyTree()
@@ -562,20 +647,6 @@ void MainWindow::fitColumns()
 {
     const QScopedValueRollback<bool> fitting(m_isFittingColumns, true);
     m_tree->treeView()->header()->resizeSection(0, std::min(m_nameWidth, m_tree->width() * 3 / 5));
-}
-
-// Of rows without feature and description the tree says nothing.
-void MainWindow::onRowChanged(const QModelIndex &index)
-{
-    const FeatureTreeItem *const item = index.isValid() ? m_tree->GetCurrentItem() : nullptr;
-    if (!item || item->HasDescription() || m_tree->GetCurrentNode()) {
-        return;
-    }
-    const QString name = index.siblingAtColumn(0).data().toString().toHtmlEscaped();
-    m_description->showText(
-        m_tree->IsCurrentFavorite()
-            ? QStringLiteral("<h3>%1</h3><p>%2</p>").arg(name, tr("The open camera has no such feature."))
-            : QString());
 }
 
 void MainWindow::onColumnResized(int column, int oldWidth, int newWidth)

@@ -11,8 +11,10 @@
 #include <platform/parametercollection/iparameter.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 
+#include <QHash>
 #include <QMainWindow>
 #include <QSharedPointer>
+#include <QString>
 
 #include <memory>
 
@@ -26,6 +28,8 @@ class QMenu;
 class QModelIndex;
 class QSplitter;
 class QStackedWidget;
+class QTimer;
+class TreeMenu;
 class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
@@ -48,6 +52,9 @@ public:
     /*! Opens what \a options name; throws Core::Exception::BaseException when that fails, with the camera
      * that was open left as it was. */
     void openCamera(const Options &options);
+    /*! Opens what a user has chosen, instead of the camera that is open: asks before it closes a live one,
+     * and shows a failure. */
+    void openInstead(const Options &options);
     /*! Sets level, search and expansion as \a options ask. */
     void applyOptions(const Options &options);
     FeatureTreeWidget *featureTree() const;
@@ -75,13 +82,16 @@ private slots:
     void closeCameraIfWanted();
     void showAllMessagesAgain();
     void about();
+    void focusSearch();
     void setLevel(QAction *action);
     void onVisibilityChanged(GenApi::EVisibility level);
-    void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
-    void onRowChanged(const QModelIndex &index);
+    void describeCurrentRow();
+    void onRowsUpdated(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     void onColumnResized(int column, int oldWidth, int newWidth);
     void onMatchesChanged(int total, int hidden);
-    void onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu);
+    void onWritten(const QSharedPointer<ParameterCollection::IParameter> &parameter);
+    void onWriteFailed(const QSharedPointer<ParameterCollection::IParameter> &parameter,
+                       const QString &message);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
     void copyTree();
@@ -90,6 +100,7 @@ private slots:
 private:
     void layOut();
     void connectTree();
+    void connectModel();
     void createServices();
     void createPanels();
     void createMenus();
@@ -99,9 +110,10 @@ private:
     void createHelpMenu();
     QWidget *createEmptyPage();
     QString ipObstacle() const;
+    bool isCloseWanted();
     bool confirm(const QString &key, const QString &title, const QString &text);
+    bool isExecutionWanted(const ParameterCollection::IParameter &command);
     QMenu *createLevelMenu(QMenu *parent);
-    void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void fitColumns();
     void restoreState();
@@ -109,11 +121,14 @@ private:
 
     std::unique_ptr<Cameras::Camera> m_camera;
     Options m_source; // how the camera was opened
+    QHash<QString, QString> m_failedWrites; // messages that are on their way, and the features they are about
     bool m_pollsAfterReconnect = false;
     int m_nameWidth = 0; // of the first column, as far as there is room for it
     bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
+    TreeMenu *m_treeMenu;
     DescriptionPane *m_description;
+    QTimer *m_descriptionTimer; // describes the current row when the rows have settled
     MessageBar *m_messages;
     QSplitter *m_splitter;
     QStackedWidget *m_pages; // the tree, or what is shown without a camera

@@ -48,14 +48,38 @@ MessageBar::MessageBar(QWidget *parent)
 
 MessageBar::~MessageBar() = default;
 
-void MessageBar::showMessage(const QString &message, const QString &details)
+void MessageBar::showMessage(const QString &message, const QString &details, const QString &subject)
 {
     ++m_count;
-    m_messages.append(details.isEmpty() ? message : message + QLatin1Char('\n') + details);
+    m_messages.append({details.isEmpty() ? message : message + QLatin1Char('\n') + details, subject});
     if (m_messages.size() > messagesKept) {
         m_messages.removeFirst();
     }
     updateText();
+}
+
+void MessageBar::resolve(const QString &subject)
+{
+    const auto isResolved = [&subject](const Message &message) { return message.subject == subject; };
+    const auto resolved = subject.isEmpty() ? 0 : m_messages.removeIf(isResolved);
+    if (resolved == 0) {
+        return;
+    }
+    m_count = m_messages.isEmpty() ? 0 : m_count - static_cast<int>(resolved);
+    if (m_messages.isEmpty() && m_question.isEmpty()) {
+        dismiss();
+    } else {
+        updateText();
+    }
+}
+
+QStringList MessageBar::texts() const
+{
+    QStringList texts;
+    for (const Message &message : m_messages) {
+        texts.append(message.text);
+    }
+    return texts;
 }
 
 void MessageBar::showAction(const QString &message, const QString &action)
@@ -74,7 +98,7 @@ void MessageBar::updateText()
         lines.append(m_question);
     }
     if (!m_messages.isEmpty()) {
-        lines.append(m_messages.constLast());
+        lines.append(m_messages.constLast().text);
     }
     if (m_count > 1) {
         lines.append(tr("(%n earlier message(s))", nullptr, m_count - 1));
@@ -82,7 +106,7 @@ void MessageBar::updateText()
     m_text->setText(lines.join(QLatin1Char('\n')));
     m_text->setAccessibleName(m_text->text());
     m_text->setToolTip(
-        m_count > 1 ? Qt::convertFromPlainText(m_messages.join(QStringLiteral("\n\n")), Qt::WhiteSpaceNormal)
+        m_count > 1 ? Qt::convertFromPlainText(texts().join(QStringLiteral("\n\n")), Qt::WhiteSpaceNormal)
                     : QString());
     show();
 }

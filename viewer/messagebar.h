@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -22,8 +23,10 @@ public:
     explicit MessageBar(QWidget *parent = nullptr);
     ~MessageBar() override;
 
-    /*! Shows \a message; \a details appear below it. */
-    void showMessage(const QString &message, const QString &details);
+    /*! Shows \a message; \a details appear below it. A \a subject lets the message be taken back. */
+    void showMessage(const QString &message, const QString &details, const QString &subject = QString());
+    /*! Takes the messages about \a subject back, which are true no more. */
+    void resolve(const QString &subject);
     /*! Shows \a message with a button labelled \a action, whose click emits actionTriggered(). */
     void showAction(const QString &message, const QString &action);
 
@@ -34,12 +37,19 @@ signals:
     void actionTriggered();
 
 private:
+    struct Message
+    {
+        QString text;
+        QString subject; // what it is about, empty when nobody will take it back
+    };
+
     void updateText();
+    QStringList texts() const;
 
     QLabel *m_icon;
     QLabel *m_text;
     QToolButton *m_action;
     QString m_question; // waits for an answer
-    QStringList m_messages; // the latest last; of the earlier ones, as many as are listed
+    QList<Message> m_messages; // the latest last; of the earlier ones, as many as are listed
     int m_count = 0;
 };

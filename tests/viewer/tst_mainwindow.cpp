@@ -1,18 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <viewer/descriptionpane.h>
 #include <viewer/mainwindow.h>
 #include <viewer/messagebar.h>
 
 #include <cameras/aravis_p.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+#include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFile>
 #include <QHeaderView>
 #include <QHostAddress>
 #include <QLabel>
@@ -22,14 +26,18 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QSplitter>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
 #include <QWindow>
 
 #include <exception>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -41,6 +49,11 @@ QList<QAction *> leaves(const QMenu &menu)
         action->menu() ? found.append(leaves(*action->menu())) : found.append(action);
     }
     return found;
+}
+
+QString plain(const QAction &action)
+{
+    return action.text().remove(QLatin1Char('&'));
 }
 
 } // namespace
@@ -59,6 +72,12 @@ private slots:
     void clickOnALockedEditorGoesToItsRow();
     void lostCameraIsReopened();
     void closingALiveCameraIsConfirmed();
+    void paneDescribesTheCurrentRow();
+    void commandsAreConfirmed_data();
+    void commandsAreConfirmed();
+    void messageGoesWithItsReason();
+    void rowsHaveAMenu();
+    void foldsTheTree();
     void standsGarbledSettings_data();
     void standsGarbledSettings();
 
@@ -68,11 +87,16 @@ private:
     void openLiveCamera();
     bool closeCamera(QMessageBox::StandardButton answer);
     void enterIpConfiguration(const char *ip, bool silence);
+    bool show(const char *feature) const;
+    QString description() const;
+    void chooseFromMenu(const QString &entry);
+    QString describeCamera(const QString &command, const QString &operation) const;
 
     ArvGvFakeCamera *m_server = nullptr;
     std::unique_ptr<MainWindow> m_window;
     QHostAddress m_shownIp; // by the dialog, before anything was entered
     int m_boxes = 0; // message boxes that were seen and answered
+    QTemporaryDir m_folder;
 };
 
 void TestMainWindow::init()
@@ -99,7 +123,7 @@ QAction *TestMainWindow::action(const char *text) const
     for (const QMenu *const menu : menus) {
         const auto actions = leaves(*menu);
         for (QAction *const action : actions) {
-            if (action->text().remove(QLatin1Char('&')).startsWith(QLatin1String(text))) {
+            if (plain(*action).startsWith(QLatin1String(text))) {
                 return action;
             }
         }
@@ -319,12 +343,227 @@ void TestMainWindow::closingALiveCameraIsConfirmed()
     }
     QVERIFY(closeCamera(QMessageBox::Cancel));
     QVERIFY(m_window->isCameraOpen());
+    const QString title = m_window->windowTitle();
+    QTimer::singleShot(0, this, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    m_window->openInstead(Options());
+    QCOMPARE(m_window->windowTitle(), title);
     QVERIFY(closeCamera(QMessageBox::Ok)); // a refusal is not remembered
     QVERIFY(!m_window->isCameraOpen());
     g_clear_object(&m_server);
     openLiveCamera();
     QVERIFY(!closeCamera(QMessageBox::Cancel));
     QVERIFY(!m_window->isCameraOpen());
+}
+
+bool TestMainWindow::show(const char *feature) const
+{
+    return m_window->featureTree()->showFeature(QStringLiteral("@CameraDevice/") + QLatin1String(feature));
+}
+
+QString TestMainWindow::description() const
+{
+    return m_window->findChild<DescriptionPane *>()->findChild<QTextBrowser *>()->toPlainText();
+}
+
+void TestMainWindow::paneDescribesTheCurrentRow()
+{
+    FeatureTreeWidget *const tree = m_window->featureTree();
+    QVERIFY(show("Gain"));
+    QVERIFY(description().startsWith(QStringLiteral("Gain")));
+    tree->treeView()->setCurrentIndex(tree->treeView()->model()->index(1, 0));
+    QVERIFY(description().startsWith(QStringLiteral("Camera")));
+    QVERIFY(!description().contains(QStringLiteral("Root")));
+
+    QVERIFY(show("Gain"));
+    tree->focusSearch();
+    QWidget *const box = QApplication::focusWidget();
+    QTest::keyClicks(box, QStringLiteral("exposure"));
+    QCOMPARE(description(), QString());
+    QVERIFY(show("ExposureTime"));
+    QVERIFY(box->hasFocus());
+    QVERIFY(description().startsWith(QStringLiteral("Exposure Time")));
+    QTest::keyClick(box, Qt::Key_Z);
+    QCOMPARE(description(), QString());
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_Delete);
+    QVERIFY(description().startsWith(QStringLiteral("Gain")));
+
+    action("Guru")->trigger();
+    QVERIFY(show("DeviceReset"));
+    action("Beginner")->trigger();
+    QTRY_COMPARE(description(), QString());
+    action("Guru")->trigger();
+    QTRY_COMPARE(description().startsWith(QStringLiteral("Device Reset")), tree->GetCurrentNode() != nullptr);
+}
+
+// A camera with one command and what tells what it is about.
+QString TestMainWindow::describeCamera(const QString &command, const QString &operation) const
+{
+    const QString entry =
+        QStringLiteral("<Enumeration Name='%1'><EnumEntry Name='%2'><Value>0</Value></EnumEntry>"
+                       "<Value>0</Value></Enumeration>");
+    QString xml = QStringLiteral("<RegisterDescription ModelName='M' VendorName='V'><Category Name='Root'>"
+                                 "<pFeature>%1</pFeature><pFeature>UserSetSelector</pFeature>"
+                                 "<pFeature>FileSelector</pFeature><pFeature>FileOperationSelector</pFeature>"
+                                 "</Category><Command Name='%1'><Value>0</Value>"
+                                 "<CommandValue>1</CommandValue></Command>")
+                      .arg(command);
+    xml += entry.arg(QStringLiteral("UserSetSelector"), QStringLiteral("UserSet7"))
+        + entry.arg(QStringLiteral("FileSelector"), QStringLiteral("Firmware"))
+        + entry.arg(QStringLiteral("FileOperationSelector"), operation)
+        + QStringLiteral("</RegisterDescription>");
+    QFile file(m_folder.filePath(QStringLiteral("camera.xml")));
+    return file.open(QFile::WriteOnly) && file.write(xml.toUtf8()) > 0 ? file.fileName() : QString();
+}
+
+void TestMainWindow::commandsAreConfirmed_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("named"); // in the question, "-" when there is none
+    const auto row = [](const char *command, const char *operation, const char *named) {
+        QTest::addRow("%s %s", command, operation)
+            << QString(command) << QString(operation) << QString(named);
+    };
+    row("DeviceReset", "Open", "Restart");
+    row("DeviceFactoryReset", "Open", "factory settings");
+    row("UserSetLoad", "Open", "UserSet7");
+    row("UserSetSave", "Open", "UserSet7");
+    row("FileOperationExecute", "Write", "Firmware");
+    row("FileOperationExecute", "Delete", "Firmware");
+    row("FileOperationExecute", "Read", "-");
+    row("TimestampReset", "Open", "-");
+}
+
+void TestMainWindow::commandsAreConfirmed()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, operation);
+    QFETCH(QString, named);
+    Options options;
+    options.description = describeCamera(command, operation);
+    m_window->openInstead(options);
+    FeatureTreeView *const view = m_window->featureTree()->treeView();
+    const QSignalSpy written(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
+    QVERIFY(show(qPrintable(command)));
+    const auto execute = [&](QMessageBox::StandardButton answer, bool byKey) {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                timer.stop();
+                ++m_boxes;
+                QVERIFY(box->text().contains(named));
+                QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+                box->checkBox()->setChecked(true);
+                answer == QMessageBox::Yes ? box->button(answer)->click()
+                                           : QTest::keyClick(box, Qt::Key_Escape);
+            }
+        });
+        timer.start(0);
+        QWidget *const button = view->indexWidget(view->currentIndex().siblingAtColumn(1));
+        byKey ? QTest::keyClick(view, Qt::Key_Return) : QTest::mouseClick(button, Qt::LeftButton);
+        QTest::qWait(20);
+    };
+    const int asked = named == QLatin1String("-") ? 0 : 1;
+    execute(QMessageBox::No, false);
+    execute(QMessageBox::Yes, true); // a no is not remembered
+    QCOMPARE(m_boxes, 2 * asked);
+    QCOMPARE(written.size(), 2 - asked);
+    execute(QMessageBox::No, false); // silenced
+    QCOMPARE(m_boxes, 2 * asked);
+    QCOMPARE(written.size(), 3 - asked);
+}
+
+void TestMainWindow::messageGoesWithItsReason()
+{
+    auto *const bar = m_window->findChild<MessageBar *>();
+    FeatureTreeView *const view = m_window->featureTree()->treeView();
+    const auto enter = [this, view](const char *feature, const char *text) {
+        QSignalSpy written(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
+        QVERIFY(show(feature));
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_Return);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        written.wait(100);
+    };
+    action("Guru")->trigger();
+    enter("DeviceLinkThroughputLimit", "1");
+    enter("DeviceManifestEntrySelector", "1");
+    QVERIFY(bar->isVisible()); // another feature
+    enter("DeviceManifestEntrySelector", "99");
+    enter("DeviceLinkThroughputLimit", "100000000");
+    QVERIFY(bar->isVisible());
+    QVERIFY(bar->findChildren<QLabel *>().last()->text().startsWith(QStringLiteral("DeviceManifest")));
+    enter("DeviceManifestEntrySelector", "0");
+    QVERIFY(!bar->isVisible());
+}
+
+// Opens the menu of the current row by the key, and chooses from it.
+void TestMainWindow::chooseFromMenu(const QString &entry)
+{
+    FeatureTreeView *const view = m_window->featureTree()->treeView();
+    bool isChosen = false;
+    QTimer::singleShot(0, this, [view, &entry, &isChosen] {
+        auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        const QPoint place = view->viewport()->mapFromGlobal(menu->pos());
+        QCOMPARE(view->indexAt(place).row(), view->currentIndex().row());
+        const auto actions = menu->actions();
+        for (QAction *const action : actions) {
+            if (plain(*action) == entry && action->isEnabled()) {
+                isChosen = true;
+                action->trigger();
+            }
+        }
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {0, 0}, view->mapToGlobal(QPoint(0, 0)));
+    QApplication::sendEvent(view->viewport(), &event);
+    QVERIFY2(isChosen, qPrintable(entry));
+}
+
+void TestMainWindow::rowsHaveAMenu()
+{
+    FeatureTreeWidget *const tree = m_window->featureTree();
+    QVERIFY(show("PixelFormat"));
+    QTest::keyClick(tree->treeView(), Qt::Key_D, Qt::ControlModifier);
+    const QList<std::pair<const char *, const char *>> copies{
+        {"Copy Name", "PixelFormat"},
+        {"Copy Value", "Mono8"},
+        {"Copy Full Name", "@CameraDevice/PixelFormat"}};
+    for (const auto &[entry, copied] : copies) {
+        chooseFromMenu(QString(entry));
+        QCOMPARE(QApplication::clipboard()->text(), QString(copied));
+    }
+    for (const bool isFavorite : {false, true}) {
+        tree->treeView()->collapseAll();
+        tree->setSearchText(QStringLiteral("pixel"));
+        QVERIFY(show("PixelFormat"));
+        if (isFavorite) {
+            tree->treeView()->setCurrentIndex(tree->getFeatureExtension()->GetFavoritesRootIndex());
+            QTest::keyClick(tree->treeView(), Qt::Key_Down);
+        }
+        QCOMPARE(tree->IsCurrentFavorite(), isFavorite);
+        chooseFromMenu(QStringLiteral("Go To Feature"));
+        QCOMPARE(tree->searchText(), QString());
+        QVERIFY(!tree->IsCurrentFavorite() && tree->GetCurrentNode());
+        QCOMPARE(tree->GetCurrentNode()->name(), QStringLiteral("PixelFormat"));
+        QVERIFY(tree->treeView()->visualRect(tree->GetCurrentIndex()).isValid());
+    }
+}
+
+void TestMainWindow::foldsTheTree()
+{
+    FeatureTreeView *const view = m_window->featureTree()->treeView();
+    const QModelIndex top = view->model()->index(1, 0);
+    QVERIFY(show("Gain"));
+    QTest::keyClick(view, Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!view->isExpanded(top));
+    QCOMPARE(view->currentIndex(), top);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(view->isExpanded(top) && view->isExpanded(view->model()->index(0, 0, top)));
 }
 
 void TestMainWindow::standsGarbledSettings_data()

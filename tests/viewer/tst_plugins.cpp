@@ -221,6 +221,15 @@ void TestPlugins::visitsLeadBack()
     QTest::keyClick(list, Qt::Key_Return);
     QCOMPARE(m_window->featureTree()->GetCurrentNode()->fullName(), feature("Gain"));
     QCOMPARE(list->currentRow(), 0);
+
+    QTreeView *const tree = m_window->featureTree()->treeView();
+    const QModelIndex top = tree->model()->index(1, 0);
+    tree->setCurrentIndex(top);
+    QCOMPARE(list->item(0)->text(), QStringLiteral("Camera"));
+    QVERIFY(!list->item(0)->toolTip().contains(QStringLiteral("Root")));
+    QVERIFY(show("Width"));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(1)).center());
+    QCOMPARE(tree->currentIndex(), top);
 }
 
 void TestPlugins::goneFeaturesAreSurvived()

@@ -4,26 +4,17 @@
 #include "featuretreecontrolservice.h"
 
 #include <zeltoviewercomponents/featuretree/featuretreenames.h>
-#include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
-#include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
-
-#include <QLineEdit>
 
 namespace {
 
-void createRows(const QAbstractItemModel &model, const QModelIndex &parent)
+// The row of a node map has a name of its own, all others are called by their parameters.
+QString rowName(const QString &parameterName)
 {
-    const int rows = model.rowCount(parent);
-    for (int row = 0; row < rows; ++row) {
-        createRows(model, model.index(row, FeatureTreeColumns::name, parent));
-    }
-}
-
-bool isHidden(const FeatureTreeView &view, const QModelIndex &index)
-{
-    return index.isValid()
-        && (view.isRowHidden(index.row(), index.parent()) || isHidden(view, index.parent()));
+    const QString top = QLatin1Char('/') + FeatureTreeNames::root;
+    return parameterName.endsWith(top) ? parameterName.chopped(top.size())
+            + QLatin1Char(FeatureTreeNames::separator) + FeatureTreeNames::root
+                                       : parameterName;
 }
 
 } // namespace
@@ -38,31 +29,7 @@ FeatureTreeControlService::~FeatureTreeControlService() = default;
 
 bool FeatureTreeControlService::showFeature(const QString &fullName)
 {
-    QModelIndex index = find(fullName);
-    if (!index.isValid()) {
-        // A search may keep it out of sight, which is no reason not to show what is asked for.
-        m_tree->findChild<QLineEdit *>(QStringLiteral("filterEdit"))->clear();
-        index = find(fullName);
-    }
-    FeatureTreeView *const view = m_tree->treeView();
-    if (!index.isValid() || isHidden(*view, index)) {
-        return false;
-    }
-    view->setCurrentIndex(index);
-    view->scrollTo(index);
-    return true;
-}
-
-QModelIndex FeatureTreeControlService::find(const QString &fullName) const
-{
-    IFeatureTreeModelExtension *const extension = m_tree->getFeatureExtension();
-    const QModelIndex known = extension->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name);
-    if (known.isValid()) {
-        return known;
-    }
-    // The rows of a branch that was never opened are made when they are asked for.
-    createRows(*m_tree->treeView()->model(), QModelIndex());
-    return extension->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name);
+    return m_tree->showFeature(rowName(fullName));
 }
 
 void FeatureTreeControlService::setVisibility(GenApi::EVisibility level)

@@ -29,6 +29,45 @@
     </message>
 </context>
 <context>
+    <name>CommandQuestion</name>
+    <message>
+        <source>Restart the camera?
+The connection breaks, and changes that were not saved to one of its user sets are lost.</source>
+        <translation>Die Kamera neu starten?
+Die Verbindung bricht ab, und Änderungen, die in keinem ihrer Benutzersätze gespeichert sind, gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Reset the camera to its factory settings?
+All settings are lost, those saved to its user sets too.</source>
+        <translation>Die Kamera auf die Werkseinstellungen zurücksetzen?
+Alle Einstellungen gehen verloren, auch die in ihren Benutzersätzen gespeicherten.</translation>
+    </message>
+    <message>
+        <source>Load the user set &quot;%1&quot;?
+It overwrites the present settings.</source>
+        <translation>Den Benutzersatz „%1“ laden?
+Er überschreibt die jetzigen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Save the present settings to the user set &quot;%1&quot;?
+They overwrite what is saved there.</source>
+        <translation>Die jetzigen Einstellungen im Benutzersatz „%1“ speichern?
+Sie überschreiben, was dort gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Write to the camera&apos;s file &quot;%1&quot;?
+What the file holds is overwritten.</source>
+        <translation>In die Datei „%1“ der Kamera schreiben?
+Was die Datei enthält, wird überschrieben.</translation>
+    </message>
+    <message>
+        <source>Delete the camera&apos;s file &quot;%1&quot;?
+What the file holds is lost.</source>
+        <translation>Die Datei „%1“ der Kamera löschen?
+Was die Datei enthält, geht verloren.</translation>
+    </message>
+</context>
+<context>
     <name>DescriptionPane</name>
     <message>
         <source>Integer</source>
@@ -383,6 +422,37 @@ Open a description file or connect to a camera (menu File).</source>
             <numerusform>(%n frühere Meldung)</numerusform>
             <numerusform>(%n frühere Meldungen)</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>TreeMenu</name>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Alles &amp;aufklappen</translation>
+    </message>
+    <message>
+        <source>Collapse &amp;All</source>
+        <translation>Alles &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>&amp;Namen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Full Name</source>
+        <translation>&amp;Vollen Namen kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Feature</source>
+        <translation>Zum &amp;Merkmal gehen</translation>
+    </message>
+    <message>
+        <source>This feature is not shown at the current level</source>
+        <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
     </message>
 </context>
 <context>

@@ -217,20 +217,24 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
     }
     // A device that is lost by the write may have the tree cleared before the write returns.
     const QPointer<FeatureTreeItem> guardedItem(item);
+    const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
+    const QSharedPointer<IParameter> parameter = nodeItem ? nodeItem->node() : nullptr;
     try {
         const QVariant current = item->data(FeatureTreeColumns::value, Qt::EditRole);
         if (!isSameValue(current, value)) {
             item->setData(FeatureTreeColumns::value, value, Qt::EditRole);
+            emit written(parameter);
         }
         return true;
     } catch (...) {
-        reportWriteFailure(guardedItem);
+        reportWriteFailure(guardedItem, parameter);
         return false;
     }
 }
 
 // Reports the exception that is being handled. The item is null when it is gone by now.
-void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
+void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item,
+                                          const QSharedPointer<IParameter> &parameter)
 {
     const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
@@ -244,8 +248,10 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item)
     try {
         throw;
     } catch (const std::exception &exception) {
+        emit writeFailed(parameter, QString::fromUtf8(exception.what()));
         showException(context, exception, text);
     } catch (...) {
+        emit writeFailed(parameter, text);
         showUnexpectedException(context, text);
     }
 }

@@ -106,6 +106,12 @@ public slots:
     void onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem) override;
     void onTimerPoll() override;
 
+signals:
+    /*! A write through setData() reached the parameter and succeeded. */
+    void written(QSharedPointer<ParameterCollection::IParameter> parameter);
+    /*! A write failed and is about to be reported with \a message. */
+    void writeFailed(QSharedPointer<ParameterCollection::IParameter> parameter, QString message);
+
 private:
     struct Collection
     {
@@ -118,7 +124,8 @@ private:
     QSharedPointer<ParameterCollection::IParameterCollection> firstCollection() const;
     void scheduleChecksBelow(FeatureTreeItem *item);
     void reportReadFailure() const;
-    void reportWriteFailure(FeatureTreeItem *item);
+    void reportWriteFailure(FeatureTreeItem *item,
+                            const QSharedPointer<ParameterCollection::IParameter> &parameter);
     QList<FeatureTreeItem *> createChildItems(FeatureTreeINodeItem *parent);
     FeatureTreeItem *createChildItem(FeatureTreeINodeItem *parent, const QString &name);
     void adoptNodeItem(FeatureTreeINodeItem *item, bool isFullRowItem);

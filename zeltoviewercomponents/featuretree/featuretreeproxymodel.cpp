@@ -62,6 +62,10 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
     if (model()) {
         m_reportedPolling = model()->GetPolling();
         connect(model()->pollTimer(), SIGNAL(timeout()), this, SLOT(onPollTimerShot()));
+        connect(model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
+                SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
+        connect(model(), SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)), this,
+                SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
     }
 }
 

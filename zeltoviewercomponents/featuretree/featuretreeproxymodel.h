@@ -117,6 +117,10 @@ signals:
     void pollingStateChanged(bool polling);
     /*! All rows were judged anew, and with them the matches counted. */
     void filtered();
+    /*! A write through setData() reached the parameter and succeeded. */
+    void written(QSharedPointer<ParameterCollection::IParameter> parameter);
+    /*! A write failed and is about to be reported with \a message. */
+    void writeFailed(QSharedPointer<ParameterCollection::IParameter> parameter, QString message);
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;

@@ -64,7 +64,8 @@ void VisitedFeaturesPanel::addVisit(QSharedPointer<IParameter> parameter)
                          delete itemFor(*m_list, fullName);
                          auto *const item = new QListWidgetItem(text);
                          item->setData(Qt::UserRole, fullName);
-                         item->setToolTip(fullName);
+                         // Of a category, the name by which programs know it tells nobody more.
+                         item->setToolTip(parameter->type() == ParameterType::Category ? text : fullName);
                          m_list->insertItem(0, item);
                          m_list->setCurrentItem(item);
                      });
