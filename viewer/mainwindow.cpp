@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include "cameradialog.h"
+#include "colours.h"
 #include "descriptionpane.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
@@ -225,6 +226,7 @@ void MainWindow::createViewMenu()
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     view->setToolTipsVisible(true);
     createLevelMenu(view);
+    view->addMenu(new ColoursMenu(view));
     m_panels = view->addMenu(tr("&Panels"));
     m_panels->menuAction()->setVisible(false);
     view->addSeparator();

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+
+class QColor;
+class QPalette;
+
+constexpr double legibleText = 4.5; // the contrast that text has with what it stands on, at least
+constexpr double legibleShape = 3.0; // that of frames, marks and grooves
+
+/*! Returns \a color, or the nearest one towards black or white that has the contrast \a minimum with all
+ * \a backgrounds. Where no colour has, the end of the scale that comes closest. */
+QColor legible(const QColor &color, const QList<QColor> &backgrounds, double minimum);
+
+/*! Changes those texts of \a palette, and its highlight, that cannot be told from what they stand on. */
+void makeLegible(QPalette &palette);
