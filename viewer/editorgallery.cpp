@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QScrollArea>
 
 #include <exception>
@@ -115,6 +116,7 @@ void EditorGallery::addEditor(QWidget *editor, const char *commitSignal, const P
     const QString representation = parameter->propertyAccess()->property(QStringLiteral("Representation"));
     auto *const label = new QLabel(parameter->name(), layout->parentWidget());
     label->setBuddy(editor);
+    editor->setBackgroundRole(QPalette::Window); // that of the page
     const int row = layout->rowCount();
     layout->addWidget(label, row, 0);
     layout->addWidget(editor, row, 1);

@@ -87,6 +87,11 @@ QColor legible(const QColor &color, const QList<QColor> &backgrounds, double min
     return end;
 }
 
+QColor litButton(const QColor &button)
+{
+    return button.lighter(150);
+}
+
 void makeLegible(QPalette &palette)
 {
     for (const auto number : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
@@ -98,8 +103,9 @@ void makeLegible(QPalette &palette)
         const QColor alternate = group.color(QPalette::AlternateBase);
         const QColor button = group.color(QPalette::Button);
         group.improve(QPalette::WindowText, {window, base, alternate}, legibleText);
-        group.improve(QPalette::Text, {base, tree, alternate, window}, legibleText);
-        group.improve(QPalette::ButtonText, {button}, legibleText);
+        group.improve(QPalette::Text, {base, tree, alternate, window, button, litButton(button)},
+                      legibleText);
+        group.improve(QPalette::ButtonText, {button, litButton(button)}, legibleText);
         group.improve(QPalette::PlaceholderText, {base}, legibleText);
         group.improve(QPalette::ToolTipText, {group.color(QPalette::ToolTipBase)}, legibleText);
         group.improve(QPalette::Link, {base, window}, legibleText);

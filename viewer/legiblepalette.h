@@ -15,5 +15,8 @@ constexpr double legibleShape = 3.0; // that of frames, marks and grooves
  * \a backgrounds. Where no colour has, the end of the scale that comes closest. */
 QColor legible(const QColor &color, const QList<QColor> &backgrounds, double minimum);
 
+/*! Returns the surface of a button of the colour \a button where it is lightest: Fusion makes a gradient. */
+QColor litButton(const QColor &button);
+
 /*! Changes those texts of \a palette, and its highlight, that cannot be told from what they stand on. */
 void makeLegible(QPalette &palette);

@@ -17,13 +17,16 @@ namespace {
 constexpr double radius = 2;
 constexpr double grooveRadius = 1;
 
+// Blurred corners and surfaces that run from light to dark take some of it.
+constexpr double outlineContrast = legibleShape + 0.5;
+
 QColor outlineColor(const QPalette &palette, bool hasFocus)
 {
+    const QColor button = palette.color(QPalette::Button);
     const QList<QColor> around{palette.color(QPalette::Window), palette.color(QPalette::Base),
-                               palette.color(QPalette::Active, QPalette::Base),
-                               palette.color(QPalette::Button)};
+                               palette.color(QPalette::Active, QPalette::Base), button, litButton(button)};
     const auto role = hasFocus ? QPalette::Highlight : QPalette::Mid;
-    return legible(palette.color(role), around, legibleShape);
+    return legible(palette.color(role), around, outlineContrast);
 }
 
 bool hasKeyboardFocus(const QStyleOption &option)

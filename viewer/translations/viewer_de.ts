@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>ColoursMenu</name>
+    <message>
+        <source>C&amp;olours</source>
+        <translation>F&amp;arben</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+</context>
+<context>
     <name>DescriptionPane</name>
     <message>
         <source>Integer</source>
