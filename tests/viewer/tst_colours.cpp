@@ -362,7 +362,7 @@ double TestColours::placeholder() const
 
 double TestColours::selection() const
 {
-    search()->setText(QStringLiteral("i i i i i i i i i"));
+    search()->setText(QStringLiteral("m   m   m   m"));
     search()->selectAll();
     const double measured = text(*search(), QRect(6, 5, 40, search()->height() - 10));
     search()->clear();
