@@ -41,7 +41,7 @@ struct Scheme
 constexpr Scheme lightScheme{0xffefefef, 0xffffffff, 0xfff5f5f5, 0xffefefef, 0xff000000,
                              0xff636363, 0xff2874ac, 0xff0a5ba8, 0xff7a3e9d, 0xffffffe1};
 constexpr Scheme darkScheme{0xff2e3135, 0xff1f2226, 0xff272a2f, 0xff282b2f, 0xffeeeeee,
-                            0xffa9adb2, 0xff2d78b4, 0xff6cb3f0, 0xffc39ae0, 0xff3a3e44};
+                            0xffa9adb2, 0xff2a73ad, 0xff6cb3f0, 0xffc39ae0, 0xff3a3e44};
 
 QPalette paletteOf(const Scheme &scheme)
 {

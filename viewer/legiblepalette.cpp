@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int mixingSteps = 32;
+constexpr double margin = 1.1; // the edges of letters are blurred, which takes some contrast
 
 QColor mixed(const QColor &from, const QColor &to, double share)
 {
@@ -80,7 +81,7 @@ QColor legible(const QColor &color, const QList<QColor> &backgrounds, double min
         leastContrast(Qt::black, backgrounds) > leastContrast(Qt::white, backgrounds) ? Qt::black : Qt::white;
     for (int step = 0; step < mixingSteps; ++step) {
         const QColor better = mixed(opaque, end, static_cast<double>(step) / mixingSteps);
-        if (leastContrast(better, backgrounds) >= minimum) {
+        if (leastContrast(better, backgrounds) >= margin * minimum) {
             return better;
         }
     }

@@ -17,16 +17,13 @@ namespace {
 constexpr double radius = 2;
 constexpr double grooveRadius = 1;
 
-// Blurred corners and surfaces that run from light to dark take some of it.
-constexpr double outlineContrast = legibleShape + 0.5;
-
 QColor outlineColor(const QPalette &palette, bool hasFocus)
 {
     const QColor button = palette.color(QPalette::Button);
     const QList<QColor> around{palette.color(QPalette::Window), palette.color(QPalette::Base),
                                palette.color(QPalette::Active, QPalette::Base), button, litButton(button)};
     const auto role = hasFocus ? QPalette::Highlight : QPalette::Mid;
-    return legible(palette.color(role), around, outlineContrast);
+    return legible(palette.color(role), around, legibleShape);
 }
 
 bool hasKeyboardFocus(const QStyleOption &option)
@@ -85,6 +82,9 @@ void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
     case PE_FrameLineEdit:
         outline(painter, option->rect, radius,
                 outlineColor(option->palette, option->state.testFlag(State_HasFocus)));
+        break;
+    case PE_FrameMenu:
+        outline(painter, option->rect, 0, outlineColor(option->palette, false));
         break;
     case PE_FrameFocusRect:
         if (option->state.testFlag(State_KeyboardFocusChange)) {
