@@ -83,7 +83,7 @@ void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         outline(painter, option->rect, radius,
                 outlineColor(option->palette, option->state.testFlag(State_HasFocus)));
         break;
-    case PE_FrameMenu:
+    case PE_PanelMenu:
         outline(painter, option->rect, 0, outlineColor(option->palette, false));
         break;
     case PE_FrameFocusRect:
