@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "colours.h"
 #include "featuresamples.h"
 #include "languages.h"
 #include "mainwindow.h"
@@ -164,6 +165,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     qInstallMessageHandler(standardHandler);
     installTranslations(QLocale());
+    setUpColours();
     try {
         return run(options);
     } catch (const std::exception &exception) {

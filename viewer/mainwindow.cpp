@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include "cameradialog.h"
+#include "colours.h"
 #include "commandquestion.h"
 #include "descriptionpane.h"
 #include "ipconfiguration.h"
@@ -249,6 +250,7 @@ void MainWindow::createViewMenu()
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     view->setToolTipsVisible(true);
     createLevelMenu(view);
+    view->addMenu(new ColoursMenu(view));
     m_panels = view->addMenu(tr("&Panels"));
     m_panels->menuAction()->setVisible(false);
     view->addSeparator();

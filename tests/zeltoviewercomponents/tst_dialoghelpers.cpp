@@ -49,7 +49,6 @@ private slots:
     void contextMenuCopiesTheAddress_data();
     void contextMenuCopiesTheAddress();
     void failureIsReported();
-    void linkFollowsThePalette();
     void scaleFollowsTheScreen();
     void scaleFollowsTheWindow();
     void iconsAreEmbedded_data();
@@ -167,19 +166,6 @@ void TestDialogHelpers::failureIsReported()
     link.copyLinkLocation();
     QCoreApplication::processEvents();
     QCOMPARE(shown.size(), 1);
-}
-
-void TestDialogHelpers::linkFollowsThePalette()
-{
-    HelpLink link(page);
-    QPalette palette = link.palette();
-    palette.setColor(QPalette::Link, QColor("#12ab34"));
-    link.setPalette(palette);
-    link.resize(link.sizeHint());
-    const QImage image = link.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    const auto *const pixels = reinterpret_cast<const QRgb *>(image.constBits());
-    const auto *const end = pixels + image.width() * image.height();
-    QVERIFY(std::find(pixels, end, QColor("#12ab34").rgb()) != end);
 }
 
 void TestDialogHelpers::scaleFollowsTheScreen()

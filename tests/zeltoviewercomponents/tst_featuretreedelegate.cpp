@@ -298,9 +298,10 @@ void TestFeatureTreeDelegate::elidesEarlier()
 
 void TestFeatureTreeDelegate::paintsOneText_data()
 {
-    columns<QColor, QColor>({"base", "text"});
-    row("light", QColor(Qt::white), QColor(Qt::black));
-    row("dark", QColor(30, 30, 30), QColor(Qt::white));
+    columns<QColor, QColor, QColor>({"base", "text", "mark"});
+    row("light", QColor(Qt::white), QColor(Qt::black), QColor(Qt::yellow));
+    row("dark", QColor(30, 30, 30), QColor(Qt::white), QColor(Qt::yellow));
+    row("dark, with a mark of middling lightness", QColor(30, 30, 30), QColor(Qt::white), QColor(Qt::red));
 }
 
 void TestFeatureTreeDelegate::paintsOneText()
@@ -331,6 +332,8 @@ void TestFeatureTreeDelegate::paintsOneText()
     QCOMPARE(row, alone);
 
     // On a mark, letters are dark, whatever they are beside it.
+    QFETCH(QColor, mark);
+    highlighter.setColor(mark);
     highlighter.setText("Width");
     const QImage marked = paintedRow(delegate, bench.view(), index);
     const QPair<int, int> run = runsOf(highlighter.color(), marked).value(0);

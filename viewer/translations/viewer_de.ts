@@ -65,6 +65,22 @@ Was die Datei enthält, wird überschrieben.</translation>
 What the file holds is lost.</source>
         <translation>Die Datei „%1“ der Kamera löschen?
 Was die Datei enthält, geht verloren.</translation>
+    <name>ColoursMenu</name>
+    <message>
+        <source>C&amp;olours</source>
+        <translation>F&amp;arben</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 
 #include "abstractitemeditor.h"
 #include "checkboxeditor.h"
+#include "contrast.h"
 #include "editorhelpers.h"
 #include "enumeditor.h"
 #include "featuretreehighlighter.h"
@@ -26,7 +27,6 @@
 #include <QTextOption>
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 using namespace ParameterCollection;
@@ -46,7 +46,7 @@ QString representationOf(const IParameter &parameter)
     return parameter.propertyAccess()->property(QStringLiteral("Representation"));
 }
 
-constexpr int legibleDifference = 80; // of the grey values of letters and what they stand on
+constexpr double legibleContrast = 4.5; // of letters with what they stand on
 
 constexpr double rowPadding = 10.0; // above and below the text
 
@@ -54,6 +54,15 @@ constexpr double rowPadding = 10.0; // above and below the text
 int alignmentIn(const QStyleOptionViewItem &option)
 {
     return static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute);
+}
+
+// Returns the brush that a row asks for. That of rows which cannot be changed may be of colours that the view
+// had before.
+QBrush foregroundOf(const QModelIndex &index, const QPalette &palette)
+{
+    const auto brush = index.data(Qt::ForegroundRole).value<QBrush>();
+    return brush == FeatureTreeItem::disabledTextBrush() ? palette.brush(QPalette::Disabled, QPalette::Text)
+                                                         : brush;
 }
 
 void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
@@ -339,10 +348,23 @@ void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     const bool isCategory =
         index.model() && index.model()->data(index, FeatureTreeItem::GenicamCategory).toBool();
     if (index.column() != FeatureTreeColumns::name || !m_highlighter || isCategory) {
-        QStyledItemDelegate::paint(painter, opt, index);
+        paintPlain(painter, opt, index);
         return;
     }
     paintName(painter, opt, index);
+}
+
+// As the base paints it, but for the foreground.
+void FeatureTreeDelegate::paintPlain(QPainter *painter, const QStyleOptionViewItem &option,
+                                     const QModelIndex &index) const
+{
+    QStyleOptionViewItem opt = option;
+    initStyleOption(&opt, index);
+    if (index.data(Qt::ForegroundRole).isValid()) {
+        opt.palette.setBrush(QPalette::Text, foregroundOf(index, option.palette));
+    }
+    const QStyle *const style = opt.widget ? opt.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, opt.widget);
 }
 
 void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
@@ -372,7 +394,7 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
 
     const QVariant foreground = index.data(Qt::ForegroundRole);
     const QColor color = foreground.canConvert<QBrush>() && foreground.isValid()
-        ? foreground.value<QBrush>().color()
+        ? foregroundOf(index, option.palette).color()
         : visible.color(opt.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
                         QPalette::Text);
     const int dy = static_cast<int>(textRect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
@@ -416,12 +438,12 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
 void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, int alignment,
                                        const QString &text, const QRegion &marked) const
 {
-    const int mark = qGray(m_highlighter->color().rgb());
-    if (marked.isEmpty() || std::abs(mark - qGray(painter->pen().color().rgb())) >= legibleDifference) {
+    const QColor mark = m_highlighter->color();
+    if (marked.isEmpty() || contrastRatio(mark, painter->pen().color()) >= legibleContrast) {
         return;
     }
     painter->setClipRegion(marked, Qt::IntersectClip);
-    painter->fillRect(target, m_highlighter->color());
-    painter->setPen(mark > 127 ? Qt::black : Qt::white);
+    painter->fillRect(target, mark);
+    painter->setPen(contrastRatio(mark, Qt::black) >= legibleContrast ? Qt::black : Qt::white);
     painter->drawText(target, alignment, text);
 }

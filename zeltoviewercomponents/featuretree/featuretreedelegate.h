@@ -91,6 +91,7 @@ private:
                          const QString &text) const;
     void paintOnMarks(QPainter *painter, const QRect &target, int alignment, const QString &text,
                       const QRegion &marked) const;
+    void paintPlain(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
     IFeatureTreeModelExtension *m_extension;

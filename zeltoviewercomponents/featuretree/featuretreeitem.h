@@ -166,10 +166,11 @@ public:
      */
     static QString foldedForSearch(QString text);
 
-protected:
-    /*! Returns the brush of rows that cannot be changed. */
+    /*! Returns the brush of rows that cannot be changed: that of the application's palette when it was first
+     * asked for. */
     static QBrush disabledTextBrush();
 
+protected:
     EditorType m_editorType = Category;
     bool m_childrenLoaded = false;
 

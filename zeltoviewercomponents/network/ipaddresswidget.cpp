@@ -17,6 +17,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 #include <QStyle>
 #include <QUrl>
@@ -67,8 +68,10 @@ IpAddressWidget::IpAddressWidget(QWidget *parent)
     m_mac.edit = new QLineEdit(this);
     m_mac.edit->setReadOnly(true);
     // What cannot be changed does not look like a field, but can still be reached, read and copied.
-    m_mac.edit->setStyleSheet(
-        QStringLiteral("QLineEdit:read-only { background: transparent; border: none; }"));
+    m_mac.edit->setFrame(false);
+    QPalette flat; // the rest follows that of the dialog
+    flat.setColor(QPalette::Base, Qt::transparent);
+    m_mac.edit->setPalette(flat);
     m_helpLink = new HelpLink(this);
     m_helpLink->hide();
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
