@@ -5,8 +5,6 @@
 
 #include <zeltoviewercomponents/plugin/FeatureTree/ifeaturetreecontrolservice.h>
 
-#include <QModelIndex>
-
 class FeatureTreeWidget;
 
 /*! \brief Lets plug-ins drive the viewer's feature tree. */
@@ -25,7 +23,5 @@ public:
     void refresh() override;
 
 private:
-    QModelIndex find(const QString &fullName) const;
-
     FeatureTreeWidget *m_tree;
 };

@@ -6,6 +6,7 @@
 #include "favoritesdata.h"
 #include "featuretreehighlighter.h"
 #include "featuretreeinodeitem.h"
+#include "featuretreemodel.h"
 #include "featuretreenames.h"
 #include "featuretreeproxymodel.h"
 #include "featuretreetext.h"
@@ -352,6 +353,64 @@ void FeatureTreeWidget::setCameraType(const QString &cameraType)
 QString FeatureTreeWidget::cameraType() const
 {
     return m_cameraType;
+}
+
+bool FeatureTreeWidget::showFeature(const QString &fullName)
+{
+    QModelIndex row = shownRow(fullName);
+    if (!row.isValid() && !m_filterText.isEmpty() && !fullName.isEmpty()) {
+        // A search has made all rows, those too that it keeps out of sight.
+        auto *const tree = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel());
+        if (!tree || !tree->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name).isValid()) {
+            return false;
+        }
+        setSearchText(QString());
+        row = shownRow(fullName);
+    }
+    if (!row.isValid()) {
+        return false;
+    }
+    m_ui->treeView->setCurrentIndex(row);
+    m_ui->treeView->scrollTo(row);
+    return true;
+}
+
+QModelIndex FeatureTreeWidget::shownRow(const QString &fullName, const QModelIndex &parent) const
+{
+    const FeatureTreeView *const view = m_ui->treeView;
+    for (int row = 0; row < view->model()->rowCount(parent); ++row) {
+        if (view->isRowHidden(row, parent)) {
+            continue;
+        }
+        const QModelIndex index = view->model()->index(row, FeatureTreeColumns::name, parent);
+        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == fullName) {
+            return index;
+        }
+        const QModelIndex below = shownRow(fullName, index);
+        if (below.isValid()) {
+            return below;
+        }
+    }
+    return {};
+}
+
+QString FeatureTreeWidget::searchText() const
+{
+    return m_filterText;
+}
+
+void FeatureTreeWidget::setSearchText(const QString &text)
+{
+    m_ui->filterEdit->setText(text);
+    if (m_filterText != text) {
+        onFilterTextChanged(text); // the search had not begun in the box
+    }
+}
+
+void FeatureTreeWidget::focusSearch()
+{
+    m_ui->filterEdit->setFocus();
+    m_ui->filterEdit->selectAll();
 }
 
 QModelIndex FeatureTreeWidget::GetCurrentIndex() const

@@ -75,6 +75,20 @@ public:
     /*! Expands the top rows. */
     void expandRootNodes();
 
+    /*! Makes the first shown row of a feature the current one, in view, with the branches above it expanded.
+     * A search that keeps it out of sight is ended.
+     *
+     * \param fullName the full name of the feature's parameter, or that of any other row
+     * \return false when no row of that name is shown at the user level, or would be without the search
+     */
+    bool showFeature(const QString &fullName);
+    /*! Returns the text that is searched for, empty without a search. */
+    QString searchText() const;
+    /*! Searches for \a text as if it was typed; an empty one ends the search. */
+    void setSearchText(const QString &text);
+    /*! Gives the search box the focus, its text selected. */
+    void focusSearch();
+
     /*! Returns the current row's item, null when no visible row is current. */
     FeatureTreeItem *getDeepestSelectedItem() const;
     /*! Returns the view's current index, an invalid one when its row is hidden. */
@@ -192,6 +206,7 @@ private:
     void setUpShortcuts();
     void addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot);
     FeatureTreeProxyModel *proxy() const;
+    QModelIndex shownRow(const QString &fullName, const QModelIndex &parent = QModelIndex()) const;
     void filter(const QString &text);
     void showCounts();
     void setSearchRow(const QString &message, bool isShown);
