@@ -339,6 +339,7 @@ void TestFeatureTreeProxyModel::placeholdersAndHintsAreNoResults()
 void TestFeatureTreeProxyModel::foreignPatternsWork()
 {
     addCamera();
+    visitAll(*m_proxy);
     QSortFilterProxyModel *const base = m_proxy.get();
     base->setFilterFixedString("gain");
     QVERIFY(find("@CameraDevice/Gain").isValid());
