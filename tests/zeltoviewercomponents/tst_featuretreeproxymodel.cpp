@@ -12,6 +12,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>
 #include <zeltoviewercomponents/featuretree/featuretreeproxymodel.h>
 
+#include <QIdentityProxyModel>
 #include <QItemSelectionModel>
 #include <QMimeData>
 #include <QRandomGenerator>
@@ -119,9 +120,12 @@ private slots:
     void loadsOnlyWhatShowingNeeds();
     void countsAreComplete();
     void featuresBelowHiddenCategoriesCountAsHidden();
+    void featuresCountOnceWhereverTheyStand_data();
+    void featuresCountOnceWhereverTheyStand();
     void placeholdersAndHintsAreNoResults();
     void foreignPatternsWork();
     void flippedRowsAreFilteredOnce();
+    void flippedRowsBelowCollapsedCategories_data();
     void flippedRowsBelowCollapsedCategories();
     void rebuildingFiltersOnce();
     void searchRowNeedsASearch();
@@ -231,6 +235,11 @@ void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
                             "1", "straße", "strasse", "ü", "nothing", "t"};
     for (int round = 0; round < 60; ++round) {
         init();
+        FeatureTreeProxyModel behind; // another one, which knows the roles only
+        QIdentityProxyModel identity;
+        identity.setSourceModel(m_model);
+        behind.setSourceModel(&identity);
+        behind.setFilterCaseSensitivity(Qt::CaseInsensitive);
         m_collection = QSharedPointer<MemoryCollection>::create();
         addRandomNodes(*m_collection, random, random.bounded(5, 60));
         addCamera();
@@ -243,6 +252,11 @@ void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
             const QStringList accepted = fullNames(*m_proxy);
             const QStringList expected =
                 expectedNames(*m_model, Rule(*m_model, level, text), !text.isEmpty());
+            behind.setVisibility(level);
+            behind.setFilterFixedString(text);
+            QCOMPARE(fullNames(behind), accepted);
+            QCOMPARE(behind.visibleMatches(), m_proxy->visibleMatches());
+            QCOMPARE(behind.hiddenMatches(), m_proxy->hiddenMatches());
             QVERIFY2(
                 accepted == expected,
                 qPrintable(QStringLiteral("round %1, level %2, text \"%3\"\n%4\n%5")
@@ -275,12 +289,19 @@ void TestFeatureTreeProxyModel::loadsOnlyWhatShowingNeeds()
     m_collection->addCategory("Below", "Nested");
     m_collection->addInteger("Deep", "Below");
     addCamera();
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QString());
+    m_proxy->refreshSpecialItems();
+    m_collection->get<MemoryPlain>("ImageFormatControl")->publish();
     const QModelIndex root = find("@CameraDevice*Root");
+    QCOMPARE(m_proxy->rowCount(), 2);
+    QVERIFY2(!find("@CameraDevice/Gain").isValid(), "one feature is enough for the top row");
     QCOMPARE(m_proxy->rowCount(root), 3);
+    m_proxy->refreshSpecialItems();
     const QModelIndex device = find("@CameraDevice/DeviceControl");
     QVERIFY(m_proxy->hasChildren(device));
     // A category passes by its first feature; what lies deeper is not asked.
-    QVERIFY(!find("@CameraDevice/Deep").isValid());
+    QVERIFY(!find("@CameraDevice/Near").isValid());
     m_proxy->setFilterFixedString("deep");
     QVERIFY(find("@CameraDevice/Deep").isValid());
     QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{"Deep"});
@@ -321,6 +342,30 @@ void TestFeatureTreeProxyModel::featuresBelowHiddenCategoriesCountAsHidden()
     m_proxy->rebuildFavoriteItems();
     QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{"Gain"});
     QVERIFY(m_proxy->hiddenMatches().isEmpty());
+}
+
+void TestFeatureTreeProxyModel::featuresCountOnceWhereverTheyStand_data()
+{
+    columns<QString>({"hidden"});
+    row("hidden first", "Nested");
+    row("hidden between", "AcquisitionControl");
+    row("hidden last", "DeviceControl");
+}
+
+void TestFeatureTreeProxyModel::featuresCountOnceWhereverTheyStand()
+{
+    QFETCH(const QString, hidden);
+    m_collection->addCategory("Nested", "ImageFormatControl");
+    m_collection->node("Nested")->children.append("Gain");
+    m_collection->node("DeviceControl")->children.append("Gain");
+    m_collection->node(hidden)->snapshot->visibility = GenApi::Guru;
+    addCamera();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString("gain");
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{"Gain"});
+    QCOMPARE(m_proxy->visibleMatchCount(), 1);
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>());
+    QCOMPARE(m_proxy->hiddenMatchCount(), 0);
 }
 
 void TestFeatureTreeProxyModel::placeholdersAndHintsAreNoResults()
@@ -373,14 +418,27 @@ void TestFeatureTreeProxyModel::flippedRowsAreFilteredOnce()
     QCOMPARE(layout.count(), 1);
 }
 
+void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories_data()
+{
+    columns<bool>({"isBehindAnother"});
+    row("over the model", false);
+    row("over a proxy of the model", true);
+}
+
 void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories()
 {
+    QFETCH(const bool, isBehindAnother);
+    QIdentityProxyModel identity;
+    identity.setSourceModel(m_model);
+    FeatureTreeProxyModel behind;
+    behind.setSourceModel(&identity);
+    const FeatureTreeProxyModel &watched = isBehindAnother ? behind : *m_proxy;
     m_collection->addCategory("Outer");
     m_collection->addCategory("Inner", "Outer");
     const auto only = m_collection->addInteger("Only", "Inner");
     addCamera();
-    const auto isOuterShown = [this] {
-        return m_proxy->rowCount(find("@CameraDevice*Root")) == 4; // beside those of the sample
+    const auto isOuterShown = [&watched] {
+        return watched.rowCount(watched.index(0, 0)) == 4; // beside those of the sample
     };
     QVERIFY(isOuterShown());
     for (const bool implemented : {false, true, false}) {

@@ -149,6 +149,12 @@ bool FeatureTreeProxyModel::acceptAll() const
     return m_acceptAll;
 }
 
+bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
+{
+    const FeatureTreeItem *const item = getFeatureTreeItem(index);
+    return item && item->getFullName() != FeatureTreeNames::search && isHit(item);
+}
+
 QSet<QString> FeatureTreeProxyModel::visibleMatches() const
 {
     completePass();

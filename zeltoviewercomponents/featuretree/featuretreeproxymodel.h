@@ -55,6 +55,9 @@ public:
     /*! Returns whether every row passes. */
     bool acceptAll() const;
 
+    /*! Returns whether the row itself contains the search text, not only one above or below it. The search
+     * row and categories never do. */
+    bool isMatch(const QModelIndex &index) const;
     /*! Returns the names of the features that match the search text within the level; empty without a text.
      */
     QSet<QString> visibleMatches() const;
