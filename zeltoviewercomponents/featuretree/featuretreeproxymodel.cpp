@@ -576,7 +576,6 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
 // The base's invalidate() and the source's new layout ask for all rows anew.
 void FeatureTreeProxyModel::onLayoutAboutToBeChanged()
 {
-    m_mapping = nextPass();
     if (!m_publishing) {
         startPass();
     }
@@ -612,7 +611,7 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
     }
 }
 
-// Whether the base has been told which of the rows below pass, and they may be shown.
+// Whether the base has ever asked for the rows below. If not, nobody shows them.
 bool FeatureTreeProxyModel::isMapped(const FeatureTreeItem *parent) const
 {
     return !parent->parent() || parent->m_mapping == m_mapping;

@@ -200,7 +200,7 @@ private:
     mutable quint64 m_pass = 0;
     mutable quint64 m_markedPass = 0; // the last pass that left marks
     mutable bool m_treeJudged = false;
-    quint64 m_mapping = 0; // which the base makes anew at each change of the layout
+    quint64 m_mapping = 0; // what items bear below which the base has asked for rows
 
     QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern

@@ -406,7 +406,7 @@ QString FeatureTreeWidget::searchText() const
 void FeatureTreeWidget::setSearchText(const QString &text)
 {
     m_ui->filterEdit->setText(text);
-    if (m_filterText != text) {
+    if (m_ui->filterEdit->text() == text && m_filterText != text) {
         onFilterTextChanged(text); // the search had not begun in the box
     }
 }
