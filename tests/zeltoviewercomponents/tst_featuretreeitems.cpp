@@ -385,16 +385,26 @@ void TestFeatureTreeItems::writesThatAskForACheck()
 
 void TestFeatureTreeItems::clampsIntoLimits_data()
 {
-    columns<QString, double, double, double, QStringList>(
-        {"feature", "value", "minimum", "maximum", "written"});
+    columns<QString, double, double, double, QStringList, QString>(
+        {"feature", "value", "minimum", "maximum", "written", "lacks"});
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    row("integer below", "OffsetX", 1.0, 5.0, 9.0, QStringList("5"));
-    row("integer above", "OffsetX", 10.0, 5.0, 9.0, QStringList("9"));
-    row("integer inside", "OffsetX", 7.0, 5.0, 9.0, QStringList());
-    row("limits crossed", "OffsetX", 7.0, 9.0, 5.0, QStringList());
-    row("float below", "Gain", -0.5, 0.25, 1.0, QStringList("0.25"));
-    row("float limit is no number", "Gain", -0.5, nan, 1.0, QStringList());
-    row("float is no number", "Gain", nan, 0.0, 1.0, QStringList());
+    const double infinity = std::numeric_limits<double>::infinity();
+    row("integer below", "OffsetX", 1.0, 5.0, 9.0, QStringList("5"), "");
+    row("integer above", "OffsetX", 10.0, 5.0, 9.0, QStringList("9"), "");
+    row("integer inside", "OffsetX", 7.0, 5.0, 9.0, QStringList(), "");
+    row("limits crossed", "OffsetX", 7.0, 9.0, 5.0, QStringList(), "");
+    row("float below", "Gain", -0.5, 0.25, 1.0, QStringList("0.25"), "");
+    row("float below, without an upper limit", "Gain", -0.5, 0.25, infinity, QStringList("0.25"), "");
+    row("float limit is no number", "Gain", -0.5, nan, 1.0, QStringList(), "");
+    row("float limit is infinite", "Gain", 0.5, infinity, infinity, QStringList(), "");
+    row("float is no number", "Gain", nan, 0.0, 1.0, QStringList(), "");
+    row("float is infinite", "Gain", infinity, 0.0, 1.0, QStringList(), "");
+    // A failed read leaves 0.
+    row("integer not read", "OffsetX", 0.0, 5.0, 9.0, QStringList(), "value");
+    row("float not read", "Gain", 0.0, 0.25, 1.0, QStringList(), "value");
+    row("not implemented", "OffsetX", 0.0, 5.0, 9.0, QStringList(), "implementation");
+    row("read-only", "OffsetX", 0.0, 5.0, 9.0, QStringList(), "access");
+    row("device gone", "OffsetX", 0.0, 5.0, 9.0, QStringList(), "device");
 }
 
 void TestFeatureTreeItems::clampsIntoLimits()
@@ -404,13 +414,18 @@ void TestFeatureTreeItems::clampsIntoLimits()
     QFETCH(const double, minimum);
     QFETCH(const double, maximum);
     QFETCH(const QStringList, written);
+    QFETCH(const QString, lacks);
     auto *const item = itemFor(feature);
+    m_model->SetDeviceAlive(lacks != "device");
     QSignalSpy spy(item, SIGNAL(nodeUpdated(int, FeatureTreeINodeItem *)));
     const auto change = [&](auto &data) {
         data.value = static_cast<decltype(data.value)>(value);
         data.minimum = static_cast<decltype(data.minimum)>(minimum);
         data.maximum = static_cast<decltype(data.maximum)>(maximum);
         data.valueString = QString::number(value);
+        data.isReadable = lacks != "value";
+        data.isImplemented = lacks != "implementation";
+        data.isWritable = lacks != "access";
     };
     if (const auto integer = m_collection->get<MemoryInteger>(feature)) {
         integer->update(change);

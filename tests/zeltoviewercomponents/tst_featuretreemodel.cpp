@@ -25,6 +25,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 using namespace ParameterCollection;
@@ -46,6 +47,8 @@ private slots:
 
     void readFailureIsReportedOnce();
     void setDataWritesChangesOnly();
+    void lastWriteWins_data();
+    void lastWriteWins();
     void setDataReportsFailures_data();
     void setDataReportsFailures();
     void updatesSignalTheTwoCells();
@@ -325,6 +328,71 @@ void TestFeatureTreeModel::setDataWritesChangesOnly()
     QCOMPARE(node->writes, QStringList("12"));
     QTRY_COMPARE(value.data(Qt::EditRole), QVariant("12"));
     QCOMPARE(GetTheGlobalAsyncErrorQueue()->count(), size_t(0));
+}
+
+void TestFeatureTreeModel::lastWriteWins_data()
+{
+    columns<QString, QStringList, bool>({"feature", "values", "followsAnswers"});
+    for (const bool followsAnswers : {true, false}) {
+        const auto add = [followsAnswers](const char *feature, const QStringList &values) {
+            QTest::addRow("%s %s", feature, followsAnswers ? "" : "without callbacks")
+                << QString(feature) << values << followsAnswers;
+        };
+        add("OffsetX", {"0", "12", "40"});
+        add("Gain", {"1.5", "2", "3"});
+        add("ReverseX", {"0", "1", "0"});
+        add("PixelFormat", {"Mono8", "Mono12", "Mono8"});
+        add("DeviceUserID", {"left", "right", "middle"});
+    }
+}
+
+// The camera answers late: the snapshot stays what it was until then.
+void TestFeatureTreeModel::lastWriteWins()
+{
+    QFETCH(const QString, feature);
+    QFETCH(const QStringList, values);
+    QFETCH(const bool, followsAnswers);
+    m_model->GetFavorites().appendEntry({feature, feature, cameraDevice});
+    addSample();
+    m_model->rebuildFavoriteItems();
+    m_model->setGenICamCallbacksEnable(followsAnswers);
+    const QModelIndex value = this->feature(feature);
+    const QModelIndex favorite = find("Fav*CameraDevice*" + feature, 1);
+    MemoryNode *const node = m_collection->node(feature);
+    const auto parameter = m_collection->parameter(feature);
+    const auto write = [&](const QModelIndex &index, const QString &text) {
+        const auto before = node->snapshot;
+        QVERIFY(m_model->setData(index, text));
+        QCoreApplication::removePostedEvents(parameter.data()); // the answer
+        node->snapshot = before;
+    };
+    const auto answer = [&](const QString &text) {
+        const QStringList writes = node->writes;
+        writeMemoryNode(*node, text);
+        node->writes = writes;
+        emit parameter->parameterDataChangedDecoupled(node->snapshot);
+    };
+    write(value, values[0]);
+    QCOMPARE(node->writes, QStringList()); // has it
+    write(value, values[1]);
+    write(value, values[1]);
+    QCOMPARE(node->writes, QStringList(values[1]));
+    write(favorite, values[0]);
+    QCOMPARE(node->writes, QStringList({values[1], values[0]}));
+    answer(values[1]); // to the first
+    write(value, values[1]);
+    QCOMPARE(node->writes.size(), 3);
+    answer(values[0]);
+    answer(values[1]);
+    if (followsAnswers) {
+        write(value, values[1]);
+        QCOMPARE(node->writes.size(), 3);
+    }
+    // The camera stores something else, and that is the value then.
+    write(value, values[0]);
+    answer(values[2]);
+    write(favorite, values[0]);
+    QCOMPARE(node->writes.constLast(), values[0]);
 }
 
 void TestFeatureTreeModel::setDataReportsFailures_data()
@@ -643,6 +711,9 @@ void TestFeatureTreeModel::hostileDropsChangeNothing()
     for (const QByteArray &payload : std::as_const(payloads)) {
         QVERIFY2(!m_model->dropMimeData(mimeOf(payload).get(), Qt::MoveAction, random.bounded(-1, 5), 0, {}),
                  payload.toHex());
+    }
+    for (const int row : {-2, std::numeric_limits<int>::min()}) {
+        QVERIFY(!m_model->dropMimeData(mimeOf(payloadOf({gain})).get(), Qt::MoveAction, row, 0, {}));
     }
     m_model->clear(); // and with it the dragged item
     QVERIFY(!m_model->dropMimeData(mimeOf(payloadOf({gain})).get(), Qt::MoveAction, 0, 0, {}));

@@ -12,6 +12,8 @@
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>
 #include <zeltoviewercomponents/featuretree/featuretreeproxymodel.h>
 
+#include <QAbstractItemModelTester>
+#include <QIdentityProxyModel>
 #include <QItemSelectionModel>
 #include <QMimeData>
 #include <QRandomGenerator>
@@ -27,81 +29,6 @@ using namespace ParameterCollection;
 namespace {
 
 const QString cameraDevice = "@CameraDevice";
-
-// The rule for one row, as it is written down: no marks, no passes.
-class Rule
-{
-public:
-    Rule(const FeatureTreeModel &model, GenApi::EVisibility level, const QString &text)
-        : m_model(model)
-        , m_level(level)
-        , m_text(text)
-    {
-    }
-
-    bool accepts(const QModelIndex &index) const
-    {
-        if (matches(index)) {
-            return true;
-        }
-        for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
-            if (matches(above)) {
-                return true;
-            }
-        }
-        return anyBelow(index);
-    }
-
-private:
-    bool matches(const QModelIndex &index) const
-    {
-        const QString name = index.data(FeatureTreeItem::GenicamNameRole).toString();
-        const int visibility = index.data(FeatureTreeItem::GenicamVisibility).toInt();
-        if (name == "Root") {
-            return false;
-        }
-        if (m_level != GenApi::Invisible && !index.data(FeatureTreeItem::IsShownAtAll).toBool()) {
-            return false;
-        }
-        const bool levelOk = visibility <= m_level;
-        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == "Search") {
-            return levelOk && visibility < GenApi::Invisible;
-        }
-        const bool hit = index.data().toString().contains(m_text, Qt::CaseInsensitive)
-            || name.contains(m_text, Qt::CaseInsensitive);
-        return hit && levelOk && !index.data(FeatureTreeItem::GenicamCategory).toBool();
-    }
-
-    bool anyBelow(const QModelIndex &index) const
-    {
-        for (int row = 0; row < m_model.rowCount(index); ++row) {
-            const QModelIndex child = m_model.index(row, 0, index);
-            if (matches(child) || anyBelow(child)) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    const FeatureTreeModel &m_model;
-    GenApi::EVisibility m_level;
-    QString m_text;
-};
-
-QStringList expectedNames(FeatureTreeModel &model, const Rule &rule, bool searching,
-                          const QModelIndex &parent = QModelIndex())
-{
-    QStringList names;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        const bool isFreeBranch = !searching && model.IsFavoriteTreeRoot(model.getFeatureTreeItem(index));
-        if (rule.accepts(index) || isFreeBranch) {
-            names.append(index.data(FeatureTreeItem::FullNodeNameRole).toString());
-            names.append(expectedNames(model, rule, searching, index));
-        }
-    }
-    return names;
-}
 
 } // namespace
 
@@ -119,9 +46,12 @@ private slots:
     void loadsOnlyWhatShowingNeeds();
     void countsAreComplete();
     void featuresBelowHiddenCategoriesCountAsHidden();
+    void featuresCountOnceWhereverTheyStand_data();
+    void featuresCountOnceWhereverTheyStand();
     void placeholdersAndHintsAreNoResults();
     void foreignPatternsWork();
     void flippedRowsAreFilteredOnce();
+    void flippedRowsBelowCollapsedCategories_data();
     void flippedRowsBelowCollapsedCategories();
     void rebuildingFiltersOnce();
     void searchRowNeedsASearch();
@@ -231,6 +161,12 @@ void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
                             "1", "straße", "strasse", "ü", "nothing", "t"};
     for (int round = 0; round < 60; ++round) {
         init();
+        // One that has the roles alone judges row by row, without marks and passes.
+        QIdentityProxyModel identity;
+        identity.setSourceModel(m_model);
+        FeatureTreeProxyModel behind;
+        behind.setSourceModel(&identity);
+        behind.setFilterCaseSensitivity(Qt::CaseInsensitive);
         m_collection = QSharedPointer<MemoryCollection>::create();
         addRandomNodes(*m_collection, random, random.bounded(5, 60));
         addCamera();
@@ -238,17 +174,20 @@ void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
         for (int step = 0; step < 6; ++step) {
             const auto level = GenApi::EVisibility(random.bounded(4));
             const QString text = texts[random.bounded(texts.size())];
-            m_proxy->setVisibility(level);
-            m_proxy->setFilterFixedString(text);
+            for (FeatureTreeProxyModel *const proxy : {m_proxy.get(), &behind}) {
+                proxy->setVisibility(level);
+                proxy->setFilterFixedString(text);
+            }
             const QStringList accepted = fullNames(*m_proxy);
-            const QStringList expected =
-                expectedNames(*m_model, Rule(*m_model, level, text), !text.isEmpty());
+            const QStringList expected = fullNames(behind);
             QVERIFY2(
                 accepted == expected,
                 qPrintable(QStringLiteral("round %1, level %2, text \"%3\"\n%4\n%5")
                                .arg(round)
                                .arg(level)
                                .arg(text, accepted.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')))));
+            QCOMPARE(m_proxy->visibleMatches(), behind.visibleMatches());
+            QCOMPARE(m_proxy->hiddenMatches(), behind.hiddenMatches());
         }
     }
 }
@@ -275,12 +214,19 @@ void TestFeatureTreeProxyModel::loadsOnlyWhatShowingNeeds()
     m_collection->addCategory("Below", "Nested");
     m_collection->addInteger("Deep", "Below");
     addCamera();
+    m_proxy->rebuildFavoriteItems();
+    m_proxy->setFilterFixedString(QString());
+    m_proxy->refreshSpecialItems();
+    m_collection->get<MemoryPlain>("ImageFormatControl")->publish();
     const QModelIndex root = find("@CameraDevice*Root");
+    QCOMPARE(m_proxy->rowCount(), 2);
+    QVERIFY2(!find("@CameraDevice/Gain").isValid(), "one feature is enough for the top row");
     QCOMPARE(m_proxy->rowCount(root), 3);
+    m_proxy->refreshSpecialItems();
     const QModelIndex device = find("@CameraDevice/DeviceControl");
     QVERIFY(m_proxy->hasChildren(device));
     // A category passes by its first feature; what lies deeper is not asked.
-    QVERIFY(!find("@CameraDevice/Deep").isValid());
+    QVERIFY(!find("@CameraDevice/Near").isValid());
     m_proxy->setFilterFixedString("deep");
     QVERIFY(find("@CameraDevice/Deep").isValid());
     QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{"Deep"});
@@ -323,6 +269,30 @@ void TestFeatureTreeProxyModel::featuresBelowHiddenCategoriesCountAsHidden()
     QVERIFY(m_proxy->hiddenMatches().isEmpty());
 }
 
+void TestFeatureTreeProxyModel::featuresCountOnceWhereverTheyStand_data()
+{
+    columns<QString>({"hidden"});
+    row("hidden first", "Nested");
+    row("hidden between", "AcquisitionControl");
+    row("hidden last", "DeviceControl");
+}
+
+void TestFeatureTreeProxyModel::featuresCountOnceWhereverTheyStand()
+{
+    QFETCH(const QString, hidden);
+    m_collection->addCategory("Nested", "ImageFormatControl");
+    m_collection->node("Nested")->children.append("Gain");
+    m_collection->node("DeviceControl")->children.append("Gain");
+    m_collection->node(hidden)->snapshot->visibility = GenApi::Guru;
+    addCamera();
+    m_proxy->setVisibility(GenApi::Beginner);
+    m_proxy->setFilterFixedString("gain");
+    QCOMPARE(m_proxy->visibleMatches(), QSet<QString>{"Gain"});
+    QCOMPARE(m_proxy->visibleMatchCount(), 1);
+    QCOMPARE(m_proxy->hiddenMatches(), QSet<QString>());
+    QCOMPARE(m_proxy->hiddenMatchCount(), 0);
+}
+
 void TestFeatureTreeProxyModel::placeholdersAndHintsAreNoResults()
 {
     m_proxy->rebuildFavoriteItems();
@@ -339,6 +309,7 @@ void TestFeatureTreeProxyModel::placeholdersAndHintsAreNoResults()
 void TestFeatureTreeProxyModel::foreignPatternsWork()
 {
     addCamera();
+    visitAll(*m_proxy);
     QSortFilterProxyModel *const base = m_proxy.get();
     base->setFilterFixedString("gain");
     QVERIFY(find("@CameraDevice/Gain").isValid());
@@ -372,14 +343,28 @@ void TestFeatureTreeProxyModel::flippedRowsAreFilteredOnce()
     QCOMPARE(layout.count(), 1);
 }
 
+void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories_data()
+{
+    columns<bool>({"isBehindAnother"});
+    row("over the model", false);
+    row("over a proxy of the model", true);
+}
+
 void TestFeatureTreeProxyModel::flippedRowsBelowCollapsedCategories()
 {
+    QFETCH(const bool, isBehindAnother);
+    QIdentityProxyModel identity;
+    identity.setSourceModel(m_model);
+    FeatureTreeProxyModel behind;
+    behind.setSourceModel(&identity);
+    FeatureTreeProxyModel &watched = isBehindAnother ? behind : *m_proxy;
+    const QAbstractItemModelTester tester(&watched, QAbstractItemModelTester::FailureReportingMode::QtTest);
     m_collection->addCategory("Outer");
     m_collection->addCategory("Inner", "Outer");
     const auto only = m_collection->addInteger("Only", "Inner");
     addCamera();
-    const auto isOuterShown = [this] {
-        return m_proxy->rowCount(find("@CameraDevice*Root")) == 4; // beside those of the sample
+    const auto isOuterShown = [&watched] {
+        return watched.rowCount(watched.index(0, 0)) == 4; // beside those of the sample
     };
     QVERIFY(isOuterShown());
     for (const bool implemented : {false, true, false}) {

@@ -5,6 +5,7 @@
 
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
 #include <zeltoviewercomponents/featuretree/floateditor.h>
+#include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
 #include <QClipboard>
 #include <QList>
@@ -62,6 +63,12 @@ private slots:
     void aKeyIsPaintedOnce();
     void enteredBeforeTheRowGoes();
     void tellsTheHostOfTheCurrentRow();
+    void currentRowIsKnownAtAnyMoment();
+    void downGoesToTheFirstMatch_data();
+    void downGoesToTheFirstMatch();
+    void showsFeatures_data();
+    void showsFeatures();
+    void clearEndsASearchFromOutside();
     void copiesTheTree();
 };
 
@@ -331,6 +338,149 @@ void TestFeatureTreeSearch::tellsTheHostOfTheCurrentRow()
     bench.erase();
     QCOMPARE(features, QStringList());
     QVERIFY(bench.box()->hasFocus());
+}
+
+void TestFeatureTreeSearch::currentRowIsKnownAtAnyMoment()
+{
+    auto camera = MemoryCollection::createSample();
+    const auto deep = camera->addCategory(QStringLiteral("Deep"));
+    deep->snapshot->visibility = GenApi::Expert;
+    camera->addInteger(QStringLiteral("DeepGain"), QStringLiteral("Deep"));
+    TreeBench bench(camera);
+    // What a host shows that asks each time that it is told to.
+    QString shown;
+    const auto nameNow = [&bench] {
+        const auto node = bench.widget.GetCurrentNode();
+        return node ? node->name() : QString();
+    };
+    connect(bench.view(), &FeatureTreeView::onCurrentChanged, &bench.widget,
+            [&shown, &nameNow] { shown = nameNow(); });
+    const auto state = [&](const QString &name) {
+        bench.settle();
+        const auto *const item = qobject_cast<FeatureTreeINodeItem *>(bench.widget.getDeepestSelectedItem());
+        return shown == name && nameNow() == name && (item ? item->nodeName() : QString()) == name
+            && bench.widget.GetCurrentIndex().isValid() == !name.isEmpty();
+    };
+    bench.click(bench.row(QStringLiteral("Width")));
+    QVERIFY(state(QStringLiteral("Width")));
+    bench.type(QStringLiteral("gain"));
+    QVERIFY(state(QString()));
+    QTest::keyClick(bench.box(), Qt::Key_Down);
+    QVERIFY(state(QStringLiteral("Gain")));
+    bench.type(QStringLiteral("zzz"));
+    QVERIFY(state(QString()));
+    bench.erase();
+    QVERIFY(state(QStringLiteral("Width")));
+    QTest::mouseClick(bench.editor<ToolButtonEditor>(QStringLiteral("TriggerSoftware")), Qt::LeftButton);
+    QVERIFY(state(QStringLiteral("Width"))); // the button leaves the row and the focus where they are
+    // The row's category goes with the level, and the row with it.
+    bench.type(QStringLiteral("gain"));
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeepGain")));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    QVERIFY(state(QString()));
+    bench.widget.onVisibilityChanged(GenApi::Guru);
+    bench.erase();
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("DeepGain")));
+    QVERIFY(state(QStringLiteral("DeepGain")));
+    bench.widget.onVisibilityChanged(GenApi::Beginner);
+    QVERIFY(state(QString()));
+    bench.click(bench.row(QStringLiteral("Width")));
+    QVERIFY(state(QStringLiteral("Width")));
+    bench.widget.clear();
+    QVERIFY(state(QString()));
+}
+
+void TestFeatureTreeSearch::downGoesToTheFirstMatch_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("walk"); // the current rows after each Down
+    QTest::newRow("below a category")
+        << QStringLiteral("gain") << QStringList{QStringLiteral("Gain"), QStringLiteral("GainFine")};
+    QTest::newRow("below the search row")
+        << QStringLiteral("expo") << QStringList{QStringLiteral("Exposure Time [us]")};
+    QTest::newRow("nothing found") << QStringLiteral("zzz") << QStringList{QString()};
+}
+
+void TestFeatureTreeSearch::downGoesToTheFirstMatch()
+{
+    QFETCH(QString, text);
+    QFETCH(QStringList, walk);
+    auto camera = MemoryCollection::createSample();
+    camera->addFloat(QStringLiteral("GainFine"), QStringLiteral("DeviceControl"));
+    camera->addFloat(QStringLiteral("ExposureRaw"), QStringLiteral("DeviceControl"))->snapshot->visibility =
+        GenApi::Guru;
+    TreeBench bench(camera, GenApi::Beginner);
+    bench.type(text);
+    bench.view()->collapseAll();
+    QSignalSpy told(&bench.widget, SIGNAL(currentChanged(QSharedPointer<ParameterCollection::IParameter>)));
+    QTest::keyClick(bench.box(), Qt::Key_Down);
+    QVERIFY(bench.view()->hasFocus());
+    QCOMPARE(told.size(), walk.constFirst().isEmpty() ? 0 : 1);
+    QCOMPARE(bench.widget.GetCurrentIndex().data().toString(), walk.constFirst());
+    if (walk.size() > 1) {
+        bench.view()->expandEverything();
+        QTest::keyClick(bench.view(), Qt::Key_Down); // the category
+        QTest::keyClick(bench.view(), Qt::Key_Down);
+        QCOMPARE(bench.widget.GetCurrentIndex().data().toString(), walk.at(1));
+    }
+    QCOMPARE(bench.widget.searchText(), text);
+}
+
+void TestFeatureTreeSearch::showsFeatures_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<bool>("isShown");
+    QTest::addColumn<bool>("keepsSearch");
+    QTest::newRow("collapsed") << QString() << QStringLiteral("Gain") << true << true;
+    QTest::newRow("a hit") << QStringLiteral("gain") << QStringLiteral("Gain") << true << true;
+    QTest::newRow("no hit") << QStringLiteral("gain") << QStringLiteral("Width") << true << false;
+    QTest::newRow("unknown") << QStringLiteral("gain") << QStringLiteral("Nothing") << false << true;
+    QTest::newRow("in two places") << QString() << QStringLiteral("GainFine") << true << true;
+}
+
+void TestFeatureTreeSearch::showsFeatures()
+{
+    QFETCH(QString, search);
+    QFETCH(QString, feature);
+    QFETCH(bool, isShown);
+    QFETCH(bool, keepsSearch);
+    auto camera = MemoryCollection::createSample();
+    camera->addCategory(QStringLiteral("Hidden"), QStringLiteral("AcquisitionControl"))
+        ->snapshot->visibility = GenApi::Guru;
+    camera->addFloat(QStringLiteral("GainFine"), QStringLiteral("Hidden"));
+    camera->node(QStringLiteral("DeviceControl"))->children.append(QStringLiteral("GainFine"));
+    TreeBench bench(camera, GenApi::Beginner);
+    bench.extension()->AddFavorite(camera->parameter(QStringLiteral("Gain")), 0);
+    bench.view()->collapseAll();
+    bench.widget.setSearchText(search);
+    QCOMPARE(bench.widget.showFeature(QStringLiteral("@CameraDevice/") + feature), isShown);
+    QCOMPARE(bench.widget.searchText(), keepsSearch ? search : QString());
+    QCOMPARE(bench.box()->text(), bench.widget.searchText());
+    const QModelIndex current = bench.widget.GetCurrentIndex();
+    QCOMPARE(current.data().toString(), isShown ? feature : QString());
+    QCOMPARE(bench.view()->viewport()->rect().contains(bench.view()->visualRect(current)), isShown);
+    QVERIFY(!bench.widget.IsCurrentFavorite());
+}
+
+void TestFeatureTreeSearch::clearEndsASearchFromOutside()
+{
+    auto camera = MemoryCollection::createSample();
+    camera->addInteger(QStringLiteral("GainRaw"), QStringLiteral("DeviceControl"))->snapshot->visibility =
+        GenApi::Expert;
+    TreeBench bench(camera, GenApi::Beginner);
+    QSignalSpy counts(&bench.widget, SIGNAL(filterMatchesChanged(int, int)));
+    bench.widget.onFilterTextChanged(QStringLiteral("gain"));
+    QCOMPARE(counts.constLast(), QVariantList({2, 1}));
+    bench.widget.clear();
+    QCOMPARE(bench.widget.searchText(), QString());
+    QCOMPARE(bench.view()->getHightlighter()->text(), QString());
+    QCOMPARE(counts.constLast(), QVariantList({0, 0}));
+    bench.add(camera);
+    bench.view()->expandEverything();
+    const QStringList rows = bench.shownRows();
+    QCOMPARE(rows.filter(QStringLiteral("search results")), QStringList());
+    QVERIFY(!rows.filter(QStringLiteral("Width")).isEmpty());
 }
 
 void TestFeatureTreeSearch::copiesTheTree()

@@ -7,6 +7,7 @@
 #include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
+#include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
@@ -19,7 +20,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
 
 using namespace ParameterCollection;
 
@@ -90,31 +90,15 @@ bool isLatin1(const QString &text)
                        [](QChar character) { return character.unicode() <= 0xff; });
 }
 
-std::optional<bool> booleanFrom(const QString &text)
+bool isUsable(qint64 limit)
 {
-    if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0) {
-        return true;
-    }
-    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0) {
-        return false;
-    }
-    return std::nullopt;
-}
-
-// A value that cannot be read is not known to be the same.
-bool isSameBoolean(const ParameterData *snapshot, const QString &text)
-{
-    const auto *const boolean = dynamic_cast<const BooleanParameterData *>(snapshot);
-    return boolean && boolean->isReadable && booleanFrom(text) == boolean->value;
-}
-
-template <typename Number>
-bool isNumber(Number value)
-{
-    if constexpr (std::is_floating_point_v<Number>) {
-        return !std::isnan(value);
-    }
+    Q_UNUSED(limit)
     return true;
+}
+
+bool isUsable(double limit)
+{
+    return std::isfinite(limit);
 }
 
 } // namespace
@@ -472,7 +456,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         return;
     }
     const QString text = value.toString();
-    if (isSameBoolean(m_data.data(), text)) {
+    if (isOfType(ParameterType::Boolean) && isCurrentValue(value)) {
         return;
     }
     if (!m_useUtf8 && !isLatin1(text)) {
@@ -480,7 +464,27 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
                 .arg(m_nodeName, text));
     }
-    parameter->setValueFromString(text);
+    UnansweredWrites::write(*parameter, text);
+}
+
+bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
+{
+    // A value that cannot be read is not known to be the same, and a command has none.
+    if (!m_data || !m_data->isReadable || !m_parameter || m_editorType == Command || isCategory()) {
+        return false;
+    }
+    const auto current = Core::guarded(
+        site("FeatureTreeINodeItem::isCurrentValue"), QStringLiteral("Failed to get the current value"),
+        QSharedPointer<const ParameterData>(), [this] { return m_parameter->parameterData(); });
+    if (!current || !current->isReadable) {
+        return false;
+    }
+    const QString text = value.toString();
+    const UnansweredWrites *const writes = UnansweredWrites::find(*m_parameter);
+    if (writes && writes->isWaiting()) {
+        return writes->isLast(text, *current);
+    }
+    return isValueOf(*m_data, text) && isValueOf(*current, text);
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
@@ -509,10 +513,11 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
 }
 
 // Writes the limit that the value has left. Returns whether it did; the camera's answer brings the next
-// snapshot.
+// snapshot. Where nothing was read there is no value that could have left its limits.
 bool FeatureTreeINodeItem::clamp(const QSharedPointer<const ParameterData> &snapshot)
 {
-    if (!snapshot->isWritable) {
+    if (!snapshot->isImplemented || !snapshot->isReadable || !snapshot->isWritable
+        || !getExtension()->isDeviceAlive()) {
         return false;
     }
     switch (snapshot->type) {
@@ -530,12 +535,15 @@ bool FeatureTreeINodeItem::clampTyped(const QSharedPointer<const ParameterData> 
 {
     const auto *const typed = dynamic_cast<const Data *>(snapshot.data());
     const auto parameter = qSharedPointerObjectCast<Interface>(m_parameter);
-    if (!typed || !parameter || !isNumber(typed->minimum) || !isNumber(typed->maximum)
-        || typed->minimum > typed->maximum) {
+    if (!typed || !parameter || !isUsable(typed->value) || !(typed->minimum <= typed->maximum)) {
         return false;
     }
-    if (!(typed->value < typed->minimum) && !(typed->value > typed->maximum)) {
+    if (typed->value >= typed->minimum && typed->value <= typed->maximum) {
         m_clamped.reset();
+        return false;
+    }
+    const auto limit = typed->value < typed->minimum ? typed->minimum : typed->maximum;
+    if (!isUsable(limit)) {
         return false;
     }
     // A camera that insists on a value outside its own limits wins.
@@ -544,7 +552,7 @@ bool FeatureTreeINodeItem::clampTyped(const QSharedPointer<const ParameterData> 
         return false;
     }
     m_clamped = snapshot;
-    parameter->setValue(typed->value < typed->minimum ? typed->minimum : typed->maximum);
+    parameter->setValue(limit);
     return true;
 }
 

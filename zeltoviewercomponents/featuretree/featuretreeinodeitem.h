@@ -73,6 +73,10 @@ public:
     QSharedPointer<ParameterCollection::IParameter> node() const;
     /*! Returns the latest snapshot, null until a read succeeded. */
     QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
+    /*! Returns whether the parameter is known to have \a value already, so that writing it changes nothing: no
+     * write that would change it waits for the camera's answer, and both the latest snapshot and the item's
+     * have it. */
+    bool isCurrentValue(const QVariant &value) const;
     /*! Returns whether the user may change the value now. */
     bool isEditable() const;
     /*! Sets what marks search hits in the tool tip; not owned, may be null. */

@@ -202,5 +202,6 @@ private:
     IFeatureTreeModelExtension *m_extension = nullptr;
     quint64 m_searchIndexId = 0; // the search index that knows the item
     FilterMark m_filterMark;
+    quint64 m_mapping = 0; // of the proxy that was asked for the rows below
     mutable int m_rowHint = 0; // where the item was last found among its parent's children
 };

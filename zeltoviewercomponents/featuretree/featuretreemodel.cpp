@@ -49,9 +49,12 @@ bool isLive(const FeatureTreeItem *item)
                        [item](const FeatureTreeItem *root) { return root->findShallow(item); });
 }
 
-bool isSameValue(const QVariant &current, const QVariant &value)
+bool isSameValue(FeatureTreeItem &item, const QVariant &value)
 {
-    return current.isValid() && (current == value || current.toString() == value.toString());
+    if (const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(&item)) {
+        return nodeItem->isCurrentValue(value);
+    }
+    return item.data(FeatureTreeColumns::value, Qt::EditRole) == value;
 }
 
 // Names pass through the local 8-bit encoding, in which they are stored.
@@ -209,8 +212,7 @@ void FeatureTreeModel::reportReadFailure() const
 
 bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    // A write may have the tree cleared.
-    const QPointer<FeatureTreeItem> item(index.isValid() ? getFeatureTreeItem(index) : nullptr);
+    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
     if (!item || role != Qt::EditRole || index.column() != FeatureTreeColumns::value || !value.isValid()
         || !m_deviceAlive) {
         return false;
@@ -220,8 +222,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
     const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
     const QSharedPointer<IParameter> parameter = nodeItem ? nodeItem->node() : nullptr;
     try {
-        const QVariant current = item->data(FeatureTreeColumns::value, Qt::EditRole);
-        if (!isSameValue(current, value)) {
+        if (!isSameValue(*item, value)) {
             item->setData(FeatureTreeColumns::value, value, Qt::EditRole);
             emit written(parameter);
         }
@@ -331,7 +332,7 @@ bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action
         return true;
     }
     QList<FeatureTreeItem *> items;
-    if (!data || !data->hasFormat(dragFormat()) || !readDraggedItems(*data, items)) {
+    if (row < -1 || !data || !data->hasFormat(dragFormat()) || !readDraggedItems(*data, items)) {
         return false;
     }
     int target = std::min(row == -1 ? rowCount() : row, m_favorites.count());
@@ -423,6 +424,11 @@ void FeatureTreeModel::onTimerPoll()
 void FeatureTreeModel::SetDeviceAlive(bool alive)
 {
     m_deviceAlive = alive;
+}
+
+bool FeatureTreeModel::isDeviceAlive() const
+{
+    return m_deviceAlive;
 }
 
 QModelIndex FeatureTreeModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start, int column)

@@ -93,6 +93,7 @@ public:
                                  const QString &nodeMapName) override;
     int getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const override;
     int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
+    bool isDeviceAlive() const override;
 
     /*! Asks for a published re-read of the item's parameter; rows without one are ignored. */
     void scheduleForcedParameterDataChangedCheck(FeatureTreeItem *item);

@@ -47,6 +47,7 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
     }
     m_treeJudged = false;
     m_index = FeatureTreeSearchIndex();
+    m_mapping = nextPass();
     startPass();
     QSortFilterProxyModel::setSourceModel(sourceModel);
     if (!sourceModel) {
@@ -57,9 +58,13 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
             SLOT(onSourceRowsAboutToBeInserted(QModelIndex, int, int)));
     connect(sourceModel, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(onSourceRowsInserted(QModelIndex, int, int)));
-    connect(sourceModel, SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>)), this,
-            SLOT(onSourceDataChanged(QModelIndex, QModelIndex)));
-    if (model()) {
+    const char *const changed = SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>));
+    if (!model()) {
+        connect(sourceModel, changed, this, SLOT(onForeignDataChanged(QModelIndex)));
+    } else {
+        // The base would map the rows beside each one that changes, which loads what stands below them.
+        disconnect(sourceModel, changed, this, nullptr);
+        connect(sourceModel, changed, this, SLOT(onSourceDataChanged(QModelIndex, QModelIndex, QList<int>)));
         m_reportedPolling = model()->GetPolling();
         connect(model()->pollTimer(), SIGNAL(timeout()), this, SLOT(onPollTimerShot()));
         connect(model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
@@ -83,9 +88,8 @@ FeatureTreeItem *FeatureTreeProxyModel::rootItem() const
 // An index made of the invisible root item: valid, but no row. The search row is announced below it.
 bool FeatureTreeProxyModel::isPhantom(const QModelIndex &sourceIndex) const
 {
-    const FeatureTreeItem *const item =
-        sourceIndex.isValid() && model() ? model()->getFeatureTreeItem(sourceIndex) : nullptr;
-    return item && !item->parent();
+    return sourceIndex.isValid() && !sourceIndex.parent().isValid()
+        && sourceModel()->index(sourceIndex.row(), sourceIndex.column()) != sourceIndex;
 }
 
 QModelIndex FeatureTreeProxyModel::mapped(const QModelIndex &sourceIndex) const
@@ -149,28 +153,34 @@ bool FeatureTreeProxyModel::acceptAll() const
     return m_acceptAll;
 }
 
+bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
+{
+    const FeatureTreeItem *const item = getFeatureTreeItem(index);
+    return item && item->getFullName() != FeatureTreeNames::search && isHit(item);
+}
+
 QSet<QString> FeatureTreeProxyModel::visibleMatches() const
 {
     completePass();
-    return namesOf(m_visibleMatches);
+    return model() ? namesOf(m_visibleMatches) : roleMatches().visible;
 }
 
 int FeatureTreeProxyModel::visibleMatchCount() const
 {
     completePass();
-    return m_visibleMatches.count;
+    return model() ? m_visibleMatches.count : static_cast<int>(roleMatches().visible.size());
 }
 
 QSet<QString> FeatureTreeProxyModel::hiddenMatches() const
 {
     completePass();
-    return namesOf(m_hiddenMatches);
+    return model() ? namesOf(m_hiddenMatches) : roleMatches().hidden;
 }
 
 int FeatureTreeProxyModel::hiddenMatchCount() const
 {
     completePass();
-    return m_hiddenMatches.count;
+    return model() ? m_hiddenMatches.count : static_cast<int>(roleMatches().hidden.size());
 }
 
 QSet<QString> FeatureTreeProxyModel::namesOf(const Matches &matches) const
@@ -196,12 +206,18 @@ void FeatureTreeProxyModel::Matches::add(int name)
     isCounted[name] = true;
 }
 
+void FeatureTreeProxyModel::Matches::remove(int name)
+{
+    count -= isCounted[name] ? 1 : 0;
+    isCounted[name] = false;
+}
+
 void FeatureTreeProxyModel::setFilterFixedString(const QString &pattern)
 {
     {
         // The base would take rows out one interval at a time, each with signals; one change of the layout
         // follows.
-        const QScopedValueRollback<bool> frozen(m_frozen, true);
+        const QScopedValueRollback<bool> frozen(m_frozen, model());
         QSortFilterProxyModel::setFilterFixedString(pattern);
     }
     m_pattern = filterRegularExpression().pattern();
@@ -214,7 +230,7 @@ void FeatureTreeProxyModel::refilter()
 {
     m_refilterQueued = false;
     startPass();
-    if (!m_pattern.isEmpty()) {
+    if (model() && !m_pattern.isEmpty()) {
         judgeTree();
     }
     {
@@ -258,11 +274,17 @@ void FeatureTreeProxyModel::noticePattern() const
 
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (m_rejectAll || !model()) {
-        return !m_rejectAll;
+    if (m_rejectAll) {
+        return false;
+    }
+    if (!model()) {
+        return acceptsByRoles(sourceRow, sourceParent);
     }
     // Asked once a row at every key: straight to the item.
-    const auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    if (parent) {
+        parent->m_mapping = m_mapping;
+    }
     const bool isBelowPhantom = parent && !parent->parent();
     if (m_acceptAll || isBelowPhantom) {
         return !isBelowPhantom;
@@ -278,14 +300,29 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     return accepts(item);
 }
 
+bool FeatureTreeProxyModel::acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const
+{
+    if (m_acceptAll || isPhantom(sourceParent)) {
+        return m_acceptAll && !isPhantom(sourceParent);
+    }
+    return roleFilter().accepts(sourceModel()->index(sourceRow, FeatureTreeColumns::name, sourceParent));
+}
+
+FeatureTreeRoleFilter FeatureTreeProxyModel::roleFilter() const
+{
+    return {*sourceModel(), filterRegularExpression(), m_level};
+}
+
+FeatureTreeRoleFilter::Matches FeatureTreeProxyModel::roleMatches() const
+{
+    return sourceModel() ? roleFilter().matches() : FeatureTreeRoleFilter::Matches();
+}
+
 // Rows are asked for when a view comes to it; the names of the matches may be wanted before.
 void FeatureTreeProxyModel::completePass() const
 {
-    if (!model()) {
-        return;
-    }
     noticePattern();
-    if (!m_pattern.isEmpty() && !m_treeJudged) {
+    if (model() && !m_pattern.isEmpty() && !m_treeJudged) {
         judgeTree();
     }
 }
@@ -449,14 +486,11 @@ void FeatureTreeProxyModel::countHit(const FeatureTreeSearchIndex::Row &row,
     if (row.name < 0) {
         return;
     }
+    // A feature may stand in several places; where it is in sight decides.
     if (visibility <= m_level) {
         m_visibleMatches.add(row.name);
-        return;
-    }
-    // Hidden by its category alone, it may be in sight among the favorites, which come first.
-    const bool isInSight =
-        row.item->m_filterMark.visibility <= m_level && m_visibleMatches.isCounted[row.name];
-    if (visibility < GenApi::Invisible && !isInSight) {
+        m_hiddenMatches.remove(row.name);
+    } else if (visibility < GenApi::Invisible && !m_visibleMatches.isCounted[row.name]) {
         m_hiddenMatches.add(row.name);
     }
 }
@@ -533,7 +567,7 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
         emit layoutChanged();
         return;
     }
-    if (!parent.isValid() || !model()) {
+    if (!parent.isValid()) {
         return;
     }
     // The base lets rows below a filtered-out one pass by; one of them may make it pass. What rebuilds
@@ -551,16 +585,57 @@ void FeatureTreeProxyModel::onLayoutAboutToBeChanged()
     }
 }
 
-void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                                const QList<int> &roles)
 {
-    Q_UNUSED(bottomRight)
-    FeatureTreeItem *const item = model() ? model()->getFeatureTreeItem(topLeft) : nullptr;
-    if (!item || m_refilterQueued || !isSeen(item)) {
+    const FeatureTreeItem *const item = model()->getFeatureTreeItem(topLeft);
+    if (!item || !item->parent()) {
         return;
     }
     const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
-    if (mark.visibility != item->getVisibility() || mark.isShownAtAll != item->ShowMe(GenApi::Guru)) {
+    if (isSeen(item)
+        && (mark.visibility != const_cast<FeatureTreeItem *>(item)->getVisibility()
+            || mark.isShownAtAll != item->ShowMe(GenApi::Guru))) {
+        queueRefilter();
+    }
+    if (!isMapped(item->parent())) {
+        return;
+    }
+    QModelIndex first;
+    QModelIndex last;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
+        const QModelIndex left = mapFromSource(topLeft.siblingAtRow(row));
+        if (left.isValid()) {
+            first = first.isValid() ? first : left;
+            last = mapFromSource(bottomRight.siblingAtRow(row));
+        }
+    }
+    if (first.isValid()) {
+        emit dataChanged(first, last, roles);
+    }
+}
+
+// Whether the base has ever asked for the rows below. If not, nobody shows them.
+bool FeatureTreeProxyModel::isMapped(const FeatureTreeItem *parent) const
+{
+    return !parent->parent() || parent->m_mapping == m_mapping;
+}
+
+void FeatureTreeProxyModel::queueRefilter()
+{
+    if (!m_refilterQueued) {
         m_refilterQueued = QMetaObject::invokeMethod(this, "refilter", Qt::QueuedConnection);
+    }
+}
+
+// Nothing is remembered of these rows but whether they passed.
+void FeatureTreeProxyModel::onForeignDataChanged(const QModelIndex &topLeft)
+{
+    for (QModelIndex row = topLeft; row.isValid() && !isPhantom(row); row = row.parent()) {
+        if (filterAcceptsRow(row.row(), row.parent()) != mapFromSource(row).isValid()) {
+            queueRefilter();
+            return;
+        }
     }
 }
 
@@ -645,6 +720,11 @@ void FeatureTreeProxyModel::SetDeviceAlive(bool alive)
     if (model()) {
         model()->SetDeviceAlive(alive);
     }
+}
+
+bool FeatureTreeProxyModel::isDeviceAlive() const
+{
+    return !model() || model()->isDeviceAlive();
 }
 
 QModelIndex FeatureTreeProxyModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start,

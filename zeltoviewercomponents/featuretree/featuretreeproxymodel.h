@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "featuretreerolefilter_p.h"
 #include "featuretreesearchindex.h"
 #include "ifeaturetreemodelextension.h"
 
@@ -25,10 +26,12 @@ class FeatureTreeModel;
  * they are asked for; setting a text loads all branches and judges the whole tree in one pass, which also
  * collects the names of the matches.
  *
- * Dynamic sorting and filtering stays off. Rows whose level or availability flips are filtered anew, once,
- * when the event loop comes round. As IFeatureTreeModelExtension it forwards to its source, a
- * FeatureTreeModel; all indexes that go in and come out are the proxy's, and a row that is filtered out gives
- * an invalid one. A model serves one such proxy at a time, which keeps its verdicts in the items.
+ * Dynamic sorting and filtering stays off, and changes of rows that nobody has asked for are not passed on.
+ * Rows whose level or availability flips are filtered anew, once, when the event loop comes round. A source
+ * of another class that answers to the roles of FeatureTreeItem is filtered by these. As
+ * IFeatureTreeModelExtension it forwards to its source, a FeatureTreeModel; all indexes that go in and come
+ * out are the proxy's, and a row that is filtered out gives an invalid one. A model serves one such proxy at
+ * a time, which keeps its verdicts in the items.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension
@@ -52,6 +55,9 @@ public:
     /*! Returns whether every row passes. */
     bool acceptAll() const;
 
+    /*! Returns whether the row itself contains the search text, not only one above or below it. The search
+     * row and categories never do. */
+    bool isMatch(const QModelIndex &index) const;
     /*! Returns the names of the features that match the search text within the level; empty without a text.
      */
     QSet<QString> visibleMatches() const;
@@ -105,6 +111,7 @@ public:
                                  const QString &nodeMapName) override;
     int getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const override;
     int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
+    bool isDeviceAlive() const override;
 
 public slots:
     /*! Sets the search text and filters at once, with a single change of the layout. */
@@ -129,7 +136,9 @@ private slots:
     void onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
     void onLayoutAboutToBeChanged();
-    void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight);
+    void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                             const QList<int> &roles);
+    void onForeignDataChanged(const QModelIndex &topLeft);
     void onPollTimerShot();
     void refilter();
 
@@ -142,6 +151,11 @@ private:
     template <typename Work>
     void rebuild(Work work);
     void completePass() const;
+    FeatureTreeRoleFilter roleFilter() const;
+    FeatureTreeRoleFilter::Matches roleMatches() const;
+    bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
+    bool isMapped(const FeatureTreeItem *parent) const;
+    void queueRefilter();
     bool isSeen(const FeatureTreeItem *item) const;
     bool isJudged(const FeatureTreeItem *item) const;
     bool accepts(FeatureTreeItem *item) const;
@@ -172,6 +186,7 @@ private:
     {
         void clear(qsizetype nameCount);
         void add(int name);
+        void remove(int name);
 
         QList<bool> isCounted; // by the search index's number of the name
         int count = 0;
@@ -189,6 +204,7 @@ private:
     mutable quint64 m_pass = 0;
     mutable quint64 m_markedPass = 0; // the last pass that left marks
     mutable bool m_treeJudged = false;
+    quint64 m_mapping = 0; // what items bear below which the base has asked for rows
 
     QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern

@@ -267,9 +267,12 @@ void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
     if (isRowHidden(row, parent) != isShown) {
         return;
     }
-    const bool isCurrent = currentIndex().row() == row && currentIndex().parent() == parent;
+    QModelIndex branch = currentIndex(); // the row itself, when it is or stands below the current one
+    while (branch.isValid() && (branch.row() != row || branch.parent() != parent)) {
+        branch = branch.parent();
+    }
     setRowHidden(row, parent, !isShown);
-    if (isCurrent) {
+    if (branch.isValid()) {
         emit onCurrentChanged(isShown ? currentIndex() : QModelIndex());
     }
 }

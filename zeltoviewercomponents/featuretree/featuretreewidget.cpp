@@ -268,7 +268,7 @@ void FeatureTreeWidget::clear()
     m_expandedRows.clear();
     m_savedCurrent = QVariant();
     m_savedScroll = QPoint();
-    m_ui->filterEdit->clear(); // and with it the filter and the highlighting
+    setSearchText(QString()); // and with it the filter and the highlighting
     m_actionTogglePolling->setEnabled(false);
     m_busy = true;
     updateActions();
@@ -383,7 +383,14 @@ bool FeatureTreeWidget::showFeature(const QString &fullName)
     return true;
 }
 
-QModelIndex FeatureTreeWidget::shownRow(const QString &fullName, const QModelIndex &parent) const
+QModelIndex FeatureTreeWidget::shownRow(const QString &fullName) const
+{
+    return firstShownRow([&fullName](const QModelIndex &index) {
+        return index.data(FeatureTreeItem::FullNodeNameRole).toString() == fullName;
+    });
+}
+
+QModelIndex FeatureTreeWidget::firstShownRow(const RowTest &isWanted, const QModelIndex &parent) const
 {
     const FeatureTreeView *const view = m_ui->treeView;
     for (int row = 0; row < view->model()->rowCount(parent); ++row) {
@@ -391,12 +398,9 @@ QModelIndex FeatureTreeWidget::shownRow(const QString &fullName, const QModelInd
             continue;
         }
         const QModelIndex index = view->model()->index(row, FeatureTreeColumns::name, parent);
-        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == fullName) {
-            return index;
-        }
-        const QModelIndex below = shownRow(fullName, index);
-        if (below.isValid()) {
-            return below;
+        const QModelIndex found = isWanted(index) ? index : firstShownRow(isWanted, index);
+        if (found.isValid()) {
+            return found;
         }
     }
     return {};
@@ -410,7 +414,7 @@ QString FeatureTreeWidget::searchText() const
 void FeatureTreeWidget::setSearchText(const QString &text)
 {
     m_ui->filterEdit->setText(text);
-    if (m_filterText != text) {
+    if (m_ui->filterEdit->text() == text && m_filterText != text) {
         onFilterTextChanged(text); // the search had not begun in the box
     }
 }
@@ -423,10 +427,14 @@ void FeatureTreeWidget::focusSearch()
 
 QModelIndex FeatureTreeWidget::GetCurrentIndex() const
 {
-    const QModelIndex index = m_ui->treeView->currentIndex();
     // The view keeps a row that was hidden as its current one; for everybody else there is none.
-    return index.isValid() && m_ui->treeView->isRowHidden(index.row(), index.parent()) ? QModelIndex()
-                                                                                       : index;
+    const QModelIndex current = m_ui->treeView->currentIndex();
+    for (QModelIndex row = current; row.isValid(); row = row.parent()) {
+        if (m_ui->treeView->isRowHidden(row.row(), row.parent())) {
+            return {};
+        }
+    }
+    return current;
 }
 
 FeatureTreeItem *FeatureTreeWidget::getDeepestSelectedItem() const
@@ -821,9 +829,27 @@ void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
     }
     escapePressed() = isEscape && !isSecondEscape; // the next one is a first one again
     if (event->key() == Qt::Key_Down && m_ui->filterEdit->hasFocus()) {
-        m_ui->treeView->setFocus(); // from the search to what it found
+        goToFirstMatch();
     }
     TreeWidgetBase::keyPressEvent(event);
+}
+
+// From the search to what it found.
+void FeatureTreeWidget::goToFirstMatch()
+{
+    FeatureTreeView *const view = m_ui->treeView;
+    const QModelIndex match = m_filterText.isEmpty()
+        ? QModelIndex()
+        : firstShownRow([this](const QModelIndex &index) { return proxy()->isMatch(index); });
+    if (match.isValid()) {
+        // Before the focus, which would find itself a row.
+        view->setCurrentIndex(match);
+        view->scrollTo(match);
+    }
+    view->setFocus();
+    if (match.isValid()) {
+        onCurrentChanged(match); // which was kept from the host as long as the search had the focus
+    }
 }
 
 bool FeatureTreeWidget::event(QEvent *event)

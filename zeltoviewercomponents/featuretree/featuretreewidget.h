@@ -18,6 +18,7 @@
 #include <QSharedPointer>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class FeatureTreeItem;
@@ -209,7 +210,10 @@ private:
     void setUpShortcuts();
     void addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot);
     FeatureTreeProxyModel *proxy() const;
-    QModelIndex shownRow(const QString &fullName, const QModelIndex &parent = QModelIndex()) const;
+    using RowTest = std::function<bool(const QModelIndex &)>;
+    QModelIndex firstShownRow(const RowTest &isWanted, const QModelIndex &parent = QModelIndex()) const;
+    QModelIndex shownRow(const QString &fullName) const;
+    void goToFirstMatch();
     void filter(const QString &text);
     void showCounts();
     void setSearchRow(const QString &message, bool isShown);

@@ -124,6 +124,10 @@ public:
     /*! Returns the same for the row at \a index. */
     virtual int getFavoritesIndexFromModelIndex(QModelIndex index) const = 0;
 
+    // Behind the others: the order of virtual functions is part of the interface.
+    /*! Returns whether the device answers, as SetDeviceAlive() was told. */
+    virtual bool isDeviceAlive() const { return true; }
+
 protected:
     // Never owned through this interface.
     ~IFeatureTreeModelExtension() = default;

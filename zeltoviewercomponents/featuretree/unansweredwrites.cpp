@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "unansweredwrites_p.h"
+
+#include <optional>
+
+using namespace ParameterCollection;
+
+namespace {
+
+std::optional<bool> booleanFrom(const QString &text)
+{
+    if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0) {
+        return true;
+    }
+    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+QString valueOf(const IParameter &parameter)
+{
+    const QSharedPointer<const ParameterData> snapshot = parameter.parameterData();
+    return snapshot && snapshot->isReadable ? snapshot->valueString : QString();
+}
+
+} // namespace
+
+bool isValueOf(const ParameterData &snapshot, const QString &text)
+{
+    if (const auto *const boolean = dynamic_cast<const BooleanParameterData *>(&snapshot)) {
+        return booleanFrom(text) == boolean->value;
+    }
+    return snapshot.valueString == text;
+}
+
+UnansweredWrites::UnansweredWrites(IParameter &parameter)
+    : QObject(&parameter)
+{
+    connect(&parameter,
+            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)),
+            this, SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)));
+}
+
+UnansweredWrites *UnansweredWrites::find(const IParameter &parameter)
+{
+    return parameter.findChild<UnansweredWrites *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void UnansweredWrites::write(IParameter &parameter, const QString &text)
+{
+    UnansweredWrites *writes = find(parameter);
+    if (!writes) {
+        writes = new UnansweredWrites(parameter);
+    }
+    const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
+    parameter.setValueFromString(text);
+    writes->m_before = before;
+    writes->m_text = text;
+    ++writes->m_count;
+    writes->m_isCertain = true;
+}
+
+bool UnansweredWrites::isLast(const QString &text, const ParameterData &current) const
+{
+    return m_isCertain && text == m_text && (isValueOf(current, m_text) || isValueOf(current, m_before));
+}
+
+// Answers do not say what they answer: cameras round values, and drop an answer that another one follows.
+void UnansweredWrites::onParameterDataChanged(QSharedPointer<const ParameterData> data)
+{
+    if (!data || !isWaiting()) {
+        return;
+    }
+    m_isCertain = false;
+    if (!data->isReadable || isValueOf(*data, m_text)) {
+        m_count = 0;
+    } else if (!isValueOf(*data, m_before)) {
+        --m_count;
+    }
+    // Else it may have been read before the write: the value stays uncertain.
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/parametercollection/iparameter.h>
+
+#include <QObject>
+#include <QString>
+
+/*! \brief What was written to a parameter whose snapshot does not tell of it yet.
+ *
+ * A camera answers a write later, and until then the snapshot shows what was before: a value that equals it
+ * would wrongly count as written. Belongs to the parameter and is shared by all its rows, whether they take
+ * snapshots at present or not.
+ */
+class UnansweredWrites : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! Returns what is known of \a parameter, null when nothing was written to it. */
+    static UnansweredWrites *find(const ParameterCollection::IParameter &parameter);
+    /*! Writes \a text to \a parameter and remembers that. Throws what the parameter throws. */
+    static void write(ParameterCollection::IParameter &parameter, const QString &text);
+
+    /*! Returns whether a write waits for its answer. */
+    bool isWaiting() const { return m_count > 0; }
+    /*! Returns whether \a text was written last and nothing has come since that tells otherwise; \a current
+     * is the parameter's snapshot. */
+    bool isLast(const QString &text, const ParameterCollection::ParameterData &current) const;
+
+private slots:
+    void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> data);
+
+private:
+    explicit UnansweredWrites(ParameterCollection::IParameter &parameter);
+
+    QString m_text; // written last
+    QString m_before; // the value before the first of the writes that wait
+    int m_count = 0;
+    bool m_isCertain = false;
+};
+
+/*! Returns whether \a text stands for the value of \a snapshot, which has one; booleans have two names for
+ * each of theirs. */
+bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QString &text);
