@@ -25,7 +25,9 @@
 #include <QStaticText>
 #include <QTextOption>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -75,10 +77,18 @@ FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExten
     : QStyledItemDelegate(parent)
     , m_extension(extension)
     , m_highlighter(highlighter)
+    , m_commandTimer(new QTimer(this))
 {
+    m_commandTimer->setSingleShot(true);
+    connect(m_commandTimer, SIGNAL(timeout()), this, SLOT(askForCommands()));
 }
 
 FeatureTreeDelegate::~FeatureTreeDelegate() = default;
+
+void FeatureTreeDelegate::setCommandVeto(CommandVeto veto)
+{
+    m_commandVeto = std::move(veto);
+}
 
 FeatureTreeINodeItem *FeatureTreeDelegate::nodeItemAt(const QModelIndex &index) const
 {
@@ -246,9 +256,58 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
         return;
     }
     const QPersistentModelIndex row(index); // a device that is lost by the write may take its rows away
-    if (!model->setData(index, itemEditor->editorData(), Qt::EditRole) && row.isValid()) {
+    const QVariant value = itemEditor->editorData();
+    if (postpone(editor, model, index, value)) {
+        return;
+    }
+    if (!model->setData(index, value, Qt::EditRole) && row.isValid()) {
         setEditorData(editor, row); // refused: the real value stands
     }
+}
+
+// Returns whether the value is that of a command, about which somebody is asked first: later, because the
+// answer may take a dialog, during which the editor must not be at work.
+bool FeatureTreeDelegate::postpone(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index,
+                                   const QVariant &value) const
+{
+    if (!m_commandVeto || !value.isValid() || !qobject_cast<ToolButtonEditor *>(editor)) {
+        return false;
+    }
+    const QPersistentModelIndex row(index);
+    const auto isSame = [&row](const PendingCommand &command) { return command.index == row; };
+    if (std::none_of(m_pendingCommands.cbegin(), m_pendingCommands.cend(), isSame)) {
+        m_pendingCommands.append({row, model, value});
+        m_commandTimer->start(0);
+    }
+    setEditorData(editor, index); // not pressed: nothing runs yet
+    return true;
+}
+
+void FeatureTreeDelegate::askForCommands()
+{
+    if (m_isAsking) {
+        return; // the loop below comes to it
+    }
+    const QPointer<FeatureTreeDelegate> self(this); // the tree may go while somebody thinks about the answer
+    m_isAsking = true;
+    while (!m_pendingCommands.isEmpty()) {
+        const PendingCommand command = m_pendingCommands.constFirst();
+        const FeatureTreeINodeItem *const item = nodeItemAt(command.index);
+        const CommandVeto veto = m_commandVeto;
+        const bool isVetoed = item && veto && veto(item->node());
+        if (!self) {
+            return;
+        }
+        m_pendingCommands.removeIf(
+            [&command](const PendingCommand &other) { return other.index == command.index; });
+        if (!isVetoed && command.model && command.index.isValid()) {
+            command.model->setData(command.index, command.value, Qt::EditRole);
+        }
+        if (!self) {
+            return;
+        }
+    }
+    m_isAsking = false;
 }
 
 void FeatureTreeDelegate::emitCommitData()

@@ -3,12 +3,17 @@
 
 #pragma once
 
+#include "commandveto.h"
+
 #include <platform/parametercollection/iparametercollection.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QRegion>
 #include <QSharedPointer>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 class FeatureTreeHighlighter;
 class FeatureTreeINodeItem;
@@ -29,6 +34,10 @@ public:
     FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *extension,
                         FeatureTreeHighlighter *highlighter);
     ~FeatureTreeDelegate() override;
+
+    /*! Sets what is asked before a command is executed, from the event loop; an empty function asks nobody,
+     * and commands are executed while their editor commits. */
+    void setCommandVeto(CommandVeto veto);
 
     /*! Returns a size in whose height a line of the view's font can be edited, too. */
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
@@ -62,7 +71,19 @@ protected:
     QWidget *createToolButtonEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     QSharedPointer<ParameterCollection::ICommandParameter> parameter) const;
 
+private slots:
+    void askForCommands();
+
 private:
+    struct PendingCommand
+    {
+        QPersistentModelIndex index;
+        QPointer<QAbstractItemModel> model;
+        QVariant value;
+    };
+
+    bool postpone(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index,
+                  const QVariant &value) const;
     FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
     QWidget *createEditorFor(FeatureTreeINodeItem *item, QWidget *parent, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const;
@@ -74,4 +95,8 @@ private:
 
     IFeatureTreeModelExtension *m_extension;
     FeatureTreeHighlighter *m_highlighter;
+    CommandVeto m_commandVeto;
+    mutable QList<PendingCommand> m_pendingCommands; // until the veto has been asked
+    QTimer *m_commandTimer;
+    bool m_isAsking = false;
 };

@@ -4,6 +4,7 @@
 #include "featuretreewidget.h"
 
 #include "favoritesdata.h"
+#include "featuretreedelegate.h"
 #include "featuretreehighlighter.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreenames.h"
@@ -286,6 +287,13 @@ void FeatureTreeWidget::Refresh()
 {
     const WaitCursor cursor;
     getFeatureExtension()->refresh();
+}
+
+void FeatureTreeWidget::setCommandVeto(CommandVeto veto)
+{
+    if (auto *const delegate = qobject_cast<FeatureTreeDelegate *>(m_ui->treeView->itemDelegate())) {
+        delegate->setCommandVeto(std::move(veto));
+    }
 }
 
 void FeatureTreeWidget::on_resetButton_clicked()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "commandveto.h"
 #include "treewidgetbase.h"
 
 #include <platform/core/baseinfo.h>
@@ -64,6 +65,8 @@ public:
     /*! Tells that the device does not answer any more: nothing is polled or written until collections are
      * added. */
     void deviceIsClosed();
+    /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
+    void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
     void Refresh();
     /*! Filters the rows anew. */
