@@ -5,12 +5,12 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
-#include "wheelguard.h"
 
 #include <platform/core/guard.h>
 
 #include <QApplication>
 #include <QEvent>
+#include <QWheelEvent>
 
 using namespace ParameterCollection;
 using Core::Logging::ELogLevel;
@@ -52,7 +52,6 @@ EnumEditor::EnumEditor(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the box has none and would keep the row's from showing
     setAutoFillBackground(true);
-    new WheelGuard(this, this);
 }
 
 EnumEditor::~EnumEditor()
@@ -135,6 +134,11 @@ void EnumEditor::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange) {
         m_parentFont.update();
     }
+}
+
+void EnumEditor::wheelEvent(QWheelEvent *event)
+{
+    event->ignore(); // an entry is chosen, not scrolled to: the view gets the wheel
 }
 
 bool EnumEditor::eventFilter(QObject *watched, QEvent *event)

@@ -20,6 +20,7 @@
 #include <platform/core/guard.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPersistentModelIndex>
 #include <QStaticText>
@@ -241,8 +242,9 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
         itemEditor->setEditorData(data);
         return;
     }
-    // A refresh does not overwrite what is being typed.
-    if (!editor->hasFocus()) {
+    // A refresh does not overwrite what is being typed, also while another window is the active one.
+    const auto *const lineEdit = qobject_cast<QLineEdit *>(editor);
+    if (!editor->hasFocus() && !(lineEdit && EditorHelpers::isBeingTyped(*lineEdit, *lineEdit))) {
         QStyledItemDelegate::setEditorData(editor, index);
     }
 }
@@ -321,7 +323,8 @@ bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
     // Permanent editors commit by their signals and keep the focus chain's order; only the transient ones are
     // committed and closed by keys and by losing the focus.
     const bool isPermanent = dynamic_cast<AbstractItemEditor *>(object) && !qobject_cast<IntEditor *>(object);
-    return !isPermanent && QStyledItemDelegate::eventFilter(object, event);
+    return !isPermanent && !EditorHelpers::isFocusLent(*event)
+        && QStyledItemDelegate::eventFilter(object, event);
 }
 
 QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
