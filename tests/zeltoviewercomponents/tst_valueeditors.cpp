@@ -462,12 +462,12 @@ void TestValueEditors::wheelNeedsFocus()
     wheel(combo);
     wheel(slider->findChild<QSlider *>());
     wheel(slider->findChild<ZeltoQtSpinBox *>());
-    QVERIFY(mode->writes.isEmpty() && number->writes.isEmpty());
+    QVERIFY(number->writes.isEmpty());
     combo->setFocus();
     wheel(combo);
     slider->setFocus();
     wheel(slider->findChild<ZeltoQtSpinBox *>());
-    QCOMPARE(mode->writes, QStringList("B"));
+    QCOMPARE(mode->writes, QStringList()); // an entry is never scrolled to
     QCOMPARE(number->writes, QStringList("49"));
 }
 
