@@ -5,6 +5,7 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
+#include "parentpalette.h"
 
 #include <platform/core/guard.h>
 
@@ -45,8 +46,10 @@ EnumEditor::EnumEditor(QWidget *parent)
     setEditable(false);
     {
         const StyleChangeFilter filter(this);
-        setStyleSheet(QStringLiteral(
-            "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+        new ParentPalette(
+            this,
+            QStringLiteral(
+                "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
         m_parentFont.update();
     }
     setFocusPolicy(Qt::StrongFocus);

@@ -57,6 +57,22 @@ int alignmentIn(const QStyleOptionViewItem &option)
     return static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute);
 }
 
+QColor nameColor(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QVariant foreground = index.data(Qt::ForegroundRole);
+    if (foreground.canConvert<QBrush>() && foreground.isValid()) {
+        return foreground.value<QBrush>().color();
+    }
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    return option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+}
+
+QRect lineIn(const QRect &textRect, const QPainter &painter)
+{
+    const int dy = static_cast<int>(textRect.height() / 2.0 - painter.fontMetrics().height() / 2.0);
+    return textRect.adjusted(0, dy, 0, 0);
+}
+
 void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
 {
     QStaticText text(html);
@@ -354,41 +370,80 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     QStyleOptionViewItem opt = option;
     initStyleOption(&opt, index);
     const QStyle *const style = opt.widget ? opt.widget->style() : QApplication::style();
+    if (style->inherits("QStyleSheetStyle")) {
+        paintStyledName(painter, opt, index, *style);
+        return;
+    }
     const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt);
     const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
     QString text = index.data(Qt::DisplayRole).toString();
     QRegion marked;
     if (!isSpecial) {
-        // The width gives way by a pixel or two for each character of the search text.
-        const int width = textRect.width() - 2 * m_highlighter->length();
-        text = painter->fontMetrics().elidedText(text, Qt::ElideRight, width, 0);
+        text = elidedName(*painter, text, textRect);
         marked = paintMatches(painter, opt, textRect, text);
     }
 
     // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
     // seen.
-    const QPalette visible = opt.palette;
+    const QColor color = nameColor(opt, index);
     for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
         opt.palette.setColor(QPalette::All, role, Qt::transparent);
     }
     style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, qobject_cast<QWidget *>(parent()));
 
-    const QVariant foreground = index.data(Qt::ForegroundRole);
-    const QColor color = foreground.canConvert<QBrush>() && foreground.isValid()
-        ? foreground.value<QBrush>().color()
-        : visible.color(opt.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
-                        QPalette::Text);
-    const int dy = static_cast<int>(textRect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
-    const QRect target = textRect.adjusted(0, dy, 0, 0);
+    const QRect target = lineIn(textRect, *painter);
     painter->save();
     painter->setPen(color);
     if (isSpecial && Qt::mightBeRichText(text)) {
         paintRichText(painter, target, alignmentIn(opt), text);
     } else {
         painter->drawText(target, alignmentIn(opt), text);
-        paintOnMarks(painter, target, alignmentIn(opt), text, marked);
+        const int mark = qGray(m_highlighter->color().rgb());
+        if (std::abs(mark - qGray(color.rgb())) < legibleDifference) {
+            // The light letters of a dark palette cannot be read on a light mark.
+            paintOnMarks(painter, target, alignmentIn(opt), text, marked);
+        }
     }
     painter->restore();
+}
+
+// A style sheet may give the text a colour and the item a background, of which nobody else knows: the style
+// draws the text alone, and the marks come on top.
+void FeatureTreeDelegate::paintStyledName(QPainter *painter, QStyleOptionViewItem option,
+                                          const QModelIndex &index, const QStyle &style) const
+{
+    const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    const QRect textRect = style.subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget)
+                               .adjusted(margin, 0, -margin, 0); // where the style's text begins
+    const QColor color = nameColor(option, index);
+    const QString markup = isSpecial && Qt::mightBeRichText(option.text) ? option.text : QString();
+    option.text = !markup.isEmpty() ? QString()
+        : isSpecial                 ? option.text
+                                    : elidedName(*painter, option.text, textRect);
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
+        option.palette.setColor(QPalette::All, role, color);
+    }
+    style.drawControl(QStyle::CE_ItemViewItem, &option, painter, qobject_cast<QWidget *>(parent()));
+
+    const QRect target = lineIn(textRect, *painter);
+    painter->save();
+    painter->setPen(color);
+    if (!markup.isEmpty()) {
+        paintRichText(painter, target, alignmentIn(option), markup);
+    } else if (!isSpecial) {
+        const QRegion marked = paintMatches(painter, option, textRect, option.text);
+        paintOnMarks(painter, target, alignmentIn(option), option.text, marked);
+    }
+    painter->restore();
+}
+
+// The width gives way by a pixel or two for each character of the search text.
+QString FeatureTreeDelegate::elidedName(const QPainter &painter, const QString &name,
+                                        const QRect &textRect) const
+{
+    const int width = textRect.width() - 2 * m_highlighter->length();
+    return painter.fontMetrics().elidedText(name, Qt::ElideRight, width, 0);
 }
 
 // Marks the matches in the text. Returns where they are.
@@ -415,16 +470,15 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
     return marked;
 }
 
-// The light letters of a dark palette cannot be read on a light mark: there, they are drawn again.
+// Draws marks and letters again, in a colour that can be read there.
 void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, int alignment,
                                        const QString &text, const QRegion &marked) const
 {
-    const int mark = qGray(m_highlighter->color().rgb());
-    if (marked.isEmpty() || std::abs(mark - qGray(painter->pen().color().rgb())) >= legibleDifference) {
+    if (marked.isEmpty()) {
         return;
     }
     painter->setClipRegion(marked, Qt::IntersectClip);
     painter->fillRect(target, m_highlighter->color());
-    painter->setPen(mark > 127 ? Qt::black : Qt::white);
+    painter->setPen(qGray(m_highlighter->color().rgb()) > 127 ? Qt::black : Qt::white);
     painter->drawText(target, alignment, text);
 }

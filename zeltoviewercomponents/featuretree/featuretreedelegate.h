@@ -92,6 +92,9 @@ private:
     void paintOnMarks(QPainter *painter, const QRect &target, int alignment, const QString &text,
                       const QRegion &marked) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintStyledName(QPainter *painter, QStyleOptionViewItem option, const QModelIndex &index,
+                         const QStyle &style) const;
+    QString elidedName(const QPainter &painter, const QString &name, const QRect &textRect) const;
 
     IFeatureTreeModelExtension *m_extension;
     FeatureTreeHighlighter *m_highlighter;
