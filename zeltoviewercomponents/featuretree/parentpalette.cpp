@@ -35,20 +35,24 @@ bool ParentPalette::eventFilter(QObject *watched, QEvent *event)
 void ParentPalette::take()
 {
     const QWidget *const parent = m_widget->parentWidget();
-    if (!parent || parent->palette() == m_palette || parent->style()->inherits("QStyleSheetStyle")) {
+    if (!parent || parent->palette() == m_palette) {
         return;
     }
     m_palette = parent->palette();
-    QPalette palette = m_palette;
-    palette.setResolveMask(~QPalette::ResolveMask(0)); // none of it is the application's
     if (!m_widget->styleSheet().isEmpty()) {
         // With its sheet, a widget gets back the palette that it had when it got the sheet.
         m_widget->setStyleSheet(QString());
     }
-    m_widget->setPalette(palette);
-    const QColor background = palette.color(QPalette::Base);
+    const bool isStyled = parent->style()->inherits("QStyleSheetStyle");
+    const QColor background = m_palette.color(QPalette::Base);
     const bool isOfApplication = background == QApplication::palette().color(QPalette::Base);
-    m_widget->setStyleSheet(isOfApplication || m_backgroundRule.isEmpty()
+    QPalette palette;
+    if (!isStyled) {
+        palette = m_palette;
+        palette.setResolveMask(~QPalette::ResolveMask(0)); // none of it is the application's
+    }
+    m_widget->setPalette(palette);
+    m_widget->setStyleSheet(isStyled || isOfApplication || m_backgroundRule.isEmpty()
                                 ? m_sheet
                                 : m_sheet + m_backgroundRule.arg(background.name()));
 }
