@@ -47,6 +47,8 @@ private slots:
     void followsAvailability();
     void locksBelowTheFocus_data();
     void locksBelowTheFocus();
+    void removesBelowTheFocus();
+    void searchesNamesOfSeveralLetters();
     void escapesToTheRow_data() { editors(); }
     void escapesToTheRow();
     void lendsTheFocus_data() { editors(); }
@@ -225,6 +227,48 @@ void TestFeatureTreeEditing::locksBelowTheFocus()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
         QVERIFY2(tree.box()->hasFocus(), qPrintable(how));
     }
+}
+
+void TestFeatureTreeEditing::removesBelowTheFocus()
+{
+    for (const QString &name :
+         {QStringLiteral("OffsetX"), QStringLiteral("Gain"), QStringLiteral("ReverseX")}) {
+        EditedTree tree;
+        for (const QString &favorite : {name, QStringLiteral("DeviceUserID")}) {
+            tree.extension()->AddFavorite(tree.camera->parameter(favorite), tree.favorites().count());
+        }
+        tree.settle();
+        tree.view()->setCurrentIndex(tree.favorite(name));
+        tree.view()->setFocus();
+        QTest::keyClick(tree.view(), name == QLatin1String("ReverseX") ? Qt::Key_Tab : Qt::Key_F2);
+        if (auto *const line = qobject_cast<QLineEdit *>(QApplication::focusWidget())) {
+            QTest::keyClicks(line, QStringLiteral("1"));
+        }
+        tree.favorites().removeEntry(0);
+        tree.settle();
+        QVERIFY(tree.view()->hasFocus() && !tree.isTransientOpen());
+        QVERIFY(!tree.favorite(name).isValid());
+        QCOMPARE(tree.writes(), QStringList());
+        while (tree.favorites().count() > 0) {
+            tree.favorites().removeEntry(0);
+        }
+    }
+}
+
+void TestFeatureTreeEditing::searchesNamesOfSeveralLetters()
+{
+    EditedTree tree;
+    tree.view()->setCurrentIndex(tree.row(QStringLiteral("ImageFormatControl")));
+    tree.view()->setFocus();
+    QTest::keyClicks(tree.view(), QStringLiteral("deviceu")); // by way of a category
+    QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), tree.row(QStringLiteral("DeviceUserID")));
+    // A blank is a letter as well, and presses no button of the row that is found so far.
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    tree.view()->setCurrentIndex(tree.row(QStringLiteral("ImageFormatControl")));
+    QTest::keyClicks(tree.view(), QStringLiteral("trig "));
+    QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), tree.row(QStringLiteral("TriggerSoftware")));
+    QVERIFY(tree.view()->hasFocus() && !tree.isTransientOpen());
+    QCOMPARE(tree.writes(), QStringList());
 }
 
 void TestFeatureTreeEditing::escapesToTheRow()
