@@ -6,17 +6,21 @@
 #include <support/table.h>
 #include <zeltoviewercomponents/featuretree/featuretreedelegate.h>
 #include <zeltoviewercomponents/featuretree/featuretreehighlighter.h>
+#include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
+#include <QDialog>
 #include <QImage>
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPair>
+#include <QSet>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -94,6 +98,9 @@ private slots:
     void elidesEarlier();
     void paintsOneText_data();
     void paintsOneText();
+    void leavesTheTextToAStyleSheet_data();
+    void leavesTheTextToAStyleSheet();
+    void asksBeforeCommands();
     void paintsSelectionAndCurrentRow();
     void rendersRichTextOnce();
 };
@@ -344,6 +351,97 @@ void TestFeatureTreeDelegate::paintsOneText()
         }
     }
     QVERIFY2(darkest < 60, qPrintable(QString::number(darkest)));
+}
+
+void TestFeatureTreeDelegate::leavesTheTextToAStyleSheet_data()
+{
+    columns<QString, QString>({"sheet", "search"});
+    row("colour", "QTreeView::item { color: #ff0000 }", "");
+    row("hover", "QTreeView::item:hover { color: #ff0000 }", "");
+    row("padding", "QTreeView::item { color: #ff0000; padding-left: 7px }", "");
+    row("search", "QTreeView::item { color: #ff0000; background: #ffeeee }", "idt");
+}
+
+void TestFeatureTreeDelegate::leavesTheTextToAStyleSheet()
+{
+    QFETCH(QString, sheet);
+    QFETCH(QString, search);
+    TreeBench bench;
+    QPalette palette = bench.widget.palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    bench.widget.setPalette(palette);
+    bench.widget.setStyleSheet(sheet);
+    bench.view()->setColumnWidth(0, 250);
+    bench.view()->getHightlighter()->setText(search);
+    bench.settle();
+    const QRect cell = bench.view()->visualRect(bench.row("Width"));
+    QHoverEvent hover(QEvent::HoverMove, cell.center(), bench.view()->mapToGlobal(cell.center()), QPointF());
+    QCoreApplication::sendEvent(bench.view()->viewport(), &hover);
+    const QImage image = bench.view()->viewport()->grab(cell).toImage();
+    // All that is painted lies between the base and the colour, and a mark stands where the letters are.
+    QSet<int> marked;
+    int darkest = 255;
+    const QColor mark = bench.view()->getHightlighter()->color();
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel == mark) {
+                marked.insert(x);
+            } else if (search.isEmpty()) {
+                QVERIFY2(pixel.red() == 255 && pixel.green() == pixel.blue(), qPrintable(pixel.name()));
+            }
+            darkest = std::min(darkest, pixel.green());
+        }
+    }
+    QVERIFY2(darkest < 120, qPrintable(QString::number(darkest)));
+    const int expected = search.isEmpty() ? 0 : bench.view()->fontMetrics().horizontalAdvance(search);
+    QVERIFY2(std::abs(marked.size() - expected) <= 1, qPrintable(QString::number(marked.size())));
+}
+
+void TestFeatureTreeDelegate::asksBeforeCommands()
+{
+    TreeBench bench;
+    const auto command = bench.parameter<MemoryCommand>("TriggerSoftware");
+    auto *const button = bench.editor<ToolButtonEditor>("TriggerSoftware");
+    QStringList asked;
+    bool isVetoed = true;
+    bench.widget.setCommandVeto([&](const QSharedPointer<ParameterCollection::IParameter> &parameter) {
+        asked.append(parameter->name());
+        QDialog dialog; // as one that asks the user
+        QTimer::singleShot(20, &dialog, SLOT(accept()));
+        dialog.exec();
+        return isVetoed;
+    });
+    const QList<std::function<void()>> ways = {
+        [&] { QTest::mouseClick(button, Qt::LeftButton); },
+        [&] { QTest::keyClick(bench.view(), Qt::Key_Return); },
+        [&] { QTest::keyClick(bench.view(), Qt::Key_Space); },
+    };
+    for (const auto &press : ways) {
+        for (const bool veto : {true, false}) {
+            isVetoed = veto;
+            asked.clear();
+            command->executions = 0;
+            bench.view()->setCurrentIndex(bench.row("TriggerSoftware"));
+            bench.view()->setFocus();
+            press();
+            press(); // no second question
+            QVERIFY(asked.isEmpty() && command->executions == 0 && !button->isChecked());
+            QTRY_COMPARE(asked, QStringList("TriggerSoftware"));
+            QTRY_COMPARE(command->executions, veto ? 0 : 1);
+            bench.settle();
+        }
+    }
+    // The tree may be cleared while the question stands.
+    bench.widget.setCommandVeto([&](const auto &) {
+        bench.widget.clear();
+        return false;
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_COMPARE(bench.view()->model()->rowCount(), 0);
+    bench.settle();
+    QCOMPARE(command->executions, 1);
 }
 
 void TestFeatureTreeDelegate::paintsSelectionAndCurrentRow()

@@ -9,7 +9,10 @@
 #include <zeltoviewercomponents/featuretree/intslidereditor.h>
 #include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
+#include <QAbstractSpinBox>
+#include <QClipboard>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
 #include <QSlider>
@@ -17,6 +20,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <functional>
 #include <stdexcept>
 
 class TestFeatureTreeEditing : public FeatureTreeTest
@@ -41,7 +45,332 @@ private slots:
     void closesDeviceWhileEditing();
     void refreshesBelowAnOpenPopup();
     void followsAvailability();
+    void locksBelowTheFocus_data();
+    void locksBelowTheFocus();
+    void removesBelowTheFocus();
+    void searchesNamesOfSeveralLetters();
+    void escapesToTheRow_data() { editors(); }
+    void escapesToTheRow();
+    void lendsTheFocus_data() { editors(); }
+    void lendsTheFocus();
+    void copiesTheValue_data() { editors(); }
+    void copiesTheValue();
+
+private:
+    static void editors();
 };
+
+namespace {
+
+/*! \brief A tree with an editor of each class, and the keyboard focus in one of them. */
+class EditedTree : public TreeBench
+{
+public:
+    explicit EditedTree()
+        : TreeBench(withAlias(MemoryCollection::createSample()))
+    {
+    }
+
+    /*! Gives the focus to the editor of \a name, or to a \a part of it: its slider or its list. */
+    void enter(const QString &name, const QString &part)
+    {
+        view()->setCurrentIndex(row(name));
+        view()->setFocus();
+        if (part == QLatin1String("transient")) {
+            QTest::keyClick(view(), Qt::Key_F2);
+        } else if (part == QLatin1String("slider")) {
+            view()->indexWidget(value(name))->findChild<QSlider *>()->setFocus();
+        } else if (part != QLatin1String("button")) {
+            view()->indexWidget(value(name))->setFocus();
+        }
+        if (part == QLatin1String("popup")) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+            settle();
+        }
+        QVERIFY(part == QLatin1String("button") || QApplication::focusWidget() != view());
+    }
+
+    QLineEdit *line(const QString &name)
+    {
+        QWidget *const editor = view()->indexWidget(value(name));
+        auto *const line = qobject_cast<QLineEdit *>(editor);
+        return line || !editor ? line : editor->findChild<QLineEdit *>();
+    }
+
+    /*! Types the beginning of a value. Returns whether the editor takes text. */
+    bool typeHalf(const QString &name)
+    {
+        if (!line(name) || !line(name)->hasFocus()) {
+            auto *const spinBox = qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget());
+            if (!spinBox || !line(name)) {
+                return false;
+            }
+        }
+        line(name)->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1"));
+        return true;
+    }
+
+    /*! Publishes a copy of the snapshot that \a change has changed. */
+    void change(const QString &name, const std::function<void(ParameterCollection::ParameterData &)> &change)
+    {
+        static_cast<void>(tryChange<MemoryInteger>(name, change) || tryChange<MemoryFloat>(name, change)
+                          || tryChange<MemoryEnum>(name, change) || tryChange<MemoryBoolean>(name, change)
+                          || tryChange<MemoryCommand>(name, change) || tryChange<MemoryPlain>(name, change));
+        settle();
+    }
+
+    QStringList writes()
+    {
+        QStringList all;
+        for (const char *name : {"Width", "OffsetX", "PixelFormat", "ReverseX", "ExposureTime", "Gain",
+                                 "Alias", "DeviceUserID"}) {
+            all += node(QString::fromLatin1(name))->writes;
+        }
+        const int executions = node(QStringLiteral("TriggerSoftware"))->executions;
+        return executions == 0 ? all : all + QStringList(QStringLiteral("executed"));
+    }
+
+    bool isTransientOpen()
+    {
+        return view()->viewport()->findChild<QLineEdit *>({}, Qt::FindDirectChildrenOnly);
+    }
+
+private:
+    template <typename Parameter>
+    bool tryChange(const QString &name,
+                   const std::function<void(ParameterCollection::ParameterData &)> &change)
+    {
+        const auto found = parameter<Parameter>(name);
+        if (found) {
+            found->update(change);
+        }
+        return !found.isNull();
+    }
+
+    static QSharedPointer<MemoryCollection> withAlias(const QSharedPointer<MemoryCollection> &camera)
+    {
+        camera->addInteger(QStringLiteral("Alias"), QString(), 5000, 10, 1000000, 1);
+        camera->setAlias(QStringLiteral("ExposureTime"), QStringLiteral("Alias"));
+        return camera;
+    }
+};
+
+} // namespace
+
+void TestFeatureTreeEditing::editors()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("check box") << "ReverseX"
+                               << "";
+    QTest::newRow("list") << "PixelFormat"
+                          << "";
+    QTest::newRow("open list") << "PixelFormat"
+                               << "popup";
+    QTest::newRow("spin box") << "Gain"
+                              << "";
+    QTest::newRow("box of a slider integer") << "Width"
+                                             << "";
+    QTest::newRow("slider of an integer") << "Width"
+                                          << "slider";
+    QTest::newRow("box of a slider float") << "ExposureTime"
+                                           << "";
+    QTest::newRow("slider of a float") << "ExposureTime"
+                                       << "slider";
+    QTest::newRow("plain integer") << "OffsetX"
+                                   << "transient";
+    QTest::newRow("text") << "DeviceUserID"
+                          << "transient";
+    QTest::newRow("command") << "TriggerSoftware"
+                             << "button";
+}
+
+void TestFeatureTreeEditing::locksBelowTheFocus_data()
+{
+    editors();
+}
+
+void TestFeatureTreeEditing::locksBelowTheFocus()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    for (const QString &how :
+         {QStringLiteral("locked"), QStringLiteral("unavailable"), QStringLiteral("hidden"),
+          QStringLiteral("above the level"), QStringLiteral("filtered out")}) {
+        EditedTree tree;
+        tree.enter(name, part);
+        tree.typeHalf(name);
+        if (how == QLatin1String("filtered out")) {
+            tree.widget.onFilterTextChanged(QStringLiteral("no such feature"));
+            tree.settle();
+        } else {
+            tree.change(name, [&how](ParameterCollection::ParameterData &data) {
+                data.isWritable = false;
+                data.isReadable = how != QLatin1String("unavailable");
+                data.isImplemented = how != QLatin1String("hidden");
+                data.visibility =
+                    how == QLatin1String("above the level") ? GenApi::Invisible : GenApi::Beginner;
+            });
+        }
+        const bool isGone = !how.startsWith(QLatin1String("locked")) && how != QLatin1String("unavailable");
+        QVERIFY2(!QApplication::activePopupWidget(), qPrintable(how));
+        QVERIFY2(tree.view()->hasFocus(), qPrintable(how));
+        QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), isGone ? QModelIndex() : tree.row(name));
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_F2, Qt::Key_7}) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+        }
+        QTest::qWait(how == QLatin1String("locked") ? 550
+                                                    : 0); // what was left is shown again, and not written
+        QVERIFY2(tree.view()->hasFocus() && !tree.isTransientOpen(), qPrintable(how));
+        QCOMPARE(tree.writes(), QStringList());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY2(tree.box()->hasFocus(), qPrintable(how));
+    }
+}
+
+void TestFeatureTreeEditing::removesBelowTheFocus()
+{
+    for (const QString &name :
+         {QStringLiteral("OffsetX"), QStringLiteral("Gain"), QStringLiteral("ReverseX")}) {
+        EditedTree tree;
+        for (const QString &favorite : {name, QStringLiteral("DeviceUserID")}) {
+            tree.extension()->AddFavorite(tree.camera->parameter(favorite), tree.favorites().count());
+        }
+        tree.settle();
+        tree.view()->setCurrentIndex(tree.favorite(name));
+        tree.view()->setFocus();
+        QTest::keyClick(tree.view(), name == QLatin1String("ReverseX") ? Qt::Key_Tab : Qt::Key_F2);
+        if (auto *const line = qobject_cast<QLineEdit *>(QApplication::focusWidget())) {
+            QTest::keyClicks(line, QStringLiteral("1"));
+        }
+        tree.favorites().removeEntry(0);
+        tree.settle();
+        QVERIFY(tree.view()->hasFocus() && !tree.isTransientOpen());
+        QVERIFY(!tree.favorite(name).isValid());
+        QCOMPARE(tree.writes(), QStringList());
+        while (tree.favorites().count() > 0) {
+            tree.favorites().removeEntry(0);
+        }
+    }
+}
+
+void TestFeatureTreeEditing::searchesNamesOfSeveralLetters()
+{
+    EditedTree tree;
+    tree.view()->setCurrentIndex(tree.row(QStringLiteral("ImageFormatControl")));
+    tree.view()->setFocus();
+    QTest::keyClicks(tree.view(), QStringLiteral("deviceu")); // by way of a category
+    QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), tree.row(QStringLiteral("DeviceUserID")));
+    // A blank is a letter as well, and presses no button of the row that is found so far.
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    tree.view()->setCurrentIndex(tree.row(QStringLiteral("ImageFormatControl")));
+    QTest::keyClicks(tree.view(), QStringLiteral("trig "));
+    QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), tree.row(QStringLiteral("TriggerSoftware")));
+    QVERIFY(tree.view()->hasFocus() && !tree.isTransientOpen());
+    QCOMPARE(tree.writes(), QStringList());
+}
+
+void TestFeatureTreeEditing::escapesToTheRow()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    EditedTree tree;
+    tree.widget.onFilterTextChanged(name);
+    tree.box()->setText(name);
+    tree.enter(name, part);
+    const QString shown = tree.line(name) ? tree.line(name)->text() : QString();
+    if (part == QLatin1String("popup")) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!QApplication::activePopupWidget());
+        tree.settle();
+        QCOMPARE(QApplication::focusWidget(), tree.view()->indexWidget(tree.value(name))); // and no further
+    }
+    tree.typeHalf(name);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    tree.settle();
+    QVERIFY(tree.view()->hasFocus() && !tree.isTransientOpen());
+    QCOMPARE(tree.view()->currentIndex().siblingAtColumn(0), tree.row(name));
+    QCOMPARE(tree.line(name) ? tree.line(name)->text() : shown, shown);
+    if (part != QLatin1String("button")) {
+        QTest::keyClick(tree.view(), Qt::Key_Escape);
+        QCOMPARE(tree.box()->text(), name); // that was the first of two
+    }
+    QTest::keyClick(tree.view(), Qt::Key_Escape);
+    QCOMPARE(tree.box()->text(), QString());
+    tree.settle();
+    QTest::keyClick(tree.view(), Qt::Key_Up);
+    QVERIFY(tree.view()->hasFocus() && tree.view()->currentIndex().siblingAtColumn(0) != tree.row(name));
+    QTest::qWait(550);
+    QCOMPARE(tree.writes(), QStringList());
+}
+
+void TestFeatureTreeEditing::lendsTheFocus()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    EditedTree tree;
+    tree.enter(name, part);
+    if (part != QLatin1String("transient")) {
+        return;
+    }
+    tree.typeHalf(name);
+    QPointer<QWidget> input(QApplication::focusWidget());
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(tree.widget.mapToGlobal(QPoint()));
+    QTest::qWait(550);
+    tree.publish(name);
+    tree.settle();
+    QVERIFY(input && tree.line(name) && tree.line(name)->text() == QLatin1String("1"));
+    menu.close();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QTest::qWait(550);
+    tree.publish(name);
+    tree.settle();
+    QVERIFY(input && tree.line(name) && tree.line(name)->text() == QLatin1String("1"));
+    QCOMPARE(tree.writes(), QStringList());
+    QApplication::setActiveWindow(&tree.widget);
+    QTRY_COMPARE(QApplication::focusWidget(), input.data());
+    QTest::keyClicks(input, QStringLiteral("6"));
+    QTest::keyClick(input, Qt::Key_Return);
+    tree.settle();
+    QCOMPARE(tree.writes().size(), 1);
+    QVERIFY(tree.writes().constFirst().startsWith(QLatin1String("16")));
+}
+
+void TestFeatureTreeEditing::copiesTheValue()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    if (part == QLatin1String("popup") || part == QLatin1String("button")) {
+        return; // a list is at work, a command has no value
+    }
+    EditedTree tree;
+    const QString value = tree.node(name)->snapshot->valueString;
+    const auto copied = [] {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+        const QString text = QApplication::clipboard()->text();
+        QApplication::clipboard()->setText(QStringLiteral("old"));
+        return text;
+    };
+    for (const QModelIndex &index : {tree.row(name), tree.value(name)}) {
+        tree.view()->setCurrentIndex(index);
+        tree.view()->setFocus();
+        QCOMPARE(copied(), value);
+    }
+    tree.enter(name, part);
+    if (QLineEdit *const line = tree.line(name); line && part != QLatin1String("slider")) {
+        line->setSelection(0, 1);
+        QCOMPARE(copied(), line->text().left(1));
+        line->deselect();
+    }
+    QCOMPARE(copied(), value);
+    QCOMPARE(tree.writes(), QStringList());
+}
 
 void TestFeatureTreeEditing::editorsWriteWhatIsClicked()
 {
@@ -79,7 +408,7 @@ void TestFeatureTreeEditing::transientEditorsComeAndGo()
     TreeBench bench;
     auto *const node = bench.node(name);
     bench.click(bench.value(name));
-    auto *edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
+    auto *const edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
     QVERIFY(edit && edit == QApplication::focusWidget());
     edit->selectAll();
     QTest::keyClicks(edit, typed);
@@ -92,20 +421,6 @@ void TestFeatureTreeEditing::transientEditorsComeAndGo()
     QVERIFY(!bench.view()->indexWidget(bench.value(name)));
     QCOMPARE(bench.value(name).data().toString(), typed);
     QCOMPARE(QApplication::focusWidget(), bench.view());
-
-    QTest::keyClick(bench.view(), Qt::Key_F2);
-    edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
-    QVERIFY(edit);
-    QTest::keyClicks(edit, QStringLiteral("7"));
-    QTest::keyClick(edit, Qt::Key_Escape);
-    bench.settle();
-    // The first Escape undoes, the second leaves.
-    if (QWidget *const stillOpen = bench.view()->indexWidget(bench.value(name))) {
-        QTest::keyClick(stillOpen, Qt::Key_Escape);
-        bench.settle();
-    }
-    QVERIFY(!bench.view()->indexWidget(bench.value(name)));
-    QCOMPARE(node->writes, QStringList(typed));
 }
 
 void TestFeatureTreeEditing::refusedWriteShowsTheTruth()
@@ -462,15 +777,6 @@ void TestFeatureTreeEditing::followsAvailability()
     QCOMPARE(bench.value(QStringLiteral("Gain")).data().toString(), QStringLiteral("<not available>"));
     set(true);
     QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
-
-    // What is locked while its text is edited loses the editor.
-    bench.click(bench.value(QStringLiteral("OffsetX")));
-    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
-    const auto offset = bench.parameter<MemoryInteger>(QStringLiteral("OffsetX"));
-    offset->edit<ParameterCollection::IntegerParameterData>([](auto &data) { data.isWritable = false; });
-    offset->publish();
-    bench.settle();
-    QVERIFY(!bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
 }
 
 QTEST_MAIN(TestFeatureTreeEditing)

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -165,6 +166,25 @@ private:
 
 } // namespace
 
+namespace {
+
+bool hasColor(const QImage &image, const QColor &color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y); // letters are smoothed
+            if (std::abs(pixel.red() - color.red()) + std::abs(pixel.green() - color.green())
+                    + std::abs(pixel.blue() - color.blue())
+                < 150) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 class TestFeatureTreeWidget : public FeatureTreeTest
 {
     Q_OBJECT
@@ -184,6 +204,7 @@ private slots:
     void keepsEditorsWithinTheBudget();
     void budgetCountsOpenEditorsOnly();
     void expandsChildrenOnly();
+    void followsThePalette_data();
     void followsThePalette();
     void standsRandomUse();
 };
@@ -516,23 +537,77 @@ void TestFeatureTreeWidget::expandsChildrenOnly()
     QVERIFY(!bench.editor<CheckBoxEditor>(QStringLiteral("OuterFlag"))->isVisible());
 }
 
+void TestFeatureTreeWidget::followsThePalette_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("sheet"); // instead of a palette
+    QTest::newRow("of the application") << "application"
+                                        << "";
+    QTest::newRow("of the widget") << "widget"
+                                   << "";
+    QTest::newRow("of the window") << "window"
+                                   << "";
+    const QString sheet =
+        QStringLiteral("QComboBox, QLineEdit, QTreeView { background: #323c46; color: #f040f0 }");
+    QTest::newRow("sheet of the application") << "application" << sheet;
+    QTest::newRow("sheet of the widget") << "widget" << sheet;
+    QTest::newRow("sheet of the window") << "window" << sheet;
+}
+
 void TestFeatureTreeWidget::followsThePalette()
 {
+    QFETCH(QString, target);
+    QFETCH(QString, sheet);
+    QWidget window;
     TreeBench bench;
+    window.resize(600, 800);
+    bench.widget.setParent(&window);
+    window.show();
+    bench.widget.show();
     bench.node(QStringLiteral("ReverseX"))->snapshot->isWritable = false;
     bench.publish(QStringLiteral("ReverseX"));
+    bench.settle();
+    QWidget &receiver = target == QLatin1String("widget") ? bench.widget : window;
+    const QColor text(QStringLiteral("#f040f0"));
+    const QColor base(QStringLiteral("#323c46"));
+    QPalette dark(base);
+    for (const auto role : {QPalette::Base, QPalette::Button}) {
+        dark.setColor(role, base);
+    }
+    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        dark.setColor(role, text);
+    }
     const QPalette light = QApplication::palette();
-    QPalette dark(QColor(50, 50, 50));
-    dark.setColor(QPalette::Disabled, QPalette::Base, QColor(90, 90, 90));
-    QApplication::setPalette(dark);
-    TreeBench::settle();
-    const QColor base = dark.color(QPalette::Active, QPalette::Base);
-    QCOMPARE(bench.box()->grab().toImage().pixelColor(bench.box()->rect().center()), base);
+    const auto restore = qScopeGuard([&] {
+        QApplication::setPalette(light);
+        qApp->setStyleSheet(QString());
+        bench.widget.setParent(nullptr);
+    });
+    // Twice: a widget with a sheet of its own follows the first time, at least.
+    for (const bool isDark : {true, false, true}) {
+        if (target == QLatin1String("application")) {
+            sheet.isEmpty() ? QApplication::setPalette(isDark ? dark : light)
+                            : qApp->setStyleSheet(isDark ? sheet : QString());
+        } else {
+            sheet.isEmpty() ? receiver.setPalette(isDark ? dark : light)
+                            : receiver.setStyleSheet(isDark ? sheet : QString());
+        }
+        bench.settle();
+        bench.box()->setText(isDark ? QStringLiteral("e") : QString());
+        const QColor expected = isDark ? base : light.color(QPalette::Base);
+        const QImage box = bench.box()->grab().toImage();
+        QCOMPARE(box.pixelColor(box.rect().center()), expected);
+        QCOMPARE(hasColor(box, text), isDark);
+        auto *const list = bench.editor<EnumEditor>(QStringLiteral("PixelFormat"));
+        const QImage shown = list->grab().toImage();
+        QCOMPARE(hasColor(shown, text), isDark);
+    }
+    bench.box()->clear();
+    bench.settle();
     for (const char *const name : {"Width", "PixelFormat", "ReverseX", "Gain"}) {
         const auto *const editor = bench.editor<QWidget>(QLatin1String(name));
-        QVERIFY2(editor && editor->palette().color(QPalette::Base) == base, name);
+        QVERIFY2(editor && (!sheet.isEmpty() || editor->palette().color(QPalette::Base) == base), name);
     }
-    QApplication::setPalette(light);
 }
 
 /* Set ZELTO_MONKEY_STEPS and ZELTO_MONKEY_SEED for longer and other runs. */

@@ -3,6 +3,8 @@
 
 #include "editordatakeeper.h"
 
+#include "editorhelpers.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWidget>
@@ -38,7 +40,9 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
         watched->installEventFilter(this);
         break;
     case QEvent::FocusOut:
-        showAgainAfterCommit();
+        if (!EditorHelpers::isFocusLent(*event)) {
+            showAgainAfterCommit();
+        }
         break;
     case QEvent::KeyPress:
         if (m_lineEdit && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {

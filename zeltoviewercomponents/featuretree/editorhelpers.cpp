@@ -6,6 +6,7 @@
 #include "wheelguard.h"
 
 #include <QAbstractSpinBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -197,9 +198,23 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox)
     return spinBox.findChild<QLineEdit *>();
 }
 
+bool isFocusLent(const QEvent &event)
+{
+    if (event.type() != QEvent::FocusOut) {
+        return false;
+    }
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    return reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason
+        || reason == Qt::ActiveWindowFocusReason;
+}
+
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
 {
-    return owner.hasFocus() && lineEdit.isModified();
+    const QWidget *focused = &owner;
+    while (focused->focusProxy()) {
+        focused = focused->focusProxy();
+    }
+    return lineEdit.isModified() && (owner.hasFocus() || owner.window()->focusWidget() == focused);
 }
 
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,

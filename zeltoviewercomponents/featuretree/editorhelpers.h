@@ -13,6 +13,7 @@
 #include <functional>
 
 class QAbstractSpinBox;
+class QEvent;
 class QKeyEvent;
 class QLineEdit;
 class QSlider;
@@ -88,7 +89,12 @@ int editBoxWidth(const QAbstractSpinBox &spinBox);
 /*! Returns the line edit inside \a spinBox. */
 QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
 
-/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has. */
+/*! Returns whether \a event tells of a focus that comes back: a menu, a list or another window has it
+ * meanwhile. */
+bool isFocusLent(const QEvent &event);
+
+/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has, or will have again when its
+ * window does. */
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
 
 /*! Makes the press of Escape mean "undo" and that of Return or Enter stop here, so that neither closes the

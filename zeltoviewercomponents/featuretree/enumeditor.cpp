@@ -5,12 +5,13 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
-#include "wheelguard.h"
+#include "parentpalette.h"
 
 #include <platform/core/guard.h>
 
 #include <QApplication>
 #include <QEvent>
+#include <QWheelEvent>
 
 using namespace ParameterCollection;
 using Core::Logging::ELogLevel;
@@ -45,14 +46,15 @@ EnumEditor::EnumEditor(QWidget *parent)
     setEditable(false);
     {
         const StyleChangeFilter filter(this);
-        setStyleSheet(QStringLiteral(
-            "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
+        new ParentPalette(
+            this,
+            QStringLiteral(
+                "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
         m_parentFont.update();
     }
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the box has none and would keep the row's from showing
     setAutoFillBackground(true);
-    new WheelGuard(this, this);
 }
 
 EnumEditor::~EnumEditor()
@@ -135,6 +137,11 @@ void EnumEditor::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange) {
         m_parentFont.update();
     }
+}
+
+void EnumEditor::wheelEvent(QWheelEvent *event)
+{
+    event->ignore(); // an entry is chosen, not scrolled to: the view gets the wheel
 }
 
 bool EnumEditor::eventFilter(QObject *watched, QEvent *event)

@@ -31,6 +31,7 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -21,6 +21,7 @@
 #include <platform/core/guard.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPersistentModelIndex>
 #include <QStaticText>
@@ -63,6 +64,22 @@ QBrush foregroundOf(const QModelIndex &index, const QPalette &palette)
     const auto brush = index.data(Qt::ForegroundRole).value<QBrush>();
     return brush == FeatureTreeItem::disabledTextBrush() ? palette.brush(QPalette::Disabled, QPalette::Text)
                                                          : brush;
+}
+
+QColor nameColor(const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QVariant foreground = index.data(Qt::ForegroundRole);
+    if (foreground.canConvert<QBrush>() && foreground.isValid()) {
+        return foregroundOf(index, option.palette).color();
+    }
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    return option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+}
+
+QRect lineIn(const QRect &textRect, const QPainter &painter)
+{
+    const int dy = static_cast<int>(textRect.height() / 2.0 - painter.fontMetrics().height() / 2.0);
+    return textRect.adjusted(0, dy, 0, 0);
 }
 
 void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
@@ -250,8 +267,9 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
         itemEditor->setEditorData(data);
         return;
     }
-    // A refresh does not overwrite what is being typed.
-    if (!editor->hasFocus()) {
+    // A refresh does not overwrite what is being typed, also while another window is the active one.
+    const auto *const lineEdit = qobject_cast<QLineEdit *>(editor);
+    if (!editor->hasFocus() && !(lineEdit && EditorHelpers::isBeingTyped(*lineEdit, *lineEdit))) {
         QStyledItemDelegate::setEditorData(editor, index);
     }
 }
@@ -330,7 +348,8 @@ bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
     // Permanent editors commit by their signals and keep the focus chain's order; only the transient ones are
     // committed and closed by keys and by losing the focus.
     const bool isPermanent = dynamic_cast<AbstractItemEditor *>(object) && !qobject_cast<IntEditor *>(object);
-    return !isPermanent && QStyledItemDelegate::eventFilter(object, event);
+    return !isPermanent && !EditorHelpers::isFocusLent(*event)
+        && QStyledItemDelegate::eventFilter(object, event);
 }
 
 QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -373,41 +392,79 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     QStyleOptionViewItem opt = option;
     initStyleOption(&opt, index);
     const QStyle *const style = opt.widget ? opt.widget->style() : QApplication::style();
+    if (style->inherits("QStyleSheetStyle")) {
+        paintStyledName(painter, opt, index, *style);
+        return;
+    }
     const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt);
     const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
     QString text = index.data(Qt::DisplayRole).toString();
     QRegion marked;
     if (!isSpecial) {
-        // The width gives way by a pixel or two for each character of the search text.
-        const int width = textRect.width() - 2 * m_highlighter->length();
-        text = painter->fontMetrics().elidedText(text, Qt::ElideRight, width, 0);
+        text = elidedName(*painter, text, textRect);
         marked = paintMatches(painter, opt, textRect, text);
     }
 
     // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
     // seen.
-    const QPalette visible = opt.palette;
+    const QColor color = nameColor(opt, index);
     for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
         opt.palette.setColor(QPalette::All, role, Qt::transparent);
     }
     style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, qobject_cast<QWidget *>(parent()));
 
-    const QVariant foreground = index.data(Qt::ForegroundRole);
-    const QColor color = foreground.canConvert<QBrush>() && foreground.isValid()
-        ? foregroundOf(index, option.palette).color()
-        : visible.color(opt.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
-                        QPalette::Text);
-    const int dy = static_cast<int>(textRect.height() / 2.0 - painter->fontMetrics().height() / 2.0);
-    const QRect target = textRect.adjusted(0, dy, 0, 0);
+    const QRect target = lineIn(textRect, *painter);
     painter->save();
     painter->setPen(color);
     if (isSpecial && Qt::mightBeRichText(text)) {
         paintRichText(painter, target, alignmentIn(opt), text);
     } else {
         painter->drawText(target, alignmentIn(opt), text);
-        paintOnMarks(painter, target, alignmentIn(opt), text, marked);
+        if (contrastRatio(m_highlighter->color(), color) < legibleContrast) {
+            // The light letters of a dark palette cannot be read on a light mark.
+            paintOnMarks(painter, target, alignmentIn(opt), text, marked);
+        }
     }
     painter->restore();
+}
+
+// A style sheet may give the text a colour and the item a background, of which nobody else knows: the style
+// draws the text alone, and the marks come on top.
+void FeatureTreeDelegate::paintStyledName(QPainter *painter, QStyleOptionViewItem option,
+                                          const QModelIndex &index, const QStyle &style) const
+{
+    const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    const QRect textRect = style.subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget)
+                               .adjusted(margin, 0, -margin, 0); // where the style's text begins
+    const QColor color = nameColor(option, index);
+    const QString markup = isSpecial && Qt::mightBeRichText(option.text) ? option.text : QString();
+    option.text = !markup.isEmpty() ? QString()
+        : isSpecial                 ? option.text
+                                    : elidedName(*painter, option.text, textRect);
+    for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
+        option.palette.setColor(QPalette::All, role, color);
+    }
+    style.drawControl(QStyle::CE_ItemViewItem, &option, painter, qobject_cast<QWidget *>(parent()));
+
+    const QRect target = lineIn(textRect, *painter);
+    painter->save();
+    painter->setPen(color);
+    if (!markup.isEmpty()) {
+        paintRichText(painter, target, alignmentIn(option), markup);
+    } else if (!isSpecial) {
+        const QRegion marked = paintMatches(painter, option, textRect, option.text);
+        paintOnMarks(painter, target, alignmentIn(option), option.text, marked);
+    }
+    painter->restore();
+}
+
+// The width gives way by a pixel or two for each character of the search text.
+QString FeatureTreeDelegate::elidedName(const QPainter &painter, const QString &name,
+                                        const QRect &textRect) const
+{
+    const int width = textRect.width() - 2 * m_highlighter->length();
+    return painter.fontMetrics().elidedText(name, Qt::ElideRight, width, 0);
 }
 
 // Marks the matches in the text. Returns where they are.
@@ -434,12 +491,12 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
     return marked;
 }
 
-// The light letters of a dark palette cannot be read on a light mark: there, they are drawn again.
+// Draws marks and letters again, in a colour that can be read there.
 void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, int alignment,
                                        const QString &text, const QRegion &marked) const
 {
     const QColor mark = m_highlighter->color();
-    if (marked.isEmpty() || contrastRatio(mark, painter->pen().color()) >= legibleContrast) {
+    if (marked.isEmpty()) {
         return;
     }
     painter->setClipRegion(marked, Qt::IntersectClip);

@@ -93,6 +93,9 @@ private:
                       const QRegion &marked) const;
     void paintPlain(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintStyledName(QPainter *painter, QStyleOptionViewItem option, const QModelIndex &index,
+                         const QStyle &style) const;
+    QString elidedName(const QPainter &painter, const QString &name, const QRect &textRect) const;
 
     IFeatureTreeModelExtension *m_extension;
     FeatureTreeHighlighter *m_highlighter;

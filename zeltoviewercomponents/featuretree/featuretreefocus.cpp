@@ -7,7 +7,35 @@
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
 #include <QTreeView>
+
+namespace {
+
+// A list or a menu is a window of its own, but belongs to its editor.
+void closePopupOf(const QWidget *editor)
+{
+    QWidget *const popup = QApplication::activePopupWidget();
+    for (const QWidget *widget = popup; widget; widget = widget->parentWidget()) {
+        if (widget == editor) {
+            popup->close();
+            return;
+        }
+    }
+}
+
+bool hasSelectedText(const QWidget *input)
+{
+    const auto *lineEdit = qobject_cast<const QLineEdit *>(input);
+    if (!lineEdit) {
+        lineEdit = input->findChild<QLineEdit *>();
+    }
+    return lineEdit && lineEdit->hasSelectedText();
+}
+
+} // namespace
 
 FeatureTreeFocus::FeatureTreeFocus(QTreeView *view, const FeatureTreeEditors *editors)
     : m_view(view)
@@ -15,9 +43,14 @@ FeatureTreeFocus::FeatureTreeFocus(QTreeView *view, const FeatureTreeEditors *ed
 {
 }
 
+QWidget *FeatureTreeFocus::focusWidget() const
+{
+    return m_view->window()->focusWidget();
+}
+
 QWidget *FeatureTreeFocus::editor() const
 {
-    QWidget *widget = QApplication::focusWidget();
+    QWidget *widget = focusWidget();
     if (!widget || !m_view->viewport()->isAncestorOf(widget)) {
         return nullptr;
     }
@@ -29,13 +62,13 @@ QWidget *FeatureTreeFocus::editor() const
 
 QModelIndex FeatureTreeFocus::row(const QModelIndex &current) const
 {
-    const QModelIndex permanent = m_editors->rowOf(QApplication::focusWidget());
+    const QModelIndex permanent = m_editors->rowOf(focusWidget());
     return permanent.isValid() ? permanent : current;
 }
 
 void FeatureTreeFocus::takeFrom(const QWidget *widget)
 {
-    const QWidget *const focus = QApplication::focusWidget();
+    const QWidget *const focus = focusWidget();
     if (focus && (focus == widget || widget->isAncestorOf(focus))) {
         m_view->setFocus();
     }
@@ -60,12 +93,62 @@ void FeatureTreeFocus::takeFromLostRow()
     }
 }
 
+QWidget *FeatureTreeFocus::dropEditor()
+{
+    QWidget *const focused = editor();
+    if (!focused) {
+        return nullptr;
+    }
+    closePopupOf(focused);
+    const QSignalBlocker blocker(focused); // losing the focus would enter what was typed
+    m_view->setFocus();
+    return focused;
+}
+
 void FeatureTreeFocus::abandonEditor()
 {
     if (QWidget *const focused = editor()) {
         focused->removeEventFilter(m_view->itemDelegate());
         focused->blockSignals(true);
-        m_view->setFocus();
+        dropEditor();
+    }
+}
+
+void FeatureTreeFocus::follow(QWidget *old, QWidget *now)
+{
+    if (old) {
+        old->removeEventFilter(this);
+    }
+    if (now && now == focusWidget() && editor()) {
+        now->installEventFilter(this);
+    }
+}
+
+bool FeatureTreeFocus::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto *const key = static_cast<QKeyEvent *>(event);
+    if (key->matches(QKeySequence::Copy) && !hasSelectedText(static_cast<QWidget *>(watched))) {
+        emit copyRequested();
+        return true;
+    }
+    if (key->key() == Qt::Key_Escape && m_editors->contains(editor())) {
+        escape(watched, event);
+        return true;
+    }
+    return false;
+}
+
+// The editor sees the key first, takes back what was typed and lets go of what is pressed. Its parents do not
+// see it: they count the ones that clear a search.
+void FeatureTreeFocus::escape(QObject *input, QEvent *event)
+{
+    input->event(event);
+    event->accept();
+    if (QWidget *const left = dropEditor()) {
+        emit escaped(left);
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QModelIndex>
+#include <QObject>
 
 class FeatureTreeEditors;
 class QTreeView;
@@ -11,11 +12,14 @@ class QWidget;
 
 /*! \brief The keyboard focus in the editors of the feature tree view.
  *
- * An editor gives the focus back to the view before its row goes or gets out of sight, or else the focus
- * would go on to the editor of whatever row comes next.
+ * An editor gives the focus back to the view before its row goes, gets out of sight or is locked, or else the
+ * focus would go on to the editor of whatever row comes next. The focus is that of the window, which an open
+ * popup and another window do not take away.
  */
-class FeatureTreeFocus
+class FeatureTreeFocus : public QObject
 {
+    Q_OBJECT
+
 public:
     FeatureTreeFocus(QTreeView *view, const FeatureTreeEditors *editors);
 
@@ -30,13 +34,30 @@ public:
     void takeFromUnseenRow();
     /*! Takes the focus from an editor whose row is gone. */
     void takeFromLostRow();
-    /*! Takes the focus from an editor that has no row to commit to. */
+    /*! Takes the focus from an editor that must not commit: closes its list or menu and drops what was typed.
+     * Returns that editor, null when the focus is in none. */
+    QWidget *dropEditor();
+    /*! Takes the focus from an editor that has no row to commit to, and never listens to it again. */
     void abandonEditor();
     /*! Passes the focus on to what comes after the view, or else back to the view. */
     void leaveEditors(bool forward);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    /*! Escape was pressed in a permanent editor, which the focus has left. */
+    void escaped(QWidget *editor);
+    /*! The value is to be copied, as no text is selected. */
+    void copyRequested();
+
+public slots:
+    /*! Looks at the keys of \a now, if it is an editor or in one, and no longer at those of \a old. */
+    void follow(QWidget *old, QWidget *now);
+
 private:
+    QWidget *focusWidget() const;
     QWidget *nextOutsideView() const;
+    void escape(QObject *input, QEvent *event);
 
     QTreeView *m_view;
     const FeatureTreeEditors *m_editors;

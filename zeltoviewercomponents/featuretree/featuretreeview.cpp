@@ -3,6 +3,7 @@
 
 #include "featuretreeview.h"
 
+#include "editorhelpers.h"
 #include "favoritesdata.h"
 #include "featuretreedelegate.h"
 #include "featuretreeinodeitem.h"
@@ -28,6 +29,14 @@
 ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeView")
 
 namespace {
+
+bool isInRows(QModelIndex index, const QModelIndex &parent, int first, int last)
+{
+    while (index.isValid() && index.parent() != parent) {
+        index = index.parent();
+    }
+    return index.isValid() && first <= index.row() && index.row() <= last;
+}
 
 bool isSameRow(const QModelIndex &a, const QModelIndex &b)
 {
@@ -80,6 +89,8 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
     favorites.attach(QStringLiteral("Favorites"));
     connect(&favorites, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
     connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
+    connect(&m_focus, SIGNAL(copyRequested()), this, SLOT(copyValue()));
+    connect(&m_focus, SIGNAL(escaped(QWidget *)), this, SLOT(onEscaped(QWidget *)));
     connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
             SLOT(onFocusChanged(QWidget *, QWidget *)));
 }
@@ -267,13 +278,17 @@ void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
     if (isRowHidden(row, parent) != isShown) {
         return;
     }
-    QModelIndex branch = currentIndex(); // the row itself, when it is or stands below the current one
+    QModelIndex branch = currentIndex(); // the row itself, when it is the current one or above it
     while (branch.isValid() && (branch.row() != row || branch.parent() != parent)) {
         branch = branch.parent();
     }
+    const bool isCurrentLost = branch.isValid() && !isShown;
+    if (isCurrentLost) {
+        dropEditor();
+    }
     setRowHidden(row, parent, !isShown);
-    if (branch.isValid()) {
-        emit onCurrentChanged(isShown ? currentIndex() : QModelIndex());
+    if (isCurrentLost) {
+        setCurrentIndex(QModelIndex());
     }
 }
 
@@ -297,9 +312,20 @@ void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end
     }
 }
 
+void FeatureTreeView::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end)
+{
+    if (isInRows(currentIndex(), parent, start, end)) {
+        // The base would make the next row the current one, and open its editor.
+        dropEditor();
+        setCurrentIndex(QModelIndex());
+    }
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
 void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QList<int> &roles)
 {
+    dropLockedEditor();
     if (m_isRebuilding) {
         QTreeView::dataChanged(topLeft, bottomRight, roles);
         return;
@@ -352,8 +378,30 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
     } else if (!isAvailable || isHidden) {
-        m_focus.takeFrom(editor);
+        if (m_focus.editor() == editor) {
+            dropEditor();
+        }
         closePersistentEditor(index);
+    }
+}
+
+// The editor with the focus gives it to the tree and does not commit.
+void FeatureTreeView::dropEditor()
+{
+    QWidget *const editor = m_focus.dropEditor();
+    if (editor && !m_editors.contains(editor)) {
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+// Before the editor is disabled: then, the focus would wander on to another one, or be lost.
+void FeatureTreeView::dropLockedEditor()
+{
+    const QModelIndex index = m_focus.editor() ? m_focus.row(currentIndex()) : QModelIndex();
+    const auto *const item = qobject_cast<FeatureTreeINodeItem *>(itemAt(index));
+    const auto snapshot = item ? item->getParameterData() : nullptr;
+    if (snapshot && !EditorHelpers::canBeChanged(*snapshot)) {
+        dropEditor();
     }
 }
 
@@ -487,7 +535,7 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
     if (isFavorite) {
         // The base would make one neighbour after the other the current row while the rows go.
-        m_focus.takeFrom(viewport());
+        dropEditor();
         const QSignalBlocker blocker(selectionModel());
         selectionModel()->clear();
     }
@@ -612,12 +660,47 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
     }
 }
 
-void FeatureTreeView::keyPressEvent(QKeyEvent *event)
+// The same in every column and editor: the value; of rows without one, the name.
+void FeatureTreeView::copyValue()
 {
     const QModelIndex name = currentIndex().siblingAtColumn(FeatureTreeColumns::name);
-    if (event->matches(QKeySequence::Copy) && name.data(FeatureTreeItem::IsSpecialNode).toBool()) {
-        // The base would copy the markup.
-        QApplication::clipboard()->setText(name.data(Qt::AccessibleTextRole).toString());
+    const auto *const item = qobject_cast<FeatureTreeINodeItem *>(itemAt(name));
+    const bool isSpecial = name.data(FeatureTreeItem::IsSpecialNode).toBool(); // with markup in its text
+    const QString text = item && !item->isCategory()
+        ? item->valueText()
+        : name.data(isSpecial ? Qt::AccessibleTextRole : Qt::DisplayRole).toString();
+    if (!text.isEmpty()) {
+        QApplication::clipboard()->setText(text);
+    }
+}
+
+void FeatureTreeView::onEscaped(QWidget *editor)
+{
+    itemDelegate()->setEditorData(editor, m_editors.rowOf(editor));
+}
+
+void FeatureTreeView::keyboardSearch(const QString &search)
+{
+    m_searchClock.start();
+    QTreeView::keyboardSearch(search);
+}
+
+// Returns whether a name is being typed, whose next letter must not go into the editor of the row found so
+// far.
+bool FeatureTreeView::isSearching() const
+{
+    return m_searchClock.isValid() && m_searchClock.elapsed() < QApplication::keyboardInputInterval();
+}
+
+void FeatureTreeView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        copyValue();
+        event->accept();
+        return;
+    }
+    if (event->key() == Qt::Key_Space && isSearching()) {
+        keyboardSearch(event->text());
         event->accept();
         return;
     }
@@ -636,6 +719,9 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
         // The editor has no use for the key; the names are searched for it.
         m_isForwardingKey = false;
         setCurrentIndex(index.siblingAtColumn(FeatureTreeColumns::name));
+        return false;
+    }
+    if (trigger == AnyKeyPressed && isSearching()) {
         return false;
     }
     if (trigger == CurrentChanged && m_keepsFocus) {
@@ -657,7 +743,7 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
 // A row's editor is where the focus is, also when that is a part of the editor.
 void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 {
-    Q_UNUSED(old)
+    m_focus.follow(old, now);
     const QModelIndex index = m_editors.rowOf(now);
     const QModelIndex current = currentIndex();
     if (index.isValid() && !isSameRow(index, current)) {
@@ -748,11 +834,16 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
     if (!editor->isEnabled() || !editor->isVisible()) {
         return false;
     }
-    if (auto *const button = qobject_cast<QAbstractButton *>(editor); button && trigger == EditKeyPressed) {
-        button->click();
+    const auto *const key = dynamic_cast<QKeyEvent *>(event);
+    auto *const button = qobject_cast<QAbstractButton *>(editor);
+    const bool takesFocus = editor->focusPolicy() != Qt::NoFocus;
+    if (button && (trigger == EditKeyPressed || (!takesFocus && key && key->key() == Qt::Key_Space))) {
+        if (!key || !key->isAutoRepeat()) {
+            button->click();
+        }
         return true;
     }
-    if (editor->focusPolicy() == Qt::NoFocus) {
+    if (!takesFocus) {
         return false;
     }
     editor->setFocus(Qt::TabFocusReason);

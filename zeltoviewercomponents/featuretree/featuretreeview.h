@@ -10,6 +10,7 @@
 #include <platform/genicam/genapi.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QElapsedTimer>
 #include <QPalette>
 #include <QStringList>
 #include <QTreeView>
@@ -59,6 +60,7 @@ public:
     /*! Lays out what is pending, so that expansion and geometry can be asked for. */
     using QTreeView::executeDelayedItemsLayout;
 
+    void keyboardSearch(const QString &search) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QList<int> &roles = QList<int>()) override;
 
@@ -91,6 +93,7 @@ protected:
                  const QModelIndex &index) const override;
     void initViewItemOption(QStyleOptionViewItem *option) const override;
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
+    void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
@@ -103,6 +106,8 @@ protected slots:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private slots:
+    void copyValue();
+    void onEscaped(QWidget *editor);
     void onFocusChanged(QWidget *old, QWidget *now);
     void onLayoutAboutToChange();
     void onLayoutChanged();
@@ -127,6 +132,9 @@ private:
     bool wantsEditor(FeatureTreeItem *item) const;
     void ensureEditors();
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
+    void dropEditor();
+    void dropLockedEditor();
+    bool isSearching() const;
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
     bool editNeighbour(const QModelIndex &from, bool below);
     void goToNeighbour(const QModelIndex &from, bool below);
@@ -143,6 +151,7 @@ private:
     bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
     bool m_isForwardingKey = false; // to an editor that may leave it to the view
+    QElapsedTimer m_searchClock; // since the last key that searched the names
     mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below
     mutable qint64 m_rowPaletteSource = 0;
 };

@@ -860,19 +860,6 @@ bool FeatureTreeWidget::event(QEvent *event)
         for (QWidget *const widget : descendants) {
             QCoreApplication::sendEvent(widget, event);
         }
-    } else if (event->type() == QEvent::PaletteChange) {
-        renewStyleSheets();
     }
     return result;
-}
-
-// Qt leaves the colours of a widget with a style sheet as they were, until it gets the sheet again.
-void FeatureTreeWidget::renewStyleSheets()
-{
-    const QList<QWidget *> descendants = findChildren<QWidget *>();
-    for (QWidget *const widget : descendants) {
-        if (!widget->styleSheet().isEmpty()) {
-            widget->setStyleSheet(widget->styleSheet());
-        }
-    }
 }

@@ -202,7 +202,6 @@ private slots:
     void onFiltered();
 
 private:
-    void renewStyleSheets();
     void updateActions();
     void setUpActions();
     QAction *addFavoritesAction(const QString &shortcut, const QString &icon, const QString &text,

@@ -3,6 +3,8 @@
 
 #include "searchedit.h"
 
+#include "parentpalette.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
@@ -39,7 +41,8 @@ SearchEdit::SearchEdit(QWidget *parent)
     connect(m_clearAction, SIGNAL(triggered()), this, SLOT(clear()));
     m_clearAction->setVisible(false);
 
-    setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"));
+    new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
+                      QStringLiteral(" QLineEdit { background: %1; }"));
     m_parentFont.update();
 }
 

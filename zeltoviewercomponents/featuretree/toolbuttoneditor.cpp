@@ -13,6 +13,13 @@ using Core::Logging::ELogLevel;
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.toolButtonEditor")
 
+namespace {
+
+constexpr int askMilliseconds = 300;
+constexpr int doneMilliseconds = 2000;
+
+} // namespace
+
 ToolButtonEditor::ToolButtonEditor(QWidget *parent)
     : QToolButton(parent)
     , m_keeper(new EditorDataKeeper(this, this))
@@ -23,6 +30,9 @@ ToolButtonEditor::ToolButtonEditor(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
     setContentsMargins(0, 0, 0, 0);
     setAutoFillBackground(true);
+    connect(&m_askTimer, SIGNAL(timeout()), this, SLOT(askWhetherDone()));
+    m_doneTimer.setSingleShot(true);
+    connect(&m_doneTimer, SIGNAL(timeout()), this, SLOT(showReady()));
 }
 
 ToolButtonEditor::~ToolButtonEditor() = default;
@@ -43,21 +53,59 @@ void ToolButtonEditor::setEditorData(EditorData data)
         const auto &snapshot = static_cast<const CommandParameterData &>(*data.ptrParameterData);
         m_keeper->keep(data);
         setChecked(!snapshot.isDone);
+        showProgress(!snapshot.isDone);
         setEnabled(EditorHelpers::canBeChanged(snapshot));
         // Unlike other widgets, a disabled button keeps clicks from the row.
         setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
     });
 }
 
-QVariant ToolButtonEditor::editorData()
+void ToolButtonEditor::showProgress(bool isRunning)
 {
-    const bool wasChecked = isChecked();
+    if (isRunning == m_isRunning) {
+        return;
+    }
+    m_isRunning = isRunning;
+    if (isRunning) {
+        m_doneTimer.stop();
+        m_askTimer.start(askMilliseconds); // polling may be off
+        showState(tr("Running…"));
+    } else {
+        m_askTimer.stop();
+        m_doneTimer.start(doneMilliseconds);
+        showState(tr("Done"));
+    }
+}
+
+void ToolButtonEditor::showState(const QString &text)
+{
+    if (this->text() == tr("Execute")) {
+        m_description = accessibleDescription();
+    }
+    setText(text);
+    setAccessibleDescription(text);
+}
+
+void ToolButtonEditor::showReady()
+{
+    setText(tr("Execute"));
+    setAccessibleDescription(m_description);
+}
+
+void ToolButtonEditor::askWhetherDone()
+{
     Core::guardedRun({logCategory(), "ToolButtonEditor::editorData"},
                      QStringLiteral("!! Failed to set button state"), [this] {
                          if (m_command) {
                              m_command->scheduleParameterDataChangedCheck(false);
                          }
                      });
+}
+
+QVariant ToolButtonEditor::editorData()
+{
+    const bool wasChecked = isChecked();
+    askWhetherDone();
     m_keeper->showAgainAfterCommit();
     return wasChecked ? QVariant(QStringLiteral("1")) : QVariant();
 }

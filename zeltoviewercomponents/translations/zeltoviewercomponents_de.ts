@@ -383,5 +383,13 @@
         <source>Execute</source>
         <translation>Ausführen</translation>
     </message>
+    <message>
+        <source>Running…</source>
+        <translation>Läuft …</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
 </context>
 </TS>
