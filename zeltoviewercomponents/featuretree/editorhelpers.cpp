@@ -6,9 +6,11 @@
 #include "wheelguard.h"
 
 #include <QAbstractSpinBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
@@ -197,9 +199,17 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox)
     return spinBox.findChild<QLineEdit *>();
 }
 
+bool isLeaving(const QFocusEvent &event)
+{
+    const Qt::FocusReason reason = event.reason();
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason
+        && reason != Qt::MenuBarFocusReason;
+}
+
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
 {
-    return owner.hasFocus() && lineEdit.isModified();
+    const QWidget *const focus = owner.window()->focusWidget();
+    return lineEdit.isModified() && (focus == &owner || qobject_cast<const QMenuBar *>(focus));
 }
 
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
@@ -236,10 +246,13 @@ TypedText::~TypedText()
 {
     if (m_lineEdit->text() != m_text) {
         m_lineEdit->setText(m_text);
+    }
+    if (m_selectionStart >= 0) {
+        const bool isCursorInFront = m_cursor == m_selectionStart;
+        m_lineEdit->setSelection(m_selectionStart + (isCursorInFront ? m_selectionLength : 0),
+                                 isCursorInFront ? -m_selectionLength : m_selectionLength);
+    } else if (m_lineEdit->cursorPosition() != m_cursor) {
         m_lineEdit->setCursorPosition(m_cursor);
-        if (m_selectionStart >= 0) {
-            m_lineEdit->setSelection(m_selectionStart, m_selectionLength);
-        }
     }
     m_lineEdit->setModified(true);
 }

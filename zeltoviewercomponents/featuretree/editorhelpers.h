@@ -13,6 +13,7 @@
 #include <functional>
 
 class QAbstractSpinBox;
+class QFocusEvent;
 class QKeyEvent;
 class QLineEdit;
 class QSlider;
@@ -88,7 +89,12 @@ int editBoxWidth(const QAbstractSpinBox &spinBox);
 /*! Returns the line edit inside \a spinBox. */
 QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
 
-/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has. */
+/*! Returns whether \a event, which takes the focus away, means that the user is done: a menu, a popup and
+ * another window give it back. */
+bool isLeaving(const QFocusEvent &event);
+
+/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has, or will have again behind a
+ * menu or in a window that is not active. */
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
 
 /*! Makes the press of Escape mean "undo" and that of Return or Enter stop here, so that neither closes the

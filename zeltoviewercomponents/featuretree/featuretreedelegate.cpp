@@ -246,7 +246,11 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
         return;
     }
     const QPersistentModelIndex row(index); // a device that is lost by the write may take its rows away
-    if (!model->setData(index, itemEditor->editorData(), Qt::EditRole) && row.isValid()) {
+    const QVariant value = itemEditor->editorData();
+    if (!model->setData(index, value, Qt::EditRole) && row.isValid()) {
+        if (auto *const integerEditor = qobject_cast<IntEditor *>(editor); integerEditor && value.isValid()) {
+            integerEditor->keepRefused();
+        }
         setEditorData(editor, row); // refused: the real value stands
     }
 }

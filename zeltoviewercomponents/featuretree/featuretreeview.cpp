@@ -9,6 +9,7 @@
 #include "featuretreemodel.h"
 #include "featuretreenames.h"
 #include "featuretreeproxymodel.h"
+#include "inteditor.h"
 
 #include <platform/core/guard.h>
 
@@ -691,6 +692,10 @@ void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
 {
     if (editor->signalsBlocked()) {
         return;
+    }
+    const auto *const integerEditor = qobject_cast<const IntEditor *>(editor);
+    if (integerEditor && integerEditor->isRefused() && hint == QAbstractItemDelegate::SubmitModelCache) {
+        return; // what was entered with Return stays for correction
     }
     const bool below = hint == QAbstractItemDelegate::EditNextItem;
     if (!below && hint != QAbstractItemDelegate::EditPreviousItem) {

@@ -43,9 +43,12 @@ void InputHint::setProblem(const QString &problem)
     if (problem == m_problem) {
         return;
     }
+    const bool wasMarked = !m_problem.isEmpty();
     m_problem = problem;
     m_lineEdit->setToolTip(problem.isEmpty() ? m_toolTip : problem);
-    mark(!problem.isEmpty());
+    if (wasMarked == problem.isEmpty()) {
+        mark(!wasMarked); // once: the editor may be the line edit, and would be tinted again and again
+    }
 }
 
 QString InputHint::problem() const
