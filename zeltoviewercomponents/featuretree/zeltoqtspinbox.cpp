@@ -36,6 +36,7 @@ void ZeltoQtSpinBox::stepBy(int steps)
         return;
     }
     noteEntered();
+    interpretText(); // the base makes no step from beyond a limit
     const QScopedValueRollback<bool> stepping(m_isStepping, true);
     QAbstractSpinBox::stepBy(steps);
     if (singleStep() == 0) {
