@@ -36,10 +36,10 @@ using namespace ParameterCollection;
 
 namespace {
 
-void wheel(QWidget *widget)
+void wheel(QWidget *widget, int delta = -120)
 {
     const QPointF position = QRectF(widget->rect()).center();
-    QWheelEvent event(position, widget->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
+    QWheelEvent event(position, widget->mapToGlobal(position), QPoint(), QPoint(0, delta), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &event);
 }
@@ -507,7 +507,7 @@ void TestValueEditors::sliderWithoutAValue()
         m_bench->press(key);
         QTest::keyClick(editor->findChild<QSlider *>(), key);
     }
-    wheel(editor->findChild<QSlider *>());
+    wheel(editor->findChild<QSlider *>(), 120);
     QVERIFY(parameter->writes.isEmpty());
     m_bench->enter(editor, "200");
     QCOMPARE(parameter->writes.join(QLatin1Char(' ')), written);
@@ -751,7 +751,8 @@ void TestValueEditors::wheelNeedsAClickOrTab()
         m_bench->press(Qt::Key_Tab);
         editor->setFocus();
     }
-    wheel(EditorBench::lineOf(editor)->parentWidget());
+    auto *const slider = editor->findChild<QSlider *>();
+    wheel(slider ? static_cast<QWidget *>(slider) : EditorBench::lineOf(editor)->parentWidget());
     QCOMPARE(number->writes.size() + exposure->writes.size(), isWritten ? 1 : 0);
 }
 

@@ -9,6 +9,8 @@
 
 #include <platform/core/logging.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -28,6 +30,7 @@ ComboSlider::ComboSlider(QWidget *parent)
 {
     EditorHelpers::layOutComboSlider(this, m_spinBox, m_slider);
     setEditBoxWidth(EditorHelpers::editBoxWidth(*m_spinBox));
+    m_slider->installEventFilter(this);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
     connect(m_slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(m_spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
@@ -148,6 +151,16 @@ void ComboSlider::enableUpdate(bool enable)
 bool ComboSlider::isUpdateEnabled() const
 {
     return m_updateEnabled;
+}
+
+bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_slider && event->type() == QEvent::Wheel) {
+        // Steps of the same size wherever the wheel turns, and none without a value to start from.
+        QCoreApplication::sendEvent(m_spinBox, event);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ComboSlider::updateToolTip()

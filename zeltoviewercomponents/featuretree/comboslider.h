@@ -60,6 +60,8 @@ public:
     /*! Returns whether movements of the slider emit valueChanged(). */
     bool isUpdateEnabled() const;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /*! The user has changed the value. */
     void valueChanged(int value);

@@ -129,6 +129,11 @@ QVariant IntEditor::editorData()
     return text();
 }
 
+bool IntEditor::isUntouched() const
+{
+    return !isModified() && text() == m_shownText;
+}
+
 void IntEditor::keepRefused()
 {
     if (hasFocus()) {

@@ -28,6 +28,9 @@ public:
     void setEditorData(EditorData data) override;
     QVariant editorData() override;
 
+    /*! Returns whether nothing was done to what the last snapshot showed. */
+    bool isUntouched() const;
+
     /*! Keeps what was handed out last, since the parameter has refused it, until the user corrects it or
      * leaves. */
     void keepRefused();
