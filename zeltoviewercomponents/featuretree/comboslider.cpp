@@ -34,7 +34,9 @@ ComboSlider::ComboSlider(QWidget *parent)
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
     connect(m_slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(m_spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
-    connect(EditorHelpers::lineEditOf(*m_spinBox), SIGNAL(textChanged(QString)), this, SLOT(onTextChanged()));
+    const QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*m_spinBox);
+    connect(lineEdit, SIGNAL(textChanged(QString)), this, SLOT(onTextChanged()));
+    connect(lineEdit, SIGNAL(returnPressed()), this, SLOT(onReturnPressed()));
     ComboSlider::updateToolTip();
 }
 
@@ -277,6 +279,13 @@ void ComboSlider::onSliderAction(int action)
 void ComboSlider::onTextChanged()
 {
     m_hint->setProblem(m_spinBox->problem());
+}
+
+void ComboSlider::onReturnPressed()
+{
+    if (!m_hint->problem().isEmpty()) {
+        m_hint->tell(m_hint->problem());
+    }
 }
 
 void ComboSlider::tellWhatBecameOf(qint64 entered, int value)

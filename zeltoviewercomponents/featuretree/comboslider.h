@@ -95,6 +95,7 @@ protected slots:
 private slots:
     void onSliderAction(int action);
     void onTextChanged();
+    void onReturnPressed();
 
 private:
     void tellUser(int value);

@@ -31,6 +31,7 @@ InputHint::InputHint(QWidget *editor, QLineEdit *lineEdit)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(endTelling()));
+    connect(lineEdit, SIGNAL(textEdited(QString)), this, SLOT(endTelling()));
 }
 
 InputHint::~InputHint()

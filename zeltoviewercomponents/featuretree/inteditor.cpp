@@ -172,6 +172,7 @@ bool IntEditor::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     if (!problem().isEmpty()) {
+        m_hint->tell(problem());
         event->accept();
         return true;
     }

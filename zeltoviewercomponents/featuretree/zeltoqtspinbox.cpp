@@ -131,6 +131,7 @@ void ZeltoQtSpinBox::keyPressEvent(QKeyEvent *event)
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && !problem().isEmpty()) {
         event->accept();
+        emit lineEdit()->returnPressed(); // as the base does
         return;
     }
     if (isReturn) {
