@@ -335,9 +335,14 @@ void TestFeatureTreeEditing::wheelScrollsTheTree()
                            QStringLiteral("Linear"));
     }
     TreeBench bench(camera);
-    for (const QString &name : {QStringLiteral("Choice5"), QStringLiteral("Size7")}) {
+    for (const QString &name :
+         {QStringLiteral("Choice5"), QStringLiteral("Size7"), QStringLiteral("Size9")}) {
         bench.view()->scrollTo(bench.row(name), QAbstractItemView::PositionAtTop);
         bench.view()->setFocus();
+        if (name == QLatin1String("Size9")) {
+            bench.view()->setCurrentIndex(bench.row(name));
+            QTest::keyClick(bench.view(), Qt::Key_F2); // neither a click nor Tab
+        }
         QWidget *editor = bench.view()->indexWidget(bench.value(name));
         if (auto *const spin = editor->findChild<QSpinBox *>()) {
             editor = spin;

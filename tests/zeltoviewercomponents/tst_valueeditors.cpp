@@ -23,7 +23,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSlider>
-#include <QStyledItemDelegate>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -73,8 +72,6 @@ private slots:
     void buttonSurvivesAFailingCommand();
     void intEditorShows_data();
     void intEditorShows();
-    void intEditorCommitsOnce();
-    void intEditorUnderADelegate();
     void hexValidator_data();
     void hexValidator();
     void sliderGridAndKeys();
@@ -325,53 +322,6 @@ void TestValueEditors::intEditorShows()
     QVERIFY(!editor.editorData().isValid());
 }
 
-void TestValueEditors::intEditorCommitsOnce()
-{
-    const auto parameter = integer(10, 0, 100, 1, "PureNumber");
-    auto *const editor = m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(editingFinished()));
-    auto *const other = new QLineEdit(m_bench.get());
-    m_bench->present();
-    m_bench->type(editor, "0x20");
-    QTest::keyClick(editor, Qt::Key_Return);
-    other->setFocus();
-    QCOMPARE(parameter->writes, QStringList("0x20"));
-    QTRY_COMPARE(editor->text(), "32");
-    m_bench->type(editor, "500");
-    other->setFocus();
-    QCOMPARE(m_bench->refusals.size(), 1);
-    QCOMPARE(editor->text(), "32");
-}
-
-void TestValueEditors::intEditorUnderADelegate()
-{
-    const auto parameter = integer(10, 0, 100, 1, "PureNumber");
-    auto *const editor = m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(returnPressed()));
-    auto *const other = new QLineEdit(m_bench.get());
-    QStyledItemDelegate delegate;
-    // As a view does: the delegate's filter comes after the editor's own.
-    editor->installEventFilter(&delegate);
-    int closes = 0;
-    connect(&delegate, &QAbstractItemDelegate::closeEditor, this, [&] {
-        ++closes;
-        other->setFocus();
-    });
-    QVariantList commits;
-    connect(&delegate, &QAbstractItemDelegate::commitData, this, [&] {
-        if (editor->isModified()) {
-            commits.append(editor->editorData());
-        }
-    });
-    m_bench->present();
-    m_bench->type(editor, "55");
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QVERIFY(closes > 0 && !editor->hasFocus());
-    QCOMPARE(editor->text(), "10");
-    QCOMPARE(commits, QVariantList());
-    m_bench->type(editor, "56");
-    QTest::keyClick(editor, Qt::Key_Tab);
-    QCOMPARE(commits, QVariantList{"56"});
-}
-
 void TestValueEditors::hexValidator_data()
 {
     columns<QString, QValidator::State>({"input", "state"});
@@ -585,8 +535,9 @@ void TestValueEditors::typedIntegers()
     QTRY_COMPARE(line->text(), parameter->snapshot->valueString);
     QCOMPARE(line->toolTip(), toolTip);
     // The parameter knows no addresses, and judges the limits itself.
-    const QString result = parameter->writes.join(' ') + m_bench->refusals.join(' ');
-    QVERIFY2(handedOut.isEmpty() ? result.isEmpty() : result.contains(handedOut), qPrintable(result));
+    const QStringList result = parameter->writes + m_bench->refusals;
+    QCOMPARE(result.size(), handedOut.isEmpty() ? 0 : 1);
+    QVERIFY2(result.join(' ').contains(handedOut), qPrintable(result.join(' ')));
 }
 
 void TestValueEditors::pausesKeepWhatIsTyped_data()

@@ -757,7 +757,7 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
     if (editor->focusPolicy() == Qt::NoFocus) {
         return false;
     }
-    editor->setFocus(Qt::TabFocusReason);
+    editor->setFocus(Qt::ShortcutFocusReason); // selects as Tab does, which is for those who tab
     if (trigger == AnyKeyPressed && event && m_focus.editor() == editor) {
         // What the editor ignores comes back here, where the row is searched for by it.
         m_isForwardingKey = true;

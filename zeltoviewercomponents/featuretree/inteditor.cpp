@@ -66,7 +66,9 @@ void IntEditor::setEditorData(EditorData data)
     Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
         m_keeper->keep(data);
         const auto &snapshot = static_cast<const IntegerParameterData &>(*data.ptrParameterData);
-        m_name = data.ptrParameter->name();
+        if (snapshot.representation == QLatin1String("IPV4Address")) {
+            m_addressName = data.ptrParameter->name();
+        }
         setEnabled(EditorHelpers::canBeChanged(snapshot));
         showSnapshot(snapshot);
     });
@@ -153,7 +155,7 @@ QString IntEditor::problem() const
 {
     return text() == m_shownText
         ? QString()
-        : IntegerText::problem(text(), IntegerText::formOf(m_representation, m_name), locale());
+        : IntegerText::problem(text(), IntegerText::formOf(m_representation, m_addressName), locale());
 }
 
 void IntEditor::judgeText()

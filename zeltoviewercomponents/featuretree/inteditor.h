@@ -54,8 +54,8 @@ private:
 
     EditorDataKeeper *m_keeper;
     InputHint *m_hint;
+    QString m_addressName; // tells subnet masks from other addresses
     QString m_representation;
-    QString m_name;
     QString m_shownText;
     bool m_showsValue = true;
     bool m_isRefused = false;

@@ -170,6 +170,9 @@ void IntSliderEditor::valueTold()
 // Returns the snapshot that the parameter has now, null without a value.
 ParameterDataPtr IntSliderEditor::currentValue() const
 {
+    if (!m_shown.ptrParameter) {
+        return nullptr;
+    }
     const Core::GuardSite site{logCategory(), "IntSliderEditor::currentValue"};
     const ParameterDataPtr data =
         Core::guarded(site, QStringLiteral("Failed to look for the answer to a step"), ParameterDataPtr(),

@@ -53,6 +53,9 @@ bool ZeltoQtSpinBox::isStepping() const
 
 void ZeltoQtSpinBox::setSubstitute(const QString &text)
 {
+    if (text == m_substitute && (text.isEmpty() || lineEdit()->isModified())) {
+        return; // the value, or what is typed, stands there
+    }
     m_substitute = text;
     const QString shown = textFromValue(value());
     if (lineEdit()->text() != shown) {
