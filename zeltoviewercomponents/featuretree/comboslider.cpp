@@ -254,26 +254,23 @@ void ComboSlider::tellUser(int value)
 
 void ComboSlider::onSliderAction(int action)
 {
-    m_isSliderStepping = action != QAbstractSlider::SliderMove;
-    if (!m_isSliderStepping || action == QAbstractSlider::SliderToMinimum
-        || action == QAbstractSlider::SliderToMaximum) {
+    const bool isUp =
+        action == QAbstractSlider::SliderSingleStepAdd || action == QAbstractSlider::SliderPageStepAdd;
+    const bool isDown =
+        action == QAbstractSlider::SliderSingleStepSub || action == QAbstractSlider::SliderPageStepSub;
+    m_isSliderStepping = false;
+    if (!isUp && !isDown) {
         return;
     }
-    if (!m_spinBox->canStep()) {
-        m_slider->setSliderPosition(m_slider->value());
-        m_isSliderStepping = false;
-        return;
-    }
-    // A page may be smaller than a step, and the grid would swallow it.
-    const qint64 distance = qint64(m_slider->sliderPosition()) - m_slider->value();
+    const int value = m_slider->value();
     const int step = std::max(m_spinBox->singleStep(), 1);
-    if (std::abs(distance) < step) {
-        const bool isUp =
-            action == QAbstractSlider::SliderSingleStepAdd || action == QAbstractSlider::SliderPageStepAdd;
-        m_slider->setSliderPosition(
-            EditorHelpers::saturated(m_slider->value() + (isUp ? qint64(step) : -qint64(step))));
+    if (!m_spinBox->canStep()) {
+        m_slider->setSliderPosition(value);
+    } else if (std::abs(qint64(m_slider->sliderPosition()) - value) < step) {
+        // A page may be smaller than a step, and the grid would swallow it.
+        m_slider->setSliderPosition(EditorHelpers::saturated(qint64(value) + (isUp ? step : -step)));
     }
-    m_isSliderStepping = m_slider->sliderPosition() != m_slider->value();
+    m_isSliderStepping = m_slider->sliderPosition() != value;
 }
 
 void ComboSlider::onTextChanged()
