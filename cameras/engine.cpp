@@ -504,7 +504,7 @@ void Engine::writeText(int node, const QString &text)
         if (const auto value = ValueText::toInteger(text, representation(node))) {
             return writeInteger(node, *value, text);
         }
-        refuse(node, text, tr("an integer"));
+        refuse(node, text, integerForm(node));
     case ParameterType::Float:
         if (const auto value = ValueText::toFloat(text)) {
             return writeFloat(node, *value, text);
@@ -542,9 +542,28 @@ void Engine::writeInteger(int node, qint64 value, const QString &text)
                                                .arg(m_description->name(node), text, shown(limits.minimum))
                                                .arg(limits.increment));
     }
+    // The standard's names of the features that hold masks all contain the word.
+    if (limits.representation == QLatin1String("IPV4Address")
+        && m_description->name(node).contains(QLatin1String("SubnetMask"))
+        && !ValueText::isSubnetMask(value)) {
+        refuse(node, text, tr("a subnet mask, whose ones stand together, such as 255.255.255.0"));
+    }
     Failure failure(this);
     arv_gc_integer_set_value(ARV_GC_INTEGER(m_nodes[node]), value, failure);
     failure.throwIfAny(m_description->name(node));
+}
+
+// Returns how the values of an integer are written, as words.
+QString Engine::integerForm(int node) const
+{
+    const QString form = representation(node);
+    if (form == QLatin1String("IPV4Address")) {
+        return tr("four numbers from 0 to 255, such as 192.168.0.10");
+    }
+    if (form == QLatin1String("MACAddress")) {
+        return tr("six hexadecimal numbers, such as 00:1B:2C:3D:4E:5F");
+    }
+    return form == QLatin1String("HexNumber") ? tr("an integer, such as 0x1f") : tr("an integer");
 }
 
 void Engine::writeFloat(int node, double value, const QString &text)

@@ -79,6 +79,7 @@ private:
     bool readCommandDone(int node);
     bool readRegister(int node, QString *text);
     void writeInteger(int node, qint64 value, const QString &text);
+    QString integerForm(int node) const;
     void writeFloat(int node, double value, const QString &text);
     void writeEnum(int node, const QString &text);
     void writeString(int node, const QString &text);

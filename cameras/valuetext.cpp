@@ -94,6 +94,12 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
     return ok ? std::optional(value) : std::nullopt;
 }
 
+bool isSubnetMask(qint64 address)
+{
+    const quint32 hostPart = ~quint32(address);
+    return (hostPart & (hostPart + 1U)) == 0;
+}
+
 std::optional<double> toFloat(const QString &text)
 {
     bool ok = false;

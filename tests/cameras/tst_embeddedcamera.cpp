@@ -221,6 +221,7 @@ void TestEmbeddedCamera::writesText_data()
     row(1, "GevPersistentIPAddress", "10.1.2.255", "10.1.2.255");
     row(1, "GevPersistentIPAddress", "0x0A000001", "10.0.0.1");
     row(1, "GevPersistentIPAddress", "4294967295", "255.255.255.255");
+    row(1, "GevPersistentSubnetMask", "255.255.240.0", "255.255.240.0");
     row(1, "GevPersistentIPAddress", "0xa.1.2.3", "");
     row(1, "GevPersistentIPAddress", "10.1.2.+3", "");
     row(1, "GevPersistentIPAddress", "10.1. 2.3", "");
@@ -271,6 +272,10 @@ void TestEmbeddedCamera::refusesText_data()
     row("UserOutputValueAll", "0x1ff", "0x0 to 0xff");
     row("Width", "0x0x280", "an integer");
     row("Width", "0x 280", "an integer");
+    row("UserOutputValueAll", "0xg", "such as 0x1f");
+    row("GevPersistentIPAddress", "10.1.2.3.4", "four numbers from 0 to 255");
+    row("GevPersistentSubnetMask", "255.0.255.0", "a subnet mask");
+    row("GevPersistentSubnetMask", "0xff00ff00", "a subnet mask");
     row("ExposureTime", "1,5", "a number");
     row("ExposureTime", "nan", "a number");
     row("ExposureTime", "5", "10 to 10000000");
@@ -285,7 +290,7 @@ void TestEmbeddedCamera::refusesText()
     QFETCH(QByteArray, name);
     QFETCH(QString, written);
     QFETCH(QString, allowed);
-    const auto found = parameter(name.constData());
+    const auto found = parameter(name.constData(), name.startsWith("Gev") ? 1 : 0);
     const QString before = found->parameterData()->valueString;
     const QString failure = failureOf(*found, written);
     QVERIFY2(failure.contains(QString::fromLatin1(name)), qPrintable(failure));

@@ -31,6 +31,8 @@ private slots:
     void editorsWriteWhatIsClicked();
     void transientEditorsComeAndGo();
     void refusedWriteShowsTheTruth();
+    void refusedTextStaysForCorrection_data();
+    void refusedTextStaysForCorrection();
     void arrowsWalkRows();
     void tabWalksEditors();
     void keysEditTheValueColumn_data();
@@ -462,6 +464,54 @@ void TestFeatureTreeEditing::refusedWriteShowsTheTruth()
     QCOMPARE(bench.parameter<MemoryFloat>(QStringLiteral("Gain"))->writes, QStringList());
 }
 
+void TestFeatureTreeEditing::refusedTextStaysForCorrection_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<int>("attempts");
+    QTest::addColumn<QStringList>("written");
+    QTest::newRow("corrected") << "5000" << Qt::Key_Backspace << 2 << QStringList("500");
+    QTest::newRow("taken back") << "5000" << Qt::Key_Escape << 1 << QStringList();
+    QTest::newRow("left") << "5000" << Qt::Key_Tab << 1 << QStringList();
+    QTest::newRow("tried again") << "5000" << Qt::Key_Return << 2 << QStringList();
+    QTest::newRow("no number, corrected") << "12." << Qt::Key_Backspace << 1 << QStringList("12");
+    QTest::newRow("no number, left") << "1,5" << Qt::Key_Tab << 0 << QStringList();
+}
+
+void TestFeatureTreeEditing::refusedTextStaysForCorrection()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const Qt::Key, key);
+    QFETCH(const QStringList, written);
+    const QString name = QStringLiteral("OffsetX");
+    TreeBench bench;
+    int attempts = 0;
+    bench.node(name)->before = [&attempts](const QString &operation) {
+        attempts += operation == QLatin1String("setValueFromString") ? 1 : 0;
+    };
+    bench.click(bench.value(name));
+    QPointer<QLineEdit> edit(bench.editor<QLineEdit>(name));
+    QVERIFY(edit);
+    edit->selectAll();
+    QTest::keyClicks(edit, typed);
+    QTest::keyClick(edit, Qt::Key_Return);
+    bench.settle();
+    bench.publish(name);
+    QVERIFY(edit && edit->hasFocus());
+    QCOMPARE(edit->text(), typed);
+    QVERIFY(!edit->toolTip().isEmpty() && !edit->toolTip().startsWith(QLatin1String("Range")));
+
+    QTest::keyClick(edit, key);
+    if (!written.isEmpty()) {
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    bench.settle();
+    QCOMPARE(edit.isNull(), key != Qt::Key_Return);
+    QCOMPARE(bench.node(name)->writes, written);
+    QTEST(attempts, "attempts");
+    QCOMPARE(bench.value(name).data().toString(), written.value(0, QStringLiteral("0")));
+}
+
 void TestFeatureTreeEditing::arrowsWalkRows()
 {
     TreeBench bench;
@@ -600,9 +650,14 @@ void TestFeatureTreeEditing::wheelScrollsTheTree()
                            QStringLiteral("Linear"));
     }
     TreeBench bench(camera);
-    for (const QString &name : {QStringLiteral("Choice5"), QStringLiteral("Size7")}) {
+    for (const QString &name :
+         {QStringLiteral("Choice5"), QStringLiteral("Size7"), QStringLiteral("Size9")}) {
         bench.view()->scrollTo(bench.row(name), QAbstractItemView::PositionAtTop);
         bench.view()->setFocus();
+        if (name == QLatin1String("Size9")) {
+            bench.view()->setCurrentIndex(bench.row(name));
+            QTest::keyClick(bench.view(), Qt::Key_F2); // neither a click nor Tab
+        }
         QWidget *editor = bench.view()->indexWidget(bench.value(name));
         if (auto *const spin = editor->findChild<QSpinBox *>()) {
             editor = spin;

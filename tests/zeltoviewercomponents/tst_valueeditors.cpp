@@ -8,6 +8,7 @@
 
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
 #include <zeltoviewercomponents/featuretree/enumeditor.h>
+#include <zeltoviewercomponents/featuretree/floateditor.h>
 #include <zeltoviewercomponents/featuretree/hexvalidator.h>
 #include <zeltoviewercomponents/featuretree/inteditor.h>
 #include <zeltoviewercomponents/featuretree/intslidereditor.h>
@@ -16,10 +17,12 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
-#include <QSignalSpy>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSlider>
-#include <QStyledItemDelegate>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -32,13 +35,24 @@ using namespace ParameterCollection;
 
 namespace {
 
-void wheel(QWidget *widget)
+void wheel(QWidget *widget, int delta = -120)
 {
     const QPointF position = QRectF(widget->rect()).center();
-    QWheelEvent event(position, widget->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
+    QWheelEvent event(position, widget->mapToGlobal(position), QPoint(), QPoint(0, delta), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &event);
 }
+
+/*! \brief A camera that rounds what is written down to multiples of 16. */
+class RoundingInteger : public MemoryInteger
+{
+public:
+    using MemoryInteger::MemoryInteger;
+    void setValueFromString(const QString &text) override
+    {
+        MemoryInteger::setValueFromString(QString::number(text.toLongLong() / 16 * 16));
+    }
+};
 
 } // namespace
 
@@ -58,17 +72,26 @@ private slots:
     void buttonSurvivesAFailingCommand();
     void intEditorShows_data();
     void intEditorShows();
-    void intEditorCommitsOnce();
-    void intEditorUnderADelegate();
     void hexValidator_data();
     void hexValidator();
     void sliderGridAndKeys();
     void sliderRange_data();
     void sliderRange();
     void sliderFollowsTheCamera();
-    void wheelNeedsFocus();
+    void sliderWithoutAValue_data();
+    void sliderWithoutAValue();
+    void typedIntegers_data();
+    void typedIntegers();
+    void pausesKeepWhatIsTyped_data();
+    void pausesKeepWhatIsTyped();
+    void refreshesKeepTheCursor();
+    void stepsMove_data();
+    void stepsMove();
+    void wheelNeedsAClickOrTab_data();
+    void wheelNeedsAClickOrTab();
 
 private:
+    QWidget *editorOf(const QSharedPointer<MemoryInteger> &parameter);
     QSharedPointer<MemoryInteger> integer(qint64 value, qint64 minimum, qint64 maximum, qint64 increment = 1,
                                           const QString &representation = "Linear");
     IntSliderEditor *sliderEditor(const QSharedPointer<MemoryInteger> &parameter);
@@ -92,6 +115,14 @@ QSharedPointer<MemoryInteger> TestValueEditors::integer(qint64 value, qint64 min
 IntSliderEditor *TestValueEditors::sliderEditor(const QSharedPointer<MemoryInteger> &parameter)
 {
     return m_bench->add(new IntSliderEditor(m_bench.get()), parameter, SIGNAL(valueChanged(int)));
+}
+
+QWidget *TestValueEditors::editorOf(const QSharedPointer<MemoryInteger> &parameter)
+{
+    if (parameter->propertyAccess()->property("Representation") == "Linear") {
+        return sliderEditor(parameter);
+    }
+    return m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(editingFinished()));
 }
 
 void TestValueEditors::checkBoxFallsBackToTheTruth()
@@ -276,6 +307,7 @@ void TestValueEditors::intEditorShows_data()
     row("64 bits", "PureNumber", qint64(1) << 40, "9223372036854775807", "9223372036854775807",
         "Range: 0..2147483647");
     row("address", "IPV4Address", qint64(255), "10.0.0.1", "10.0.0.1", "");
+    row("none", "", qint64(255), "200", "200", "Range: 0..255");
     row("unknown", "Spiral", qint64(255), "200", "", "");
 }
 
@@ -293,59 +325,12 @@ void TestValueEditors::intEditorShows()
     QTEST(editor.toolTip(), "toolTip");
     QCOMPARE(log.messages().contains("IntEditor::setEditorData unexpected representation."),
              representation == "Spiral");
-    QCOMPARE(editor.editorData(), QVariant(editor.text()));
+    QCOMPARE(editor.editorData(), representation == "Spiral" ? QVariant() : QVariant(editor.text()));
     parameter->edit([](auto &data) { data.isReadable = false; });
     editor.setEditorData({parameter, parameter->parameterData()});
     QCOMPARE(editor.text(), "<not readable>");
     QVERIFY(editor.toolTip().isEmpty());
     QVERIFY(!editor.editorData().isValid());
-}
-
-void TestValueEditors::intEditorCommitsOnce()
-{
-    const auto parameter = integer(10, 0, 100, 1, "PureNumber");
-    auto *const editor = m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(editingFinished()));
-    auto *const other = new QLineEdit(m_bench.get());
-    m_bench->present();
-    m_bench->type(editor, "0x20");
-    QTest::keyClick(editor, Qt::Key_Return);
-    other->setFocus();
-    QCOMPARE(parameter->writes, QStringList("0x20"));
-    QTRY_COMPARE(editor->text(), "32");
-    m_bench->type(editor, "500");
-    other->setFocus();
-    QCOMPARE(m_bench->refusals.size(), 1);
-    QCOMPARE(editor->text(), "32");
-}
-
-void TestValueEditors::intEditorUnderADelegate()
-{
-    const auto parameter = integer(10, 0, 100, 1, "PureNumber");
-    auto *const editor = m_bench->add(new IntEditor(m_bench.get()), parameter, SIGNAL(returnPressed()));
-    auto *const other = new QLineEdit(m_bench.get());
-    QStyledItemDelegate delegate;
-    // As a view does: the delegate's filter comes after the editor's own.
-    editor->installEventFilter(&delegate);
-    int closes = 0;
-    connect(&delegate, &QAbstractItemDelegate::closeEditor, this, [&] {
-        ++closes;
-        other->setFocus();
-    });
-    QVariantList commits;
-    connect(&delegate, &QAbstractItemDelegate::commitData, this, [&] {
-        if (editor->isModified()) {
-            commits.append(editor->editorData());
-        }
-    });
-    m_bench->present();
-    m_bench->type(editor, "55");
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QVERIFY(closes > 0 && !editor->hasFocus());
-    QCOMPARE(editor->text(), "10");
-    QCOMPARE(commits, QVariantList());
-    m_bench->type(editor, "56");
-    QTest::keyClick(editor, Qt::Key_Tab);
-    QCOMPARE(commits, QVariantList{"56"});
 }
 
 void TestValueEditors::hexValidator_data()
@@ -394,16 +379,15 @@ void TestValueEditors::sliderGridAndKeys()
     QTest::keyClick(box, Qt::Key_Backspace);
     QTest::keyClicks(box, "7");
     QTest::keyClick(box, Qt::Key_Escape);
-    auto *const line = plain.findChild<QLineEdit *>();
-    QCOMPARE(line->text(), "50");
-
-    // A fraction is not taken for a number with groups.
-    plain.setLocale(QLocale::German);
-    plain.setMaximum(5000);
-    line->selectAll();
-    line->insert("12.5");
-    QTest::keyClick(box, Qt::Key_Return);
-    QCOMPARE(plain.value(), 50);
+    QCOMPARE(plain.findChild<QLineEdit *>()->text(), "50");
+    // A page that is smaller than a step is a step.
+    plain.setSingleStep(10);
+    plain.setPageStep(5);
+    QTest::keyClick(box, Qt::Key_PageUp);
+    QTest::keyClick(plain.findChild<QSlider *>(), Qt::Key_PageUp);
+    QCOMPARE(plain.value(), 70);
+    QTest::keyClick(plain.findChild<QSlider *>(), Qt::Key_PageDown);
+    QCOMPARE(plain.value(), 60);
 }
 
 void TestValueEditors::sliderRange_data()
@@ -461,25 +445,278 @@ void TestValueEditors::sliderFollowsTheCamera()
     QCOMPARE(log.messages(), QStringList("Non-readable slider: Number??????"));
 }
 
-void TestValueEditors::wheelNeedsFocus()
+void TestValueEditors::sliderWithoutAValue_data()
 {
-    const auto mode = m_collection->addEnum("Mode", "Root", {"A", "B"}, "A");
-    const auto number = integer(50, 0, 100);
-    auto *const combo = m_bench->add(new EnumEditor(m_bench.get()), mode, SIGNAL(activated(int)));
-    IntSliderEditor *const slider = sliderEditor(number);
+    columns<bool, qint64, QString, QString>({"isReadable", "maximum", "shown", "written"});
+    row("write-only", false, qint64(5000), "<not readable>", "200");
+    row("limits turned round", true, qint64(0), "0", "");
+}
+
+void TestValueEditors::sliderWithoutAValue()
+{
+    QFETCH(const bool, isReadable);
+    QFETCH(const qint64, maximum);
+    QFETCH(const QString, written);
+    const auto parameter = integer(300, 200, maximum);
+    parameter->edit([isReadable](auto &data) { data.isReadable = isReadable; });
+    IntSliderEditor *const editor = sliderEditor(parameter);
+    QCOMPARE(editor->maximum(), int(maximum));
+    m_bench->present();
+    editor->setFocus(Qt::TabFocusReason);
+    QTEST(EditorBench::lineOf(editor)->text(), "shown");
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Return}) {
+        m_bench->press(key);
+        QTest::keyClick(editor->findChild<QSlider *>(), key);
+    }
+    wheel(editor->findChild<QSlider *>(), 120);
+    QVERIFY(parameter->writes.isEmpty());
+    m_bench->enter(editor, "200");
+    QCOMPARE(parameter->writes.join(QLatin1Char(' ')), written);
+}
+
+void TestValueEditors::typedIntegers_data()
+{
+    columns<QString, QLocale::Language, QString, QString, QString, QString>(
+        {"representation", "language", "typed", "problem", "handedOut", "hint"});
+    const auto en = QLocale::English;
+    const auto de = QLocale::German;
+    row("above", "Linear", en, "4000", "", "3032", "3032 is the maximum");
+    row("far above", "Linear", en, "99999999999999999999", "", "3032", "3032 is the maximum");
+    row("below", "Linear", en, "-5", "", "16", "16 is the minimum");
+    row("beside the grid", "Linear", en, "1001", "", "1000", "1000 is the next value below, in steps of 8");
+    row("fraction", "Linear", de, "3,5", "whole number", "", "");
+    row("foreign fraction", "Linear", de, "3.5", "whole number", "", "");
+    row("groups", "Linear", de, "1.500", "without separators", "", "");
+    row("English groups", "Linear", en, "1,500", "without separators", "", "");
+    row("unit", "Linear", en, "15 mm", "without a unit", "", "");
+    row("prefix", "Linear", en, "0x20", "whole number", "", "");
+    row("plain fraction", "PureNumber", en, "12.5", "whole number", "", "");
+    row("plain groups", "PureNumber", de, "1.500", "without separators", "", "");
+    row("plain with prefix", "PureNumber", de, "0x20", "", "0x20", "");
+    row("plain above", "PureNumber", de, "9223372036854775807", "", "9223372036854775807", "");
+    row("no representation", "", en, "3,5", "whole number", "", "");
+    row("hexadecimal", "HexNumber", en, "0xaF", "", "0xaF", "");
+    row("no hexadecimal digit", "HexNumber", en, "0x1g", "0 to 9 and a to f", "", "");
+    row("bare digits", "HexNumber", en, "ff", "behind 0x", "", "");
+    row("address", "IPV4Address", en, "10.0.0.1", "", "10.0.0.1", "");
+    row("five octets", "IPV4Address", en, "10.0.0.1.2", "four numbers from 0 to 255", "", "");
+    row("large octet", "IPV4Address", en, "10.0.0.256", "four numbers from 0 to 255", "", "");
+    row("half an address", "IPV4Address", de, "192", "four numbers from 0 to 255", "", "");
+    row("mask", "IPV4Address/SubnetMask", en, "255.255.252.0", "", "255.255.252.0", "");
+    row("torn mask", "IPV4Address/SubnetMask", en, "255.0.255.0", "ones must stand together", "", "");
+    row("MAC", "MACAddress", en, "01:00:5e:0:0:fb", "", "01:00:5e:0:0:fb", "");
+    row("short MAC", "MACAddress", en, "01:00:5e:0:0", "six hexadecimal numbers", "", "");
+}
+
+void TestValueEditors::typedIntegers()
+{
+    QFETCH(const QString, representation);
+    QFETCH(const QLocale::Language, language);
+    QFETCH(const QString, typed);
+    QFETCH(const QString, problem);
+    QFETCH(const QString, handedOut);
+    const QStringList form = representation.split('/');
+    const auto parameter = integer(640, 16, 3032, 8, form[0]);
+    parameter->shortName += form.value(1);
+    m_bench->setLocale(language);
+    QWidget *const editor = editorOf(parameter);
     auto *const other = new QLineEdit(m_bench.get());
+    m_bench->layout()->addWidget(other);
+    QLineEdit *const line = EditorBench::lineOf(editor);
+    m_bench->present();
+    const QString toolTip = line->toolTip();
+    const QColor base = line->palette().color(QPalette::Base);
+
+    m_bench->type(editor, typed);
+    QCOMPARE(line->text(), typed);
+    QCOMPARE(line->palette().color(QPalette::Base) == base, problem.isEmpty());
+    QVERIFY2(problem.isEmpty() ? line->toolTip() == toolTip : line->toolTip().contains(problem),
+             qPrintable(line->toolTip()));
+    m_bench->press(Qt::Key_Return);
+    if (!problem.isEmpty()) {
+        QCOMPARE(line->text(), typed);
+        m_bench->refresh();
+        QCOMPARE(line->text(), typed);
+    }
+    QFETCH(const QString, hint);
+    const auto *const label = m_bench->findChild<QLabel *>("inputHint");
+    QCOMPARE(label ? label->text() : QString(), problem.isEmpty() ? hint : line->toolTip());
+    other->setFocus();
+    QTRY_COMPARE(line->palette().color(QPalette::Base), base);
+    QTRY_COMPARE(line->text(), parameter->snapshot->valueString);
+    QCOMPARE(line->toolTip(), toolTip);
+    // The parameter knows no addresses, and judges the limits itself.
+    const QStringList result = parameter->writes + m_bench->refusals;
+    QCOMPARE(result.size(), handedOut.isEmpty() ? 0 : 1);
+    QVERIFY2(result.join(' ').contains(handedOut), qPrintable(result.join(' ')));
+}
+
+void TestValueEditors::pausesKeepWhatIsTyped_data()
+{
+    columns<QString, QString>({"representation", "pause"});
+    for (const char *const pause : {"menu", "window", "menu bar"}) {
+        for (const char *const representation : {"Linear", "PureNumber"}) {
+            QTest::addRow("%s, %s", representation, pause) << representation << pause;
+        }
+    }
+}
+
+void TestValueEditors::pausesKeepWhatIsTyped()
+{
+    QFETCH(const QString, representation);
+    QFETCH(const QString, pause);
+    const auto parameter = integer(640, 16, 3032, 1, representation);
+    QWidget *const editor = editorOf(parameter);
+    QLineEdit *const line = EditorBench::lineOf(editor);
+    auto *const bar = new QMenuBar(m_bench.get());
+    QMenu menu(m_bench.get());
+    menu.addAction("Undo");
+    QWidget window;
+    m_bench->present();
+    m_bench->type(editor, "4");
+    if (pause == "menu") {
+        menu.popup(QPoint());
+    } else if (pause == "window") {
+        window.show();
+        QApplication::setActiveWindow(&window);
+    } else {
+        bar->setFocus(Qt::MenuBarFocusReason);
+    }
+    parameter->update([](auto &data) {
+        data.value = 700;
+        data.valueString = "700";
+    });
+    QCOMPARE(line->text(), "4");
+    QVERIFY(line->isModified());
+    menu.close();
+    window.close();
+    QApplication::setActiveWindow(m_bench.get());
+    editor->setFocus(Qt::MenuBarFocusReason);
+    QTest::keyClicks(QApplication::focusWidget(), "2");
+    QVERIFY(parameter->writes.isEmpty());
+    m_bench->press(Qt::Key_Return);
+    QCOMPARE(parameter->writes, QStringList("42"));
+}
+
+void TestValueEditors::refreshesKeepTheCursor()
+{
+    const auto parameter = integer(10, 0, 100);
+    IntSliderEditor *const editor = sliderEditor(parameter);
+    QLineEdit *const line = EditorBench::lineOf(editor);
+    m_bench->present();
+    m_bench->type(editor, "77");
+    m_bench->press(Qt::Key_Left);
+    for (const int value : {77, 50, 77}) {
+        parameter->update([value](auto &data) {
+            data.value = value;
+            data.maximum = 100 + value;
+        });
+        QCOMPARE(line->text(), "77");
+        QCOMPARE(line->cursorPosition(), 1);
+    }
+}
+
+void TestValueEditors::stepsMove_data()
+{
+    columns<bool, int, QString, Qt::Key, QString>({"isRounding", "value", "typed", "key", "written"});
+    row("typed at the maximum", false, 1000, "5", Qt::Key_Up, "6");
+    row("typed at the minimum", false, 0, "60", Qt::Key_PageDown, "10");
+    row("typed above", false, 500, "4000", Qt::Key_Down, "999");
+    row("no number", false, 500, "5x", Qt::Key_Up, "");
+    row("swallowed", true, 32, "", Qt::Key_Up, "32 32 128");
+    row("swallowed up to the limit", true, 992, "", Qt::Key_Up, "992 992");
+    row("not swallowed", true, 32, "", Qt::Key_Down, "16");
+    row("typed and swallowed", true, 32, "40", Qt::Key_Return, "32");
+}
+
+void TestValueEditors::stepsMove()
+{
+    QFETCH(const bool, isRounding);
+    QFETCH(const QString, typed);
+    QFETCH(const Qt::Key, key);
+    QFETCH(const int, value);
+    auto parameter = integer(value, 0, 1000);
+    const auto snapshot = parameter->snapshot;
+    if (isRounding) {
+        parameter = QSharedPointer<RoundingInteger>::create("Number", "@CameraDevice/Number");
+        parameter->snapshot = snapshot;
+    }
+    IntSliderEditor *const editor = sliderEditor(parameter);
+    m_bench->present();
+    m_bench->type(editor, typed);
+    m_bench->press(key);
+    const QString written = parameter->writes.join(' ');
+    QTEST(written, "written");
+    if (!typed.isEmpty()) {
+        return;
+    }
+    // So do the steps of the slider, unless they are refused.
+    parameter->writes.clear();
+    parameter->snapshot = snapshot;
+    m_bench->refresh();
+    auto *const slider = editor->findChild<QSlider *>();
+    QTest::keyClick(slider, key);
+    QCOMPARE(parameter->writes.join(' '), written);
+    QTRY_COMPARE(QString::number(slider->value()), parameter->snapshot->valueString);
+    parameter->fail({"setValueFromString"}, GenICam::AccessException("locked"));
+    m_bench->press(key);
+    QCOMPARE(m_bench->refusals.size(), 1);
+}
+
+void TestValueEditors::wheelNeedsAClickOrTab_data()
+{
+    columns<bool, QString, bool>({"isInteger", "how", "isWritten"});
+    for (const bool isInteger : {true, false}) {
+        const char *const kind = isInteger ? "integer" : "float";
+        const auto add = [&](const char *how, bool isWritten) {
+            QTest::addRow("%s, %s", kind, how) << isInteger << how << isWritten;
+        };
+        add("not at all", false);
+        add("by the program", false);
+        add("click", true);
+        add("click after the program", true);
+        add("tab", true);
+        add("tab, then another window", true);
+        add("tab away and back by the program", false);
+    }
+}
+
+void TestValueEditors::wheelNeedsAClickOrTab()
+{
+    QFETCH(const bool, isInteger);
+    QFETCH(const QString, how);
+    QFETCH(const bool, isWritten);
+    auto *const other = new QLineEdit(m_bench.get());
+    m_bench->layout()->addWidget(other);
+    const auto number = integer(50, 0, 100);
+    const auto exposure = m_collection->addFloat("Float", "Root", 50.0, 0.0, 100.0);
+    QWidget *const editor = isInteger
+        ? static_cast<QWidget *>(sliderEditor(number))
+        : m_bench->add(new FloatEditor(m_bench.get(), QString()), exposure, SIGNAL(boxValueChanged()));
+    QWidget window;
     m_bench->present();
     other->setFocus();
-    wheel(combo);
-    wheel(slider->findChild<QSlider *>());
-    wheel(slider->findChild<ZeltoQtSpinBox *>());
-    QVERIFY(number->writes.isEmpty());
-    combo->setFocus();
-    wheel(combo);
-    slider->setFocus();
-    wheel(slider->findChild<ZeltoQtSpinBox *>());
-    QCOMPARE(mode->writes, QStringList()); // an entry is never scrolled to
-    QCOMPARE(number->writes, QStringList("49"));
+    if (how.contains("program")) {
+        editor->setFocus();
+    }
+    if (how.startsWith("click")) {
+        QTest::mouseClick(EditorBench::lineOf(editor), Qt::LeftButton);
+    } else if (how.startsWith("tab")) {
+        other->setFocus();
+        m_bench->press(Qt::Key_Tab);
+        QVERIFY(editor->hasFocus());
+    }
+    if (how.contains("window")) {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QApplication::setActiveWindow(m_bench.get());
+    } else if (how.contains("away")) {
+        m_bench->press(Qt::Key_Tab);
+        editor->setFocus();
+    }
+    auto *const slider = editor->findChild<QSlider *>();
+    wheel(slider ? static_cast<QWidget *>(slider) : EditorBench::lineOf(editor)->parentWidget());
+    QCOMPARE(number->writes.size() + exposure->writes.size(), isWritten ? 1 : 0);
 }
 
 QTEST_MAIN(TestValueEditors)

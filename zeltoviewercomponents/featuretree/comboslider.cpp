@@ -4,15 +4,21 @@
 #include "comboslider.h"
 
 #include "editorhelpers.h"
-#include "wheelguard.h"
+#include "inputhint_p.h"
 #include "zeltoqtspinbox.h"
 
 #include <platform/core/logging.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSlider>
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.comboSlider")
 
@@ -20,11 +26,17 @@ ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtSpinBox(this))
     , m_slider(new QSlider(Qt::Horizontal, this))
+    , m_hint(new InputHint(this, EditorHelpers::lineEditOf(*m_spinBox)))
 {
     EditorHelpers::layOutComboSlider(this, m_spinBox, m_slider);
     setEditBoxWidth(EditorHelpers::editBoxWidth(*m_spinBox));
+    m_slider->installEventFilter(this);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
+    connect(m_slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(m_spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
+    const QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*m_spinBox);
+    connect(lineEdit, SIGNAL(textChanged(QString)), this, SLOT(onTextChanged()));
+    connect(lineEdit, SIGNAL(returnPressed()), this, SLOT(onReturnPressed()));
     ComboSlider::updateToolTip();
 }
 
@@ -37,6 +49,7 @@ void ComboSlider::setValue(int value)
     // Takes back a text that was entered and refused: then the slider has not moved.
     m_spinBox->setValue(m_slider->value());
     EditorHelpers::lineEditOf(*m_spinBox)->setModified(false);
+    m_showsTrueValue = m_slider->value() == value;
 }
 
 void ComboSlider::setMinimum(int minimum)
@@ -91,9 +104,8 @@ void ComboSlider::setSingleStep(int singleStep)
 void ComboSlider::setPageStep(int pageStep)
 {
     m_slider->setPageStep(pageStep);
-    // The spin box counts in single steps.
-    const int singleStep = m_spinBox->singleStep();
-    m_spinBox->setPageStep(singleStep > 1 ? pageStep / singleStep : pageStep);
+    // The spin box counts in single steps, and makes one at least.
+    m_spinBox->setPageStep(std::max(pageStep / std::max(m_spinBox->singleStep(), 1), 1));
     updateToolTip();
 }
 
@@ -143,6 +155,16 @@ bool ComboSlider::isUpdateEnabled() const
     return m_updateEnabled;
 }
 
+bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_slider && event->type() == QEvent::Wheel) {
+        // Steps of the same size wherever the wheel turns, and none without a value to start from.
+        QCoreApplication::sendEvent(m_spinBox, event);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void ComboSlider::updateToolTip()
 {
     EditorHelpers::guardedToolTip(logCategory(), [this] {
@@ -171,12 +193,37 @@ ZeltoQtSpinBox *ComboSlider::spinBox() const
     return m_spinBox;
 }
 
+void ComboSlider::valueTold() { }
+
+bool ComboSlider::isStepping() const
+{
+    return m_isSliderStepping || m_spinBox->isStepping();
+}
+
+void ComboSlider::stepTo(int value)
+{
+    const QScopedValueRollback<bool> stepping(m_isSliderStepping, true);
+    m_slider->setValue(value);
+}
+
+void ComboSlider::setShowsTrueValue(bool showsTrueValue)
+{
+    m_showsTrueValue = showsTrueValue;
+}
+
 void ComboSlider::onComboBoxEditingFinished()
 {
     EditorHelpers::lineEditOf(*m_spinBox)->setModified(false);
+    const std::optional<qint64> entered = m_spinBox->takeEntered();
     const int trimmed = trimValue(m_spinBox->value());
     if (trimmed != m_spinBox->value()) {
         m_spinBox->setValue(trimmed);
+    }
+    if (entered) {
+        tellWhatBecameOf(*entered, trimmed);
+    }
+    if (entered && !m_showsTrueValue && trimmed == m_slider->value()) {
+        tellUser(trimmed);
     }
     m_slider->setValue(trimmed);
 }
@@ -192,7 +239,60 @@ void ComboSlider::onSliderValueChanged(int value)
         m_slider->setValue(trimmed);
         return;
     }
-    if (m_updateEnabled) {
-        emit valueChanged(value);
+    tellUser(value);
+}
+
+void ComboSlider::tellUser(int value)
+{
+    if (!m_updateEnabled) {
+        return;
+    }
+    emit valueChanged(value);
+    valueTold();
+    m_isSliderStepping = false;
+}
+
+void ComboSlider::onSliderAction(int action)
+{
+    const bool isUp =
+        action == QAbstractSlider::SliderSingleStepAdd || action == QAbstractSlider::SliderPageStepAdd;
+    const bool isDown =
+        action == QAbstractSlider::SliderSingleStepSub || action == QAbstractSlider::SliderPageStepSub;
+    m_isSliderStepping = false;
+    if (!isUp && !isDown) {
+        return;
+    }
+    const int value = m_slider->value();
+    const int step = std::max(m_spinBox->singleStep(), 1);
+    if (!m_spinBox->canStep()) {
+        m_slider->setSliderPosition(value);
+    } else if (std::abs(qint64(m_slider->sliderPosition()) - value) < step) {
+        // A page may be smaller than a step, and the grid would swallow it.
+        m_slider->setSliderPosition(EditorHelpers::saturated(qint64(value) + (isUp ? step : -step)));
+    }
+    m_isSliderStepping = m_slider->sliderPosition() != value;
+}
+
+void ComboSlider::onTextChanged()
+{
+    m_hint->setProblem(m_spinBox->problem());
+}
+
+void ComboSlider::onReturnPressed()
+{
+    if (!m_hint->problem().isEmpty()) {
+        m_hint->tell(m_hint->problem());
+    }
+}
+
+void ComboSlider::tellWhatBecameOf(qint64 entered, int value)
+{
+    if (entered > m_spinBox->maximum()) {
+        m_hint->tell(tr("%1 is the maximum").arg(value));
+    } else if (entered < m_spinBox->minimum()) {
+        m_hint->tell(tr("%1 is the minimum").arg(value));
+    } else if (entered != value && !isStepping()) {
+        m_hint->tell(
+            tr("%1 is the next value below, in steps of %2").arg(value).arg(m_spinBox->singleStep()));
     }
 }

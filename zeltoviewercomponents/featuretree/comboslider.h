@@ -7,13 +7,14 @@
 
 #include <QWidget>
 
+class InputHint;
 class QSlider;
 class ZeltoQtSpinBox;
 
 /*! \brief A spin box with a slider beside it, for integers.
  *
  * Values lie on the grid that starts at the minimum. Only the user's changes emit valueChanged(),
- * programmatic ones never do.
+ * programmatic ones never do. A hint says when a limit or a grid point took the place of what was entered.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ComboSlider : public QWidget
 {
@@ -59,6 +60,8 @@ public:
     /*! Returns whether movements of the slider emit valueChanged(). */
     bool isUpdateEnabled() const;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /*! The user has changed the value. */
     void valueChanged(int value);
@@ -68,8 +71,19 @@ signals:
 protected:
     virtual void updateToolTip();
 
+    /*! Called after the user's change was told to everybody. */
+    virtual void valueTold();
+
     /*! Returns the grid point at or below \a value, inside the limits. */
     int trimValue(int value) const;
+
+    /*! Returns whether the user's change that is being told is a step, and not an entry or a drag. */
+    bool isStepping() const;
+    /*! Makes a step to \a value. */
+    void stepTo(int value);
+    /*! Sets whether what is shown is the value that setValue() was asked for. Any entry changes one that is
+     * not. */
+    void setShowsTrueValue(bool showsTrueValue);
 
     QSlider *slider() const;
     ZeltoQtSpinBox *spinBox() const;
@@ -78,9 +92,20 @@ protected slots:
     void onSliderValueChanged(int value);
     void onComboBoxEditingFinished();
 
+private slots:
+    void onSliderAction(int action);
+    void onTextChanged();
+    void onReturnPressed();
+
 private:
+    void tellUser(int value);
+    void tellWhatBecameOf(qint64 entered, int value);
+
     ZeltoQtSpinBox *m_spinBox;
     QSlider *m_slider;
+    InputHint *m_hint;
     int m_editBoxWidth = 0;
     bool m_updateEnabled = true;
+    bool m_isSliderStepping = false;
+    bool m_showsTrueValue = true;
 };

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
@@ -214,7 +215,9 @@ bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)
     while (focused->focusProxy()) {
         focused = focused->focusProxy();
     }
-    return lineEdit.isModified() && (owner.hasFocus() || owner.window()->focusWidget() == focused);
+    const QWidget *const focus = owner.window()->focusWidget();
+    return lineEdit.isModified()
+        && (owner.hasFocus() || focus == focused || qobject_cast<const QMenuBar *>(focus));
 }
 
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
@@ -251,10 +254,13 @@ TypedText::~TypedText()
 {
     if (m_lineEdit->text() != m_text) {
         m_lineEdit->setText(m_text);
+    }
+    if (m_selectionStart >= 0) {
+        const bool isCursorInFront = m_cursor == m_selectionStart;
+        m_lineEdit->setSelection(m_selectionStart + (isCursorInFront ? m_selectionLength : 0),
+                                 isCursorInFront ? -m_selectionLength : m_selectionLength);
+    } else if (m_lineEdit->cursorPosition() != m_cursor) {
         m_lineEdit->setCursorPosition(m_cursor);
-        if (m_selectionStart >= 0) {
-            m_lineEdit->setSelection(m_selectionStart, m_selectionLength);
-        }
     }
     m_lineEdit->setModified(true);
 }

@@ -93,8 +93,8 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
  * meanwhile. */
 bool isFocusLent(const QEvent &event);
 
-/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has, or will have again when its
- * window does. */
+/*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has, or will have again behind
+ * a menu or when its window is active. */
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
 
 /*! Makes the press of Escape mean "undo" and that of Return or Enter stop here, so that neither closes the

@@ -282,12 +282,19 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
+    auto *const integerEditor = qobject_cast<IntEditor *>(editor);
+    if (integerEditor && integerEditor->isUntouched()) {
+        return; // what it shows may be out of date
+    }
     const QPersistentModelIndex row(index); // a device that is lost by the write may take its rows away
     const QVariant value = itemEditor->editorData();
     if (postpone(editor, model, index, value)) {
         return;
     }
     if (!model->setData(index, value, Qt::EditRole) && row.isValid()) {
+        if (integerEditor && value.isValid()) {
+            integerEditor->keepRefused();
+        }
         setEditorData(editor, row); // refused: the real value stands
     }
 }

@@ -10,6 +10,7 @@
 #include "featuretreemodel.h"
 #include "featuretreenames.h"
 #include "featuretreeproxymodel.h"
+#include "inteditor.h"
 
 #include <platform/core/guard.h>
 
@@ -781,6 +782,10 @@ void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
     if (editor->signalsBlocked()) {
         return;
     }
+    const auto *const integerEditor = qobject_cast<const IntEditor *>(editor);
+    if (integerEditor && integerEditor->isRefused() && hint == QAbstractItemDelegate::SubmitModelCache) {
+        return; // what was entered with Return stays for correction
+    }
     const bool below = hint == QAbstractItemDelegate::EditNextItem;
     if (!below && hint != QAbstractItemDelegate::EditPreviousItem) {
         QTreeView::closeEditor(editor, hint);
@@ -846,7 +851,7 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
     if (!takesFocus) {
         return false;
     }
-    editor->setFocus(Qt::TabFocusReason);
+    editor->setFocus(Qt::ShortcutFocusReason); // selects as Tab does, which is for those who tab
     if (trigger == AnyKeyPressed && event && m_focus.editor() == editor) {
         // What the editor ignores comes back here, where the row is searched for by it.
         m_isForwardingKey = true;

@@ -31,6 +31,7 @@ InputHint::InputHint(QWidget *editor, QLineEdit *lineEdit)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(endTelling()));
+    connect(lineEdit, SIGNAL(textEdited(QString)), this, SLOT(endTelling()));
 }
 
 InputHint::~InputHint()
@@ -43,9 +44,12 @@ void InputHint::setProblem(const QString &problem)
     if (problem == m_problem) {
         return;
     }
+    const bool wasMarked = !m_problem.isEmpty();
     m_problem = problem;
     m_lineEdit->setToolTip(problem.isEmpty() ? m_toolTip : problem);
-    mark(!problem.isEmpty());
+    if (wasMarked == problem.isEmpty()) {
+        mark(!wasMarked); // once: the editor may be the line edit, and would be tinted again and again
+    }
 }
 
 QString InputHint::problem() const

@@ -5,8 +5,14 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
+#include "inputhint_p.h"
+#include "integertext_p.h"
 
 #include <platform/core/guard.h>
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <initializer_list>
@@ -36,10 +42,12 @@ bool isAnyOf(const QString &text, std::initializer_list<QLatin1String> candidate
 IntEditor::IntEditor(QWidget *parent)
     : QLineEdit(parent)
     , m_keeper(new EditorDataKeeper(this, this, this))
+    , m_hint(new InputHint(this, this))
 {
     setFrame(false);
     setContentsMargins(1, 0, 1, 0);
     setAutoFillBackground(true);
+    connect(this, SIGNAL(textChanged(QString)), this, SLOT(judgeText()));
 }
 
 IntEditor::~IntEditor() = default;
@@ -58,6 +66,9 @@ void IntEditor::setEditorData(EditorData data)
     Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
         m_keeper->keep(data);
         const auto &snapshot = static_cast<const IntegerParameterData &>(*data.ptrParameterData);
+        if (snapshot.representation == QLatin1String("IPV4Address")) {
+            m_addressName = data.ptrParameter->name();
+        }
         setEnabled(EditorHelpers::canBeChanged(snapshot));
         showSnapshot(snapshot);
     });
@@ -65,28 +76,32 @@ void IntEditor::setEditorData(EditorData data)
 
 void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
 {
+    m_showsValue = snapshot.isReadable;
+    m_representation = snapshot.representation;
     if (!snapshot.isReadable) {
+        m_hint->setToolTip(QString());
         showText(notReadable());
-        setToolTip(QString());
         return;
     }
-    const QString &representation = snapshot.representation;
+    const QString representation =
+        m_representation.isEmpty() ? QStringLiteral("PureNumber") : m_representation;
     const bool isHex = representation == QLatin1String("HexNumber");
     if (isHex
         || isAnyOf(representation,
                    {QLatin1String("PureNumber"), QLatin1String("Linear"), QLatin1String("Logarithmic")})) {
         const int minimum = EditorHelpers::saturated(snapshot.minimum);
         const int maximum = EditorHelpers::saturated(snapshot.maximum);
+        m_hint->setToolTip(isHex ? tr("Range: 0x%1..0x%2").arg(minimum, 0, 16).arg(maximum, 0, 16)
+                                 : tr("Range: %1..%2").arg(minimum).arg(maximum));
         showText(QStringLiteral("%1").arg(snapshot.valueString));
-        setToolTip(isHex ? tr("Range: 0x%1..0x%2").arg(minimum, 0, 16).arg(maximum, 0, 16)
-                         : tr("Range: %1..%2").arg(minimum).arg(maximum));
     } else if (isAnyOf(
                    representation,
                    {QLatin1String("IPV4Address"), QLatin1String("Boolean"), QLatin1String("MACAddress")})) {
         setValidator(nullptr);
+        m_hint->setToolTip(QString());
         showText(snapshot.valueString);
-        setToolTip(QString());
     } else {
+        m_showsValue = false;
         log(QStringLiteral("%1 unexpected representation."));
     }
 }
@@ -96,15 +111,19 @@ void IntEditor::showText(const QString &text)
     if (EditorHelpers::isBeingTyped(*this, *this)) {
         return;
     }
+    m_isRefused = false;
+    m_shownText = text;
     if (this->text() != text) {
         setText(text);
     }
     setModified(false);
+    judgeText();
 }
 
 QVariant IntEditor::editorData()
 {
-    if (text() == notReadable()) {
+    const bool hasNothing = !isModified() && (!m_showsValue || text() == notReadable());
+    if (hasNothing || text().isEmpty() || m_isRefused || !problem().isEmpty()) {
         return {};
     }
     setModified(false);
@@ -112,13 +131,85 @@ QVariant IntEditor::editorData()
     return text();
 }
 
+bool IntEditor::isUntouched() const
+{
+    return !isModified() && text() == m_shownText;
+}
+
+void IntEditor::keepRefused()
+{
+    if (hasFocus()) {
+        m_isRefused = true;
+        setModified(true);
+        m_hint->setProblem(IntegerText::refusal());
+    }
+}
+
+bool IntEditor::isRefused() const
+{
+    return m_isRefused;
+}
+
+// Returns why what is typed is no value.
+QString IntEditor::problem() const
+{
+    return text() == m_shownText
+        ? QString()
+        : IntegerText::problem(text(), IntegerText::formOf(m_representation, m_addressName), locale());
+}
+
+void IntEditor::judgeText()
+{
+    m_isRefused = false;
+    m_hint->setProblem(problem());
+}
+
+bool IntEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != this || event->type() != QEvent::KeyPress) {
+        return QLineEdit::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+        return false;
+    }
+    if (!problem().isEmpty()) {
+        m_hint->tell(problem());
+        event->accept();
+        return true;
+    }
+    m_isRefused = false; // by now it may be allowed
+    if (text().isEmpty()) {
+        setModified(false);
+        m_keeper->showAgain();
+    }
+    return false;
+}
+
 void IntEditor::focusInEvent(QFocusEvent *event)
 {
+    // Before the delegate's filter, which commits and closes on Return.
+    installEventFilter(this);
     QLineEdit::focusInEvent(event);
     if (text() == notReadable()) {
         // Not before the click that gave the focus is over.
         QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
     }
+}
+
+void IntEditor::focusOutEvent(QFocusEvent *event)
+{
+    if (EditorHelpers::isFocusLent(*event)) {
+        const QSignalBlocker silence(this); // the editing is not finished
+        QLineEdit::focusOutEvent(event);
+        return;
+    }
+    if (m_isRefused || !problem().isEmpty()) {
+        setModified(false);
+        m_keeper->showAgain();
+    }
+    QLineEdit::focusOutEvent(event);
+    setModified(false);
 }
 
 QString IntEditor::notReadable() const

@@ -3,8 +3,13 @@
 
 #include "wheelguard.h"
 
-#include <QEvent>
+#include "editorhelpers.h"
+
+#include <QFocusEvent>
+#include <QList>
 #include <QWidget>
+
+#include <algorithm>
 
 WheelGuard::WheelGuard(QWidget *editor, QWidget *control)
     : QObject(control)
@@ -12,13 +17,39 @@ WheelGuard::WheelGuard(QWidget *editor, QWidget *control)
     , m_control(control)
 {
     control->installEventFilter(this);
+    const QList<QWidget *> parts = control->findChildren<QWidget *>();
+    for (QWidget *const part : parts) {
+        part->installEventFilter(this); // gets clicks in the place of the control
+    }
 }
 
 bool WheelGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Wheel || m_editor->hasFocus() || m_control->hasFocus()) {
+    noteFocus(watched, event);
+    if (event->type() != QEvent::Wheel || watched != m_control || isEditorEntered()) {
         return QObject::eventFilter(watched, event);
     }
     event->ignore();
     return true;
+}
+
+bool WheelGuard::isEditorEntered() const
+{
+    const QList<WheelGuard *> guards = m_editor->findChildren<WheelGuard *>();
+    return std::any_of(guards.cbegin(), guards.cend(), [](const WheelGuard *guard) {
+        return guard->m_isEntered && guard->m_control->hasFocus();
+    });
+}
+
+void WheelGuard::noteFocus(QObject *watched, const QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_isEntered = true; // the focus may have been there before
+    } else if (watched == m_control && event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
+        m_isEntered = m_isEntered || reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason
+            || reason == Qt::BacktabFocusReason;
+    } else if (watched == m_control && event->type() == QEvent::FocusOut) {
+        m_isEntered = m_isEntered && EditorHelpers::isFocusLent(*event);
+    }
 }

@@ -7,9 +7,11 @@
 
 class QWidget;
 
-/*! \brief Keeps the wheel from changing values while the user scrolls the view across an editor.
+/*! \brief Keeps the wheel from changing values that the user does not mean.
  *
- * A watched control gets wheel events only while its editor has the focus, else its parent gets them.
+ * The controls of an editor get wheel events only while one of them has the focus because the user has
+ * clicked or tabbed into it, else the parent gets them. A focus that came otherwise does not count: the user
+ * may only be scrolling the view.
  */
 class WheelGuard : public QObject
 {
@@ -22,6 +24,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool isEditorEntered() const;
+    void noteFocus(QObject *watched, const QEvent *event);
+
     QWidget *m_editor;
     QWidget *m_control;
+    bool m_isEntered = false;
 };

@@ -4,8 +4,15 @@
 #include "zeltoqtspinbox.h"
 
 #include "editorhelpers.h"
+#include "integertext_p.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+#include <utility>
 
 ZeltoQtSpinBox::ZeltoQtSpinBox(QWidget *parent)
     : QSpinBox(parent)
@@ -25,31 +32,170 @@ void ZeltoQtSpinBox::stepBy(int steps)
         m_pageKeyPressed = false;
         steps = steps < 0 ? EditorHelpers::wrappingDifference(0, m_pageStep) : m_pageStep;
     }
+    if (!canStep() || !problem().isEmpty()) {
+        return;
+    }
+    noteEntered();
+    interpretText(); // the base makes no step from beyond a limit
+    const QScopedValueRollback<bool> stepping(m_isStepping, true);
     QAbstractSpinBox::stepBy(steps);
+    if (singleStep() == 0) {
+        // The grid has no distance, and the base made no step.
+        setValue(EditorHelpers::saturated(qint64(value()) + steps));
+    }
     emit editingFinished();
 }
 
-QValidator::State ZeltoQtSpinBox::validate(QString &text, int &pos) const
+bool ZeltoQtSpinBox::isStepping() const
 {
-    // The base drops them wherever they stand: a pasted 12.5 would become 125 where the comma is decimal.
-    return text.contains(locale().groupSeparator()) ? QValidator::Invalid : QSpinBox::validate(text, pos);
+    return m_isStepping;
+}
+
+void ZeltoQtSpinBox::setSubstitute(const QString &text)
+{
+    if (text == m_substitute && (text.isEmpty() || lineEdit()->isModified())) {
+        return; // the value, or what is typed, stands there
+    }
+    m_substitute = text;
+    const QString shown = textFromValue(value());
+    if (lineEdit()->text() != shown) {
+        lineEdit()->setText(shown);
+    }
+}
+
+void ZeltoQtSpinBox::setHasLimits(bool hasLimits)
+{
+    m_hasLimits = hasLimits;
+}
+
+bool ZeltoQtSpinBox::canStep() const
+{
+    return m_hasLimits && m_substitute.isEmpty();
+}
+
+QString ZeltoQtSpinBox::problem() const
+{
+    const QString text = lineEdit()->text();
+    if (text.isEmpty() || text == textFromValue(value())) {
+        return {};
+    }
+    const QString problem = IntegerText::problem(text, IntegerText::Form::Decimal, locale());
+    return problem.isEmpty() && !m_hasLimits ? IntegerText::limitsProblem() : problem;
+}
+
+std::optional<qint64> ZeltoQtSpinBox::takeEntered()
+{
+    return std::exchange(m_entered, std::nullopt);
+}
+
+QValidator::State ZeltoQtSpinBox::validate(QString &text, int &) const
+{
+    if (!m_substitute.isEmpty() && text == m_substitute) {
+        return QValidator::Acceptable;
+    }
+    const auto number = m_hasLimits ? IntegerText::number(text, locale()) : std::nullopt;
+    return number && *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
+                                                                  : QValidator::Intermediate;
 }
 
 void ZeltoQtSpinBox::fixup(QString &text) const
 {
-    bool ok = false;
-    const qint64 number = locale().toLongLong(text, &ok);
-    if (ok) {
-        text = textFromValue(qBound(minimum(), EditorHelpers::saturated(number), maximum()));
+    const auto number = IntegerText::number(text, locale());
+    if (number && m_hasLimits && !m_isPausing) {
+        text = QSpinBox::textFromValue(qBound(minimum(), EditorHelpers::saturated(*number), maximum()));
     }
+}
+
+QString ZeltoQtSpinBox::textFromValue(int value) const
+{
+    return m_substitute.isEmpty() ? QSpinBox::textFromValue(value) : m_substitute;
+}
+
+int ZeltoQtSpinBox::valueFromText(const QString &text) const
+{
+    const auto number = IntegerText::number(text, locale());
+    return number ? EditorHelpers::saturated(*number) : value();
+}
+
+QAbstractSpinBox::StepEnabled ZeltoQtSpinBox::stepEnabled() const
+{
+    if (isReadOnly() || !canStep()) {
+        return StepNone;
+    }
+    // A step starts from what is typed, which the base would not look at.
+    const qint64 start = typedNumber().value_or(value());
+    const bool isOutside = start < minimum() || start > maximum();
+    return (isOutside || start < maximum() ? StepUpEnabled : StepNone)
+        | (isOutside || start > minimum() ? StepDownEnabled : StepNone);
 }
 
 void ZeltoQtSpinBox::keyPressEvent(QKeyEvent *event)
 {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && !problem().isEmpty()) {
+        event->accept();
+        emit lineEdit()->returnPressed(); // as the base does
+        return;
+    }
+    if (isReturn) {
+        noteEntered();
+    }
     m_pageKeyPressed = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
     QAbstractSpinBox::keyPressEvent(event);
     // At a limit the page key makes no step, and the next arrow key must not make its page step.
     m_pageKeyPressed = false;
     EditorHelpers::finishKeyPress(event, *lineEdit(),
                                   [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
+}
+
+void ZeltoQtSpinBox::focusInEvent(QFocusEvent *event)
+{
+    QSpinBox::focusInEvent(event);
+    if (!m_substitute.isEmpty() && lineEdit()->text() == m_substitute) {
+        // Not before the click that gave the focus is over.
+        QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
+    }
+}
+
+void ZeltoQtSpinBox::focusOutEvent(QFocusEvent *event)
+{
+    if (EditorHelpers::isFocusLent(*event)) {
+        pause(event);
+        return;
+    }
+    if (problem().isEmpty()) {
+        noteEntered();
+    } else {
+        lineEdit()->setText(textFromValue(value()));
+    }
+    QSpinBox::focusOutEvent(event);
+}
+
+void ZeltoQtSpinBox::hideEvent(QHideEvent *event)
+{
+    // The base enters what is typed, also when the window is only minimized.
+    if (!event->spontaneous()) {
+        QSpinBox::hideEvent(event);
+    }
+}
+
+std::optional<qint64> ZeltoQtSpinBox::typedNumber() const
+{
+    return lineEdit()->isModified() ? IntegerText::number(lineEdit()->text(), locale()) : std::nullopt;
+}
+
+void ZeltoQtSpinBox::noteEntered()
+{
+    m_entered = typedNumber();
+}
+
+// Does what the base does when it loses the focus, except for entering what is typed.
+void ZeltoQtSpinBox::pause(QFocusEvent *event)
+{
+    const QScopedValueRollback<bool> pausing(m_isPausing, true);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QSpinBox::mouseReleaseEvent(&release); // ends steps that repeat themselves
+    lineEdit()->event(event);
+    QWidget::focusOutEvent(event);
 }

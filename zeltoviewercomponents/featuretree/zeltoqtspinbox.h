@@ -7,7 +7,14 @@
 
 #include <QSpinBox>
 
-/*! \brief A spin box with a page step of its own that commits every step at once. */
+#include <optional>
+
+/*! \brief A spin box with a page step of its own that commits every step at once.
+ *
+ * What is typed stays as it is typed, also beyond the limits, until it is entered with Return, by a step or
+ * by leaving. Then the nearest limit takes its place. A text that is no number is kept by Return and replaced
+ * by the value on leaving. A menu or another window is not leaving.
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ZeltoQtSpinBox : public QSpinBox
 {
 public:
@@ -20,17 +27,47 @@ public:
     /*! Changes the value by \a steps single steps, or by the page step after a page key, and ends the
      * editing. */
     void stepBy(int steps) override;
+    /*! Returns whether a step is being made, which includes the end of the editing that follows. */
+    bool isStepping() const;
 
-    /*! Refuses group separators, as the floating-point controls do. */
+    /*! Shows \a text in the place of a value that is not known, which no step can start from. An empty one
+     * shows the value again. */
+    void setSubstitute(const QString &text);
+    /*! Sets whether the limits fit together, so that numbers can be entered. */
+    void setHasLimits(bool hasLimits);
+    /*! Returns whether there is a value, and limits, to make steps with. */
+    bool canStep() const;
+
+    /*! Returns why what stands there is no value, empty when it is one. */
+    QString problem() const;
+    /*! Returns the number that was typed before the editing ended, once. */
+    std::optional<qint64> takeEntered();
+
+    /*! Refuses no key: half of a number may look like anything. */
     QValidator::State validate(QString &text, int &pos) const override;
 
     /*! Limits a number that was typed; the base would go back to the previous value. */
     void fixup(QString &text) const override;
 
 protected:
+    QString textFromValue(int value) const override;
+    int valueFromText(const QString &text) const override;
+    StepEnabled stepEnabled() const override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
+    std::optional<qint64> typedNumber() const;
+    void noteEntered();
+    void pause(QFocusEvent *event);
+
+    QString m_substitute;
+    std::optional<qint64> m_entered;
     int m_pageStep = 10;
     bool m_pageKeyPressed = false;
+    bool m_isStepping = false;
+    bool m_isPausing = false; // nothing is entered
+    bool m_hasLimits = true;
 };

@@ -38,6 +38,18 @@
         <source>Range: %1..%2</source>
         <translation>Bereich: %1..%2</translation>
     </message>
+    <message>
+        <source>%1 is the maximum</source>
+        <translation>%1 ist der größte Wert</translation>
+    </message>
+    <message>
+        <source>%1 is the minimum</source>
+        <translation>%1 ist der kleinste Wert</translation>
+    </message>
+    <message>
+        <source>%1 is the next value below, in steps of %2</source>
+        <translation>%1 ist der nächste Wert darunter, in Schritten von %2</translation>
+    </message>
 </context>
 <context>
     <name>DoubleComboSlider</name>
@@ -257,6 +269,48 @@
     <message>
         <source>&lt;not readable&gt;</source>
         <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>IntSliderEditor</name>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>IntegerText</name>
+    <message>
+        <source>Enter four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</source>
+        <translation>Geben Sie vier Zahlen von 0 bis 255 mit Punkten dazwischen ein, etwa 192.168.0.10.</translation>
+    </message>
+    <message>
+        <source>Enter six hexadecimal numbers with colons between them, such as 00:1B:2C:3D:4E:5F.</source>
+        <translation>Geben Sie sechs hexadezimale Zahlen mit Doppelpunkten dazwischen ein, etwa 00:1B:2C:3D:4E:5F.</translation>
+    </message>
+    <message>
+        <source>Enter a hexadecimal number behind 0x, with the digits 0 to 9 and a to f.</source>
+        <translation>Geben Sie hinter 0x eine hexadezimale Zahl mit den Ziffern 0 bis 9 und a bis f ein.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number, without decimals and without separators.</source>
+        <translation>Geben Sie eine ganze Zahl ohne Nachkommastellen und ohne Trennzeichen ein.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number alone, without a unit.</source>
+        <translation>Geben Sie nur eine ganze Zahl ein, ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number.</source>
+        <translation>Geben Sie eine ganze Zahl ein.</translation>
+    </message>
+    <message>
+        <source>The limits of this feature contradict each other, so that no number fits.</source>
+        <translation>Die Grenzen dieses Merkmals widersprechen sich, so dass keine Zahl passt.</translation>
+    </message>
+    <message>
+        <source>This value was refused.</source>
+        <translation>Dieser Wert wurde abgelehnt.</translation>
     </message>
 </context>
 <context>
