@@ -33,7 +33,9 @@ DoubleComboSlider::~DoubleComboSlider() = default;
 
 void DoubleComboSlider::setValue(double value)
 {
+    m_spinBox->makeRoomFor(value);
     m_spinBox->setValue(value);
+    m_spinBox->settle();
 }
 
 void DoubleComboSlider::setIntValue(int position)
@@ -46,6 +48,7 @@ void DoubleComboSlider::setMinimum(double minimum)
     m_minRangeLimit = minimum;
     // Before the spin box has the minimum, unlike in setMaximum(): the tip still tells the old one.
     updateToolTip();
+    m_spinBox->makeRoomFor(minimum);
     m_spinBox->setMinimum(minimum);
 }
 
@@ -58,6 +61,7 @@ void DoubleComboSlider::setIntMinimum(int minimum)
 void DoubleComboSlider::setMaximum(double maximum)
 {
     m_maxRangeLimit = maximum;
+    m_spinBox->makeRoomFor(maximum);
     m_spinBox->setMaximum(maximum);
     updateToolTip();
 }
@@ -78,6 +82,8 @@ void DoubleComboSlider::setRange(double minimum, double maximum)
 {
     m_minRangeLimit = minimum;
     m_maxRangeLimit = maximum;
+    m_spinBox->makeRoomFor(minimum);
+    m_spinBox->makeRoomFor(maximum);
     m_spinBox->setRange(minimum, maximum);
     updateToolTip();
 }

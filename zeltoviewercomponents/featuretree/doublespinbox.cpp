@@ -37,17 +37,21 @@ DoubleSpinBox::~DoubleSpinBox() = default;
 
 void DoubleSpinBox::setValue(double value)
 {
+    m_spinBox->makeRoomFor(value);
     m_spinBox->setValue(value);
+    m_spinBox->settle();
 }
 
 void DoubleSpinBox::setMinimum(double minimum)
 {
+    m_spinBox->makeRoomFor(minimum);
     m_spinBox->setMinimum(minimum);
     updateToolTip();
 }
 
 void DoubleSpinBox::setMaximum(double maximum)
 {
+    m_spinBox->makeRoomFor(maximum);
     m_spinBox->setMaximum(maximum);
     updateToolTip();
 }
@@ -67,6 +71,8 @@ void DoubleSpinBox::setRange(double minimum, double maximum)
 {
     m_minRangeLimit = minimum;
     m_maxRangeLimit = maximum;
+    m_spinBox->makeRoomFor(minimum);
+    m_spinBox->makeRoomFor(maximum);
     m_spinBox->setRange(minimum, maximum);
     updateToolTip();
 }
