@@ -14,6 +14,7 @@
 #include <QContextMenuEvent>
 #include <QHash>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSlider>
@@ -58,7 +59,8 @@ public:
     bool isSilent = false;
 };
 
-// Arrows for u and d, page keys for U and D, a notch of the wheel for w; anything else is typed.
+// Arrows for u and d, both at once for +, page keys for U and D, a notch of the wheel for w; anything else is
+// typed.
 void pressStep(QWidget *editor, QChar key)
 {
     const QHash<QChar, Qt::Key> stepKeys{
@@ -66,6 +68,9 @@ void pressStep(QWidget *editor, QChar key)
     QWidget *const box = editor->focusProxy();
     if (stepKeys.contains(key)) {
         QTest::keyClick(box, stepKeys.value(key));
+    } else if (key == QLatin1Char('+')) {
+        QTest::keyClick(box, Qt::Key_Up);
+        QTest::keyClick(box, Qt::Key_Down);
     } else if (key == QLatin1Char('w')) {
         const QPointF place = box->rect().center();
         QWheelEvent notch(place, box->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
@@ -89,6 +94,7 @@ private slots:
     void valuesFollowTheNotation();
     void typedTexts_data();
     void typedTexts();
+    void controlsTakeWhatIsTyped();
     void othersAreNotLeaving_data();
     void othersAreNotLeaving();
     void steps_data();
@@ -210,6 +216,7 @@ void TestFloatEditors::valuesFollowTheNotation()
         QLineEdit *const line = EditorBench::lineOf(editor);
         m_bench->present();
         QCOMPARE(line->text(), shown);
+        m_bench->setFocus();
         editor->setFocus(Qt::TabFocusReason);
         QTEST(line->text(), "all");
         m_bench->press(Qt::Key_Return);
@@ -303,6 +310,30 @@ void TestFloatEditors::typedTexts()
     }
 }
 
+void TestFloatEditors::controlsTakeWhatIsTyped()
+{
+    auto *const control = new DoubleSpinBox(m_bench.get(), "Linear");
+    auto *const other = new DoubleSpinBox(m_bench.get(), "Linear");
+    for (DoubleSpinBox *const box : {control, other}) {
+        m_bench->layout()->addWidget(box);
+        box->initControls(0.0, 100.0, 7.25, 0.0);
+    }
+    m_bench->present();
+    QLineEdit *const line = EditorBench::lineOf(control);
+    m_bench->enter(control, "40000");
+    QCOMPARE(line->text(), "100");
+    QCOMPARE(m_bench->findChild<QLabel *>("inputHint")->text(), "100 is the maximum");
+    m_bench->enter(control, "3,5");
+    QCOMPARE(line->text(), "3,5");
+    QVERIFY(line->toolTip().contains("use . as the decimal sign"));
+    m_bench->press(Qt::Key_Tab);
+    QCOMPARE(line->text(), "100");
+    QVERIFY(line->toolTip().isEmpty());
+    m_bench->type(control, "12.5");
+    other->setFocus();
+    QCOMPARE(control->value(), 12.5);
+}
+
 void TestFloatEditors::othersAreNotLeaving_data()
 {
     columns<bool, QString>({"isWindow", "typed"});
@@ -371,7 +402,7 @@ void TestFloatEditors::steps_data()
     row("single precision's limits", 0.0, -3.4028234663852886e38, 3.4028234663852886e38, 0.0, "u", "1");
     row("not a number", nan, 0.0, 10.0, 0.5, "uwD", "");
     row("limits turned round", 5.0, 10.0, 1.0, 0.0, "uwD", "");
-    row("more than digits", 1e17, -infinity, infinity, 1.0, "u", "1.00000000000001e+17");
+    row("more than digits", 1e17, -infinity, infinity, 1.0, "u", "100000000000001000");
 }
 
 void TestFloatEditors::steps()
@@ -414,6 +445,7 @@ void TestFloatEditors::swallowedSteps_data()
         {"hasSlider", "isSilent", "value", "unit", "keys", "values"});
     row("nothing is swallowed", false, false, 5000.0, 1.0, "udd", "5100 5000 4900");
     row("coarse", false, false, 5000.0, 1000.0, "ud", "6000 5000");
+    row("before the answers", false, false, 5000.0, 1.0, "+", "5000");
     row("without an answer", false, true, 5000.0, 1000.0, "u", "6000");
     row("up to the limit", false, false, 5000.0, 1e9, "u", "5000");
     row("many positions", true, false, 5000.0, 0.001, "udd", "5000.001 5000 4999.999");
@@ -428,6 +460,7 @@ void TestFloatEditors::swallowedSteps()
     QFETCH(const double, value);
     QFETCH(const double, unit);
     QFETCH(const QString, keys);
+    QFETCH(const QString, values);
     const auto parameter = QSharedPointer<CoarseFloat>::create("Feature", "@CameraDevice/Feature");
     parameter->snapshot = feature(value, 10.0, 1e7, 0.0, "Logarithmic")->snapshot;
     parameter->edit([](auto &data) { data.displayPrecision = 8; });
@@ -438,14 +471,14 @@ void TestFloatEditors::swallowedSteps()
         hasSlider ? static_cast<QWidget *>(sliderEditor(parameter)) : floatEditor(parameter);
     m_bench->present();
     editor->setFocus(Qt::TabFocusReason);
-    QStringList values;
+    QStringList expected = values.split(QLatin1Char(' '));
     for (const QChar key : keys) {
         pressStep(editor, key);
-        QTest::qWait(isSilent ? 2500 : 200);
-        values.append(EditorBench::lineOf(editor)->text());
-        QCOMPARE(values.constLast().toDouble(), parameter->held());
+        QTRY_COMPARE(QString::number(parameter->held(), 'g', 12), expected.constFirst());
+        QTRY_COMPARE(EditorBench::lineOf(editor)->text(), expected.takeFirst());
+        QTest::qWait(100); // nothing goes on
     }
-    QTEST(values.join(QLatin1Char(' ')), "values");
+    QCOMPARE(parameter->held(), values.section(QLatin1Char(' '), -1).toDouble());
 }
 
 void TestFloatEditors::refusedStepEnds()
@@ -504,6 +537,19 @@ void TestFloatEditors::oddSnapshots()
         // What was shown before counts as an entry all the same.
         m_bench->enter(withSlider, "1");
         QCOMPARE(parameter->writes, QStringList("1"));
+        parameter->writes.clear();
+    }
+    if (!std::isfinite(value) || !readable || minimum > maximum) {
+        // Sent as typed, refused by the parameter, never replaced by a limit.
+        for (QWidget *editor : {static_cast<QWidget *>(plain), static_cast<QWidget *>(withSlider)}) {
+            parameter->update([&](auto &data) { data.value = value; });
+            m_bench->refusals.clear();
+            m_bench->enter(editor, "77");
+            QTRY_COMPARE(m_bench->refusals.size(), 1);
+            QVERIFY2(m_bench->refusals.constFirst().contains("77"),
+                     qPrintable(m_bench->refusals.constFirst()));
+            QCOMPARE(parameter->writes, QStringList());
+        }
     }
     if (!readable) {
         plain->setFocus();
@@ -600,6 +646,9 @@ void TestFloatEditors::keysMoveTheSlider()
     QTest::qWait(50);
     QTest::keyClick(slider, Qt::Key_End);
     QTRY_COMPARE(parameter->writes.constLast(), "1000");
+    QTest::qWait(50);
+    QTest::keyClick(slider, Qt::Key_Left);
+    QTRY_COMPARE(parameter->writes.constLast(), "995");
 }
 
 QTEST_MAIN(TestFloatEditors)

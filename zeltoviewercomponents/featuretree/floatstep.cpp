@@ -14,6 +14,13 @@ namespace {
 constexpr int answerMilliseconds = 400; // less than editors wait before they show the last data again
 constexpr double widest = 1e16; // a double has no finer digits than that
 
+std::optional<double> valueOf(const ParameterDataPtr &data)
+{
+    return data && data->type == ParameterType::Float && data->isReadable
+        ? std::optional(static_cast<const FloatParameterData &>(*data).value)
+        : std::nullopt;
+}
+
 } // namespace
 
 void FloatStep::show(const AbstractItemEditor::EditorData &data)
@@ -26,8 +33,9 @@ void FloatStep::show(const AbstractItemEditor::EditorData &data)
 
 void FloatStep::begin(double start, int steps)
 {
-    m_before = m_shown.ptrParameterData;
-    m_valueBefore = m_before ? static_cast<const FloatParameterData &>(*m_before).value : start;
+    // What is shown may be older: answers to the steps before this one are on their way.
+    m_before = current();
+    m_valueBefore = valueOf(m_before).value_or(start);
     m_start = m_last = start;
     m_factor = 1.0;
     m_steps = steps;
@@ -73,18 +81,24 @@ bool FloatStep::isSwallowed()
     if (!isUnderWay() || m_isWriting || !m_shown.ptrParameter) {
         return false;
     }
-    const auto parameter = m_shown.ptrParameter;
-    const DataPtr answer =
-        Core::guarded({logCategory(), "FloatStep::isSwallowed"}, QStringLiteral("Failed to read a value"),
-                      DataPtr(), [&parameter] { return parameter->parameterData(); });
+    const ParameterDataPtr answer = current();
     if (answer && answer == m_before && !m_answerTime.hasExpired()) {
         return false; // from before the write
     }
-    if (!answer || answer->type != ParameterType::Float || !answer->isReadable
-        || static_cast<const FloatParameterData &>(*answer).value != m_valueBefore) {
+    const auto value = valueOf(answer);
+    if (value != m_valueBefore || value == m_last) {
         end();
         return false;
     }
     m_before = answer;
     return true;
+}
+
+ParameterDataPtr FloatStep::current() const
+{
+    const auto parameter = m_shown.ptrParameter;
+    return !parameter
+        ? nullptr
+        : Core::guarded({logCategory(), "FloatStep::current"}, QStringLiteral("Failed to read a value"),
+                        ParameterDataPtr(), [&parameter] { return parameter->parameterData(); });
 }

@@ -43,10 +43,10 @@ public:
     bool isSwallowed();
 
 private:
-    using DataPtr = ParameterCollection::ParameterDataPtr;
+    ParameterCollection::ParameterDataPtr current() const;
 
     AbstractItemEditor::EditorData m_shown;
-    DataPtr m_before; //!< the camera's answer is a newer one
+    ParameterCollection::ParameterDataPtr m_before; //!< the camera's answer is a newer one
     double m_valueBefore = 0.0;
     double m_start = 0.0;
     double m_last = 0.0; //!< the number that was written last, or the start
