@@ -474,8 +474,9 @@ void TestFloatEditors::swallowedSteps()
     QStringList expected = values.split(QLatin1Char(' '));
     for (const QChar key : keys) {
         pressStep(editor, key);
-        QTRY_COMPARE(QString::number(parameter->held(), 'g', 12), expected.constFirst());
-        QTRY_COMPARE(EditorBench::lineOf(editor)->text(), expected.takeFirst());
+        const QString next = expected.takeFirst();
+        QTRY_COMPARE(QString::number(parameter->held(), 'g', 12), next);
+        QTRY_COMPARE(EditorBench::lineOf(editor)->text(), next);
         QTest::qWait(100); // nothing goes on
     }
     QCOMPARE(parameter->held(), values.section(QLatin1Char(' '), -1).toDouble());
