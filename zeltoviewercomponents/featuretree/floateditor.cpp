@@ -69,11 +69,11 @@ void FloatEditor::showValue(const FloatParameterData &snapshot)
     const bool isFinite = std::isfinite(snapshot.value);
     if (isFinite) {
         // A value outside the limits is shown as it is; entries are limited by commit().
-        spinBox()->setRange(std::min(m_limits.minimum, snapshot.value),
-                            std::max(m_limits.maximum, snapshot.value));
-        spinBox()->setValue(snapshot.value);
+        spinBox()->setLimits(std::min(m_limits.minimum, snapshot.value),
+                             std::max(m_limits.maximum, snapshot.value));
+        spinBox()->showValue(snapshot.value);
     } else {
-        spinBox()->setRange(m_limits.minimum, m_limits.maximum);
+        spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
     }
     spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
                                  : isFinite       ? QString()
@@ -179,7 +179,7 @@ double FloatEditor::snapped(double number) const
 void FloatEditor::commit(double number)
 {
     const double usable = snapped(number);
-    spinBox()->setRange(m_limits.minimum, m_limits.maximum);
+    spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
     setValue(usable);
     enableUpdate(true);
     if (usable == m_settledValue) {

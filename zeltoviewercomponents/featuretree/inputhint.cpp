@@ -64,6 +64,9 @@ void InputHint::setProblem(const QString &problem)
         return;
     }
     m_problem = problem;
+    if (!problem.isEmpty()) {
+        endTelling(); // what became of the entry before is out of date
+    }
     m_lineEdit->setToolTip(problem.isEmpty() ? m_toolTip : problem);
     mark(!problem.isEmpty());
 }

@@ -74,7 +74,7 @@ void TwoModeDoubleComboSlider::showValue(double value)
 {
     // A value outside the limits is shown as it is; entries are limited by enter().
     const auto limits = m_isFree ? EditorHelpers::FloatLimits() : m_limits;
-    spinBox()->setRange(std::min(limits.minimum, value), std::max(limits.maximum, value));
+    spinBox()->setLimits(std::min(limits.minimum, value), std::max(limits.maximum, value));
     setValue(value);
     showPosition(positionFromValue(value));
     m_isUnannounced = false;
@@ -270,7 +270,7 @@ void TwoModeDoubleComboSlider::enter(double value)
 {
     const double entered = usable(value);
     const auto limits = m_isFree ? EditorHelpers::FloatLimits() : m_limits;
-    spinBox()->setRange(limits.minimum, limits.maximum);
+    spinBox()->setLimits(limits.minimum, limits.maximum);
     setValue(entered);
     showPosition(positionFromValue(entered));
     enableUpdate(true);

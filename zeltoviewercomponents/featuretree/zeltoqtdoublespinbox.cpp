@@ -21,10 +21,11 @@
 
 namespace {
 
+using Doubles = std::numeric_limits<double>;
+
 // The most that QDoubleSpinBox keeps: it rounds values to its decimals, and features' values must stay as
 // they are.
-constexpr int mostDecimals =
-    std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
+constexpr int mostDecimals = Doubles::max_exponent10 + Doubles::digits10;
 
 // Returns as many decimals as give back the value.
 int decimalsOf(double value)
@@ -33,7 +34,7 @@ int decimalsOf(double value)
         return 0;
     }
     const auto exponent = static_cast<int>(std::floor(std::log10(std::abs(value))));
-    return std::clamp(std::numeric_limits<double>::max_digits10 - 1 - exponent, 0, mostDecimals);
+    return std::clamp(Doubles::max_digits10 - 1 - exponent, 0, mostDecimals);
 }
 
 bool isByTheUser(Qt::FocusReason reason)
@@ -80,6 +81,38 @@ void ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation, 
     }
 }
 
+void ZeltoQtDoubleSpinBox::setLimits(double minimum, double maximum)
+{
+    makeRoomFor(minimum);
+    makeRoomFor(maximum);
+    // Qt rounds limits by way of a text, which takes a millisecond for the farthest doubles.
+    const double lowest = minimum <= Doubles::lowest() ? -Doubles::infinity() : minimum;
+    const double highest = maximum >= Doubles::max() ? Doubles::infinity() : maximum;
+    if (lowest != QDoubleSpinBox::minimum() || highest != QDoubleSpinBox::maximum()) {
+        setRange(lowest, highest);
+    }
+}
+
+double ZeltoQtDoubleSpinBox::minimum() const
+{
+    return std::max(QDoubleSpinBox::minimum(), Doubles::lowest());
+}
+
+double ZeltoQtDoubleSpinBox::maximum() const
+{
+    return std::min(QDoubleSpinBox::maximum(), Doubles::max());
+}
+
+void ZeltoQtDoubleSpinBox::showValue(double value)
+{
+    makeRoomFor(value);
+    if (value != this->value()) {
+        setValue(value);
+    }
+    showText();
+}
+
+// Keeps as many decimals of feature values as the number has.
 void ZeltoQtDoubleSpinBox::makeRoomFor(double number)
 {
     if (m_notation != GenApi::UndefinedDisplayNotation && decimalsOf(number) > decimals()) {
@@ -225,8 +258,7 @@ void ZeltoQtDoubleSpinBox::fixup(QString &text) const
         // In full, since a text with the digits that are shown may lie beyond the limit.
         QLocale plain = locale();
         plain.setNumberOptions(plain.numberOptions() | QLocale::OmitGroupSeparator);
-        text = plain.toString(qBound(minimum(), *number, maximum()), 'g',
-                              std::numeric_limits<double>::max_digits10);
+        text = plain.toString(qBound(minimum(), *number, maximum()), 'g', Doubles::max_digits10);
     }
 }
 

@@ -37,8 +37,15 @@ public:
 
     /*! Shows values as formatFeatureValue() does with \a notation and \a precision. */
     void showFeatureValues(GenApi::EDisplayNotation notation, int precision);
-    /*! Keeps as many decimals of feature values as \a number has. */
-    void makeRoomFor(double number);
+
+    /*! Sets both limits, with all their digits when feature values are shown. */
+    void setLimits(double minimum, double maximum);
+    /*! Returns the lowest value. */
+    double minimum() const;
+    /*! Returns the highest value. */
+    double maximum() const;
+    /*! Shows \a value, limited to the range, with all its digits kept when feature values are shown. */
+    void showValue(double value);
 
     /*! Shows \a text instead of the value until the user types a number; an empty text shows the value. */
     void setSubstitute(const QString &text);
@@ -94,6 +101,7 @@ private slots:
 
 private:
     InputHint *hint();
+    void makeRoomFor(double number);
     bool takeTyped();
     bool isAsShown(const QString &text) const;
     QString shownText(double value) const;
