@@ -102,6 +102,7 @@ private slots:
     void swallowedSteps_data();
     void swallowedSteps();
     void refusedStepEnds();
+    void lockDropsWhatIsTyped();
     void oddSnapshots_data();
     void oddSnapshots();
     void positionsAreRecovered_data();
@@ -493,6 +494,20 @@ void TestFloatEditors::refusedStepEnds()
     QTest::qWait(700);
     QCOMPARE(m_bench->refusals, QStringList("locked"));
     QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
+}
+
+void TestFloatEditors::lockDropsWhatIsTyped()
+{
+    const auto parameter = feature(5.0, 0.0, 1000.0);
+    for (QWidget *editor : bothEditors(parameter)) {
+        parameter->update([](auto &data) { data.isWritable = true; });
+        m_bench->present();
+        m_bench->type(editor, "77");
+        parameter->update([](auto &data) { data.isWritable = false; });
+        QVERIFY(!editor->isEnabled());
+        QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
+        QCOMPARE(m_bench->refusals, QStringList());
+    }
 }
 
 void TestFloatEditors::oddSnapshots_data()

@@ -11,6 +11,7 @@
 #include <platform/core/guard.h>
 
 #include <QLineEdit>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -23,7 +24,7 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
     : DoubleSpinBox(parent, representation)
     , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
-    , m_step(std::make_unique<FloatStep>())
+    , m_step(std::make_shared<FloatStep>())
 {
     connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
@@ -49,6 +50,11 @@ void FloatEditor::setEditorData(EditorData data)
 
 void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
 {
+    if (!EditorHelpers::canBeChanged(snapshot)) {
+        // The focus goes with the lock; it would take what is typed along.
+        spinBox()->showText();
+        m_step->end();
+    }
     setEnabled(EditorHelpers::canBeChanged(snapshot));
     m_limits = EditorHelpers::entryLimits(snapshot);
     m_canStep = EditorHelpers::canStep(snapshot);
@@ -105,8 +111,8 @@ void FloatEditor::onEditingFinished()
         return;
     }
     m_step->end();
+    spinBox()->tellOutcome(*typed, snapped(*typed), m_limits.minimum, m_limits.maximum, m_limits.increment);
     commit(*typed);
-    spinBox()->tellOutcome(*typed, value(), m_limits.minimum, m_limits.maximum, m_limits.increment);
 }
 
 void FloatEditor::onStepTriggered(int steps)
@@ -188,9 +194,13 @@ void FloatEditor::commit(double number)
     }
     m_settledValue = usable;
     m_isChanged = true;
+    const QPointer<FloatEditor> self(this);
+    const std::shared_ptr<FloatStep> step = m_step;
     {
-        const auto writing = m_step->writing();
+        const auto writing = step->writing();
         emit boxValueChanged();
     }
-    goOnStepping();
+    if (self) {
+        goOnStepping();
+    }
 }

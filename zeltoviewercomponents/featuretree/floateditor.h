@@ -55,7 +55,7 @@ private:
     void commit(double number);
 
     EditorDataKeeper *m_keeper;
-    std::unique_ptr<FloatStep> m_step;
+    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
     EditorHelpers::FloatLimits m_limits; //!< of what the user enters; the shown value may lie outside
     double m_settledValue = 0.0; //!< what was last shown or committed
     double m_stepWidth = 0.0; //!< since the first step in the editor; 0 before

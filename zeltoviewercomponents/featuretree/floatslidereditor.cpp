@@ -77,6 +77,11 @@ void FloatSliderEditor::setEditorData(EditorData data)
 
 void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
 {
+    if (!EditorHelpers::canBeChanged(snapshot)) {
+        // The focus goes with the lock; it would take what is typed along.
+        spinBox()->showText();
+        step().end();
+    }
     setEnabled(EditorHelpers::canBeChanged(snapshot));
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     if (hasFocus() && isUpdateExspected()) {

@@ -9,6 +9,7 @@
 
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QSlider>
 
@@ -23,7 +24,7 @@ constexpr int shortestPauseMilliseconds = 30;
 
 TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     : DoubleComboSlider(parent)
-    , m_step(std::make_unique<FloatStep>())
+    , m_step(std::make_shared<FloatStep>())
 {
     m_pause.setSingleShot(true);
     connect(&m_pause, SIGNAL(timeout()), this, SLOT(announceNow()));
@@ -148,14 +149,17 @@ void TwoModeDoubleComboSlider::onTextEdited()
 
 void TwoModeDoubleComboSlider::onEditingFinished()
 {
+    const QPointer<TwoModeDoubleComboSlider> self(this);
     if (const auto typed = spinBox()->entry()) {
         m_step->end();
-        enter(*typed);
         if (!m_isFree) {
-            spinBox()->tellOutcome(*typed, value(), m_limits.minimum, m_limits.maximum, m_increment);
+            spinBox()->tellOutcome(*typed, usable(*typed), m_limits.minimum, m_limits.maximum, m_increment);
         }
+        enter(*typed);
     }
-    announceNow();
+    if (self) {
+        announceNow(); // without the pause
+    }
 }
 
 void TwoModeDoubleComboSlider::onSliderMoved(int position)
@@ -292,9 +296,14 @@ void TwoModeDoubleComboSlider::announceNow()
     // The receivers write to the camera before the signal returns: as long again belongs to the user.
     QElapsedTimer duration;
     duration.start();
+    const QPointer<TwoModeDoubleComboSlider> self(this);
+    const std::shared_ptr<FloatStep> step = m_step;
     {
-        const auto writing = m_step->writing();
+        const auto writing = step->writing();
         emit boxValueChanged();
+    }
+    if (!self) {
+        return;
     }
     m_pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
     goOnStepping();

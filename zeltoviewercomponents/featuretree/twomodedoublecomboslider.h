@@ -97,7 +97,7 @@ private:
     EditorHelpers::FloatLimits m_limits{0.0, 0.0, 0.0};
     double m_settledValue = 0.0; //!< what was last shown or entered
     double m_digit = 0.0; //!< that steps change where a limit is missing, since the first one; 0 before
-    std::unique_ptr<FloatStep> m_step;
+    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
     bool m_isPage = false; //!< the step under way
     bool m_isFree = false;
     bool m_isShowing = false; //!< the slider moves because of the program

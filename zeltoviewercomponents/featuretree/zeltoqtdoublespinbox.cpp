@@ -13,6 +13,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -196,8 +197,11 @@ void ZeltoQtDoubleSpinBox::stepBy(int steps)
     if (!hasSubstitute() && !takeTyped()) {
         return;
     }
+    const QPointer<ZeltoQtDoubleSpinBox> self(this); // a write may end in a message, and that in a closed row
     emit stepTriggered(steps);
-    m_entry.reset();
+    if (self) {
+        m_entry.reset();
+    }
 }
 
 QAbstractSpinBox::StepEnabled ZeltoQtDoubleSpinBox::stepEnabled() const
@@ -287,7 +291,11 @@ void ZeltoQtDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isReturn || takeTyped()) {
+        const QPointer<ZeltoQtDoubleSpinBox> self(this);
         QAbstractSpinBox::keyPressEvent(event);
+        if (!self) {
+            return;
+        }
         m_entry.reset();
     }
     EditorHelpers::finishKeyPress(event, *lineEdit(),
@@ -316,7 +324,11 @@ void ZeltoQtDoubleSpinBox::focusOutEvent(QFocusEvent *event)
     if (!takeTyped()) {
         showText();
     }
+    const QPointer<ZeltoQtDoubleSpinBox> self(this);
     QDoubleSpinBox::focusOutEvent(event);
+    if (!self) {
+        return;
+    }
     m_entry.reset();
     showAllDigits(false);
     emit left();
@@ -347,7 +359,6 @@ void ZeltoQtDoubleSpinBox::selectSubstitute()
     }
 }
 
-// Shows the value in place of whatever stands there, unless the typed text is to be kept.
 void ZeltoQtDoubleSpinBox::showText()
 {
     if (m_isTextKept) {

@@ -63,6 +63,8 @@ public:
     bool isBeingTyped() const;
     /*! Keeps the typed text, if any, as it is for as long as what is returned lives. */
     QScopedValueRollback<bool> keepTypedText();
+    /*! Shows the value again in place of a typed text, unless that is to be kept. */
+    void showText();
     /*! Takes the text that stands there for the value: it is not typed, nor has it a problem. */
     void settle();
     /*! Returns, during editingFinished() and stepTriggered(), the number that was typed; none when the text
@@ -105,7 +107,6 @@ private:
     bool takeTyped();
     bool isAsShown(const QString &text) const;
     QString shownText(double value) const;
-    void showText();
     void showAllDigits(bool all);
     void setProblem(const QString &problem);
 
