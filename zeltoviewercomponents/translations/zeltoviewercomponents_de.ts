@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>use %1 as the decimal sign</source>
-        <translation>%1 als Dezimalzeichen verwenden</translation>
+        <translation>als Dezimalzeichen „%1“ verwenden</translation>
     </message>
     <message>
         <source>The number is not complete.</source>
