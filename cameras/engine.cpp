@@ -398,7 +398,7 @@ bool Engine::readFloat(int node, FloatParameterData &data)
     Failure failure(this);
     data.value =
         Core::withoutSinglePrecisionNoise(arv_gc_float_get_value(ARV_GC_FLOAT(m_nodes[node]), failure));
-    data.valueString = ValueText::fromFloat(data.value);
+    data.valueString = ValueText::fromFloat(data.value, data.displayNotation);
     return !failure.take() && std::isfinite(data.value);
 }
 

@@ -3,6 +3,8 @@
 
 #include "valuetext_p.h"
 
+#include <platform/core/formatdoublevalue.h>
+
 #include <QLocale>
 #include <QStringList>
 
@@ -12,9 +14,6 @@
 namespace Cameras::ValueText {
 
 namespace {
-
-constexpr double largestPlain = 1e15;
-constexpr double smallestPlain = 1e-6;
 
 QString joinedBytes(quint64 value, int count, int base, int width, QChar separator)
 {
@@ -68,11 +67,9 @@ QString fromInteger(qint64 value, const QString &representation)
     return QString::number(value);
 }
 
-QString fromFloat(double value)
+QString fromFloat(double value, GenApi::EDisplayNotation notation)
 {
-    const double magnitude = std::abs(value);
-    const bool isPlain = magnitude == 0.0 || (magnitude >= smallestPlain && magnitude < largestPlain);
-    return QString::number(value, isPlain ? 'f' : 'g', QLocale::FloatingPointShortest);
+    return formatFeatureValue(value, notation, allDigits, QLocale::c());
 }
 
 std::optional<qint64> toInteger(const QString &text, const QString &representation)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <platform/genicam/genapi.h>
+
 #include <QString>
 
 #include <optional>
@@ -12,8 +14,8 @@ namespace Cameras::ValueText {
 
 /*! Returns \a value in the form of the GenICam \a representation. */
 QString fromInteger(qint64 value, const QString &representation);
-/*! Returns the shortest text that gives \a value again. */
-QString fromFloat(double value);
+/*! Returns the shortest text in \a notation that gives \a value again. */
+QString fromFloat(double value, GenApi::EDisplayNotation notation = GenApi::fnAutomatic);
 
 /*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a
  * representation. */

@@ -18,7 +18,6 @@ ZELTO_LOG_CATEGORY("zelto.viewer.descriptionPane")
 
 namespace {
 
-constexpr int limitDecimals = 6;
 constexpr int textMargin = 4; // a text document's own
 
 class Page
@@ -101,8 +100,8 @@ void addRange(Page &page, const ParameterData &data, const QString &unit)
         page.row(DescriptionPane::tr("Range"), range.arg(integer->minimum).arg(integer->maximum).arg(suffix));
         page.row(DescriptionPane::tr("Increment"), QString::number(integer->increment));
     } else if (const auto *const floating = dynamic_cast<const FloatParameterData *>(&data)) {
-        const auto format = [&locale](double value) {
-            return formatDoubleValue(value, limitDecimals, true, locale);
+        const auto format = [&locale, floating](double value) {
+            return formatFeatureValue(value, floating->displayNotation, floating->displayPrecision, locale);
         };
         page.row(DescriptionPane::tr("Range"),
                  range.arg(format(floating->minimum), format(floating->maximum), suffix));

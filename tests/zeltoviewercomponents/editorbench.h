@@ -59,7 +59,10 @@ public:
     {
         editor->setFocus();
         lineOf(editor)->selectAll();
-        QTest::keyClicks(QApplication::focusWidget(), text);
+        for (const QChar letter : text) {
+            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, letter,
+                                Qt::NoModifier);
+        }
     }
 
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }

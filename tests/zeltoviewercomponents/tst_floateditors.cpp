@@ -11,11 +11,17 @@
 #include <zeltoviewercomponents/featuretree/zeltoqtdoublespinbox.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QHash>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <limits>
@@ -27,6 +33,54 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
+/*! \brief A float in a register that keeps whole units alone, and may say nothing when nothing has changed.
+ */
+class CoarseFloat : public MemoryFloat
+{
+public:
+    using MemoryFloat::MemoryFloat;
+
+    double held() const { return snapshot.staticCast<FloatParameterData>()->value; }
+
+    void setValueFromString(const QString &text) override
+    {
+        const double kept = std::floor(text.toDouble() / unit + 1e-6) * unit;
+        if (std::abs(kept - held()) < unit / 2.0 || kept == 0.0) {
+            if (!isSilent) {
+                edit([](auto &) {});
+                publishLater();
+            }
+            return;
+        }
+        MemoryFloat::setValueFromString(QString::number(kept, 'g', 15));
+    }
+
+    double unit = 1.0;
+    bool isSilent = false;
+};
+
+// Arrows for u and d, both at once for +, page keys for U and D, a notch of the wheel for w; anything else is
+// typed.
+void pressStep(QWidget *editor, QChar key)
+{
+    const QHash<QChar, Qt::Key> stepKeys{
+        {u'u', Qt::Key_Up}, {u'd', Qt::Key_Down}, {u'U', Qt::Key_PageUp}, {u'D', Qt::Key_PageDown}};
+    QWidget *const box = editor->focusProxy();
+    if (stepKeys.contains(key)) {
+        QTest::keyClick(box, stepKeys.value(key));
+    } else if (key == QLatin1Char('+')) {
+        QTest::keyClick(box, Qt::Key_Up);
+        QTest::keyClick(box, Qt::Key_Down);
+    } else if (key == QLatin1Char('w')) {
+        const QPointF place = box->rect().center();
+        QWheelEvent notch(place, box->mapToGlobal(place), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(box, &notch);
+    } else {
+        QTest::keyClick(box, key.toLatin1());
+    }
+}
+
 } // namespace
 
 class TestFloatEditors : public QObject
@@ -36,13 +90,19 @@ class TestFloatEditors : public QObject
 private slots:
     void init();
     void pageStepsAndToolTips();
-    void shownTextGivesBackTheValue_data();
-    void shownTextGivesBackTheValue();
-    void entriesFollowTheLocale_data();
-    void entriesFollowTheLocale();
-    void stepsStayOnTheGrid();
-    void unfinishedTextIsNoValue();
-    void typedTextCountsBeforeAStep();
+    void valuesFollowTheNotation_data();
+    void valuesFollowTheNotation();
+    void typedTexts_data();
+    void typedTexts();
+    void controlsTakeWhatIsTyped();
+    void othersAreNotLeaving_data();
+    void othersAreNotLeaving();
+    void steps_data();
+    void steps();
+    void swallowedSteps_data();
+    void swallowedSteps();
+    void refusedStepEnds();
+    void lockDropsWhatIsTyped();
     void oddSnapshots_data();
     void oddSnapshots();
     void positionsAreRecovered_data();
@@ -51,6 +111,7 @@ private slots:
     void keysMoveTheSlider();
 
 private:
+    QList<QWidget *> bothEditors(const QSharedPointer<MemoryFloat> &parameter);
     QSharedPointer<MemoryFloat> feature(double value, double minimum, double maximum, double increment = 0.0,
                                         const QString &representation = QString());
     FloatEditor *floatEditor(const QSharedPointer<MemoryFloat> &parameter);
@@ -86,6 +147,11 @@ FloatSliderEditor *TestFloatEditors::sliderEditor(const QSharedPointer<MemoryFlo
                         SIGNAL(boxValueChanged()));
 }
 
+QList<QWidget *> TestFloatEditors::bothEditors(const QSharedPointer<MemoryFloat> &parameter)
+{
+    return {floatEditor(parameter), sliderEditor(parameter)};
+}
+
 void TestFloatEditors::pageStepsAndToolTips()
 {
     DoubleSpinBox box(nullptr, "Linear");
@@ -117,149 +183,330 @@ void TestFloatEditors::pageStepsAndToolTips()
     QCOMPARE(slider.toolTip(), "Range: 3..9");
 }
 
-void TestFloatEditors::shownTextGivesBackTheValue_data()
+void TestFloatEditors::valuesFollowTheNotation_data()
 {
-    columns<double, GenApi::EDisplayNotation, QString>({"value", "notation", "shown"});
-    row("no noise", 0.1, GenApi::fnAutomatic, "0.1");
-    row("a third", 1.0 / 3.0, GenApi::fnAutomatic, "0.3333333333333333");
-    row("integral", 5000.0, GenApi::fnAutomatic, "5000");
-    row("of a 32-bit register", double(0.1F), GenApi::fnAutomatic, "0.1");
-    row("whole, fits 32 bits", 134217728.0, GenApi::fnAutomatic, "134217728");
-    row("few digits, fits 32 bits", 5.0009765625, GenApi::fnAutomatic, "5.0009765625");
-    row("small", 1.5e-9, GenApi::fnAutomatic, "1.5e-09");
-    row("small and fixed", 1.5e-9, GenApi::fnFixed, "0.0000000015");
-    row("large", 6.02e23, GenApi::fnAutomatic, "6.02e+23");
-    row("scientific", 1250.0, GenApi::fnScientific, "1.25e+03");
-    row("tiny", 2.5e-200, GenApi::fnAutomatic, "2.5e-200");
+    columns<double, GenApi::EDisplayNotation, int, QString, QString>(
+        {"value", "notation", "precision", "shown", "all"});
+    const double pi = 3.141592653589793;
+    row("automatic", pi, GenApi::fnAutomatic, 6, "3.14159", "3.141592653589793");
+    row("fixed", pi, GenApi::fnFixed, 2, "3.14", "3.141592653589793");
+    row("scientific", 1234.5678, GenApi::fnScientific, 3, "1.235e+03", "1.2345678e+03");
+    row("whole", 74250000.0, GenApi::fnAutomatic, 6, "74250000", "74250000");
+    row("largest whole", 999999999999999.0, GenApi::fnAutomatic, 6, "999999999999999", "999999999999999");
+    row("digits before the point stay", 1234567.25, GenApi::fnAutomatic, 4, "1234567", "1234567.25");
+    row("no noise", 0.1, GenApi::fnAutomatic, 8, "0.1", "0.1");
+    row("of a 32-bit register", double(0.1F), GenApi::fnAutomatic, 12, "0.1", "0.1");
+    row("small", 1.5e-9, GenApi::fnAutomatic, 6, "1.5e-09", "1.5e-09");
+    row("never 0", 1.5e-9, GenApi::fnFixed, 4, "0.0000000015", "0.0000000015");
+    row("large", 6.02214076e23, GenApi::fnAutomatic, 4, "6.022e+23", "6.02214076e+23");
+    row("tiny", 2.5e-200, GenApi::fnAutomatic, 6, "2.5e-200", "2.5e-200");
 }
 
-void TestFloatEditors::shownTextGivesBackTheValue()
+void TestFloatEditors::valuesFollowTheNotation()
 {
     QFETCH(const double, value);
     QFETCH(const GenApi::EDisplayNotation, notation);
+    QFETCH(const int, precision);
     QFETCH(const QString, shown);
     const auto parameter = feature(value, -1e30, 1e30);
-    parameter->edit([notation](auto &data) { data.displayNotation = notation; });
-    FloatEditor *const editor = floatEditor(parameter);
-    auto *const line = editor->findChild<QLineEdit *>();
-    QCOMPARE(line->text(), shown);
-    QCOMPARE(editor->value(), value);
-    m_bench->present();
-    m_bench->enter(editor, "7");
-    m_bench->enter(editor, shown);
-    QCOMPARE(parameter->writes, QStringList({"7", QVariant(shown.toDouble()).toString()}));
-    QCOMPARE(line->text(), shown);
+    parameter->edit([notation, precision](auto &data) {
+        data.displayNotation = notation;
+        data.displayPrecision = precision;
+    });
+    for (QWidget *editor : bothEditors(parameter)) {
+        QLineEdit *const line = EditorBench::lineOf(editor);
+        m_bench->present();
+        QCOMPARE(line->text(), shown);
+        m_bench->setFocus();
+        editor->setFocus(Qt::TabFocusReason);
+        QTEST(line->text(), "all");
+        m_bench->press(Qt::Key_Return);
+        QTest::keyClicks(editor->focusProxy(), "7");
+        m_bench->press(Qt::Key_Backspace);
+        line->setText(line->text() + QLatin1Char(' '));
+        m_bench->press(Qt::Key_Tab);
+        QCOMPARE(parameter->writes, QStringList()); // rounded for the eye alone
+        QCOMPARE(line->text(), shown);
+        QCOMPARE(editor->findChild<QDoubleSpinBox *>()->value(), value);
+        m_bench->enter(editor, "7");
+        m_bench->enter(editor, QString::number(value, 'g', 17));
+        QTRY_COMPARE(parameter->writes.size(), 2);
+        QCOMPARE(parameter->writes.constLast().toDouble(), value);
+        parameter->writes.clear();
+    }
 }
 
-void TestFloatEditors::entriesFollowTheLocale_data()
+void TestFloatEditors::typedTexts_data()
 {
-    columns<QLocale, QString, QStringList>({"locale", "pasted", "writes"});
-    const QStringList none;
+    columns<QLocale, QString, QString, QString>({"locale", "typed", "written", "words"});
     const QLocale english(QLocale::English, QLocale::UnitedStates);
-    row("comma in English", english, "1,5", none);
-    row("groups in English", english, "1,500", none);
-    row("exponent in English", english, "1.5e2", QStringList("150"));
-    row("unfinished exponent", english, "1e", none);
-    row("too large", english, "1e9", QStringList("2000"));
-    row("infinity", english, "inf", none);
+    row("above", english, "4000", "3032", "3032 is the maximum");
+    row("below", english, "-9000.5", "-2000", "-2000 is the minimum");
+    row("beside the grid", english, "10.3", "10.5", "10.5 is the nearest value (increment: 0.5)");
+    row("exponent", english, "1.5e2", "150", "");
+    row("blanks around", english, "  15 ", "15", "");
+    row("typographic minus", english, "\u22125", "-5", "");
+    row("comma in English", english, "3,5", "", "use . as the decimal sign");
+    row("groups in English", english, "1,500", "", "nothing may stand between thousands");
+    row("unit", english, "12.5 ms", "", "leave out the unit");
+    row("half an exponent", english, "1e", "", "the exponent is missing");
+    row("too large", english, "1e999", "", "it is too large");
+    row("infinity", english, "inf", "", "use digits");
+    row("no number", english, "a-b", "", "use digits");
+    row("sign alone", english, "-", "", "");
     const QLocale german(QLocale::German, QLocale::Germany);
-    row("comma in German", german, "1,5", QStringList("1.5"));
-    row("point in German", german, "1.5e2", none);
-    row("groups in German", german, "1.500", none);
-    row("Swedish minus", QLocale(QLocale::Swedish), "\u22121,5", QStringList("-1.5"));
+    row("comma in German", german, "1,5", "1.5", "");
+    row("point in German", german, "3.5", "", "use , as the decimal sign");
+    row("thousands in German", german, "1.500", "", "use , as the decimal sign");
+    row("thin spaces", QLocale(QLocale::French), "1\u202f500", "", "nothing may stand between thousands");
+    row("Swedish", QLocale(QLocale::Swedish), "-1,5e2", "-150", "");
+    const QLocale arabic(QLocale::Arabic, QLocale::Egypt);
+    row("Arabic", arabic, "\u0661\u0662\u066b\u0665", "12.5", "");
+    row("Latin digits in Arabic", arabic, "-12\u066b5", "-12.5", "");
+    row("point in Arabic", arabic, "12.5", "", "use \u066b as the decimal sign");
 }
 
-void TestFloatEditors::entriesFollowTheLocale()
+void TestFloatEditors::typedTexts()
 {
     QFETCH(const QLocale, locale);
-    QFETCH(const QString, pasted);
-    QFETCH(const QStringList, writes);
+    QFETCH(const QString, typed);
+    QFETCH(const QString, written);
+    QFETCH(const QString, words);
     m_bench->setLocale(locale);
-    const auto parameter = feature(42.5, -2000.0, 2000.0);
-    FloatEditor *const editor = floatEditor(parameter);
-    const QString shown = editor->findChild<QLineEdit *>()->text();
-    m_bench->present();
-    editor->setFocus();
-    auto *const line = editor->findChild<QLineEdit *>();
-    line->selectAll();
-    line->insert(pasted);
-    QTest::keyClick(editor->focusProxy(), Qt::Key_Return);
-    QCOMPARE(parameter->writes, writes);
-    if (writes.isEmpty()) {
-        QCOMPARE(line->text(), shown);
-        return;
-    }
-    while (!line->text().isEmpty()) { // what is shown can be deleted step by step
-        const auto length = line->text().size();
-        line->end(false);
-        QTest::keyClick(editor->focusProxy(), Qt::Key_Backspace);
-        QVERIFY2(line->text().size() < length, qPrintable(line->text()));
-    }
-}
-
-void TestFloatEditors::stepsStayOnTheGrid()
-{
-    const auto parameter = feature(0.3, 0.0, 1.0, 0.1);
-    FloatEditor *const editor = floatEditor(parameter);
-    m_bench->present();
-    editor->setFocus();
-    QTest::keyClick(editor->focusProxy(), Qt::Key_Up);
-    QTest::keyClick(editor->focusProxy(), Qt::Key_PageUp);
-    QTest::keyClicks(editor->focusProxy(), "x");
-    m_bench->enter(editor, "0.77");
-    for (int i = 0; i < 5; ++i) {
-        QTest::keyClick(editor->focusProxy(), Qt::Key_Up);
-    }
-    QCOMPARE(parameter->writes.join(QLatin1Char(' ')), "0.4 0.6 0.8 0.9 1");
-
-    const auto free = m_collection->addFloat("Free", "Root", 5000.0, 1.0, 1e6);
-    FloatEditor *const second = floatEditor(free);
-    QTest::keyClick(second->focusProxy(), Qt::Key_Up);
-    QTest::keyClick(second->focusProxy(), Qt::Key_Down);
-    QTest::keyClick(second->focusProxy(), Qt::Key_Down);
-    QCOMPARE(free->writes.join(QLatin1Char(' ')), "5100 5000 4900");
-}
-
-void TestFloatEditors::unfinishedTextIsNoValue()
-{
-    const auto parameter = feature(10.0, 0.0, 1000.0);
-    for (QWidget *editor :
-         {static_cast<QWidget *>(floatEditor(parameter)), static_cast<QWidget *>(sliderEditor(parameter))}) {
-        m_bench->present();
-        auto *const line = editor->findChild<QLineEdit *>();
-        for (const bool readable : {true, false}) {
-            parameter->update([readable](auto &data) { data.isReadable = readable; });
+    const auto parameter = feature(42.5, -2000.0, 3032.0, 0.5);
+    for (QWidget *editor : bothEditors(parameter)) {
+        for (const bool isLeft : {false, true}) {
+            parameter->setValue(42.5);
+            m_bench->present();
+            QCoreApplication::processEvents();
+            parameter->writes.clear();
+            QLineEdit *const line = EditorBench::lineOf(editor);
             const QString shown = line->text();
-            for (const bool isDeleted : {false, true}) {
-                m_bench->type(editor, isDeleted ? "7" : "1e");
-                if (isDeleted) {
-                    m_bench->press(Qt::Key_Backspace);
-                }
-                const QString entered = line->text();
-                m_bench->refresh();
-                QCoreApplication::processEvents();
-                QCOMPARE(line->text(), entered);
-                QVERIFY(!line->hasSelectedText());
-                m_bench->press(Qt::Key_Return);
-                QCOMPARE(line->text(), shown);
-                QCOMPARE(parameter->writes, QStringList());
-                QVERIFY(!dynamic_cast<AbstractItemEditor *>(editor)->editorData().isValid());
+            m_bench->type(editor, typed);
+            QCOMPARE(line->text(), typed);
+            line->setCursorPosition(1);
+            m_bench->refresh();
+            QCOMPARE(line->text(), typed);
+            QCOMPARE(line->cursorPosition(), 1);
+            const bool isMarked =
+                line->palette().color(QPalette::Base) != m_bench->palette().color(QPalette::Base);
+            QCOMPARE(isMarked, written.isEmpty() && !words.isEmpty());
+            QVERIFY2(!isMarked || line->toolTip().contains(words), qPrintable(line->toolTip()));
+            m_bench->press(isLeft ? Qt::Key_Tab : Qt::Key_Return);
+            QTRY_COMPARE(parameter->writes, written.isEmpty() ? QStringList() : QStringList(written));
+            if (!written.isEmpty()) {
+                const auto *const label = m_bench->findChild<QLabel *>("inputHint");
+                QCOMPARE(label ? label->text() : QString(), words);
+                delete label;
+                continue;
             }
+            QCOMPARE(line->text(), isLeft ? shown : typed);
+            QCOMPARE(line->toolTip().isEmpty(), isLeft);
+            m_bench->press(Qt::Key_Up); // from no number, or in the next editor
+            QCOMPARE(line->text(), isLeft ? shown : typed);
+            m_bench->press(Qt::Key_Tab);
+            QCOMPARE(line->text(), shown);
+            parameter->writes.clear();
         }
     }
 }
 
-void TestFloatEditors::typedTextCountsBeforeAStep()
+void TestFloatEditors::controlsTakeWhatIsTyped()
 {
-    const auto parameter = feature(10.0, 0.0, 1000.0, 5.0);
-    for (QWidget *editor :
-         {static_cast<QWidget *>(floatEditor(parameter)), static_cast<QWidget *>(sliderEditor(parameter))}) {
-        parameter->setValue(10.0);
+    auto *const control = new DoubleSpinBox(m_bench.get(), "Linear");
+    auto *const other = new DoubleSpinBox(m_bench.get(), "Linear");
+    for (DoubleSpinBox *const box : {control, other}) {
+        m_bench->layout()->addWidget(box);
+        box->initControls(0.0, 100.0, 7.25, 0.0);
+    }
+    m_bench->present();
+    QLineEdit *const line = EditorBench::lineOf(control);
+    m_bench->enter(control, "40000");
+    QCOMPARE(line->text(), "100");
+    QCOMPARE(m_bench->findChild<QLabel *>("inputHint")->text(), "100 is the maximum");
+    m_bench->enter(control, "3,5");
+    QCOMPARE(line->text(), "3,5");
+    QVERIFY(line->toolTip().contains("use . as the decimal sign"));
+    m_bench->press(Qt::Key_Tab);
+    QCOMPARE(line->text(), "100");
+    QVERIFY(line->toolTip().isEmpty());
+    m_bench->type(control, "12.5");
+    other->setFocus();
+    QCOMPARE(control->value(), 12.5);
+}
+
+void TestFloatEditors::othersAreNotLeaving_data()
+{
+    columns<bool, QString>({"isWindow", "typed"});
+    row("menu", false, "1");
+    row("window", true, "1");
+    row("menu, no number", false, "1.5x");
+    row("window, above the maximum", true, "99999");
+}
+
+void TestFloatEditors::othersAreNotLeaving()
+{
+    QFETCH(const bool, isWindow);
+    QFETCH(const QString, typed);
+    const auto parameter = feature(1500.0, 0.0, 3000.0);
+    for (QWidget *editor : bothEditors(parameter)) {
+        m_bench->present();
+        m_bench->type(editor, typed);
+        QLineEdit *const line = EditorBench::lineOf(editor);
+        const auto check = [&] {
+            m_bench->refresh();
+            return line->text() == typed && parameter->writes.isEmpty();
+        };
+        bool isKept = false;
+        if (isWindow) {
+            QWidget other;
+            other.show();
+            QApplication::setActiveWindow(&other);
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            isKept = check();
+        } else {
+            QTimer::singleShot(0, this, [&] {
+                isKept = QApplication::activePopupWidget() && check();
+                QApplication::activePopupWidget()->close();
+            });
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), line->mapToGlobal(QPoint()));
+            QCoreApplication::sendEvent(line, &event);
+        }
+        QVERIFY(isKept);
+        m_bench->present();
+        QVERIFY(check());
+        m_bench->press(Qt::Key_Escape);
+        QCOMPARE(line->text(), "1500");
+        QVERIFY(parameter->writes.isEmpty());
+    }
+}
+
+void TestFloatEditors::steps_data()
+{
+    columns<double, double, double, double, QString, QString>(
+        {"value", "minimum", "maximum", "increment", "keys", "written"});
+    const double largest = std::numeric_limits<double>::max();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    // u, d: arrows; U, D: page keys; w: a notch of the wheel; anything else is typed
+    row("on the grid", 0.3, 0.0, 1.0, 0.1, "uU", "0.4 0.6");
+    row("from a typed text", 0.3, 0.0, 1.0, 0.1, "0.77u", "0.9");
+    row("typed at a limit", 1.0, 0.0, 1.0, 0.1, "0.5u", "0.6");
+    row("typed beyond a limit", 0.3, 0.0, 1.0, 0.1, "7u", "1");
+    row("not beyond a limit", 1.0, 0.0, 1.0, 0.1, "uwU", "");
+    row("up and down", 5000.0, 1.0, 1e6, 0.0, "uddu", "5100 5000 4900 5000");
+    row("page below a step", 10.0, 0.0, 10.0, 0.0, "D", "9");
+    row("no limits", 0.5, -infinity, infinity, 0.0, "uuuuuuUd", "0.6 0.7 0.8 0.9 1 1.1 2.1 2");
+    row("0 without limits", 0.0, -largest, largest, 0.0, "wUd", "1 11 10");
+    row("one limit", 74250000.0, 0.0, infinity, 0.0, "ud", "74250001 74250000");
+    row("no limits, increment", 1.0, -infinity, infinity, 0.25, "uD", "1.25 -1.25");
+    row("no limits, rounded", 3.14159265, -infinity, infinity, 0.0, "u", "3.14160265");
+    row("single precision's limits", 0.0, -3.4028234663852886e38, 3.4028234663852886e38, 0.0, "u", "1");
+    row("not a number", nan, 0.0, 10.0, 0.5, "uwD", "");
+    row("limits turned round", 5.0, 10.0, 1.0, 0.0, "uwD", "");
+    row("more than digits", 1e17, -infinity, infinity, 1.0, "u", "100000000000001000");
+}
+
+void TestFloatEditors::steps()
+{
+    QFETCH(const double, value);
+    QFETCH(const double, minimum);
+    QFETCH(const double, maximum);
+    QFETCH(const double, increment);
+    QFETCH(const QString, keys);
+    QFETCH(const QString, written);
+    const auto parameter = feature(1.0, -infinity, infinity);
+    parameter->edit([&](auto &data) {
+        data.value = value;
+        data.minimum = minimum;
+        data.maximum = maximum;
+        data.increment = increment;
+    });
+    const bool isSliderAlike = increment > 0.0 || minimum >= maximum || !(maximum - minimum < 1e38);
+    for (QWidget *editor : bothEditors(parameter)) {
+        if (qobject_cast<FloatSliderEditor *>(editor)
+            && (!isSliderAlike || keys.contains(QLatin1Char('U')))) {
+            continue; // goes by the positions
+        }
+        parameter->update([value](auto &data) { data.value = value; });
         parameter->writes.clear();
         m_bench->present();
-        m_bench->type(editor, "300");
-        m_bench->press(Qt::Key_Up);
-        QTRY_COMPARE(parameter->writes.join(QLatin1Char(' ')), "305");
+        editor->setFocus();
+        EditorBench::lineOf(editor)->selectAll();
+        for (const QChar key : keys) {
+            QTest::qWait(qobject_cast<FloatSliderEditor *>(editor) ? 50 : 0);
+            pressStep(editor, key);
+        }
+        QTRY_COMPARE(parameter->writes.join(QLatin1Char(' ')), written);
+    }
+}
+
+void TestFloatEditors::swallowedSteps_data()
+{
+    columns<bool, bool, double, double, QString, QString>(
+        {"hasSlider", "isSilent", "value", "unit", "keys", "values"});
+    row("nothing is swallowed", false, false, 5000.0, 1.0, "udd", "5100 5000 4900");
+    row("coarse", false, false, 5000.0, 1000.0, "ud", "6000 5000");
+    row("before the answers", false, false, 5000.0, 1.0, "+", "5000");
+    row("without an answer", false, true, 5000.0, 1000.0, "u", "6000");
+    row("up to the limit", false, false, 5000.0, 1e9, "u", "5000");
+    row("many positions", true, false, 5000.0, 0.001, "udd", "5000.001 5000 4999.999");
+    row("many positions, wheel", true, false, 5000.0, 0.001, "w", "5000.001");
+    row("slider, without an answer", true, true, 5000.0, 0.001, "u", "5000.001");
+}
+
+void TestFloatEditors::swallowedSteps()
+{
+    QFETCH(const bool, hasSlider);
+    QFETCH(const bool, isSilent);
+    QFETCH(const double, value);
+    QFETCH(const double, unit);
+    QFETCH(const QString, keys);
+    QFETCH(const QString, values);
+    const auto parameter = QSharedPointer<CoarseFloat>::create("Feature", "@CameraDevice/Feature");
+    parameter->snapshot = feature(value, 10.0, 1e7, 0.0, "Logarithmic")->snapshot;
+    parameter->edit([](auto &data) { data.displayPrecision = 8; });
+    parameter->unit = unit;
+    parameter->isSilent = isSilent;
+    m_collection->addInteger("Raw", "Root", 0, 10000, 10000000000, 1);
+    QWidget *const editor =
+        hasSlider ? static_cast<QWidget *>(sliderEditor(parameter)) : floatEditor(parameter);
+    m_bench->present();
+    editor->setFocus(Qt::TabFocusReason);
+    QStringList expected = values.split(QLatin1Char(' '));
+    for (const QChar key : keys) {
+        pressStep(editor, key);
+        const QString next = expected.takeFirst();
+        QTRY_COMPARE(QString::number(parameter->held(), 'g', 12), next);
+        QTRY_COMPARE(EditorBench::lineOf(editor)->text(), next);
+        QTest::qWait(100); // nothing goes on
+    }
+    QCOMPARE(parameter->held(), values.section(QLatin1Char(' '), -1).toDouble());
+}
+
+void TestFloatEditors::refusedStepEnds()
+{
+    const auto parameter = feature(5.0, 0.0, 1000.0);
+    FloatEditor *const editor = floatEditor(parameter);
+    m_bench->present();
+    parameter->fail({"setValueFromString"}, GenICam::AccessException("locked"));
+    editor->setFocus();
+    m_bench->press(Qt::Key_Up);
+    QTest::qWait(700);
+    QCOMPARE(m_bench->refusals, QStringList("locked"));
+    QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
+}
+
+void TestFloatEditors::lockDropsWhatIsTyped()
+{
+    const auto parameter = feature(5.0, 0.0, 1000.0);
+    for (QWidget *editor : bothEditors(parameter)) {
+        parameter->update([](auto &data) { data.isWritable = true; });
+        m_bench->present();
+        m_bench->type(editor, "77");
+        parameter->update([](auto &data) { data.isWritable = false; });
+        QVERIFY(!editor->isEnabled());
+        QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
+        QCOMPARE(m_bench->refusals, QStringList());
     }
 }
 
@@ -306,6 +553,19 @@ void TestFloatEditors::oddSnapshots()
         // What was shown before counts as an entry all the same.
         m_bench->enter(withSlider, "1");
         QCOMPARE(parameter->writes, QStringList("1"));
+        parameter->writes.clear();
+    }
+    if (!std::isfinite(value) || !readable || minimum > maximum) {
+        // Sent as typed, refused by the parameter, never replaced by a limit.
+        for (QWidget *editor : {static_cast<QWidget *>(plain), static_cast<QWidget *>(withSlider)}) {
+            parameter->update([&](auto &data) { data.value = value; });
+            m_bench->refusals.clear();
+            m_bench->enter(editor, "77");
+            QTRY_COMPARE(m_bench->refusals.size(), 1);
+            QVERIFY2(m_bench->refusals.constFirst().contains("77"),
+                     qPrintable(m_bench->refusals.constFirst()));
+            QCOMPARE(parameter->writes, QStringList());
+        }
     }
     if (!readable) {
         plain->setFocus();
@@ -402,6 +662,9 @@ void TestFloatEditors::keysMoveTheSlider()
     QTest::qWait(50);
     QTest::keyClick(slider, Qt::Key_End);
     QTRY_COMPARE(parameter->writes.constLast(), "1000");
+    QTest::qWait(50);
+    QTest::keyClick(slider, Qt::Key_Left);
+    QTRY_COMPARE(parameter->writes.constLast(), "995");
 }
 
 QTEST_MAIN(TestFloatEditors)

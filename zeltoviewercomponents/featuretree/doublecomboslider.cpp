@@ -9,6 +9,7 @@
 
 #include <QSlider>
 
+#include <algorithm>
 #include <limits>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleComboSlider")
@@ -33,7 +34,7 @@ DoubleComboSlider::~DoubleComboSlider() = default;
 
 void DoubleComboSlider::setValue(double value)
 {
-    m_spinBox->setValue(value);
+    m_spinBox->showValue(value);
 }
 
 void DoubleComboSlider::setIntValue(int position)
@@ -46,7 +47,7 @@ void DoubleComboSlider::setMinimum(double minimum)
     m_minRangeLimit = minimum;
     // Before the spin box has the minimum, unlike in setMaximum(): the tip still tells the old one.
     updateToolTip();
-    m_spinBox->setMinimum(minimum);
+    m_spinBox->setLimits(minimum, std::max(minimum, m_spinBox->maximum()));
 }
 
 void DoubleComboSlider::setIntMinimum(int minimum)
@@ -58,7 +59,7 @@ void DoubleComboSlider::setIntMinimum(int minimum)
 void DoubleComboSlider::setMaximum(double maximum)
 {
     m_maxRangeLimit = maximum;
-    m_spinBox->setMaximum(maximum);
+    m_spinBox->setLimits(std::min(m_spinBox->minimum(), maximum), maximum);
     updateToolTip();
 }
 
@@ -78,7 +79,7 @@ void DoubleComboSlider::setRange(double minimum, double maximum)
 {
     m_minRangeLimit = minimum;
     m_maxRangeLimit = maximum;
-    m_spinBox->setRange(minimum, maximum);
+    m_spinBox->setLimits(minimum, maximum);
     updateToolTip();
 }
 

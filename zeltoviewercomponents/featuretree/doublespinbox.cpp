@@ -23,7 +23,7 @@ DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_spinBox);
     setContentsMargins(1, 0, 1, 0);
-    m_spinBox->setRange(m_minRangeLimit, m_maxRangeLimit);
+    m_spinBox->setLimits(m_minRangeLimit, m_maxRangeLimit);
     m_spinBox->setAccelerated(true);
     if (representation == QLatin1String("PureNumber")) {
         m_spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -37,18 +37,18 @@ DoubleSpinBox::~DoubleSpinBox() = default;
 
 void DoubleSpinBox::setValue(double value)
 {
-    m_spinBox->setValue(value);
+    m_spinBox->showValue(value);
 }
 
 void DoubleSpinBox::setMinimum(double minimum)
 {
-    m_spinBox->setMinimum(minimum);
+    m_spinBox->setLimits(minimum, std::max(minimum, m_spinBox->maximum()));
     updateToolTip();
 }
 
 void DoubleSpinBox::setMaximum(double maximum)
 {
-    m_spinBox->setMaximum(maximum);
+    m_spinBox->setLimits(std::min(m_spinBox->minimum(), maximum), maximum);
     updateToolTip();
 }
 
@@ -67,7 +67,7 @@ void DoubleSpinBox::setRange(double minimum, double maximum)
 {
     m_minRangeLimit = minimum;
     m_maxRangeLimit = maximum;
-    m_spinBox->setRange(minimum, maximum);
+    m_spinBox->setLimits(minimum, maximum);
     updateToolTip();
 }
 

@@ -94,17 +94,37 @@ double withoutNoise(double value)
     return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
 }
 
+bool FloatLimits::isBounded() const
+{
+    // Descriptions name the farthest number of either precision where there is no limit.
+    constexpr double farthest = std::numeric_limits<float>::max();
+    return minimum > -farthest && maximum < farthest;
+}
+
 FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data)
 {
-    using Limits = std::numeric_limits<double>;
-    FloatLimits limits{data.minimum, data.maximum, data.increment};
-    if (data.minimum > data.maximum) {
-        limits.minimum = limits.maximum = std::isfinite(data.value) ? data.value : 0.0;
+    FloatLimits limits;
+    if (!(data.minimum > data.maximum)) {
+        limits.minimum = std::isfinite(data.minimum) ? data.minimum : limits.minimum;
+        limits.maximum = std::isfinite(data.maximum) ? data.maximum : limits.maximum;
     }
-    limits.minimum = std::isfinite(limits.minimum) ? limits.minimum : Limits::lowest();
-    limits.maximum = std::isfinite(limits.maximum) ? limits.maximum : Limits::max();
-    limits.increment = std::isfinite(limits.increment) && limits.increment > 0.0 ? limits.increment : 0.0;
+    limits.increment = std::isfinite(data.increment) && data.increment > 0.0 ? data.increment : 0.0;
     return limits;
+}
+
+FloatLimits entryLimits(const ParameterCollection::FloatParameterData &data)
+{
+    return canStep(data) ? usableLimits(data) : FloatLimits();
+}
+
+bool hasNumber(const ParameterCollection::FloatParameterData &data)
+{
+    return data.isReadable && std::isfinite(data.value);
+}
+
+bool canStep(const ParameterCollection::FloatParameterData &data)
+{
+    return hasNumber(data) && !(data.minimum > data.maximum);
 }
 
 void takeFloatData(const Core::GuardSite &site, const AbstractItemEditor::EditorData &data,

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <functional>
+#include <limits>
 
 class QAbstractSpinBox;
 class QEvent;
@@ -46,17 +47,31 @@ double snappedToGrid(double value, double minimum, double maximum, double increm
 /*! Returns \a value without the binary noise behind its 15th significant digit. */
 double withoutNoise(double value);
 
-/*! \brief Limits that a control can work with: finite and in order; the increment is 0 when there is none. */
+/*! \brief What a control makes of the limits of a feature: they are finite and in order, the increment is 0
+ * when there is none. */
 struct FloatLimits
 {
-    double minimum = 0.0;
-    double maximum = 0.0;
+    /*! Returns whether there are two limits: those as far away as numbers go are none. */
+    bool isBounded() const;
+
+    double minimum = std::numeric_limits<double>::lowest();
+    double maximum = std::numeric_limits<double>::max();
     double increment = 0.0;
 };
 
-/*! Returns the limits of \a data. A limit that is not finite becomes the farthest double. Limits in the wrong
- * order leave only the value itself, so that nothing can be entered. */
+/*! Returns the limits of \a data. A limit that is not finite becomes the farthest double, as do both limits
+ * when they are in the wrong order. */
 FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
+
+/*! Returns the limits of what can be entered while \a data is shown: none but the parameter's own refusal
+ * when there is no value or the limits are in the wrong order. */
+FloatLimits entryLimits(const ParameterCollection::FloatParameterData &data);
+
+/*! Returns whether \a data has a value that can be shown as a number. */
+bool hasNumber(const ParameterCollection::FloatParameterData &data);
+
+/*! Returns whether steps make sense: there is a value, and the limits are in order. */
+bool canStep(const ParameterCollection::FloatParameterData &data);
 
 /*! Hands a floating-point editor its \a data: calls \a show with the snapshot, guarded, and logs limits that
  * are not finite, not in order, or do not contain the value. Data of another kind is logged and left alone.

@@ -5,15 +5,17 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
+#include "floatstep_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <platform/core/guard.h>
 
 #include <QLineEdit>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <limits>
 
 using namespace ParameterCollection;
 
@@ -22,10 +24,12 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
     : DoubleSpinBox(parent, representation)
     , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
+    , m_step(std::make_shared<FloatStep>())
 {
     connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
+    connect(spinBox(), SIGNAL(left()), this, SLOT(onLeft()));
 }
 
 FloatEditor::~FloatEditor() = default;
@@ -34,43 +38,54 @@ void FloatEditor::setEditorData(EditorData data)
 {
     const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
+        m_step->show(data);
         showSnapshot(snapshot);
+        if (m_step->isUnderWay()) {
+            // Not from within the refresh, whose sender is not done yet.
+            QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
+        }
     };
     EditorHelpers::takeFloatData({logCategory(), "FloatEditor::setEditorData"}, data, show);
 }
 
 void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
 {
-    setEnabled(EditorHelpers::canBeChanged(snapshot));
-    const EditorHelpers::FloatLimits limits = EditorHelpers::usableLimits(snapshot);
-    m_minimum = limits.minimum;
-    m_maximum = limits.maximum;
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
-    // The value below a typed text is the camera's too: the text is compared with it when it is entered.
-    std::optional<EditorHelpers::TypedText> typed;
-    if (hasFocus() && !isUpdateExspected() && lineEdit->isModified()) {
-        typed.emplace(lineEdit);
+    if (!EditorHelpers::canBeChanged(snapshot)) {
+        // The focus goes with the lock; it would take what is typed along.
+        spinBox()->showText();
+        m_step->end();
     }
-    spinBox()->showFeatureValues(snapshot.displayNotation);
-    initControls(limits.minimum, limits.maximum, snapshot.value, limits.increment);
+    setEnabled(EditorHelpers::canBeChanged(snapshot));
+    m_limits = EditorHelpers::entryLimits(snapshot);
+    m_canStep = EditorHelpers::canStep(snapshot);
+    // The value below a typed text is the camera's too: the text is compared with it when it is entered.
+    if (hasFocus() && isUpdateExspected()) {
+        spinBox()->settle();
+    }
+    const auto typed = spinBox()->keepTypedText();
+    spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
+    const EditorHelpers::FloatLimits shown = EditorHelpers::usableLimits(snapshot);
+    initControls(shown.minimum, shown.maximum, snapshot.value, shown.increment);
     updateToolTip();
     showValue(snapshot);
 }
 
 void FloatEditor::showValue(const FloatParameterData &snapshot)
 {
-    if (std::isfinite(snapshot.value)) {
+    const bool isFinite = std::isfinite(snapshot.value);
+    if (isFinite) {
         // A value outside the limits is shown as it is; entries are limited by commit().
-        spinBox()->setRange(std::min(m_minimum, snapshot.value), std::max(m_maximum, snapshot.value));
-        setValue(snapshot.value);
+        spinBox()->setLimits(std::min(m_limits.minimum, snapshot.value),
+                             std::max(m_limits.maximum, snapshot.value));
+        spinBox()->showValue(snapshot.value);
+    } else {
+        spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
     }
     spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
-                                 : std::isfinite(snapshot.value)
-                                 ? QString()
-                                 : spinBox()->locale().toString(snapshot.value));
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
-    lineEdit->setModified(false);
-    m_settledText = lineEdit->text();
+                                 : isFinite       ? QString()
+                                                  : spinBox()->locale().toString(snapshot.value));
+    m_settledValue =
+        EditorHelpers::hasNumber(snapshot) ? snapshot.value : std::numeric_limits<double>::quiet_NaN();
     m_isChanged = false;
 }
 
@@ -91,48 +106,101 @@ void FloatEditor::onTextEdited()
 
 void FloatEditor::onEditingFinished()
 {
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
-    if (spinBox()->hasSubstitute() || lineEdit->text() == m_settledText) {
-        lineEdit->setModified(false);
+    const auto typed = spinBox()->entry();
+    if (!typed) {
         return;
     }
-    commit(value());
+    m_step->end();
+    spinBox()->tellOutcome(*typed, snapped(*typed), m_limits.minimum, m_limits.maximum, m_limits.increment);
+    commit(*typed);
 }
 
 void FloatEditor::onStepTriggered(int steps)
 {
-    if (spinBox()->hasSubstitute()) {
-        return;
-    }
-    const bool isPage = std::abs(steps) == EditorHelpers::pageKeySteps;
-    const double distance = isPage ? std::copysign(spinBox()->pageStep(), steps) : stepWidth() * steps;
-    if (std::isfinite(distance)) {
-        commit(EditorHelpers::withoutNoise(value() + distance));
+    if (m_canStep) {
+        m_step->begin(value(), steps);
+        takeStep();
     }
 }
 
-double FloatEditor::stepWidth() const
+void FloatEditor::onLeft()
 {
-    if (increment() > 0.0) {
-        return increment();
+    m_stepWidth = 0.0;
+}
+
+void FloatEditor::takeStep()
+{
+    const auto target = m_step->next([this](double start, double factor) {
+        const double distance = stepDistance(m_step->steps()) * factor;
+        return snapped(EditorHelpers::withoutNoise(start + distance));
+    });
+    if (target) {
+        commit(*target);
+    } else if (spinBox()->entry()) {
+        commit(*spinBox()->entry()); // typed at a limit
+    }
+}
+
+// The answer may have come within the write, or comes with a later snapshot.
+void FloatEditor::goOnStepping()
+{
+    if (m_step->isSwallowed()) {
+        takeStep();
+    } else if (m_step->isUnderWay()) {
+        m_keeper->showAgainAfterCommit();
+    }
+}
+
+double FloatEditor::stepDistance(int steps)
+{
+    if (m_limits.increment > 0.0) {
+        m_stepWidth = m_limits.increment;
+    } else if (m_stepWidth == 0.0) {
+        m_stepWidth = freeStepWidth();
+    }
+    if (std::abs(steps) != EditorHelpers::pageKeySteps) {
+        return m_stepWidth * steps;
+    }
+    const double page = m_limits.isBounded() ? std::max(spinBox()->pageStep(), m_stepWidth)
+                                             : m_stepWidth * EditorHelpers::pageKeySteps;
+    return std::copysign(page, steps);
+}
+
+double FloatEditor::freeStepWidth() const
+{
+    if (!m_limits.isBounded()) {
+        return spinBox()->lastDigit(value());
     }
     // A unit in the second digit of the value; near 0, of a hundredth of the range.
-    const double reference = value() != 0.0 ? std::abs(value()) : (m_maximum / 100.0 - m_minimum / 100.0);
+    const double reference =
+        value() != 0.0 ? std::abs(value()) : (m_limits.maximum / 100.0 - m_limits.minimum / 100.0);
     return reference > 0.0 ? std::pow(10.0, std::floor(std::log10(reference)) - 1.0) : 0.0;
 }
 
-void FloatEditor::commit(double value)
+double FloatEditor::snapped(double number) const
 {
-    const double usable = EditorHelpers::snappedToGrid(value, m_minimum, m_maximum, increment());
-    spinBox()->setRange(m_minimum, m_maximum);
+    return EditorHelpers::snappedToGrid(number, m_limits.minimum, m_limits.maximum, m_limits.increment);
+}
+
+void FloatEditor::commit(double number)
+{
+    const double usable = snapped(number);
+    spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
     setValue(usable);
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
-    lineEdit->setModified(false);
     enableUpdate(true);
-    if (lineEdit->text() == m_settledText) {
+    if (usable == m_settledValue) {
+        m_step->end();
         return;
     }
-    m_settledText = lineEdit->text();
+    m_settledValue = usable;
     m_isChanged = true;
-    emit boxValueChanged();
+    const QPointer<FloatEditor> self(this);
+    const std::shared_ptr<FloatStep> step = m_step;
+    {
+        const auto writing = step->writing();
+        emit boxValueChanged();
+    }
+    if (self) {
+        goOnStepping();
+    }
 }

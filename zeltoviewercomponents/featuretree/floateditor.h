@@ -5,14 +5,23 @@
 
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 #include <zeltoviewercomponents/featuretree/doublespinbox.h>
+#include <zeltoviewercomponents/featuretree/editorhelpers.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <memory>
+
 class EditorDataKeeper;
+class FloatStep;
 
 /*! \brief Edits a floating-point feature with a spin box.
  *
- * Shows as many digits as give the value back. What the user enters is limited, moved onto the increment's
- * grid and announced once, on Return, focus loss or a step; it is handed out in the C locale.
+ * What the user enters is limited, moved onto the increment's grid and announced once, on Return, focus loss
+ * or a step; it is handed out in the C locale with all its digits. Without a value, or with limits in the
+ * wrong order, a typed number is announced as it is, and nothing steps.
+ *
+ * A step goes by the increment. Without one it changes the second digit of the value, or, where a limit is
+ * missing, its last shown digit; how far it goes stays the same while the user is in the editor. A step that
+ * the camera swallows is taken again tenfold.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatEditor : public DoubleSpinBox, public AbstractItemEditor
 {
@@ -33,16 +42,23 @@ private slots:
     void onTextEdited();
     void onEditingFinished();
     void onStepTriggered(int steps);
+    void onLeft();
+    void goOnStepping();
 
 private:
     void showSnapshot(const ParameterCollection::FloatParameterData &snapshot);
     void showValue(const ParameterCollection::FloatParameterData &snapshot);
-    double stepWidth() const;
-    void commit(double value);
+    double stepDistance(int steps);
+    double freeStepWidth() const;
+    double snapped(double number) const;
+    void takeStep();
+    void commit(double number);
 
     EditorDataKeeper *m_keeper;
-    double m_minimum = 0.0; //!< the limits of what the user enters; the shown value may lie outside
-    double m_maximum = 0.0;
-    QString m_settledText; //!< what was last shown or committed
+    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
+    EditorHelpers::FloatLimits m_limits; //!< of what the user enters; the shown value may lie outside
+    double m_settledValue = 0.0; //!< what was last shown or committed
+    double m_stepWidth = 0.0; //!< since the first step in the editor; 0 before
+    bool m_canStep = false;
     bool m_isChanged = false; //!< committed, not handed out yet
 };

@@ -5,16 +5,16 @@
 
 #include "editordatakeeper.h"
 #include "editorhelpers.h"
+#include "floatstep_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <platform/core/guard.h>
 
-#include <QLineEdit>
 #include <QLocale>
 #include <QSlider>
 
 #include <cmath>
-#include <optional>
+#include <limits>
 #include <utility>
 
 using namespace ParameterCollection;
@@ -64,32 +64,44 @@ void FloatSliderEditor::setEditorData(EditorData data)
 {
     const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
+        step().show(data);
         showSnapshot(data.ptrParameter->fullName(), snapshot);
+        if (step().isUnderWay()) {
+            // Not from within the refresh, whose sender is not done yet.
+            QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
+            m_keeper->showAgainAfterCommit();
+        }
     };
     EditorHelpers::takeFloatData({logCategory(), "FloatSliderEditor::setEditorData"}, data, show);
 }
 
 void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
 {
+    if (!EditorHelpers::canBeChanged(snapshot)) {
+        // The focus goes with the lock; it would take what is typed along.
+        spinBox()->showText();
+        step().end();
+    }
     setEnabled(EditorHelpers::canBeChanged(snapshot));
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
-    std::optional<EditorHelpers::TypedText> typed;
-    if (isBeingTyped()) {
-        typed.emplace(EditorHelpers::lineEditOf(*spinBox()));
+    if (hasFocus() && isUpdateExspected()) {
+        spinBox()->settle();
     }
-    spinBox()->showFeatureValues(snapshot.displayNotation);
+    const auto typed = spinBox()->keepTypedText();
+    spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
     showLimits(name, snapshot);
     if (isBeingMoved()) {
         return;
     }
     const bool isNumber = std::isfinite(snapshot.value);
+    if (isNumber) {
+        showValue(snapshot.value);
+    }
     spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
                                  : isNumber       ? QString()
                                                   : spinBox()->locale().toString(snapshot.value));
-    if (isNumber) {
-        showValue(snapshot.value);
-    } else {
-        settle();
+    if (!EditorHelpers::hasNumber(snapshot)) {
+        settle(std::numeric_limits<double>::quiet_NaN());
     }
     m_isChanged = false;
 }
@@ -102,6 +114,8 @@ void FloatSliderEditor::showLimits(const QString &name, const FloatParameterData
                 ? ETwoModeDoubleComboSliderMode::Logarithmic
                 : ETwoModeDoubleComboSliderMode::Linear);
     setIncrement(limits.increment);
+    setFree(!EditorHelpers::canStep(snapshot));
+    slider()->setEnabled(!(snapshot.minimum > snapshot.maximum)); // no position means anything
     setLimits(limits.minimum, limits.maximum, positions.minimum, positions.maximum, positions.step);
 }
 

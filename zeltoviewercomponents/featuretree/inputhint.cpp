@@ -5,6 +5,9 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
 #include <QToolTip>
 
 namespace {
@@ -19,6 +22,23 @@ QColor tinted(const QColor &color)
     const auto mixed = [](int a, int b) { return (a * (100 - share) + b * share) / 100; };
     return QColor(mixed(color.red(), red.red()), mixed(color.green(), red.green()),
                   mixed(color.blue(), red.blue()));
+}
+
+// Returns a place in the editor's row, behind the text, since the user may go on in the row below. Where the
+// window ends too early, it is below the editor, or above.
+QPoint placeIn(const QWidget &window, const QWidget &editor, const QLineEdit &lineEdit, const QSize &size)
+{
+    const int textWidth = lineEdit.fontMetrics().horizontalAdvance(lineEdit.displayText());
+    const bool isRoomInside = editor.width() >= size.width() + textWidth + 2 * lineEdit.height();
+    const QPoint origin = editor.mapTo(&window, QPoint(0, 0));
+    const QRect row(origin, editor.size());
+    const int behind = isRoomInside ? row.right() - size.width() : row.right() + 2;
+    if (editor.layoutDirection() == Qt::LeftToRight && behind + size.width() <= window.width()) {
+        return {behind, row.center().y() - size.height() / 2};
+    }
+    const bool isRoomBelow = row.bottom() + size.height() < window.height();
+    return {qBound(0, row.left(), qMax(0, window.width() - size.width())),
+            isRoomBelow ? row.bottom() + 1 : row.top() - size.height()};
 }
 
 } // namespace
@@ -46,6 +66,9 @@ void InputHint::setProblem(const QString &problem)
     }
     const bool wasMarked = !m_problem.isEmpty();
     m_problem = problem;
+    if (!problem.isEmpty()) {
+        endTelling(); // what became of the entry before is out of date
+    }
     m_lineEdit->setToolTip(problem.isEmpty() ? m_toolTip : problem);
     if (wasMarked == problem.isEmpty()) {
         mark(!wasMarked); // once: the editor may be the line edit, and would be tinted again and again
@@ -85,12 +108,7 @@ void InputHint::tell(const QString &text)
     m_label->setForegroundRole(QPalette::ToolTipText);
     m_label->setText(text);
     m_label->adjustSize();
-    QPoint place = m_editor->mapTo(window, QPoint(0, m_editor->height()));
-    if (place.y() + m_label->height() > window->height()) {
-        place.ry() -= m_editor->height() + m_label->height();
-    }
-    place.setX(qBound(0, place.x(), qMax(0, window->width() - m_label->width())));
-    m_label->move(place);
+    m_label->move(placeIn(*window, *m_editor, *m_lineEdit, m_label->size()));
     m_label->raise();
     m_label->show();
     m_timer.start(tellingMilliseconds);

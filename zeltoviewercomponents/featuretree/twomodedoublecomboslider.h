@@ -4,9 +4,14 @@
 #pragma once
 
 #include <zeltoviewercomponents/featuretree/doublecomboslider.h>
+#include <zeltoviewercomponents/featuretree/editorhelpers.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QTimer>
+
+#include <memory>
+
+class FloatStep;
 
 /*! \brief How the positions of a slider divide the range of values. */
 enum class ETwoModeDoubleComboSliderMode {
@@ -18,6 +23,9 @@ enum class ETwoModeDoubleComboSliderMode {
  *
  * What the user enters is limited and moved onto the increment's grid. Changes in quick succession, as from a
  * drag or a held key, are announced no more often than their receivers can take them; the last one always is.
+ *
+ * A step goes as far as one position of the slider, at least as far as the increment and as can be shown;
+ * where a limit is missing, it changes the last shown digit.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TwoModeDoubleComboSlider : public DoubleComboSlider
 {
@@ -34,6 +42,9 @@ public:
 
     /*! Sets the distance of the values that can be entered, counted from the minimum; 0 for none. */
     void setIncrement(double increment);
+
+    /*! Sets whether numbers are announced as they are typed, whatever the limits, and nothing steps. */
+    void setFree(bool isFree);
 
     /*! Sets the limits of values and positions. What is shown moves only as far as the new limits ask. */
     void setLimits(double minimum, double maximum, int minimumPosition, int maximumPosition,
@@ -54,17 +65,21 @@ signals:
 protected:
     /*! Returns whether the user is moving the slider, or has and the change is not announced yet. */
     bool isBeingMoved() const;
-    /*! Returns whether the user is typing a value. */
-    bool isBeingTyped() const;
-    /*! Makes what is shown the base that the user's next change is compared with. */
-    void settle();
+    /*! Makes \a value the base that the user's next change is compared with; NaN for none. */
+    void settle(double value);
+    FloatStep &step() const;
+
+protected slots:
+    /*! Goes on with a step that the camera has swallowed. */
+    void goOnStepping();
 
 private slots:
     void onTextEdited();
-    void onValueChanged(double value);
     void onEditingFinished();
     void onSliderMoved(int position);
+    void onSliderAction(int action);
     void onStepTriggered(int steps);
+    void onLeft();
     void announceNow();
 
 private:
@@ -72,13 +87,19 @@ private:
     double usable(double value) const;
     void enter(double value);
     void showPosition(int position);
+    void takeSteps(int steps, bool isPage);
+    void takeStep();
+    double stepDistance(double start, int steps);
+    double slidersDistance(double start, double positions) const;
 
     ETwoModeDoubleComboSliderMode m_mode = ETwoModeDoubleComboSliderMode::Linear;
     double m_increment = 0.0;
-    double m_minimum = 0.0;
-    double m_maximum = 0.0;
-    double m_valueBeforeStep = 0.0;
-    QString m_settledText; //!< what was last shown or entered
+    EditorHelpers::FloatLimits m_limits{0.0, 0.0, 0.0};
+    double m_settledValue = 0.0; //!< what was last shown or entered
+    double m_digit = 0.0; //!< that steps change where a limit is missing, since the first one; 0 before
+    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
+    bool m_isPage = false; //!< the step under way
+    bool m_isFree = false;
     bool m_isShowing = false; //!< the slider moves because of the program
     bool m_isUnannounced = false; //!< entered, but not announced yet
     QTimer m_pause;

@@ -4,40 +4,50 @@
 #include "zeltoqtdoublespinbox.h"
 
 #include "editorhelpers.h"
+#include "inputhint_p.h"
+#include "numbertext_p.h"
 
 #include <platform/core/formatdoublevalue.h>
-#include <platform/core/singleprecision.h>
 
+#include <QEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
+#include <QPointer>
+#include <QSignalBlocker>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
+using Doubles = std::numeric_limits<double>;
+
 // The most that QDoubleSpinBox keeps: it rounds values to its decimals, and features' values must stay as
 // they are.
-constexpr int allDecimals =
-    std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
+constexpr int mostDecimals = Doubles::max_exponent10 + Doubles::digits10;
 
-// Returns the fewest digits that give back the value.
-QString shortestText(double value, char format, const QLocale &locale)
+// Returns as many decimals as give back the value.
+int decimalsOf(double value)
 {
-    return locale.toString(Core::withoutSinglePrecisionNoise(value), format, QLocale::FloatingPointShortest);
+    if (!std::isfinite(value) || value == std::trunc(value)) {
+        return 0;
+    }
+    const auto exponent = static_cast<int>(std::floor(std::log10(std::abs(value))));
+    return std::clamp(Doubles::max_digits10 - 1 - exponent, 0, mostDecimals);
 }
 
-bool isUnfinishedNumber(QString text, const QLocale &locale)
+bool isByTheUser(Qt::FocusReason reason)
 {
-    text.replace(locale.negativeSign(), QLatin1String("-"));
-    text.replace(locale.positiveSign(), QLatin1String("+"));
-    text.replace(locale.exponential(), QLatin1String("e"), Qt::CaseInsensitive);
-    const QString point = QRegularExpression::escape(locale.decimalPoint());
-    const QRegularExpression startsOfNumbers(
-        QStringLiteral("^[+-]?(\\d*%1?\\d*|(\\d+%1?\\d*|%1\\d+)[eE][+-]?)$").arg(point),
-        QRegularExpression::UseUnicodePropertiesOption);
-    return startsOfNumbers.match(text).hasMatch();
+    return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+        || reason == Qt::ShortcutFocusReason;
+}
+
+bool isLeaving(Qt::FocusReason reason)
+{
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason
+        && reason != Qt::MenuBarFocusReason;
 }
 
 } // namespace
@@ -60,40 +70,138 @@ void ZeltoQtDoubleSpinBox::setPageStep(double pageStep)
     m_pageStep = pageStep;
 }
 
-void ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation)
+void ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation, int precision)
 {
     if (notation == GenApi::UndefinedDisplayNotation) {
         notation = GenApi::fnAutomatic;
     }
-    if (m_notation != notation) {
+    if (m_notation != notation || m_precision != precision) {
         m_notation = notation;
-        setDecimals(allDecimals);
+        m_precision = precision;
+        showText();
+    }
+}
+
+void ZeltoQtDoubleSpinBox::setLimits(double minimum, double maximum)
+{
+    makeRoomFor(minimum);
+    makeRoomFor(maximum);
+    // Qt rounds limits by way of a text, which takes a millisecond for the farthest doubles.
+    const double lowest = minimum <= Doubles::lowest() ? -Doubles::infinity() : minimum;
+    const double highest = maximum >= Doubles::max() ? Doubles::infinity() : maximum;
+    if (lowest != QDoubleSpinBox::minimum() || highest != QDoubleSpinBox::maximum()) {
+        setRange(lowest, highest);
+    }
+}
+
+double ZeltoQtDoubleSpinBox::minimum() const
+{
+    return std::max(QDoubleSpinBox::minimum(), Doubles::lowest());
+}
+
+double ZeltoQtDoubleSpinBox::maximum() const
+{
+    return std::min(QDoubleSpinBox::maximum(), Doubles::max());
+}
+
+void ZeltoQtDoubleSpinBox::showValue(double value)
+{
+    makeRoomFor(value);
+    if (value != this->value()) {
+        setValue(value);
+    }
+    showText();
+}
+
+// Keeps as many decimals of feature values as the number has.
+void ZeltoQtDoubleSpinBox::makeRoomFor(double number)
+{
+    if (m_notation != GenApi::UndefinedDisplayNotation && decimalsOf(number) > decimals()) {
+        setDecimals(decimalsOf(number));
     }
 }
 
 void ZeltoQtDoubleSpinBox::setSubstitute(const QString &text)
 {
     m_substitute = text;
-    m_isNumberTyped = false;
-    const QString shown = textFromValue(value());
-    if (lineEdit()->text() != shown) {
-        lineEdit()->setText(shown);
-    }
-    if (hasFocus()) {
-        selectSubstituteLater();
+    showText();
+    if (hasSubstitute() && hasFocus()) {
+        // Not before the click that gave the focus is over.
+        QMetaObject::invokeMethod(this, "selectSubstitute", Qt::QueuedConnection);
     }
 }
 
 bool ZeltoQtDoubleSpinBox::hasSubstitute() const
 {
-    return !m_substitute.isEmpty() && !m_isNumberTyped;
+    return !m_substitute.isEmpty();
+}
+
+QString ZeltoQtDoubleSpinBox::numberText(double value) const
+{
+    return m_notation == GenApi::UndefinedDisplayNotation
+        ? formatDoubleValue(value, decimals(), true, locale())
+        : formatFeatureValue(value, m_notation, m_precision, locale());
+}
+
+double ZeltoQtDoubleSpinBox::lastDigit(double value) const
+{
+    return lastDigitOfFeatureValue(value, m_notation, m_precision);
+}
+
+double ZeltoQtDoubleSpinBox::finestDigit(double value) const
+{
+    return finestOfFeatureValue(value, m_notation, m_precision);
+}
+
+bool ZeltoQtDoubleSpinBox::isBeingTyped() const
+{
+    return lineEdit()->isModified();
+}
+
+QScopedValueRollback<bool> ZeltoQtDoubleSpinBox::keepTypedText()
+{
+    return QScopedValueRollback<bool>(m_isTextKept, m_isTextKept || isBeingTyped());
+}
+
+void ZeltoQtDoubleSpinBox::settle()
+{
+    if (!m_isTextKept) {
+        lineEdit()->setModified(false);
+        setProblem(QString());
+    }
+}
+
+std::optional<double> ZeltoQtDoubleSpinBox::entry() const
+{
+    return m_entry;
+}
+
+void ZeltoQtDoubleSpinBox::tellOutcome(double typed, double value, double minimum, double maximum,
+                                       double increment)
+{
+    // A limit that is typed as it is shown, rounded, is no news.
+    if (numberText(typed) == numberText(value)) {
+        return;
+    }
+    if (typed > maximum || typed < minimum) {
+        const bool isMaximum = typed > maximum;
+        hint()->tell(NumberText::limitHint(numberText(isMaximum ? maximum : minimum), isMaximum));
+    } else {
+        hint()->tell(NumberText::incrementHint(numberText(value), numberText(increment)));
+    }
 }
 
 void ZeltoQtDoubleSpinBox::stepBy(int steps)
 {
-    // What is typed counts before the step.
-    interpretText();
+    // Where there is no value, there is nothing to step from: the typed text stays.
+    if (!hasSubstitute() && !takeTyped()) {
+        return;
+    }
+    const QPointer<ZeltoQtDoubleSpinBox> self(this); // a write may end in a message, and that in a closed row
     emit stepTriggered(steps);
+    if (self) {
+        m_entry.reset();
+    }
 }
 
 QAbstractSpinBox::StepEnabled ZeltoQtDoubleSpinBox::stepEnabled() const
@@ -104,70 +212,144 @@ QAbstractSpinBox::StepEnabled ZeltoQtDoubleSpinBox::stepEnabled() const
 
 QString ZeltoQtDoubleSpinBox::textFromValue(double value) const
 {
-    return hasSubstitute() ? m_substitute : numberText(value);
+    return m_isTextKept ? lineEdit()->displayText() : shownText(value);
 }
 
-QString ZeltoQtDoubleSpinBox::numberText(double value) const
+QString ZeltoQtDoubleSpinBox::shownText(double value) const
 {
-    if (m_notation == GenApi::UndefinedDisplayNotation) {
-        return formatDoubleValue(value, decimals(), true, locale());
+    if (hasSubstitute()) {
+        return m_substitute;
     }
-    const double magnitude = std::abs(value);
-    const bool isExtreme = magnitude >= 1e15 || (magnitude < 1e-5 && magnitude != 0.0);
-    const bool isScientific = m_notation == GenApi::fnScientific
-        || (isExtreme && (m_notation == GenApi::fnAutomatic || magnitude >= 1e22 || magnitude < 1e-15));
-    return shortestText(value, isScientific ? 'e' : 'f', strictLocale());
+    return m_hasAllDigits && m_notation != GenApi::UndefinedDisplayNotation
+        ? formatFeatureValue(value, m_notation, allDigits, locale())
+        : numberText(value);
 }
 
 double ZeltoQtDoubleSpinBox::valueFromText(const QString &text) const
 {
-    return numberFrom(text).value_or(value());
+    // What is shown may be rounded; the value is not.
+    return isAsShown(text) ? value() : NumberText(text, locale()).number().value_or(value());
+}
+
+bool ZeltoQtDoubleSpinBox::isAsShown(const QString &text) const
+{
+    return text.trimmed() == shownText(value());
 }
 
 QValidator::State ZeltoQtDoubleSpinBox::validate(QString &text, int &) const
 {
+    const auto isControl = [](QChar letter) {
+        return letter.category() == QChar::Other_Control || letter.category() == QChar::Separator_Line
+            || letter.category() == QChar::Separator_Paragraph;
+    };
     const QString trimmed = text.trimmed();
-    if (hasSubstitute() && trimmed == m_substitute) {
-        return QValidator::Acceptable;
+    if (std::any_of(trimmed.begin(), trimmed.end(), isControl)) {
+        return QValidator::Invalid;
     }
-    if (const auto number = numberFrom(text)) {
-        return *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
-                                                            : QValidator::Intermediate;
+    if (m_isTextKept) {
+        return QValidator::Intermediate;
     }
-    return isUnfinishedNumber(trimmed, strictLocale()) ? QValidator::Intermediate : QValidator::Invalid;
+    const auto number = NumberText(text, locale()).number();
+    return isAsShown(text) || (number && *number >= minimum() && *number <= maximum())
+        ? QValidator::Acceptable
+        : QValidator::Intermediate;
 }
 
 void ZeltoQtDoubleSpinBox::fixup(QString &text) const
 {
-    if (const auto number = numberFrom(text)) {
+    const auto number = NumberText(text, locale()).number();
+    if (!m_isTextKept && number) {
         // In full, since a text with the digits that are shown may lie beyond the limit.
-        text = strictLocale().toString(qBound(minimum(), *number, maximum()), 'g', 17);
+        QLocale plain = locale();
+        plain.setNumberOptions(plain.numberOptions() | QLocale::OmitGroupSeparator);
+        text = plain.toString(qBound(minimum(), *number, maximum()), 'g', Doubles::max_digits10);
     }
+}
+
+// Makes a typed number the value. Returns false for a text that is none.
+bool ZeltoQtDoubleSpinBox::takeTyped()
+{
+    m_entry.reset();
+    if (isAsShown(text()) || text().isEmpty()) {
+        showText(); // without blanks around
+        return true;
+    }
+    const NumberText typed(text(), locale());
+    m_entry = typed.number();
+    if (!m_entry) {
+        setProblem(typed.problem().isEmpty() ? NumberText::incompleteHint() : typed.problem());
+        return false;
+    }
+    m_substitute.clear();
+    interpretText();
+    settle();
+    tellOutcome(*m_entry, value(), minimum(), maximum(), 0.0);
+    return true;
 }
 
 void ZeltoQtDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 {
-    QAbstractSpinBox::keyPressEvent(event);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || takeTyped()) {
+        const QPointer<ZeltoQtDoubleSpinBox> self(this);
+        QAbstractSpinBox::keyPressEvent(event);
+        if (!self) {
+            return;
+        }
+        m_entry.reset();
+    }
     EditorHelpers::finishKeyPress(event, *lineEdit(),
                                   [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
 }
 
 void ZeltoQtDoubleSpinBox::focusInEvent(QFocusEvent *event)
 {
+    if (isByTheUser(event->reason())) {
+        showAllDigits(true);
+    }
     QDoubleSpinBox::focusInEvent(event);
-    selectSubstituteLater();
+    if (hasSubstitute()) {
+        QMetaObject::invokeMethod(this, "selectSubstitute", Qt::QueuedConnection);
+    }
+}
+
+void ZeltoQtDoubleSpinBox::focusOutEvent(QFocusEvent *event)
+{
+    if (!isLeaving(event->reason())) {
+        const auto kept = keepTypedText();
+        const QSignalBlocker blocker(this); // the editing goes on
+        QDoubleSpinBox::focusOutEvent(event);
+        return;
+    }
+    if (!takeTyped()) {
+        showText();
+    }
+    const QPointer<ZeltoQtDoubleSpinBox> self(this);
+    QDoubleSpinBox::focusOutEvent(event);
+    if (!self) {
+        return;
+    }
+    m_entry.reset();
+    showAllDigits(false);
+    emit left();
+}
+
+// The base would interpret the text when the window is left.
+void ZeltoQtDoubleSpinBox::changeEvent(QEvent *event)
+{
+    const auto kept = keepTypedText();
+    QDoubleSpinBox::changeEvent(event);
+}
+
+void ZeltoQtDoubleSpinBox::hideEvent(QHideEvent *event)
+{
+    const auto kept = keepTypedText();
+    QDoubleSpinBox::hideEvent(event);
 }
 
 void ZeltoQtDoubleSpinBox::onTextChanged(const QString &text)
 {
-    // The beginning of a number is no reason to forget that there is no value.
-    m_isNumberTyped = numberFrom(text).has_value();
-}
-
-// Not before the click that gave the focus is over.
-void ZeltoQtDoubleSpinBox::selectSubstituteLater()
-{
-    QMetaObject::invokeMethod(this, "selectSubstitute", Qt::QueuedConnection);
+    setProblem(isAsShown(text) ? QString() : NumberText(text, locale()).problem());
 }
 
 void ZeltoQtDoubleSpinBox::selectSubstitute()
@@ -177,17 +359,38 @@ void ZeltoQtDoubleSpinBox::selectSubstitute()
     }
 }
 
-std::optional<double> ZeltoQtDoubleSpinBox::numberFrom(const QString &text) const
+void ZeltoQtDoubleSpinBox::showText()
 {
-    bool ok = false;
-    const double number = strictLocale().toDouble(text.trimmed(), &ok);
-    return ok && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
+    if (m_isTextKept) {
+        return;
+    }
+    const QString shown = shownText(value());
+    if (lineEdit()->text() != shown) {
+        const QSignalBlocker blocker(lineEdit());
+        lineEdit()->setText(shown);
+    }
+    settle();
 }
 
-QLocale ZeltoQtDoubleSpinBox::strictLocale() const
+void ZeltoQtDoubleSpinBox::showAllDigits(bool all)
 {
-    QLocale strict = locale();
-    strict.setNumberOptions(strict.numberOptions() | QLocale::OmitGroupSeparator
-                            | QLocale::RejectGroupSeparator);
-    return strict;
+    m_hasAllDigits = all;
+    if (!isBeingTyped()) {
+        showText();
+    }
+}
+
+void ZeltoQtDoubleSpinBox::setProblem(const QString &problem)
+{
+    if (m_hint || !problem.isEmpty()) {
+        hint()->setProblem(problem);
+    }
+}
+
+InputHint *ZeltoQtDoubleSpinBox::hint()
+{
+    if (!m_hint) {
+        m_hint = new InputHint(this, lineEdit());
+    }
+    return m_hint;
 }

@@ -348,6 +348,53 @@
     </message>
 </context>
 <context>
+    <name>NumberText</name>
+    <message>
+        <source>&quot;%1&quot; is not a number: %2</source>
+        <translation>„%1“ ist keine Zahl: %2</translation>
+    </message>
+    <message>
+        <source>nothing may stand between thousands; %1</source>
+        <translation>zwischen Tausendern darf nichts stehen; %1</translation>
+    </message>
+    <message>
+        <source>the exponent is missing</source>
+        <translation>der Exponent fehlt</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>leave out the unit</source>
+        <translation>ohne die Einheit eingeben</translation>
+    </message>
+    <message>
+        <source>use digits, a decimal sign and an exponent as in %1</source>
+        <translation>Ziffern, Dezimalzeichen und Exponent wie in %1 verwenden</translation>
+    </message>
+    <message>
+        <source>use %1 as the decimal sign</source>
+        <translation>als Dezimalzeichen „%1“ verwenden</translation>
+    </message>
+    <message>
+        <source>The number is not complete.</source>
+        <translation>Die Zahl ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>%1 is the maximum</source>
+        <translation>%1 ist das Maximum</translation>
+    </message>
+    <message>
+        <source>%1 is the minimum</source>
+        <translation>%1 ist das Minimum</translation>
+    </message>
+    <message>
+        <source>%1 is the nearest value (increment: %2)</source>
+        <translation>%1 ist der nächste Wert (Schrittweite: %2)</translation>
+    </message>
+</context>
+<context>
     <name>QIpAddressValidator</name>
     <message>
         <source>This is the broadcast address, no device can have it.</source>
