@@ -90,22 +90,6 @@
         <translation>eine ganze Zahl</translation>
     </message>
     <message>
-        <source>an integer, such as 0x1f</source>
-        <translation>eine ganze Zahl, etwa 0x1f</translation>
-    </message>
-    <message>
-        <source>four numbers from 0 to 255, such as 192.168.0.10</source>
-        <translation>vier Zahlen von 0 bis 255, etwa 192.168.0.10</translation>
-    </message>
-    <message>
-        <source>six hexadecimal numbers, such as 00:1B:2C:3D:4E:5F</source>
-        <translation>sechs hexadezimale Zahlen, etwa 00:1B:2C:3D:4E:5F</translation>
-    </message>
-    <message>
-        <source>a subnet mask, whose ones stand together, such as 255.255.255.0</source>
-        <translation>eine Subnetzmaske, deren Einsen zusammenstehen, etwa 255.255.255.0</translation>
-    </message>
-    <message>
         <source>a number</source>
         <translation>eine Zahl</translation>
     </message>
@@ -132,6 +116,22 @@
     <message>
         <source>at most %1 bytes</source>
         <translation>höchstens %1 Bytes</translation>
+    </message>
+    <message>
+        <source>an integer, such as 0x1f</source>
+        <translation>eine ganze Zahl, etwa 0x1f</translation>
+    </message>
+    <message>
+        <source>four numbers from 0 to 255, such as 192.168.0.10</source>
+        <translation>vier Zahlen von 0 bis 255, etwa 192.168.0.10</translation>
+    </message>
+    <message>
+        <source>six hexadecimal numbers, such as 00:1B:2C:3D:4E:5F</source>
+        <translation>sechs hexadezimale Zahlen, etwa 00:1B:2C:3D:4E:5F</translation>
+    </message>
+    <message>
+        <source>a subnet mask, whose ones stand together, such as 255.255.255.0</source>
+        <translation>eine Subnetzmaske, deren Einsen zusammenstehen, etwa 255.255.255.0</translation>
     </message>
 </context>
 <context>

@@ -29,42 +29,6 @@
     </message>
 </context>
 <context>
-    <name>CommandQuestion</name>
-    <message>
-        <source>Restart the camera?
-The connection breaks, and changes that were not saved to one of its user sets are lost.</source>
-        <translation>Die Kamera neu starten?
-Die Verbindung bricht ab, und Änderungen, die in keinem ihrer Benutzersätze gespeichert sind, gehen verloren.</translation>
-    </message>
-    <message>
-        <source>Reset the camera to its factory settings?
-All settings are lost, those saved to its user sets too.</source>
-        <translation>Die Kamera auf die Werkseinstellungen zurücksetzen?
-Alle Einstellungen gehen verloren, auch die in ihren Benutzersätzen gespeicherten.</translation>
-    </message>
-    <message>
-        <source>Load the user set &quot;%1&quot;?
-It overwrites the present settings.</source>
-        <translation>Den Benutzersatz „%1“ laden?
-Er überschreibt die jetzigen Einstellungen.</translation>
-    </message>
-    <message>
-        <source>Save the present settings to the user set &quot;%1&quot;?
-They overwrite what is saved there.</source>
-        <translation>Die jetzigen Einstellungen im Benutzersatz „%1“ speichern?
-Sie überschreiben, was dort gespeichert ist.</translation>
-    </message>
-    <message>
-        <source>Write to the camera&apos;s file &quot;%1&quot;?
-What the file holds is overwritten.</source>
-        <translation>In die Datei „%1“ der Kamera schreiben?
-Was die Datei enthält, wird überschrieben.</translation>
-    </message>
-    <message>
-        <source>Delete the camera&apos;s file &quot;%1&quot;?
-What the file holds is lost.</source>
-        <translation>Die Datei „%1“ der Kamera löschen?
-Was die Datei enthält, geht verloren.</translation>
     <name>ColoursMenu</name>
     <message>
         <source>C&amp;olours</source>
@@ -441,6 +405,75 @@ Open a description file or connect to a camera (menu File).</source>
     </message>
 </context>
 <context>
+    <name>VisitedFeaturesPanel</name>
+    <message>
+        <source>Visited Features</source>
+        <translation>Besuchte Merkmale</translation>
+    </message>
+    <message>
+        <source>The features you visited last; a click goes back</source>
+        <translation>Die zuletzt besuchten Merkmale; ein Klick führt zurück</translation>
+    </message>
+    <message>
+        <source>This feature is not shown at the current level</source>
+        <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Cannot write to the standard output.</source>
+        <translation>Die Standardausgabe kann nicht beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Value Editors – Zelto Viewer</source>
+        <translation>Werteditoren – Zelto Viewer</translation>
+    </message>
+</context>
+<context>
+    <name>CommandQuestion</name>
+    <message>
+        <source>Restart the camera?
+The connection breaks, and changes that were not saved to one of its user sets are lost.</source>
+        <translation>Die Kamera neu starten?
+Die Verbindung bricht ab, und Änderungen, die in keinem ihrer Benutzersätze gespeichert sind, gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Reset the camera to its factory settings?
+All settings are lost, those saved to its user sets too.</source>
+        <translation>Die Kamera auf die Werkseinstellungen zurücksetzen?
+Alle Einstellungen gehen verloren, auch die in ihren Benutzersätzen gespeicherten.</translation>
+    </message>
+    <message>
+        <source>Load the user set &quot;%1&quot;?
+It overwrites the present settings.</source>
+        <translation>Den Benutzersatz „%1“ laden?
+Er überschreibt die jetzigen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Save the present settings to the user set &quot;%1&quot;?
+They overwrite what is saved there.</source>
+        <translation>Die jetzigen Einstellungen im Benutzersatz „%1“ speichern?
+Sie überschreiben, was dort gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Write to the camera&apos;s file &quot;%1&quot;?
+What the file holds is overwritten.</source>
+        <translation>In die Datei „%1“ der Kamera schreiben?
+Was die Datei enthält, wird überschrieben.</translation>
+    </message>
+    <message>
+        <source>Delete the camera&apos;s file &quot;%1&quot;?
+What the file holds is lost.</source>
+        <translation>Die Datei „%1“ der Kamera löschen?
+Was die Datei enthält, geht verloren.</translation>
+    </message>
+</context>
+<context>
     <name>TreeMenu</name>
     <message>
         <source>&amp;Expand All</source>
@@ -469,36 +502,6 @@ Open a description file or connect to a camera (menu File).</source>
     <message>
         <source>This feature is not shown at the current level</source>
         <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
-    </message>
-</context>
-<context>
-    <name>VisitedFeaturesPanel</name>
-    <message>
-        <source>Visited Features</source>
-        <translation>Besuchte Merkmale</translation>
-    </message>
-    <message>
-        <source>The features you visited last; a click goes back</source>
-        <translation>Die zuletzt besuchten Merkmale; ein Klick führt zurück</translation>
-    </message>
-    <message>
-        <source>This feature is not shown at the current level</source>
-        <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>Cannot write %1.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Cannot write to the standard output.</source>
-        <translation>Die Standardausgabe kann nicht beschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Value Editors – Zelto Viewer</source>
-        <translation>Werteditoren – Zelto Viewer</translation>
     </message>
 </context>
 </TS>

@@ -44,12 +44,6 @@ bool isByTheUser(Qt::FocusReason reason)
         || reason == Qt::ShortcutFocusReason;
 }
 
-bool isLeaving(Qt::FocusReason reason)
-{
-    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason
-        && reason != Qt::MenuBarFocusReason;
-}
-
 } // namespace
 
 ZeltoQtDoubleSpinBox::ZeltoQtDoubleSpinBox(QWidget *parent)
@@ -315,7 +309,7 @@ void ZeltoQtDoubleSpinBox::focusInEvent(QFocusEvent *event)
 
 void ZeltoQtDoubleSpinBox::focusOutEvent(QFocusEvent *event)
 {
-    if (!isLeaving(event->reason())) {
+    if (EditorHelpers::isFocusLent(*event)) {
         const auto kept = keepTypedText();
         const QSignalBlocker blocker(this); // the editing goes on
         QDoubleSpinBox::focusOutEvent(event);

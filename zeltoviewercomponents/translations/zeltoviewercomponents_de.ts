@@ -272,48 +272,6 @@
     </message>
 </context>
 <context>
-    <name>IntSliderEditor</name>
-    <message>
-        <source>&lt;not readable&gt;</source>
-        <translation>&lt;nicht lesbar&gt;</translation>
-    </message>
-</context>
-<context>
-    <name>IntegerText</name>
-    <message>
-        <source>Enter four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</source>
-        <translation>Geben Sie vier Zahlen von 0 bis 255 mit Punkten dazwischen ein, etwa 192.168.0.10.</translation>
-    </message>
-    <message>
-        <source>Enter six hexadecimal numbers with colons between them, such as 00:1B:2C:3D:4E:5F.</source>
-        <translation>Geben Sie sechs hexadezimale Zahlen mit Doppelpunkten dazwischen ein, etwa 00:1B:2C:3D:4E:5F.</translation>
-    </message>
-    <message>
-        <source>Enter a hexadecimal number behind 0x, with the digits 0 to 9 and a to f.</source>
-        <translation>Geben Sie hinter 0x eine hexadezimale Zahl mit den Ziffern 0 bis 9 und a bis f ein.</translation>
-    </message>
-    <message>
-        <source>Enter a whole number, without decimals and without separators.</source>
-        <translation>Geben Sie eine ganze Zahl ohne Nachkommastellen und ohne Trennzeichen ein.</translation>
-    </message>
-    <message>
-        <source>Enter a whole number alone, without a unit.</source>
-        <translation>Geben Sie nur eine ganze Zahl ein, ohne Einheit.</translation>
-    </message>
-    <message>
-        <source>Enter a whole number.</source>
-        <translation>Geben Sie eine ganze Zahl ein.</translation>
-    </message>
-    <message>
-        <source>The limits of this feature contradict each other, so that no number fits.</source>
-        <translation>Die Grenzen dieses Merkmals widersprechen sich, so dass keine Zahl passt.</translation>
-    </message>
-    <message>
-        <source>This value was refused.</source>
-        <translation>Dieser Wert wurde abgelehnt.</translation>
-    </message>
-</context>
-<context>
     <name>IpAddressWidget</name>
     <message>
         <source>IP Configuration</source>
@@ -345,53 +303,6 @@
     <message>
         <source>&amp;Don&apos;t show this dialog again</source>
         <translation>&amp;Diesen Dialog nicht mehr zeigen</translation>
-    </message>
-</context>
-<context>
-    <name>NumberText</name>
-    <message>
-        <source>&quot;%1&quot; is not a number: %2</source>
-        <translation>„%1“ ist keine Zahl: %2</translation>
-    </message>
-    <message>
-        <source>nothing may stand between thousands; %1</source>
-        <translation>zwischen Tausendern darf nichts stehen; %1</translation>
-    </message>
-    <message>
-        <source>the exponent is missing</source>
-        <translation>der Exponent fehlt</translation>
-    </message>
-    <message>
-        <source>it is too large</source>
-        <translation>sie ist zu groß</translation>
-    </message>
-    <message>
-        <source>leave out the unit</source>
-        <translation>ohne die Einheit eingeben</translation>
-    </message>
-    <message>
-        <source>use digits, a decimal sign and an exponent as in %1</source>
-        <translation>Ziffern, Dezimalzeichen und Exponent wie in %1 verwenden</translation>
-    </message>
-    <message>
-        <source>use %1 as the decimal sign</source>
-        <translation>als Dezimalzeichen „%1“ verwenden</translation>
-    </message>
-    <message>
-        <source>The number is not complete.</source>
-        <translation>Die Zahl ist nicht vollständig.</translation>
-    </message>
-    <message>
-        <source>%1 is the maximum</source>
-        <translation>%1 ist das Maximum</translation>
-    </message>
-    <message>
-        <source>%1 is the minimum</source>
-        <translation>%1 ist das Minimum</translation>
-    </message>
-    <message>
-        <source>%1 is the nearest value (increment: %2)</source>
-        <translation>%1 ist der nächste Wert (Schrittweite: %2)</translation>
     </message>
 </context>
 <context>
@@ -491,6 +402,95 @@
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>NumberText</name>
+    <message>
+        <source>&quot;%1&quot; is not a number: %2</source>
+        <translation>„%1“ ist keine Zahl: %2</translation>
+    </message>
+    <message>
+        <source>nothing may stand between thousands; %1</source>
+        <translation>zwischen Tausendern darf nichts stehen; %1</translation>
+    </message>
+    <message>
+        <source>the exponent is missing</source>
+        <translation>der Exponent fehlt</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>leave out the unit</source>
+        <translation>ohne die Einheit eingeben</translation>
+    </message>
+    <message>
+        <source>use digits, a decimal sign and an exponent as in %1</source>
+        <translation>Ziffern, Dezimalzeichen und Exponent wie in %1 verwenden</translation>
+    </message>
+    <message>
+        <source>use %1 as the decimal sign</source>
+        <translation>als Dezimalzeichen „%1“ verwenden</translation>
+    </message>
+    <message>
+        <source>The number is not complete.</source>
+        <translation>Die Zahl ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>%1 is the maximum</source>
+        <translation>%1 ist das Maximum</translation>
+    </message>
+    <message>
+        <source>%1 is the minimum</source>
+        <translation>%1 ist das Minimum</translation>
+    </message>
+    <message>
+        <source>%1 is the nearest value (increment: %2)</source>
+        <translation>%1 ist der nächste Wert (Schrittweite: %2)</translation>
+    </message>
+</context>
+<context>
+    <name>IntSliderEditor</name>
+    <message>
+        <source>&lt;not readable&gt;</source>
+        <translation>&lt;nicht lesbar&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>IntegerText</name>
+    <message>
+        <source>Enter four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</source>
+        <translation>Geben Sie vier Zahlen von 0 bis 255 mit Punkten dazwischen ein, etwa 192.168.0.10.</translation>
+    </message>
+    <message>
+        <source>Enter six hexadecimal numbers with colons between them, such as 00:1B:2C:3D:4E:5F.</source>
+        <translation>Geben Sie sechs hexadezimale Zahlen mit Doppelpunkten dazwischen ein, etwa 00:1B:2C:3D:4E:5F.</translation>
+    </message>
+    <message>
+        <source>Enter a hexadecimal number behind 0x, with the digits 0 to 9 and a to f.</source>
+        <translation>Geben Sie hinter 0x eine hexadezimale Zahl mit den Ziffern 0 bis 9 und a bis f ein.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number, without decimals and without separators.</source>
+        <translation>Geben Sie eine ganze Zahl ohne Nachkommastellen und ohne Trennzeichen ein.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number alone, without a unit.</source>
+        <translation>Geben Sie nur eine ganze Zahl ein, ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number.</source>
+        <translation>Geben Sie eine ganze Zahl ein.</translation>
+    </message>
+    <message>
+        <source>The limits of this feature contradict each other, so that no number fits.</source>
+        <translation>Die Grenzen dieses Merkmals widersprechen sich, so dass keine Zahl passt.</translation>
+    </message>
+    <message>
+        <source>This value was refused.</source>
+        <translation>Dieser Wert wurde abgelehnt.</translation>
     </message>
 </context>
 </TS>
