@@ -396,7 +396,7 @@ void Engine::addCurrentEntry(int node, EnumParameterData &data)
     if (data.symbolicNames.contains(data.valueString)) {
         return;
     }
-    qsizetype place = 0; // among the available ones
+    qsizetype place = data.symbolicNames.size(); // the engine lists the last entry first
     const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(m_nodes[node]));
     for (; entry; entry = entry->next) {
         auto *feature = static_cast<ArvGcFeatureNode *>(entry->data);
@@ -407,7 +407,7 @@ void Engine::addCurrentEntry(int node, EnumParameterData &data)
             data.displayTexts.insert(place, tr("%1 (not available)").arg(text.isEmpty() ? name : text));
             return;
         }
-        place += place < data.symbolicNames.size() && data.symbolicNames[place] == name ? 1 : 0;
+        place -= place > 0 && data.symbolicNames[place - 1] == name ? 1 : 0;
     }
 }
 

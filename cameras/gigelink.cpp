@@ -30,7 +30,7 @@ constexpr quint32 exclusiveBit = 1;
 constexpr quint32 controlBit = 2;
 constexpr quint32 switchoverBit = 4;
 
-constexpr int answerTime = 250;
+constexpr int answerTime = 150;
 constexpr int longestPause = 5000;
 
 template <typename Number>

@@ -23,7 +23,7 @@ namespace Cameras {
 
 namespace {
 
-constexpr int patientAttempts = 6;
+constexpr int patientAttempts = 10;
 constexpr int quickAttempts = 2;
 constexpr quint64 firstDescriptionUrl = 0x0200;
 constexpr quint32 urlSize = 512;
@@ -255,7 +255,7 @@ bool LiveCamera::isWatchable() const
     return m_link != nullptr;
 }
 
-LiveCamera::Access LiveCamera::access(bool isDoubtful)
+CameraAccess LiveCamera::access(bool isDoubtful)
 {
     if (!m_link) {
         return {!isDoubtful, false, false, {}};

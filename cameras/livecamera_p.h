@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cameras/cameraaccess_p.h>
 #include <cameras/camerastatus.h>
 #include <cameras/deviceptr_p.h>
 #include <cameras/gigelink_p.h>
@@ -27,15 +28,6 @@ class LiveCamera
     Q_DECLARE_TR_FUNCTIONS(Cameras::LiveCamera)
 
 public:
-    /*! What can be done with the open camera. */
-    struct Access
-    {
-        bool isAnswering = true;
-        bool isReadOnly = false;
-        bool isFree = false; //!< read-only, and nobody controls it
-        QString controller;
-    };
-
     /*! \a onDoubt is called, on any thread, when the engine believes that it lost the control. */
     LiveCamera(const QString &id, std::function<void()> onDoubt);
     ~LiveCamera();
@@ -57,9 +49,9 @@ public:
     /*! Returns whether access() is worth being asked again and again. */
     bool isWatchable() const;
     /*! Asks the camera who controls it; \a isDoubtful says that there is a reason to doubt that we do. */
-    Access access(bool isDoubtful);
+    CameraAccess access(bool isDoubtful);
 
-    /*! Returns whether the camera answers, within half a second. Usable everywhere once open. */
+    /*! Returns whether the camera answers, at once. Usable everywhere once open. */
     bool isAnswering() const;
     /*! Returns the sentence that tells that it does not. Usable everywhere once open. */
     QString silence() const;

@@ -4,6 +4,7 @@
 #include "session_p.h"
 
 #include "engine_p.h"
+#include "livecamera_p.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/guard.h>
@@ -140,8 +141,8 @@ void Session::run(const Opener &opener)
 void Session::open(const Opener &opener)
 {
     Source source = opener();
-    const LiveCamera::Access access =
-        source.live && source.live->isWatchable() ? source.live->access(false) : LiveCamera::Access();
+    const CameraAccess access =
+        source.live && source.live->isWatchable() ? source.live->access(false) : CameraAccess();
     std::vector<std::unique_ptr<MapState>> maps;
     for (NodeMapSource &mapSource : source.maps) {
         auto map = std::make_unique<MapState>();
@@ -322,7 +323,7 @@ void Session::watchControl()
         tryToTakeControl();
         return;
     }
-    const LiveCamera::Access access = m_live->access(isDoubtful);
+    const CameraAccess access = m_live->access(isDoubtful);
     if (!access.isAnswering) {
         markLost(silence());
         return;
@@ -353,12 +354,10 @@ void Session::useDevice(DevicePtr device)
     map.engine = std::make_unique<Engine>(std::move(device), map.source.description, nullptr);
 }
 
-void Session::changeAccess(const LiveCamera::Access &access)
+void Session::changeAccess(const CameraAccess &access)
 {
     const Lock lock(m_mutex);
-    const bool isSame = access.isReadOnly == m_access.isReadOnly && access.isFree == m_access.isFree
-        && access.controller == m_access.controller;
-    if (isSame || m_isLost) {
+    if (m_access == access || m_isLost) {
         return;
     }
     m_access = access;
@@ -382,7 +381,7 @@ void Session::tellCamera(const char *slot, const QString &text)
     }
 }
 
-LiveCamera::Access Session::access() const
+CameraAccess Session::access() const
 {
     const Lock lock(m_mutex);
     return m_access;

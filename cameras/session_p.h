@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include <cameras/cameraaccess_p.h>
 #include <cameras/cameras_export.h>
 #include <cameras/description_p.h>
 #include <cameras/deviceptr_p.h>
 #include <cameras/engine_p.h>
-#include <cameras/livecamera_p.h>
 
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/parameterdata.h>
@@ -30,6 +30,8 @@
 #include <vector>
 
 namespace Cameras {
+
+class LiveCamera;
 
 /*! \brief What is needed to set up one node map of a camera that is being opened. */
 struct NodeMapSource
@@ -107,7 +109,7 @@ public:
     bool isLost() const;
 
     /*! Returns what can be done with the camera, as far as the worker knows. */
-    LiveCamera::Access access() const;
+    CameraAccess access() const;
     /*! Asks the worker to take the control of a camera that was opened read-only. */
     void takeControl();
     /*! Has the worker find out whether the camera is still controlled by us, and whether it answers. */
@@ -177,7 +179,7 @@ private:
     void watchControl();
     void tryToTakeControl();
     void useDevice(DevicePtr device);
-    void changeAccess(const LiveCamera::Access &access);
+    void changeAccess(const CameraAccess &access);
     void tellCamera(const char *slot, const QString &text);
 
     mutable std::mutex m_mutex;
@@ -190,7 +192,7 @@ private:
     std::exception_ptr m_openFailure;
     QObject *m_cameraListener = nullptr;
     std::shared_ptr<LiveCamera> m_live;
-    LiveCamera::Access m_access;
+    CameraAccess m_access;
     std::chrono::steady_clock::time_point m_nextWatch;
     bool m_isControlDoubtful = false;
     bool m_isControlWanted = false;

@@ -84,6 +84,10 @@ private slots:
     void onContextMenu(const QPoint &pos, const QSharedPointer<QMenu> &menu);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
+    void onMessageAction();
+    void showAccess();
+    void takeControl();
+    void onControlRefused(const QString &reason);
     void copyTree();
     void updateActions();
 
@@ -127,5 +131,6 @@ private:
     QAction *m_reconnectAction = nullptr;
     QAction *m_copyAction = nullptr;
     QAction *m_ipAction = nullptr;
+    QAction *m_controlAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };

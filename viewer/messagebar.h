@@ -24,7 +24,8 @@ public:
 
     /*! Shows \a message; \a details appear below it. */
     void showMessage(const QString &message, const QString &details);
-    /*! Shows \a message with a button labelled \a action, whose click emits actionTriggered(). */
+    /*! Shows \a message with a button labelled \a action, whose click emits actionTriggered();
+     * without one when the label is empty. */
     void showAction(const QString &message, const QString &action);
 
 public slots:
