@@ -30,9 +30,9 @@ struct NodeMap
 
 /*! \brief An open camera: live, or a camera description on simulated registers.
  *
- * Register traffic runs on a worker thread of the camera's own; writes are waited for, at most a second. The
- * collections are handed over with all snapshots read, belong to the thread that opened the camera, and stay
- * safe to use when they outlive it: their snapshots remain, their other operations throw.
+ * Register traffic runs on a worker thread of the camera's own; writes are waited for, about a second at
+ * most. The collections are handed over with all snapshots read, belong to the thread that opened the camera,
+ * and stay safe to use when they outlive it: their snapshots remain, their other operations throw.
  *
  * A camera that another program controls opens read-only: nothing is sent to it that would change anything,
  * all features are locked, and a look is taken every second at whether its control has become free.
