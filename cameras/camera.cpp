@@ -5,6 +5,8 @@
 
 #include "aravis_p.h"
 #include "camerarecord_p.h"
+#include "descriptionarchive_p.h"
+#include "livecamera_p.h"
 #include "nodecollection_p.h"
 #include "session_p.h"
 #include "simulateddevice_p.h"
@@ -30,8 +32,6 @@ namespace Cameras {
 ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
-
-constexpr qint64 largestFile = qint64(256) * 1024 * 1024;
 
 QString deviceClassOf(const QString &protocol)
 {
@@ -74,36 +74,10 @@ QByteArray fileContents(const QString &fileName)
     if (!file.open(QIODevice::ReadOnly)) {
         throw BaseException(file.errorString());
     }
-    if (file.size() > largestFile) {
+    if (file.size() > DescriptionArchive::largest) {
         throw BaseException(Camera::tr("the file is too large"));
     }
     return file.readAll();
-}
-
-QByteArray unzipped(const QByteArray &archive)
-{
-    const std::unique_ptr<ArvZip, decltype(&arv_zip_free)> zip(
-        arv_zip_new(archive.constData(), size_t(archive.size())), arv_zip_free);
-    QByteArray xml;
-    for (const GSList *entry = zip ? arv_zip_get_file_list(zip.get()) : nullptr; entry && xml.isEmpty();
-         entry = entry->next) {
-        auto *file = static_cast<ArvZipFile *>(entry->data);
-        const char *name = arv_zip_file_get_name(file);
-        if (!QString::fromUtf8(name).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
-            continue;
-        }
-        if (arv_zip_file_get_uncompressed_size(file) > size_t(largestFile)) {
-            throw BaseException(Camera::tr("the file is too large"));
-        }
-        size_t size = 0;
-        void *data = arv_zip_get_file(zip.get(), name, &size);
-        xml = QByteArray(static_cast<const char *>(data), qsizetype(size));
-        g_free(data);
-    }
-    if (xml.isEmpty()) {
-        throw BaseException(Camera::tr("the archive holds no camera description"));
-    }
-    return xml;
 }
 
 QByteArray resource(const QString &name)
@@ -141,10 +115,7 @@ Session::Source embeddedSource()
 
 Session::Source describedSource(const QString &fileName)
 {
-    QByteArray xml = fileContents(fileName);
-    if (xml.startsWith("PK")) {
-        xml = unzipped(xml);
-    }
+    const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
     source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
     const Description &description = *source.maps.front().description;
@@ -170,44 +141,26 @@ CameraInfoPtr liveInfo(const QString &id, ArvDevice *device)
         }
     }
     // Opened without having been listed before.
-    const QString deviceClass = ARV_IS_GV_DEVICE(device) ? QStringLiteral("GEV") : QStringLiteral("U3V");
+    const QString deviceClass = ARV_IS_UV_DEVICE(device) ? QStringLiteral("U3V") : QStringLiteral("GEV");
     const QString model = textOf(device, "DeviceModelName");
     return CameraInfoPtr(
         new CameraRecord({id, textOf(device, "DeviceVendorName"), model.isEmpty() ? id : model,
                           textOf(device, "DeviceSerialNumber"), deviceClass}));
 }
 
-void onControlLost(ArvDevice *, gpointer session)
-{
-    if (const auto alive = static_cast<std::weak_ptr<Session> *>(session)->lock()) {
-        alive->markLost(Camera::tr("the control of the camera was lost"));
-    }
-}
-
-void dropSession(gpointer session, GClosure *)
-{
-    delete static_cast<std::weak_ptr<Session> *>(session);
-}
-
 Session::Source liveSource(const QString &id, const std::weak_ptr<Session> &session)
 {
-    GError *error = nullptr;
-    DevicePtr device(arv_open_device(id.toUtf8().constData(), &error));
-    if (!device) {
-        const QString reason =
-            error ? QString::fromUtf8(error->message) : Camera::tr("there is no such camera");
-        g_clear_error(&error);
-        throw BaseException(reason);
-    }
-    g_signal_connect_data(device.get(), "control-lost", G_CALLBACK(onControlLost),
-                          new std::weak_ptr<Session>(session), dropSession, GConnectFlags(0));
-    size_t size = 0;
-    const char *xml = arv_device_get_genicam_xml(device.get(), &size);
-    const QByteArray text = xml ? QByteArray(xml, qsizetype(size)) : QByteArray();
+    const auto live = std::make_shared<LiveCamera>(id, [session] {
+        if (const auto alive = session.lock()) {
+            alive->doubtControl();
+        }
+    });
+    DevicePtr device = live->open();
     Session::Source source;
     source.info = liveInfo(id, device.get());
     source.maps.push_back({QStringLiteral("@CameraDevice"), Camera::tr("Camera"), std::move(device),
-                           std::make_shared<Description>(text), nullptr});
+                           std::make_shared<Description>(live->xml()), nullptr});
+    source.live = live;
     return source;
 }
 
@@ -250,12 +203,12 @@ Camera::Camera(std::shared_ptr<Session> session)
         m_nodeMaps.append({m_session->mapName(map), m_session->mapTitle(map),
                            QSharedPointer<NodeCollection>::create(m_session, map), true});
     }
-    m_session->setLossListener(this);
+    m_session->setCameraListener(this);
 }
 
 Camera::~Camera()
 {
-    m_session->setLossListener(nullptr);
+    m_session->setCameraListener(nullptr);
     m_session->close();
 }
 
@@ -271,6 +224,11 @@ QList<CameraInfoPtr> Camera::list()
         }
     }
     return found;
+}
+
+CameraStatus Camera::status(const QString &id)
+{
+    return LiveCamera::status(id);
 }
 
 std::unique_ptr<Camera> Camera::openEmbedded()
@@ -308,6 +266,26 @@ bool Camera::isLost() const
     return m_session->isLost();
 }
 
+bool Camera::isReadOnly() const
+{
+    return m_session->access().isReadOnly;
+}
+
+QString Camera::controller() const
+{
+    return m_session->access().controller;
+}
+
+bool Camera::isControlAvailable() const
+{
+    return m_session->access().isFree;
+}
+
+void Camera::takeControl()
+{
+    m_session->takeControl();
+}
+
 std::shared_ptr<Session> Camera::session() const
 {
     return m_session;
@@ -316,6 +294,20 @@ std::shared_ptr<Session> Camera::session() const
 void Camera::reportLoss(const QString &reason)
 {
     emit lost(reason);
+}
+
+void Camera::reportAccess()
+{
+    const bool wasAvailable = std::exchange(m_wasControlAvailable, isControlAvailable());
+    emit accessChanged();
+    if (m_wasControlAvailable && !wasAvailable) {
+        emit controlAvailable();
+    }
+}
+
+void Camera::reportRefusal(const QString &reason)
+{
+    emit controlRefused(reason);
 }
 
 } // namespace Cameras

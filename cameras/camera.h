@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cameras/cameras_export.h>
+#include <cameras/camerastatus.h>
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/iparametercollection.h>
 
@@ -29,9 +30,12 @@ struct NodeMap
 
 /*! \brief An open camera: live, or a camera description on simulated registers.
  *
- * Register traffic runs on a worker thread of the camera's own; writes are waited for, at most a second. The
- * collections are handed over with all snapshots read, belong to the thread that opened the camera, and stay
- * safe to use when they outlive it: their snapshots remain, their other operations throw.
+ * Register traffic runs on a worker thread of the camera's own; writes are waited for, about a second at
+ * most. The collections are handed over with all snapshots read, belong to the thread that opened the camera,
+ * and stay safe to use when they outlive it: their snapshots remain, their other operations throw.
+ *
+ * A camera that another program controls opens read-only: nothing is sent to it that would change anything,
+ * all features are locked, and a look is taken every second at whether its control has become free.
  *
  * All ways to open a camera throw Core::Exception::BaseException with one line that names the camera or the
  * file and the reason.
@@ -45,6 +49,9 @@ public:
 
     /*! Searches for the live cameras that are reachable now. */
     static QList<Core::CameraPoolComponents::CameraInfoPtr> list();
+
+    /*! Asks the camera called \a id, as list() named it last, for its state. */
+    static CameraStatus status(const QString &id);
 
     /*! Opens the simulated camera that comes with the library. */
     static std::unique_ptr<Camera> openEmbedded();
@@ -61,21 +68,44 @@ public:
     /*! Returns whether the camera has stopped answering; it has to be opened again then. */
     bool isLost() const;
 
+    /*! Returns whether the camera can only be looked at, since we do not control it. */
+    bool isReadOnly() const;
+    /*! Returns the address of the program that controls a read-only camera, empty where the camera does not
+     * tell. */
+    QString controller() const;
+    /*! Returns whether the camera is read-only although nobody controls it now. */
+    bool isControlAvailable() const;
+
     /*! Returns the camera's inner side, for tests. */
     std::shared_ptr<Session> session() const;
 
+public slots:
+    /*! Asks for the control of a read-only camera. Returns at once; accessChanged() or controlRefused() tells
+     * what came of it. */
+    void takeControl();
+
 signals:
-    /*! The camera has stopped answering. Sent once, on the thread that opened the camera. */
+    /*! The camera has stopped answering, which \a reason says in a sentence. Sent once, on the thread that
+     * opened the camera. */
     void lost(const QString &reason);
+    /*! isReadOnly(), controller() or isControlAvailable() has changed. */
+    void accessChanged();
+    /*! Nobody controls the read-only camera any more. */
+    void controlAvailable();
+    /*! takeControl() failed for \a reason. */
+    void controlRefused(const QString &reason);
 
 private slots:
     void reportLoss(const QString &reason);
+    void reportAccess();
+    void reportRefusal(const QString &reason);
 
 private:
     explicit Camera(std::shared_ptr<Session> session);
 
     std::shared_ptr<Session> m_session;
     QList<NodeMap> m_nodeMaps;
+    bool m_wasControlAvailable = false;
 };
 
 } // namespace Cameras

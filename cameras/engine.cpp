@@ -4,6 +4,7 @@
 #include "engine_p.h"
 
 #include "aravis_p.h"
+#include "enginefailure_p.h"
 #include "simulatedregisters_p.h"
 #include "valuetext_p.h"
 
@@ -88,45 +89,6 @@ GenApi::EDisplayNotation notationOf(const QString &text)
     return text == QLatin1String("Scientific") ? GenApi::fnScientific : GenApi::fnAutomatic;
 }
 
-[[noreturn]] void throwDeviceError(int code, const QString &text)
-{
-    switch (code) {
-    case ARV_DEVICE_ERROR_TIMEOUT:
-    case ARV_DEVICE_ERROR_NOT_CONNECTED:
-        throw GenICam::TimeoutException(text);
-    case ARV_DEVICE_ERROR_NOT_CONTROLLER:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_WRITE_PROTECT:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED:
-        throw GenICam::AccessException(text);
-    case ARV_DEVICE_ERROR_INVALID_PARAMETER:
-    case ARV_DEVICE_ERROR_PROTOCOL_ERROR_INVALID_PARAMETER:
-        throw GenICam::InvalidArgumentException(text);
-    default:
-        throw GenICam::RuntimeException(text);
-    }
-}
-
-[[noreturn]] void throwEngineError(int code, const QString &text)
-{
-    switch (code) {
-    case ARV_GC_ERROR_OUT_OF_RANGE:
-        throw GenICam::OutOfRangeException(text);
-    case ARV_GC_ERROR_READ_ONLY:
-        throw GenICam::AccessException(text);
-    case ARV_GC_ERROR_ENUM_ENTRY_NOT_FOUND:
-    case ARV_GC_ERROR_INVALID_LENGTH:
-    case ARV_GC_ERROR_INVALID_SYNTAX:
-        throw GenICam::InvalidArgumentException(text);
-    case ARV_GC_ERROR_PROPERTY_NOT_DEFINED:
-    case ARV_GC_ERROR_PVALUE_NOT_DEFINED:
-    case ARV_GC_ERROR_INVALID_PVALUE:
-    case ARV_GC_ERROR_NODE_NOT_FOUND:
-        throw GenICam::PropertyException(text);
-    default:
-        throw GenICam::RuntimeException(text);
-    }
-}
-
 } // namespace
 
 /*! \brief Receives the engine's error of one call and tells the engine when the device has gone. */
@@ -148,10 +110,9 @@ public:
         if (!m_error) {
             return false;
         }
-        const bool isGone = m_error->domain == ARV_DEVICE_ERROR
-            && (m_error->code == ARV_DEVICE_ERROR_TIMEOUT || m_error->code == ARV_DEVICE_ERROR_NOT_CONNECTED);
-        if (isGone && m_engine->m_lossReason.isEmpty()) {
-            m_engine->m_lossReason = QString::fromUtf8(m_error->message);
+        const QString reason = EngineFailure::words(*m_error);
+        if (EngineFailure::isSilence(*m_error) && m_engine->m_lossReason.isEmpty()) {
+            m_engine->m_lossReason = reason;
         }
         g_clear_error(&m_error);
         return true;
@@ -162,17 +123,9 @@ public:
         if (!m_error) {
             return;
         }
-        const QString text = feature + QLatin1String(": ") + QString::fromUtf8(m_error->message);
-        const GQuark domain = m_error->domain;
-        const int code = m_error->code;
+        const std::unique_ptr<GError, decltype(&g_error_free)> error(g_error_copy(m_error), g_error_free);
         take();
-        if (domain == ARV_DEVICE_ERROR) {
-            throwDeviceError(code, text);
-        }
-        if (domain == ARV_GC_ERROR) {
-            throwEngineError(code, text);
-        }
-        throw GenICam::RuntimeException(text);
+        EngineFailure::throwFor(*error, feature);
     }
 
 private:
@@ -219,6 +172,11 @@ QString Engine::lossReason() const
     return m_lossReason;
 }
 
+void Engine::forgetLoss()
+{
+    m_lossReason.clear();
+}
+
 Engine::Reading Engine::read(int node)
 {
     Reading reading{newData(m_types[node]), GenApi::NI};
@@ -250,6 +208,9 @@ Engine::Reading Engine::read(int node)
     if (data.isReadable && !readValue(node, data)) {
         data.isReadable = false;
         data.valueString.clear();
+    }
+    if (data.isReadable && data.type == ParameterType::Enumeration) {
+        addCurrentEntry(node, static_cast<EnumParameterData &>(data));
     }
     return reading;
 }
@@ -427,6 +388,27 @@ void Engine::readEnumEntries(int node, EnumParameterData &data)
     }
     g_free(names);
     g_free(texts);
+}
+
+// An entry may be the current one without being available; an editor could not show it otherwise.
+void Engine::addCurrentEntry(int node, EnumParameterData &data)
+{
+    if (data.symbolicNames.contains(data.valueString)) {
+        return;
+    }
+    qsizetype place = data.symbolicNames.size(); // the engine lists the last entry first
+    const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(m_nodes[node]));
+    for (; entry; entry = entry->next) {
+        auto *feature = static_cast<ArvGcFeatureNode *>(entry->data);
+        const QString name = QString::fromUtf8(arv_gc_feature_node_get_name(feature));
+        if (name == data.valueString) {
+            const QString text = QString::fromUtf8(arv_gc_feature_node_get_display_name(feature));
+            data.symbolicNames.insert(place, name);
+            data.displayTexts.insert(place, tr("%1 (not available)").arg(text.isEmpty() ? name : text));
+            return;
+        }
+        place -= place > 0 && data.symbolicNames[place - 1] == name ? 1 : 0;
+    }
 }
 
 // A command is done when its register no longer holds the command.

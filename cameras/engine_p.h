@@ -60,6 +60,8 @@ public:
 
     /*! Returns why the device no longer answers, empty while it does. */
     QString lossReason() const;
+    /*! Takes back the loss, since the device answers after all. */
+    void forgetLoss();
 
 private:
     class Failure;
@@ -76,6 +78,7 @@ private:
     bool readFloat(int node, ParameterCollection::FloatParameterData &data);
     bool readEnum(int node, ParameterCollection::EnumParameterData &data);
     void readEnumEntries(int node, ParameterCollection::EnumParameterData &data);
+    void addCurrentEntry(int node, ParameterCollection::EnumParameterData &data);
     bool readCommandDone(int node);
     bool readRegister(int node, QString *text);
     void writeInteger(int node, qint64 value, const QString &text);

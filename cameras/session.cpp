@@ -4,6 +4,7 @@
 #include "session_p.h"
 
 #include "engine_p.h"
+#include "livecamera_p.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/guard.h>
@@ -24,6 +25,7 @@ namespace {
 constexpr auto writeTime = 1s;
 constexpr auto openTime = 20s;
 constexpr auto closeTime = 500ms;
+constexpr auto watchTime = 1s;
 
 /*! \brief Threads of cameras that were closed while an access hung; joined before the process ends. */
 class LeftThreads
@@ -98,7 +100,7 @@ void Session::close()
 {
     Lock lock(m_mutex);
     m_isStopping = true;
-    loseLocked(tr("the camera was closed"));
+    loseLocked(tr("The camera was closed."));
     m_changed.notify_all();
     if (!m_thread.joinable()) {
         return;
@@ -139,6 +141,8 @@ void Session::run(const Opener &opener)
 void Session::open(const Opener &opener)
 {
     Source source = opener();
+    const CameraAccess access =
+        source.live && source.live->isWatchable() ? source.live->access(false) : CameraAccess();
     std::vector<std::unique_ptr<MapState>> maps;
     for (NodeMapSource &mapSource : source.maps) {
         auto map = std::make_unique<MapState>();
@@ -155,7 +159,6 @@ void Session::open(const Opener &opener)
             NodeState &state = map->nodes[size_t(node)];
             state.type = map->engine->type(node);
             state.own = reading.data;
-            state.shown = reading.data;
             state.access = reading.access;
         }
         maps.push_back(std::move(map));
@@ -163,6 +166,13 @@ void Session::open(const Opener &opener)
     const Lock lock(m_mutex);
     m_maps = std::move(maps);
     m_info = source.info;
+    m_live = source.live;
+    m_access = access;
+    for (const auto &map : m_maps) {
+        for (const int node : map->source.description->published()) {
+            show(map->nodes[size_t(node)]);
+        }
+    }
     m_isOpen = true;
     m_changed.notify_all();
 }
@@ -171,9 +181,24 @@ void Session::work()
 {
     Lock lock(m_mutex);
     for (;;) {
-        m_changed.wait(lock, [this] { return m_isStopping || !m_calls.empty() || !m_reads.empty(); });
+        const auto hasWork = [this] {
+            return m_isStopping || !m_calls.empty() || !m_reads.empty() || isWatchDue();
+        };
+        if (m_live && m_live->isWatchable() && !m_isLost) {
+            m_changed.wait_until(lock, m_nextWatch, hasWork);
+        } else {
+            m_changed.wait(lock, hasWork);
+        }
         if (m_isStopping) {
             return;
+        }
+        if (isWatchDue()) {
+            lock.unlock();
+            Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to watch the control"),
+                             [this] { watchControl(); });
+            lock.lock();
+            m_nextWatch = std::chrono::steady_clock::now() + watchTime;
+            continue;
         }
         if (!m_calls.empty()) {
             const std::shared_ptr<Call> call = m_calls.front();
@@ -181,6 +206,9 @@ void Session::work()
             lock.unlock();
             carryOut(call);
             lock.lock();
+            continue;
+        }
+        if (m_reads.empty()) {
             continue;
         }
         const Read read = m_reads.front();
@@ -255,19 +283,129 @@ void Session::readNow(int mapIndex, int node, bool force)
     }
 }
 
+// What the engine takes for a loss may be a camera that leaves a write without an answer.
 void Session::noteLoss(int map)
 {
-    const QString reason = m_maps[size_t(map)]->engine->lossReason();
-    if (!reason.isEmpty()) {
-        markLost(reason);
+    Engine &engine = *m_maps[size_t(map)]->engine;
+    if (engine.lossReason().isEmpty()) {
+        return;
+    }
+    if (m_live && m_live->isAnswering()) {
+        engine.forgetLoss();
+        doubtControl();
+    } else {
+        markLost(silence());
     }
 }
 
-// Puts together what the node grants and what was imposed.
+QString Session::silence() const
+{
+    return m_live ? m_live->silence() : tr("The camera does not answer.");
+}
+
+bool Session::isWatchDue() const
+{
+    if (!m_live || m_isLost) {
+        return false;
+    }
+    return m_isControlDoubtful || m_isControlWanted
+        || (m_live->isWatchable() && std::chrono::steady_clock::now() >= m_nextWatch);
+}
+
+void Session::watchControl()
+{
+    Lock lock(m_mutex);
+    const bool isDoubtful = std::exchange(m_isControlDoubtful, false);
+    const bool isWanted = std::exchange(m_isControlWanted, false) && m_access.isReadOnly;
+    const bool wasReadOnly = m_access.isReadOnly;
+    lock.unlock();
+    if (isWanted) {
+        tryToTakeControl();
+        return;
+    }
+    const CameraAccess access = m_live->access(isDoubtful);
+    if (!access.isAnswering) {
+        markLost(silence());
+        return;
+    }
+    if (access.isReadOnly && !wasReadOnly) {
+        useDevice(m_live->openReadOnly());
+    }
+    changeAccess(access);
+}
+
+void Session::tryToTakeControl()
+{
+    try {
+        useDevice(m_live->openControlled());
+    } catch (const Core::Exception::BaseException &exception) {
+        const Lock lock(m_mutex);
+        tellCamera("reportRefusal", exception.getMessage());
+        return;
+    }
+    changeAccess(m_live->access(false));
+    refresh(0); // whoever had the control may have changed anything
+}
+
+// A live camera has one node map.
+void Session::useDevice(DevicePtr device)
+{
+    MapState &map = *m_maps.front();
+    map.engine = std::make_unique<Engine>(std::move(device), map.source.description, nullptr);
+}
+
+void Session::changeAccess(const CameraAccess &access)
+{
+    const Lock lock(m_mutex);
+    if (m_access == access || m_isLost) {
+        return;
+    }
+    m_access = access;
+    for (const int node : m_maps.front()->source.description->published()) {
+        NodeState &state = m_maps.front()->nodes[size_t(node)];
+        const ParameterDataPtr before = state.shown;
+        show(state);
+        if (!before->equals(*state.shown)) {
+            publish(0, node);
+        }
+    }
+    if (m_cameraListener) {
+        QMetaObject::invokeMethod(m_cameraListener, "reportAccess", Qt::QueuedConnection);
+    }
+}
+
+void Session::tellCamera(const char *slot, const QString &text)
+{
+    if (m_cameraListener) {
+        QMetaObject::invokeMethod(m_cameraListener, slot, Qt::QueuedConnection, Q_ARG(QString, text));
+    }
+}
+
+CameraAccess Session::access() const
+{
+    const Lock lock(m_mutex);
+    return m_access;
+}
+
+void Session::takeControl()
+{
+    const Lock lock(m_mutex);
+    m_isControlWanted = true;
+    m_changed.notify_all();
+}
+
+void Session::doubtControl()
+{
+    const Lock lock(m_mutex);
+    m_isControlDoubtful = true;
+    m_changed.notify_all();
+}
+
+// Puts together what the node grants, what was imposed and what the control of the camera allows.
 void Session::show(NodeState &state) const
 {
     state.shown = state.own;
-    if (!state.imposedVisibility && !state.imposedAccess) {
+    if (!state.imposedVisibility && !state.imposedAccess && !m_access.isReadOnly) {
         return;
     }
     const QSharedPointer<ParameterData> data = copyOf(*state.own);
@@ -275,7 +413,8 @@ void Session::show(NodeState &state) const
     const GenApi::EAccessMode access = state.imposedAccess.value_or(GenApi::RW);
     data->isImplemented = data->isImplemented && access != GenApi::NI;
     data->isReadable = data->isReadable && (access == GenApi::RO || access == GenApi::RW);
-    data->isWritable = data->isWritable && (access == GenApi::WO || access == GenApi::RW);
+    data->isWritable =
+        data->isWritable && (access == GenApi::WO || access == GenApi::RW) && !m_access.isReadOnly;
     if (!data->isReadable) {
         data->valueString.clear();
     }
@@ -298,19 +437,36 @@ void Session::write(int map, int node, const NodeValue &value)
     const QString name = description(map)->name(node);
     Lock lock(m_mutex);
     if (m_isLost) {
-        throw GenICam::RuntimeException(tr("%1: the camera is lost (%2)").arg(name, m_lossReason));
+        throw GenICam::RuntimeException(tr("%1: %2").arg(name, m_lossReason));
+    }
+    if (m_access.isReadOnly) {
+        throw GenICam::AccessException(tr("%1: %2").arg(name,
+                                                        m_access.isFree
+                                                            ? tr("the camera is open read-only")
+                                                            : LiveCamera::heldWords(m_access.controller)));
     }
     m_calls.push_back(call);
     m_changed.notify_all();
     if (!m_changed.wait_for(lock, writeTime, [&call] { return call->isDone; })) {
-        const QString reason = tr("no answer within a second");
-        std::erase(m_calls, call);
-        loseLocked(reason);
-        throw GenICam::TimeoutException(tr("%1: %2").arg(name, reason));
+        giveUp(lock, call, name);
     }
     if (call->failure) {
         std::rethrow_exception(call->failure);
     }
+}
+
+// Only a camera that does not answer is lost; another takes its time, or leaves the write alone.
+void Session::giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name)
+{
+    std::erase(m_calls, call);
+    lock.unlock();
+    const bool isAnswering = m_live && m_live->isAnswering();
+    lock.lock();
+    if (isAnswering) {
+        throw GenICam::TimeoutException(tr("%1: not done within a second").arg(name));
+    }
+    loseLocked(silence());
+    throw GenICam::TimeoutException(tr("%1: %2").arg(name, silence()));
 }
 
 void Session::enqueue(int map, int node, bool force, bool first)
@@ -406,12 +562,12 @@ std::optional<Session::Published> Session::takePublished(int map)
     return oldest;
 }
 
-void Session::setLossListener(QObject *listener)
+void Session::setCameraListener(QObject *listener)
 {
     const Lock lock(m_mutex);
-    m_lossListener = listener;
-    if (m_isLost && listener) {
-        QMetaObject::invokeMethod(listener, "reportLoss", Qt::QueuedConnection, Q_ARG(QString, m_lossReason));
+    m_cameraListener = listener;
+    if (m_isLost) {
+        tellCamera("reportLoss", m_lossReason);
     }
 }
 
@@ -440,9 +596,7 @@ void Session::loseLocked(const QString &reason)
     }
     m_calls.clear();
     m_changed.notify_all();
-    if (m_lossListener) {
-        QMetaObject::invokeMethod(m_lossListener, "reportLoss", Qt::QueuedConnection, Q_ARG(QString, reason));
-    }
+    tellCamera("reportLoss", reason);
 }
 
 bool Session::isLost() const
@@ -497,7 +651,11 @@ ParameterDataPtr Session::snapshot(int map, int node) const
 GenApi::EAccessMode Session::nodeAccess(int map, int node) const
 {
     const Lock lock(m_mutex);
-    return m_maps[size_t(map)]->nodes[size_t(node)].access;
+    const GenApi::EAccessMode access = m_maps[size_t(map)]->nodes[size_t(node)].access;
+    if (!m_access.isReadOnly) {
+        return access;
+    }
+    return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
 }
 
 void Session::startReadLog()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cameras/cameraaccess_p.h>
 #include <cameras/cameras_export.h>
 #include <cameras/description_p.h>
 #include <cameras/deviceptr_p.h>
@@ -30,6 +31,8 @@
 
 namespace Cameras {
 
+class LiveCamera;
+
 /*! \brief What is needed to set up one node map of a camera that is being opened. */
 struct NodeMapSource
 {
@@ -55,6 +58,7 @@ public:
     {
         Core::CameraPoolComponents::CameraInfoPtr info;
         std::vector<NodeMapSource> maps;
+        std::shared_ptr<LiveCamera> live; //!< null for simulated registers
     };
     /*! Connects to the camera; runs on the worker, may throw. */
     using Opener = std::function<Source()>;
@@ -99,10 +103,17 @@ public:
     /*! Returns the oldest snapshot that was not taken yet. */
     std::optional<Published> takePublished(int map);
 
-    /*! Names the object whose slot reportLoss(QString) is invoked when the camera has gone. */
-    void setLossListener(QObject *listener);
-    void markLost(const QString &reason);
+    /*! Names the object whose slots are invoked: reportLoss(QString) when the camera has gone,
+     * reportAccess() when access() has changed, reportRefusal(QString) when the control was not given. */
+    void setCameraListener(QObject *listener);
     bool isLost() const;
+
+    /*! Returns what can be done with the camera, as far as the worker knows. */
+    CameraAccess access() const;
+    /*! Asks the worker to take the control of a camera that was opened read-only. */
+    void takeControl();
+    /*! Has the worker find out whether the camera is still controlled by us, and whether it answers. */
+    void doubtControl();
 
     /*! Begins to note which nodes the worker reads; for tests. */
     void startReadLog();
@@ -156,11 +167,20 @@ private:
     void carryOut(const std::shared_ptr<Call> &call);
     void carryOutWrite(int map, int node, const NodeValue &value);
     void readNow(int map, int node, bool force);
+    [[noreturn]] void giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name);
     void enqueue(int map, int node, bool force, bool first = false);
     void show(NodeState &state) const;
     void publish(int map, int node);
+    void markLost(const QString &reason);
     void loseLocked(const QString &reason);
     void noteLoss(int map);
+    QString silence() const;
+    bool isWatchDue() const;
+    void watchControl();
+    void tryToTakeControl();
+    void useDevice(DevicePtr device);
+    void changeAccess(const CameraAccess &access);
+    void tellCamera(const char *slot, const QString &text);
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -170,7 +190,12 @@ private:
     std::deque<std::shared_ptr<Call>> m_calls;
     std::deque<Read> m_reads;
     std::exception_ptr m_openFailure;
-    QObject *m_lossListener = nullptr;
+    QObject *m_cameraListener = nullptr;
+    std::shared_ptr<LiveCamera> m_live;
+    CameraAccess m_access;
+    std::chrono::steady_clock::time_point m_nextWatch;
+    bool m_isControlDoubtful = false;
+    bool m_isControlWanted = false;
     QString m_lossReason;
     std::optional<QStringList> m_readLog;
     bool m_isOpen = false;

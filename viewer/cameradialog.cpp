@@ -46,6 +46,27 @@ QString CameraDialog::cameraId() const
     return item ? item->data(Qt::UserRole).toString() : QString();
 }
 
+// Where the camera is and what can be done with it, empty where it does not tell.
+QString CameraDialog::stateOf(const Cameras::CameraStatus &status)
+{
+    switch (status.state) {
+    case Cameras::CameraStatus::State::Available:
+        return tr("%1, available").arg(status.address);
+    case Cameras::CameraStatus::State::ReadOnly:
+        return status.controller.isEmpty()
+            ? tr("%1, in use by another program, opens read-only").arg(status.address)
+            : tr("%1, in use by a program at %2, opens read-only").arg(status.address, status.controller);
+    case Cameras::CameraStatus::State::Exclusive:
+        return tr("%1, held by another program for itself").arg(status.address);
+    case Cameras::CameraStatus::State::OtherSubnet:
+        return tr("%1, not in a subnet of this computer").arg(status.address);
+    case Cameras::CameraStatus::State::NoAnswer:
+        return tr("%1, does not answer").arg(status.address);
+    default:
+        return status.address;
+    }
+}
+
 void CameraDialog::rescan()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -54,10 +75,12 @@ void CameraDialog::rescan()
     try {
         const auto cameras = Cameras::Camera::list();
         for (const auto &camera : cameras) {
-            auto *const item = new QListWidgetItem(tr("%1 %2 (%3), %4")
-                                                       .arg(camera->vendorName(), camera->modelName(),
-                                                            camera->serialNumber(), camera->deviceClass()),
-                                                   m_list);
+            const QString name = tr("%1 %2 (%3), %4")
+                                     .arg(camera->vendorName(), camera->modelName(), camera->serialNumber(),
+                                          camera->deviceClass());
+            const QString state = stateOf(Cameras::Camera::status(camera->id()));
+            auto *const item =
+                new QListWidgetItem(state.isEmpty() ? name : name + QLatin1Char('\n') + state, m_list);
             item->setData(Qt::UserRole, camera->id());
             item->setToolTip(camera->id());
         }

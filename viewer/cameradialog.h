@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cameras/camerastatus.h>
+
 #include <QDialog>
 #include <QString>
 
@@ -29,6 +31,8 @@ private slots:
     void updateButtons();
 
 private:
+    static QString stateOf(const Cameras::CameraStatus &status);
+
     QListWidget *m_list;
     QLabel *m_hint;
     QPushButton *m_connect;

@@ -60,13 +60,34 @@ int finish(QTextStream &out)
         : fail(QCoreApplication::translate("main", "Cannot write to the standard output."));
 }
 
+// For scripts, hence the same in every language.
+QString stateWord(Cameras::CameraStatus::State state)
+{
+    switch (state) {
+    case Cameras::CameraStatus::State::Available:
+        return QStringLiteral("available");
+    case Cameras::CameraStatus::State::ReadOnly:
+        return QStringLiteral("in use");
+    case Cameras::CameraStatus::State::Exclusive:
+        return QStringLiteral("in exclusive use");
+    case Cameras::CameraStatus::State::OtherSubnet:
+        return QStringLiteral("not in this subnet");
+    case Cameras::CameraStatus::State::NoAnswer:
+        return QStringLiteral("no answer");
+    default:
+        return QStringLiteral("unknown");
+    }
+}
+
 int listCameras()
 {
     QTextStream out(stdout);
     const auto cameras = Cameras::Camera::list();
     for (const auto &camera : cameras) {
+        const Cameras::CameraStatus status = Cameras::Camera::status(camera->id());
         out << camera->id() << '\t' << camera->vendorName() << ' ' << camera->modelName() << '\t'
-            << camera->serialNumber() << '\t' << camera->deviceClass() << '\n';
+            << camera->serialNumber() << '\t' << camera->deviceClass() << '\t' << status.address << '\t'
+            << stateWord(status.state) << '\t' << status.controller << '\n';
     }
     return finish(out);
 }

@@ -93,7 +93,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(GetTheGlobalAsyncErrorQueue(),
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
-    connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
+    connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(onMessageAction()));
     restoreState();
     updateActions();
 }
@@ -267,6 +267,7 @@ void MainWindow::createCameraMenu()
 {
     QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
     camera->setToolTipsVisible(true);
+    m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
     // Whether a camera lets itself be configured changes with what it is doing.
     connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
@@ -313,6 +314,8 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
 {
     m_camera = std::move(camera);
     connect(m_camera.get(), SIGNAL(lost(QString)), this, SLOT(onCameraLost(QString)));
+    connect(m_camera.get(), SIGNAL(accessChanged()), this, SLOT(showAccess()));
+    connect(m_camera.get(), SIGNAL(controlRefused(QString)), this, SLOT(onControlRefused(QString)));
     const auto nodeMaps = m_camera->nodeMaps();
     for (const Cameras::NodeMap &nodeMap : nodeMaps) {
         m_tree->addParameterCollection(nodeMap.collection, nodeMap.title, nodeMap.name, nodeMap.usesUtf8);
@@ -326,6 +329,9 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
     setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
     updateActions();
+    if (m_camera->isReadOnly()) {
+        showAccess();
+    }
     emit cameraOpened(info);
 }
 
@@ -386,8 +392,50 @@ void MainWindow::onCameraLost(const QString &reason)
     m_pollsAfterReconnect = m_tree->getPolling();
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
-    m_messages->showAction(tr("The camera was lost: %1").arg(reason), tr("Reconnect"));
+    m_messages->showAction(reason, tr("Reconnect"));
     updateActions();
+}
+
+// The bar asks one thing at a time: to reconnect to a camera that is not open, else for its control.
+void MainWindow::onMessageAction()
+{
+    if (isCameraOpen()) {
+        takeControl();
+    } else {
+        reconnect();
+    }
+}
+
+void MainWindow::showAccess()
+{
+    updateActions();
+    if (!isCameraOpen()) {
+        return; // the loss has been said
+    }
+    if (!m_camera->isReadOnly()) {
+        m_messages->dismiss();
+    } else if (m_camera->isControlAvailable()) {
+        m_messages->showAction(tr("The camera is open read-only. No program controls it now."),
+                               tr("Take Control"));
+    } else {
+        const QString controller = m_camera->controller();
+        m_messages->showAction(
+            controller.isEmpty()
+                ? tr("The camera is held by another program and open read-only.")
+                : tr("The camera is held by another program at %1 and open read-only.").arg(controller),
+            QString());
+    }
+}
+
+void MainWindow::takeControl()
+{
+    m_camera->takeControl();
+    statusBar()->showMessage(tr("Taking control of the camera…"), statusTime);
+}
+
+void MainWindow::onControlRefused(const QString &reason)
+{
+    m_messages->showMessage(tr("The control of the camera was not taken: %1").arg(reason), QString());
 }
 
 void MainWindow::reconnect()
@@ -488,6 +536,11 @@ void MainWindow::updateActions()
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
+    const bool canTakeControl = isCameraOpen() && m_camera->isControlAvailable();
+    m_controlAction->setEnabled(canTakeControl);
+    m_controlAction->setToolTip(canTakeControl ? tr("Allows the camera's features to be changed")
+                                               : tr("Only of a camera that is open read-only and free"));
+    m_controlAction->setStatusTip(m_controlAction->toolTip());
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());
     m_ipAction->setToolTip(obstacle.isEmpty() ? tr("Address, mask and gateway that the camera starts with")

@@ -94,6 +94,10 @@ private slots:
                        const QString &message);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
     void onCameraLost(const QString &reason);
+    void onMessageAction();
+    void showAccess();
+    void takeControl();
+    void onControlRefused(const QString &reason);
     void copyTree();
     void updateActions();
 
@@ -142,5 +146,6 @@ private:
     QAction *m_reconnectAction = nullptr;
     QAction *m_copyAction = nullptr;
     QAction *m_ipAction = nullptr;
+    QAction *m_controlAction = nullptr;
     QAction *m_monitorAction = nullptr;
 };

@@ -87,7 +87,7 @@ void MessageBar::showAction(const QString &message, const QString &action)
     dismiss();
     m_question = message;
     m_action->setText(action);
-    m_action->show();
+    m_action->setVisible(!action.isEmpty());
     updateText();
 }
 

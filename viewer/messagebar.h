@@ -27,7 +27,8 @@ public:
     void showMessage(const QString &message, const QString &details, const QString &subject = QString());
     /*! Takes the messages about \a subject back, which are true no more. */
     void resolve(const QString &subject);
-    /*! Shows \a message with a button labelled \a action, whose click emits actionTriggered(). */
+    /*! Shows \a message with a button labelled \a action, whose click emits actionTriggered();
+     * without one when the label is empty. */
     void showAction(const QString &message, const QString &action);
 
 public slots:

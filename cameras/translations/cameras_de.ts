@@ -133,6 +133,10 @@
         <source>a subnet mask, whose ones stand together, such as 255.255.255.0</source>
         <translation>eine Subnetzmaske, deren Einsen zusammenstehen, etwa 255.255.255.0</translation>
     </message>
+    <message>
+        <source>%1 (not available)</source>
+        <translation>%1 (nicht verfügbar)</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::NodeProperties</name>
@@ -166,6 +170,147 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The camera was closed.</source>
+        <translation>Die Kamera wurde geschlossen.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer.</source>
+        <translation>Die Kamera antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>the camera is open read-only</source>
+        <translation>die Kamera ist nur lesend geöffnet</translation>
+    </message>
+    <message>
+        <source>%1: not done within a second</source>
+        <translation>%1: nicht innerhalb einer Sekunde ausgeführt</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::DescriptionArchive</name>
+    <message>
+        <source>the file is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>the archive holds no camera description</source>
+        <translation>das Archiv enthält keine Kamerabeschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::EngineFailure</name>
+    <message>
+        <source>the camera does not answer</source>
+        <translation>die Kamera antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the camera is not connected</source>
+        <translation>die Kamera ist nicht verbunden</translation>
+    </message>
+    <message>
+        <source>there is no such camera</source>
+        <translation>es gibt keine solche Kamera</translation>
+    </message>
+    <message>
+        <source>the camera hands out no description of its features</source>
+        <translation>die Kamera gibt keine Beschreibung ihrer Merkmale heraus</translation>
+    </message>
+    <message>
+        <source>another program controls the camera</source>
+        <translation>ein anderes Programm kontrolliert die Kamera</translation>
+    </message>
+    <message>
+        <source>the camera denies the access</source>
+        <translation>die Kamera verweigert den Zugriff</translation>
+    </message>
+    <message>
+        <source>the camera protects it from being written</source>
+        <translation>die Kamera schützt es vor dem Schreiben</translation>
+    </message>
+    <message>
+        <source>the camera is busy</source>
+        <translation>die Kamera ist beschäftigt</translation>
+    </message>
+    <message>
+        <source>the camera has no such register</source>
+        <translation>die Kamera hat kein solches Register</translation>
+    </message>
+    <message>
+        <source>the camera does not accept the value</source>
+        <translation>die Kamera nimmt den Wert nicht an</translation>
+    </message>
+    <message>
+        <source>the camera does not support it</source>
+        <translation>die Kamera unterstützt es nicht</translation>
+    </message>
+    <message>
+        <source>the camera refuses</source>
+        <translation>die Kamera lehnt ab</translation>
+    </message>
+    <message>
+        <source>the value is out of range</source>
+        <translation>der Wert liegt außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>it can only be read</source>
+        <translation>es kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>there is no such entry</source>
+        <translation>es gibt keinen solchen Eintrag</translation>
+    </message>
+    <message>
+        <source>the length does not fit</source>
+        <translation>die Länge passt nicht</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s description of it is not usable</source>
+        <translation>die Beschreibung der Kamera davon ist nicht brauchbar</translation>
+    </message>
+    <message>
+        <source>the connection to the camera failed</source>
+        <translation>die Verbindung zur Kamera ist gestört</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveCamera</name>
+    <message>
+        <source>there is no such camera</source>
+        <translation>es gibt keine solche Kamera</translation>
+    </message>
+    <message>
+        <source>no camera answers at %1</source>
+        <translation>unter %1 antwortet keine Kamera</translation>
+    </message>
+    <message>
+        <source>%1 is in none of this computer&apos;s subnets</source>
+        <translation>%1 liegt in keinem Teilnetz dieses Rechners</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the camera hands out no description of its features</source>
+        <translation>die Kamera gibt keine Beschreibung ihrer Merkmale heraus</translation>
+    </message>
+    <message>
+        <source>The camera %1 does not answer.</source>
+        <translation>Die Kamera %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The camera at %1 does not answer.</source>
+        <translation>Die Kamera unter %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>held by another program</source>
+        <translation>von einem anderen Programm belegt</translation>
+    </message>
+    <message>
+        <source>held by another program at %1</source>
+        <translation>von einem anderen Programm auf %1 belegt</translation>
     </message>
 </context>
 </TS>

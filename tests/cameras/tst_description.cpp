@@ -64,6 +64,7 @@ private slots:
     void dependentsFollowTheLinks();
     void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
+    void currentEntryIsListed();
 
 private:
     QString saved(const QByteArray &contents);
@@ -342,6 +343,31 @@ void TestDescription::groupsAndStructEntries()
     collection->parameter("High")->setValueFromString("3");
     QCOMPARE(collection->parameter("High")->parameterData()->valueString, "3");
     QCOMPARE(collection->parameter("Low")->parameterData()->valueString, "0");
+}
+
+// As real descriptions have it: the value that stands in the register is not offered now.
+void TestDescription::currentEntryIsListed()
+{
+    const auto entry = [](const QByteArray &name, int value, const QByteArray &availability = {}) {
+        return "<EnumEntry Name=\"" + name + "\">" + availability + "<Value>" + QByteArray::number(value)
+            + "</Value></EnumEntry>";
+    };
+    const QByteArray missing = "<pIsAvailable>Switch</pIsAvailable>";
+    const auto camera = opened(root("Selector Switch") + "<Enumeration Name=\"Selector\">" + entry("Far", 7)
+                               + entry("Red", 0, missing) + entry("Green", 1) + entry("Hidden", 2, missing)
+                               + "<pValue>Register</pValue></Enumeration>"
+                               + integerRegister("Register", "0x100") + integerRegister("Switch", "0x104"));
+    const auto collection = camera->nodeMaps().first().collection;
+    const auto selector = collection->parameter("Selector");
+    const auto entries = [&selector] {
+        const auto data = qSharedPointerDynamicCast<const EnumParameterData>(selector->parameterData());
+        return data->symbolicNames + data->displayTexts + QStringList{data->valueString};
+    };
+    QCOMPARE(entries(), QStringList({"Far", "Red", "Green", "Far", "Red (not available)", "Green", "Red"}));
+    QVERIFY_EXCEPTION_THROWN(selector->setValueFromString("Hidden"), std::exception);
+    selector->setValueFromString("Green");
+    QVERIFY_EXCEPTION_THROWN(selector->setValueFromString("Red"), std::exception);
+    QCOMPARE(entries(), QStringList({"Far", "Green", "Far", "Green", "Green"}));
 }
 
 QTEST_GUILESS_MAIN(TestDescription)

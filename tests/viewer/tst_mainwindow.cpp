@@ -35,6 +35,7 @@
 #include <QToolButton>
 #include <QWindow>
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -71,6 +72,7 @@ private slots:
     void reconnectingKeepsTheTree();
     void clickOnALockedEditorGoesToItsRow();
     void lostCameraIsReopened();
+    void cameraInOtherHandsOffersItsControl();
     void closingALiveCameraIsConfirmed();
     void paneDescribesTheCurrentRow();
     void commandsAreConfirmed_data();
@@ -296,7 +298,7 @@ void TestMainWindow::lostCameraIsReopened()
     g_clear_object(&m_server);
     QTRY_VERIFY_WITH_TIMEOUT(!m_window->isCameraOpen() && bar->isVisible(), 20000);
     QTest::qWait(400); // time for another poll
-    QCOMPARE(text().count(QStringLiteral("The camera was lost")), 1);
+    QCOMPARE(text().count(QStringLiteral("The camera at 127.0.0.1 does not answer.")), 1);
     QVERIFY(!tree->isEnabled() && !tree->getPolling());
     if (Cameras::Camera::list().isEmpty()) { // else another test run serves at the same address
         QVERIFY(reconnect());
@@ -315,6 +317,39 @@ void TestMainWindow::lostCameraIsReopened()
     tree->copyToClipboard();
     const QString rows = QApplication::clipboard()->text();
     QVERIFY(rows.contains(QStringLiteral("Width")) && !rows.contains(QStringLiteral("Gain")));
+}
+
+void TestMainWindow::cameraInOtherHandsOffersItsControl()
+{
+    openLiveCamera();
+    if (!m_window->isCameraOpen()) {
+        return;
+    }
+    m_window->closeCamera();
+    ArvDevice *const other = arv_open_device("Aravis-Fake-ZWINDOW", nullptr);
+    QVERIFY(ARV_IS_GV_DEVICE(other) && arv_gv_device_is_controller(ARV_GV_DEVICE(other)));
+    m_window->reconnect();
+    auto *const bar = m_window->findChild<MessageBar *>();
+    const auto shows = [bar](const QString &text) {
+        const auto labels = bar->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel *label) { return label->text().contains(text); });
+    };
+    QVERIFY(bar->isVisible() && shows(QStringLiteral("held by another program")));
+    QVERIFY(!action("Take Control")->isEnabled());
+    g_object_unref(other);
+    QTRY_VERIFY_WITH_TIMEOUT(shows(QStringLiteral("No program controls it now")), 5000);
+    QVERIFY(action("Take Control")->isEnabled());
+    const auto buttons = bar->findChildren<QToolButton *>();
+    for (QToolButton *const button : buttons) {
+        if (button->isVisible() && button->text() == QLatin1String("Take Control")) {
+            QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!bar->isVisible(), 5000);
+    QVERIFY(m_window->isCameraOpen() && !action("Take Control")->isEnabled());
+    m_window->closeCamera();
+    g_clear_object(&m_server);
 }
 
 // Triggers the action and answers the message box, silencing it. Returns whether there was one.

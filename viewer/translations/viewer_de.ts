@@ -27,6 +27,30 @@
         <source>No camera answers. Check its power, its cable and the network interface, then rescan.</source>
         <translation>Keine Kamera antwortet. Prüfen Sie Stromversorgung, Kabel und Netzwerkschnittstelle und suchen Sie neu.</translation>
     </message>
+    <message>
+        <source>%1, available</source>
+        <translation>%1, verfügbar</translation>
+    </message>
+    <message>
+        <source>%1, in use by another program, opens read-only</source>
+        <translation>%1, von einem anderen Programm benutzt, öffnet nur lesend</translation>
+    </message>
+    <message>
+        <source>%1, in use by a program at %2, opens read-only</source>
+        <translation>%1, von einem Programm auf %2 benutzt, öffnet nur lesend</translation>
+    </message>
+    <message>
+        <source>%1, held by another program for itself</source>
+        <translation>%1, von einem anderen Programm allein belegt</translation>
+    </message>
+    <message>
+        <source>%1, not in a subnet of this computer</source>
+        <translation>%1, in keinem Teilnetz dieses Rechners</translation>
+    </message>
+    <message>
+        <source>%1, does not answer</source>
+        <translation>%1, antwortet nicht</translation>
+    </message>
 </context>
 <context>
     <name>ColoursMenu</name>
@@ -388,6 +412,42 @@ Open a description file or connect to a camera (menu File).</source>
     <message>
         <source>The open camera has no such feature.</source>
         <translation>Die geöffnete Kamera hat dieses Merkmal nicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Take Control</source>
+        <translation>Kontrolle ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Take Control</source>
+        <translation>Kontrolle übernehmen</translation>
+    </message>
+    <message>
+        <source>The camera is open read-only. No program controls it now.</source>
+        <translation>Die Kamera ist nur lesend geöffnet. Zurzeit kontrolliert sie kein Programm.</translation>
+    </message>
+    <message>
+        <source>The camera is held by another program and open read-only.</source>
+        <translation>Die Kamera wird von einem anderen Programm kontrolliert und ist nur lesend geöffnet.</translation>
+    </message>
+    <message>
+        <source>The camera is held by another program at %1 and open read-only.</source>
+        <translation>Die Kamera wird von einem anderen Programm auf %1 kontrolliert und ist nur lesend geöffnet.</translation>
+    </message>
+    <message>
+        <source>Taking control of the camera…</source>
+        <translation>Die Kontrolle über die Kamera wird übernommen …</translation>
+    </message>
+    <message>
+        <source>The control of the camera was not taken: %1</source>
+        <translation>Die Kontrolle über die Kamera wurde nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>Allows the camera&apos;s features to be changed</source>
+        <translation>Damit lassen sich die Merkmale der Kamera ändern</translation>
+    </message>
+    <message>
+        <source>Only of a camera that is open read-only and free</source>
+        <translation>Nur bei einer Kamera, die nur lesend geöffnet und frei ist</translation>
     </message>
 </context>
 <context>

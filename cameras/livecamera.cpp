@@ -1,0 +1,316 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "livecamera_p.h"
+
+#include "aravis_p.h"
+#include "descriptionarchive_p.h"
+#include "enginefailure_p.h"
+#include "portdevice_p.h"
+
+#include <platform/core/exception.h>
+
+#include <QList>
+#include <QNetworkInterface>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+using Core::Exception::BaseException;
+
+namespace Cameras {
+
+namespace {
+
+constexpr int patientAttempts = 10;
+constexpr int quickAttempts = 2;
+constexpr quint64 firstDescriptionUrl = 0x0200;
+constexpr quint32 urlSize = 512;
+
+/*! \brief Registers of a camera that are only looked at. */
+class ReadOnlyPort : public DevicePort
+{
+public:
+    explicit ReadOnlyPort(const QHostAddress &camera)
+        : m_link(camera, patientAttempts)
+    {
+    }
+
+    bool read(quint64 address, quint32 size, void *buffer, GError **error) override
+    {
+        return m_link.read(address, size, static_cast<char *>(buffer), error);
+    }
+
+    bool write(quint64 address, quint32 size, const void *buffer, GError **error) override
+    {
+        Q_UNUSED(address)
+        Q_UNUSED(size)
+        Q_UNUSED(buffer)
+        g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONTROLLER, "opened read-only");
+        return false;
+    }
+
+private:
+    GigeLink m_link;
+};
+
+// Giving a device back would write the camera's control register, which is another program's by now.
+void leaveAlone(ArvDevice *device)
+{
+    static auto *const devices = new QList<ArvDevice *>;
+    devices->append(ARV_DEVICE(g_object_ref(device)));
+}
+
+std::optional<unsigned int> listed(const QString &id)
+{
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        const auto names = {arv_get_device_id(i), arv_get_device_physical_id(i), arv_get_device_address(i)};
+        if (std::any_of(names.begin(), names.end(),
+                        [&id](const char *name) { return id == QString::fromUtf8(name); })) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+QHostAddress addressOf(unsigned int index)
+{
+    const bool isGige = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
+    return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(index))) : QHostAddress();
+}
+
+bool isInOurSubnets(const QHostAddress &address)
+{
+    const auto interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface &interface : interfaces) {
+        const auto entries = interface.addressEntries();
+        for (const QNetworkAddressEntry &entry : entries) {
+            if (address.isInSubnet(entry.ip(), entry.prefixLength())) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+CameraStatus::State stateOf(GigeLink::Hold hold)
+{
+    switch (hold) {
+    case GigeLink::Hold::Free:
+        return CameraStatus::State::Available;
+    case GigeLink::Hold::Controlled:
+    case GigeLink::Hold::Switchable:
+        return CameraStatus::State::ReadOnly;
+    case GigeLink::Hold::Exclusive:
+        return CameraStatus::State::Exclusive;
+    default:
+        return CameraStatus::State::NoAnswer;
+    }
+}
+
+void onControlLost(ArvDevice *, gpointer onDoubt)
+{
+    (*static_cast<std::function<void()> *>(onDoubt))();
+}
+
+void drop(gpointer onDoubt, GClosure *)
+{
+    delete static_cast<std::function<void()> *>(onDoubt);
+}
+
+} // namespace
+
+LiveCamera::LiveCamera(const QString &id, std::function<void()> onDoubt)
+    : m_id(id)
+    , m_onDoubt(std::move(onDoubt))
+{
+}
+
+LiveCamera::~LiveCamera() = default;
+
+CameraStatus LiveCamera::status(const QString &id)
+{
+    const auto index = listed(id);
+    const QHostAddress address = index ? addressOf(*index) : QHostAddress(id);
+    if (address.isNull()) {
+        return {};
+    }
+    if (!isInOurSubnets(address)) {
+        return {CameraStatus::State::OtherSubnet, address.toString(), QString()};
+    }
+    const GigeLink::Control control = GigeLink(address, quickAttempts).control();
+    return {stateOf(control.hold), address.toString(), control.controller.toString()};
+}
+
+DevicePtr LiveCamera::open()
+{
+    m_address = findAddress();
+    if (m_address.isNull()) {
+        return connected();
+    }
+    m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
+    switch (m_link->control().hold) {
+    case GigeLink::Hold::Free:
+        return connected();
+    case GigeLink::Hold::NoAnswer:
+        throw BaseException(isInOurSubnets(m_address)
+                                ? tr("no camera answers at %1").arg(m_address.toString())
+                                : tr("%1 is in none of this computer's subnets").arg(m_address.toString()));
+    default:
+        return openReadOnly();
+    }
+}
+
+DevicePtr LiveCamera::openControlled()
+{
+    const GigeLink::Control control = m_link->control();
+    if (control.hold != GigeLink::Hold::Free) {
+        throw BaseException(
+            control.hold == GigeLink::Hold::NoAnswer ? silence() : heldWords(control.controller.toString()));
+    }
+    DevicePtr device = connected();
+    if (!m_controlled) {
+        throw BaseException(heldWords({}));
+    }
+    return device;
+}
+
+// The engine connects to any camera, and then tells whether it got the control.
+DevicePtr LiveCamera::connected()
+{
+    GError *error = nullptr;
+    DevicePtr device(arv_open_device(m_id.toUtf8().constData(), &error));
+    if (!device) {
+        const QString reason = error ? EngineFailure::words(*error) : tr("there is no such camera");
+        g_clear_error(&error);
+        throw BaseException(reason);
+    }
+    if (ARV_IS_GV_DEVICE(device.get())) {
+        const auto *address =
+            G_INET_SOCKET_ADDRESS(arv_gv_device_get_device_address(ARV_GV_DEVICE(device.get())));
+        char *text = g_inet_address_to_string(
+            g_inet_socket_address_get_address(const_cast<GInetSocketAddress *>(address)));
+        m_address = QHostAddress(QString::fromUtf8(text));
+        g_free(text);
+        m_link = m_link ? std::move(m_link) : std::make_unique<GigeLink>(m_address, patientAttempts);
+        if (!arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()))) {
+            leaveAlone(device.get());
+            return openReadOnly(); // another program was faster
+        }
+    }
+    g_signal_connect_data(device.get(), "control-lost", G_CALLBACK(onControlLost),
+                          new std::function<void()>(m_onDoubt), drop, GConnectFlags(0));
+    size_t size = 0;
+    const char *xml = arv_device_get_genicam_xml(device.get(), &size);
+    m_xml = xml ? QByteArray(xml, qsizetype(size)) : QByteArray();
+    m_controlled = device.get();
+    return device;
+}
+
+DevicePtr LiveCamera::openReadOnly()
+{
+    if (m_controlled) {
+        leaveAlone(std::exchange(m_controlled, nullptr));
+    }
+    if (m_xml.isEmpty()) {
+        fetchXml();
+    }
+    return newPortDevice(m_xml, std::make_unique<ReadOnlyPort>(m_address));
+}
+
+QByteArray LiveCamera::xml() const
+{
+    return m_xml;
+}
+
+// The camera keeps the place of its description as "Local:name;address;size", in hexadecimal digits.
+void LiveCamera::fetchXml()
+{
+    GError *error = nullptr;
+    const auto read = [&](quint64 address, quint32 size) {
+        QByteArray bytes(qsizetype(size), '\0');
+        if (!m_link->read(address, size, bytes.data(), &error)) {
+            const QString reason = EngineFailure::words(*error);
+            g_clear_error(&error);
+            throw BaseException(tr("%1 (%2)").arg(heldWords({}), reason));
+        }
+        return bytes;
+    };
+    const QByteArray url = read(firstDescriptionUrl, urlSize);
+    const QList<QByteArray> parts = url.left(qsizetype(qstrnlen(url.constData(), urlSize))).split(';');
+    bool hasAddress = false;
+    bool hasSize = false;
+    const quint64 address = parts.value(1).toULongLong(&hasAddress, 16);
+    const quint64 size = parts.value(2).split('?').constFirst().toULongLong(&hasSize, 16);
+    if (!parts.constFirst().toLower().startsWith("local:") || !hasAddress || !hasSize
+        || size > quint64(DescriptionArchive::largest)) {
+        throw BaseException(tr("the camera hands out no description of its features"));
+    }
+    m_xml = DescriptionArchive::xml(read(address, quint32(size)));
+}
+
+bool LiveCamera::isWatchable() const
+{
+    return m_link != nullptr;
+}
+
+CameraAccess LiveCamera::access(bool isDoubtful)
+{
+    if (!m_link) {
+        return {!isDoubtful, false, false, {}};
+    }
+    const GigeLink::Control control = m_link->control();
+    if (control.hold == GigeLink::Hold::NoAnswer) {
+        return {false, false, false, {}};
+    }
+    if (m_controlled && isOurs(control, isDoubtful)) {
+        return {};
+    }
+    return {true, true, control.hold == GigeLink::Hold::Free, control.controller.toString()};
+}
+
+bool LiveCamera::isOurs(const GigeLink::Control &control, bool isDoubtful) const
+{
+    if (control.hold == GigeLink::Hold::Free || control.hold == GigeLink::Hold::Exclusive) {
+        return false;
+    }
+    if (!control.controller.isNull() && !QNetworkInterface::allAddresses().contains(control.controller)) {
+        return false;
+    }
+    // Who has the control may ask for it again. One who has not is refused, unless the camera would switch
+    // over.
+    return !isDoubtful || control.hold == GigeLink::Hold::Switchable
+        || arv_gv_device_take_control(ARV_GV_DEVICE(m_controlled), nullptr);
+}
+
+bool LiveCamera::isAnswering() const
+{
+    return !m_address.isNull()
+        && GigeLink(m_address, quickAttempts).control().hold != GigeLink::Hold::NoAnswer;
+}
+
+QString LiveCamera::silence() const
+{
+    return m_address.isNull() ? tr("The camera %1 does not answer.").arg(m_id)
+                              : tr("The camera at %1 does not answer.").arg(m_address.toString());
+}
+
+QString LiveCamera::heldWords(const QString &controller)
+{
+    return controller.isEmpty() ? tr("held by another program")
+                                : tr("held by another program at %1").arg(controller);
+}
+
+// Null for what is no GigE Vision camera, or is known by a name that the engine has to look up.
+QHostAddress LiveCamera::findAddress() const
+{
+    auto index = listed(m_id);
+    if (!index && QHostAddress(m_id).isNull()) {
+        arv_update_device_list();
+        index = listed(m_id);
+    }
+    return index ? addressOf(*index) : QHostAddress(m_id);
+}
+
+} // namespace Cameras

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cameras/deviceptr_p.h>
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <memory>
+
+using GError = struct _GError;
+
+namespace Cameras {
+
+/*! \brief The registers behind a device of our own. Both functions report a failure as the engine does. */
+class DevicePort
+{
+public:
+    virtual ~DevicePort();
+
+    virtual bool read(quint64 address, quint32 size, void *buffer, GError **error) = 0;
+    virtual bool write(quint64 address, quint32 size, const void *buffer, GError **error) = 0;
+
+protected:
+    DevicePort() = default;
+    Q_DISABLE_COPY_MOVE(DevicePort)
+};
+
+/*! Returns a new device that serves the description \a xml from \a port. It has no genicam when the engine
+ * cannot read the description. */
+DevicePtr newPortDevice(const QByteArray &xml, std::unique_ptr<DevicePort> port);
+
+} // namespace Cameras
