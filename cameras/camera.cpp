@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <future>
 #include <memory>
@@ -106,6 +107,21 @@ QByteArray unzipped(const QByteArray &archive)
     return xml;
 }
 
+// Above its first tag a description may have lines that XML does not allow there: of a download, of an
+// editor.
+QByteArray fromFirstTag(const QByteArray &text)
+{
+    if (text.left(4).contains('\0')) {
+        return text; // two or four bytes for each character
+    }
+    const qsizetype declaration = text.indexOf("<?xml version");
+    const QByteArray above = text.left(declaration);
+    if (declaration >= 0 && !above.contains("<RegisterDescription") && !above.contains("<!DOCTYPE")) {
+        return text.mid(declaration); // comments are skipped, too
+    }
+    return text.mid(std::max(text.indexOf('<'), qsizetype(0)));
+}
+
 QByteArray resource(const QString &name)
 {
     QFile file(QStringLiteral(":/cameras/Resources/") + name);
@@ -145,6 +161,7 @@ Session::Source describedSource(const QString &fileName)
     if (xml.startsWith("PK")) {
         xml = unzipped(xml);
     }
+    xml = fromFirstTag(xml);
     Session::Source source;
     source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
     const Description &description = *source.maps.front().description;
