@@ -5,9 +5,11 @@
 
 #include "cameradialog.h"
 #include "descriptionpane.h"
+#include "filedrop.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
 #include "plugins/pluginhost.h"
+#include "recentsources.h"
 #include "services/cameracontrolservice.h"
 #include "services/camerastatusservice.h"
 #include "services/featuretreecontrolservice.h"
@@ -42,6 +44,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -81,6 +84,7 @@ MainWindow::MainWindow(QWidget *parent)
 {
     layOut();
     createMenus();
+    createLevelButton();
     createServices();
     createPanels();
     connectTree();
@@ -88,6 +92,7 @@ MainWindow::MainWindow(QWidget *parent)
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(reconnect()));
+    connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
     updateActions();
 }
@@ -210,6 +215,7 @@ void MainWindow::createFileMenu()
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     file->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open Description File…"),
                     QKeySequence::Open, this, SLOT(openDescriptionFile()));
+    file->addMenu(createRecentMenu());
     file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
                     QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
     m_reconnectAction =
@@ -218,6 +224,14 @@ void MainWindow::createFileMenu()
         file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
+}
+
+QMenu *MainWindow::createRecentMenu()
+{
+    auto *const menu = new QMenu(tr("Open R&ecent"), this);
+    m_recent = new RecentSources(menu);
+    connect(m_recent, SIGNAL(chosen(QString, QString)), this, SLOT(openSource(QString, QString)));
+    return menu;
 }
 
 void MainWindow::createViewMenu()
@@ -273,12 +287,56 @@ QMenu *MainWindow::createLevelMenu(QMenu *parent)
     return menu;
 }
 
+// In the status bar, where the level is seen at any time.
+void MainWindow::createLevelButton()
+{
+    m_levelButton = new QToolButton(this);
+    m_levelButton->setAutoRaise(true);
+    m_levelButton->setPopupMode(QToolButton::InstantPopup);
+    m_levelButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_levelButton->setToolTip(tr("How many features are shown"));
+    auto *const menu = new QMenu(m_levelButton);
+    menu->addActions(m_levels->actions());
+    m_levelButton->setMenu(menu);
+    statusBar()->addPermanentWidget(m_levelButton);
+}
+
+void MainWindow::updateLevelButton()
+{
+    const QAction *const level = m_levels->checkedAction();
+    const QString name = level ? level->text().remove(QLatin1Char('&')) : QString();
+    m_levelButton->setText(tr("Level: %1").arg(name));
+}
+
 void MainWindow::openCamera(const Options &options)
 {
     std::unique_ptr<Cameras::Camera> camera = cameraFor(options);
     closeCamera();
     m_source = options;
     useCamera(std::move(camera));
+    recallCamera();
+    if (options.isInteractive()) {
+        m_recent->add(options);
+    }
+}
+
+void MainWindow::recallCamera()
+{
+    m_memory.setSource(m_source);
+    const std::optional<CameraView> view = m_memory.recall();
+    m_monitorAction->setChecked(view && view->monitors);
+    if (view) {
+        view->tree.applyTo(*m_tree);
+        m_tree->setPolling(view->polls);
+    }
+}
+
+void MainWindow::rememberCamera()
+{
+    if (m_camera) {
+        const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
+        m_memory.remember({TreeState(*m_tree), polls, m_monitorAction->isChecked()});
+    }
 }
 
 void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
@@ -303,6 +361,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
 
 void MainWindow::closeCamera()
 {
+    rememberCamera();
     m_pollsAfterReconnect = false;
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
@@ -327,23 +386,28 @@ void MainWindow::tryToOpen(const Options &options)
 
 void MainWindow::openDescriptionFile()
 {
-    Options options;
-    options.description = QFileDialog::getOpenFileName(
+    const QString fileName = QFileDialog::getOpenFileName(
         this, tr("Open Description File"), QString(), tr("Camera descriptions (*.xml *.zip);;All files (*)"));
-    if (!options.description.isEmpty()) {
-        tryToOpen(options);
+    if (!fileName.isEmpty()) {
+        openSource(fileName);
     }
+}
+
+void MainWindow::openSource(const QString &description, const QString &camera)
+{
+    Options options;
+    options.description = description;
+    options.camera = camera;
+    tryToOpen(options);
 }
 
 void MainWindow::connectToCamera()
 {
     CameraDialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted || dialog.cameraId().isEmpty()) {
-        return;
+    dialog.select(m_recent->lastCamera());
+    if (dialog.exec() == QDialog::Accepted && !dialog.cameraId().isEmpty()) {
+        openSource(QString(), dialog.cameraId());
     }
-    Options options;
-    options.camera = dialog.cameraId();
-    tryToOpen(options);
 }
 
 void MainWindow::onCameraLost(const QString &reason)
@@ -357,7 +421,7 @@ void MainWindow::onCameraLost(const QString &reason)
 
 void MainWindow::reconnect()
 {
-    const bool polls = m_pollsAfterReconnect;
+    const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
     try {
         const WaitCursor cursor;
         std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
@@ -367,8 +431,10 @@ void MainWindow::reconnect()
         useCamera(std::move(camera));
         if (state) {
             state->applyTo(*m_tree);
+            m_tree->setPolling(polls);
+        } else {
+            recallCamera();
         }
-        m_tree->setPolling(polls);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showAction(exception.getMessage(), tr("Reconnect"));
     }
@@ -430,6 +496,7 @@ void MainWindow::updateActions()
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
+    updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());
     m_ipAction->setToolTip(obstacle.isEmpty() ? tr("Address, mask and gateway that the camera starts with")
@@ -597,5 +664,6 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     saveState();
+    rememberCamera();
     QMainWindow::closeEvent(event);
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "cameramemory.h"
 #include "options.h"
 
 #include <cameras/camera.h>
@@ -26,6 +27,8 @@ class QMenu;
 class QModelIndex;
 class QSplitter;
 class QStackedWidget;
+class QToolButton;
+class RecentSources;
 class WorkbenchService;
 
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
@@ -70,6 +73,7 @@ protected:
 
 private slots:
     void openDescriptionFile();
+    void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();
     void configureIp();
     void closeCameraIfWanted();
@@ -101,6 +105,11 @@ private:
     QString ipObstacle() const;
     bool confirm(const QString &key, const QString &title, const QString &text);
     QMenu *createLevelMenu(QMenu *parent);
+    QMenu *createRecentMenu();
+    void createLevelButton();
+    void updateLevelButton();
+    void recallCamera();
+    void rememberCamera();
     void tryToOpen(const Options &options);
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void fitColumns();
@@ -123,6 +132,9 @@ private:
     WorkbenchService *m_workbench = nullptr;
     QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
+    QToolButton *m_levelButton = nullptr;
+    RecentSources *m_recent = nullptr;
+    CameraMemory m_memory;
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;
     QAction *m_copyAction = nullptr;

@@ -192,6 +192,18 @@
         <translation>Beschreibungsdatei ö&amp;ffnen…</translation>
     </message>
     <message>
+        <source>Open R&amp;ecent</source>
+        <translation>Zuletzt &amp;geöffnet</translation>
+    </message>
+    <message>
+        <source>How many features are shown</source>
+        <translation>Wie viele Merkmale gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Level: %1</source>
+        <translation>Stufe: %1</translation>
+    </message>
+    <message>
         <source>&amp;Connect to Camera…</source>
         <translation>Mit Kamera &amp;verbinden…</translation>
     </message>
@@ -420,6 +432,17 @@ Open a description file or connect to a camera (menu File).</source>
     <message>
         <source>Value Editors – Zelto Viewer</source>
         <translation>Werteditoren – Zelto Viewer</translation>
+    </message>
+</context>
+<context>
+    <name>RecentSources</name>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>The file does not exist at present</source>
+        <translation>Die Datei gibt es zurzeit nicht</translation>
     </message>
 </context>
 </TS>
