@@ -11,10 +11,12 @@
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
 #include <QThread>
+#include <QTreeWidget>
 
 #include <array>
 #include <memory>
@@ -151,6 +153,7 @@ private slots:
     void vanishedSettingsRemoveNothing();
     void twoPrograms_data();
     void twoPrograms();
+    void othersWaitForWhatIsBeingTyped();
     void manyProgramsAtOnce();
 
 private:
@@ -711,6 +714,24 @@ void TestFavoritesData::twoPrograms()
     FavoritesData again;
     QVERIFY(again.load(group));
     QCOMPARE(names(again), expected);
+}
+
+void TestFavoritesData::othersWaitForWhatIsBeingTyped()
+{
+    FavoritesData data;
+    data.attach(group);
+    QTreeWidget tree;
+    tree.addTopLevelItem(new QTreeWidgetItem);
+    auto *const editor = new QSpinBox;
+    tree.setItemWidget(tree.topLevelItem(0), 0, editor);
+    tree.show();
+    editor->setFocus();
+    QTest::keyClick(editor, Qt::Key_1);
+    QVERIFY(startOther("+x")->waitForFinished());
+    QTest::qWait(500);
+    QCOMPARE(data.count(), 0);
+    tree.setFocus();
+    QTRY_COMPARE(data.count(), 1);
 }
 
 void TestFavoritesData::manyProgramsAtOnce()

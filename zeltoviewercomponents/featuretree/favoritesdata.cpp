@@ -6,7 +6,9 @@
 #include "favoritesstore_p.h"
 #include "settingswatcher_p.h"
 
-#include <QCoreApplication>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
 #include <QSet>
 
 #include <algorithm>
@@ -18,6 +20,22 @@ namespace {
 bool settingsUsable()
 {
     return QCoreApplication::instance() != nullptr;
+}
+
+// Rows that are made anew take their editors with them, and a half-typed number might be written.
+bool isBeingTyped()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        const QWidget *const focus = window->focusWidget();
+        const auto *edit = qobject_cast<const QLineEdit *>(focus);
+        edit = focus && !edit ? focus->findChild<QLineEdit *>({}, Qt::FindDirectChildrenOnly) : edit;
+        const QWidget *parent = edit && edit->isModified() ? edit : nullptr;
+        while (parent && !qobject_cast<const QAbstractItemView *>(parent)) {
+            parent = parent->parentWidget();
+        }
+        return parent != nullptr;
+    });
 }
 
 qsizetype indexIn(const QList<FavoriteEntry> &entries, const std::optional<FavoriteEntry> &entry)
@@ -213,6 +231,10 @@ void FavoritesData::takeOverStored()
     }
     if (hasChanges()) {
         saveChanges();
+        return;
+    }
+    if (isBeingTyped()) {
+        m_watcher->schedule();
         return;
     }
     FavoritesStore store(m_settingsGroup);

@@ -22,11 +22,14 @@ public:
     explicit SettingsWatcher(const QString &fileName, QObject *parent = nullptr);
     ~SettingsWatcher() override;
 
+public slots:
+    /*! Tells of a change a little later. */
+    void schedule();
+
 signals:
     void changed();
 
 private slots:
-    void schedule();
     void check();
 
 private:
