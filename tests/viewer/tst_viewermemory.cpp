@@ -299,6 +299,7 @@ void TestViewerMemory::reconnectingDuringASearchKeepsTheRow()
     QCOMPARE(view()->currentIndex().data().toString(), "Exposure Auto");
     box->clear();
     QCOMPARE(view()->currentIndex().data().toString(), "Gain Auto");
+    QVERIFY(view()->isExpanded(feature("Analog Control")) && !view()->isExpanded(feature("Device Control")));
 }
 
 void TestViewerMemory::levelStandsInTheStatusBar()

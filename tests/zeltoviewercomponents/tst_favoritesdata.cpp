@@ -145,7 +145,6 @@ private slots:
     void attachesOnce();
     void anotherGroupIsLoadedBeforeItIsSaved();
     void detachSavesAndDisconnects();
-    void changesAreWrittenFromTheEventLoop();
     void destructionSaves();
     void saveTellsWhetherItWrote_data();
     void saveTellsWhetherItWrote();
@@ -557,27 +556,6 @@ void TestFavoritesData::detachSavesAndDisconnects()
     QVERIFY(leaving.expansions.isEmpty());
     QCOMPARE(staying.updates, 1);
     QCOMPARE(staying.expansions.size(), 1);
-}
-
-void TestFavoritesData::changesAreWrittenFromTheEventLoop()
-{
-    FavoritesData data;
-    data.attach(group);
-    fill(data, "ab");
-    QVERIFY(!QSettings().contains(group + "/NumberOfEntries"));
-    QCoreApplication::processEvents();
-    // The file itself holds it, not only the memory of this process.
-    QVERIFY(fileContents().contains("1=b*b shown*@CameraDevice"));
-    QVERIFY(data.moveEntry(0, 2));
-    data.setViewAll(!data.viewAll());
-    data.setExpanded(!data.isExpanded());
-    QCoreApplication::processEvents();
-    QVERIFY(fileContents().contains("0=b*b shown*@CameraDevice"));
-    QCOMPARE(stored("ViewAll").toBool(), data.viewAll());
-    QCOMPARE(stored("Expanded").toBool(), data.isExpanded());
-    QVERIFY(data.takeEntry(0));
-    QCoreApplication::processEvents();
-    QCOMPARE(stored("NumberOfEntries").toInt(), 1);
 }
 
 void TestFavoritesData::destructionSaves()

@@ -165,6 +165,7 @@ bool FavoritesData::save(const QString &group)
     if (isStoredIn(group)) {
         forgetChanges();
         setStored(store.read(), group);
+        store.unlock(); // before others hear of the list and perhaps save something
         adopt(list);
     }
     return true;

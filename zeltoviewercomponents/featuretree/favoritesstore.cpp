@@ -121,6 +121,11 @@ void FavoritesStore::lock()
     }
 }
 
+void FavoritesStore::unlock()
+{
+    m_lock.reset();
+}
+
 FavoritesList FavoritesStore::read()
 {
     m_settings.sync();

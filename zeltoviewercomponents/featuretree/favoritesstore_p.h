@@ -39,9 +39,10 @@ public:
     /*! Returns the file of the application's settings, empty when they are kept elsewhere. */
     static QString fileName();
 
-    /*! Keeps other programs from writing while the object lives. Goes on without after a while, since a list
-     * that cannot be saved is worse than one that is mixed. */
+    /*! Keeps other programs from writing until unlock(), or while the object lives. Goes on without after a
+     * while, since a list that cannot be saved is worse than one that is mixed. */
     void lock();
+    void unlock();
     /*! Reads anew what is stored. */
     FavoritesList read();
     /*! Returns whether there is a list, be it an empty one: damaged or removed settings are no word of
