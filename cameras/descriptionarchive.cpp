@@ -7,15 +7,35 @@
 
 #include <platform/core/exception.h>
 
+#include <algorithm>
 #include <memory>
 
 using Core::Exception::BaseException;
 
 namespace Cameras {
 
+namespace {
+
+// Above its first tag a description may have lines that XML does not allow there: of a download, of an
+// editor.
+QByteArray fromFirstTag(const QByteArray &text)
+{
+    if (text.left(4).contains('\0')) {
+        return text; // two or four bytes for each character
+    }
+    const qsizetype declaration = text.indexOf("<?xml version");
+    const QByteArray above = text.left(declaration);
+    if (declaration >= 0 && !above.contains("<RegisterDescription") && !above.contains("<!DOCTYPE")) {
+        return text.mid(declaration); // comments are skipped, too
+    }
+    return text.mid(std::max(text.indexOf('<'), qsizetype(0)));
+}
+
+} // namespace
+
 QByteArray DescriptionArchive::xml(const QByteArray &contents)
 {
-    return contents.startsWith("PK") ? unzipped(contents) : contents;
+    return fromFirstTag(contents.startsWith("PK") ? unzipped(contents) : contents);
 }
 
 QByteArray DescriptionArchive::unzipped(const QByteArray &archive)

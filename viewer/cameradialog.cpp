@@ -67,6 +67,15 @@ QString CameraDialog::stateOf(const Cameras::CameraStatus &status)
     }
 }
 
+void CameraDialog::select(const QString &id)
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(Qt::UserRole).toString() == id) {
+            m_list->setCurrentRow(row);
+        }
+    }
+}
+
 void CameraDialog::rescan()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);

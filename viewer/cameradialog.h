@@ -23,6 +23,8 @@ public:
 
     /*! Returns the id of the chosen camera, empty when none is. */
     QString cameraId() const;
+    /*! Selects the camera called \a id if it is in the list. */
+    void select(const QString &id);
 
 public slots:
     void rescan();

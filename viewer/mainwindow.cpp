@@ -7,9 +7,11 @@
 #include "colours.h"
 #include "commandquestion.h"
 #include "descriptionpane.h"
+#include "filedrop.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
 #include "plugins/pluginhost.h"
+#include "recentsources.h"
 #include "services/cameracontrolservice.h"
 #include "services/camerastatusservice.h"
 #include "services/featuretreecontrolservice.h"
@@ -46,6 +48,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -87,6 +90,7 @@ MainWindow::MainWindow(QWidget *parent)
 {
     layOut();
     createMenus();
+    createLevelButton();
     createServices();
     createPanels();
     connectTree();
@@ -94,6 +98,7 @@ MainWindow::MainWindow(QWidget *parent)
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(onMessageAction()));
+    connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
     updateActions();
 }
@@ -235,6 +240,7 @@ void MainWindow::createFileMenu()
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     file->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open Description File…"),
                     QKeySequence::Open, this, SLOT(openDescriptionFile()));
+    file->addMenu(createRecentMenu());
     file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
                     QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
     m_reconnectAction =
@@ -243,6 +249,14 @@ void MainWindow::createFileMenu()
         file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
+}
+
+QMenu *MainWindow::createRecentMenu()
+{
+    auto *const menu = new QMenu(tr("Open R&ecent"), this);
+    m_recent = new RecentSources(menu);
+    connect(m_recent, SIGNAL(chosen(QString, QString)), this, SLOT(openSource(QString, QString)));
+    return menu;
 }
 
 void MainWindow::createViewMenu()
@@ -302,12 +316,56 @@ QMenu *MainWindow::createLevelMenu(QMenu *parent)
     return menu;
 }
 
+// In the status bar, where the level is seen at any time.
+void MainWindow::createLevelButton()
+{
+    m_levelButton = new QToolButton(this);
+    m_levelButton->setAutoRaise(true);
+    m_levelButton->setPopupMode(QToolButton::InstantPopup);
+    m_levelButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_levelButton->setToolTip(tr("How many features are shown"));
+    auto *const menu = new QMenu(m_levelButton);
+    menu->addActions(m_levels->actions());
+    m_levelButton->setMenu(menu);
+    statusBar()->addPermanentWidget(m_levelButton);
+}
+
+void MainWindow::updateLevelButton()
+{
+    const QAction *const level = m_levels->checkedAction();
+    const QString name = level ? level->text().remove(QLatin1Char('&')) : QString();
+    m_levelButton->setText(tr("Level: %1").arg(name));
+}
+
 void MainWindow::openCamera(const Options &options)
 {
     std::unique_ptr<Cameras::Camera> camera = cameraFor(options);
     closeCamera();
     m_source = options;
     useCamera(std::move(camera));
+    recallCamera();
+    if (options.isInteractive()) {
+        m_recent->add(options);
+    }
+}
+
+void MainWindow::recallCamera()
+{
+    m_memory.setSource(m_source);
+    const std::optional<CameraView> view = m_memory.recall();
+    m_monitorAction->setChecked(view && view->monitors);
+    if (view) {
+        view->tree.applyTo(*m_tree);
+        m_tree->setPolling(view->polls);
+    }
+}
+
+void MainWindow::rememberCamera()
+{
+    if (m_camera) {
+        const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
+        m_memory.remember({TreeState(*m_tree), polls, m_monitorAction->isChecked()});
+    }
 }
 
 void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
@@ -337,6 +395,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
 
 void MainWindow::closeCamera()
 {
+    rememberCamera();
     m_pollsAfterReconnect = false;
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
@@ -368,23 +427,28 @@ void MainWindow::openInstead(const Options &options)
 
 void MainWindow::openDescriptionFile()
 {
-    Options options;
-    options.description = QFileDialog::getOpenFileName(
+    const QString fileName = QFileDialog::getOpenFileName(
         this, tr("Open Description File"), QString(), tr("Camera descriptions (*.xml *.zip);;All files (*)"));
-    if (!options.description.isEmpty()) {
-        openInstead(options);
+    if (!fileName.isEmpty()) {
+        openSource(fileName);
     }
+}
+
+void MainWindow::openSource(const QString &description, const QString &camera)
+{
+    Options options;
+    options.description = description;
+    options.camera = camera;
+    openInstead(options);
 }
 
 void MainWindow::connectToCamera()
 {
     CameraDialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted || dialog.cameraId().isEmpty()) {
-        return;
+    dialog.select(m_recent->lastCamera());
+    if (dialog.exec() == QDialog::Accepted && !dialog.cameraId().isEmpty()) {
+        openSource(QString(), dialog.cameraId());
     }
-    Options options;
-    options.camera = dialog.cameraId();
-    openInstead(options);
 }
 
 void MainWindow::onCameraLost(const QString &reason)
@@ -440,7 +504,7 @@ void MainWindow::onControlRefused(const QString &reason)
 
 void MainWindow::reconnect()
 {
-    const bool polls = m_pollsAfterReconnect;
+    const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
     try {
         const WaitCursor cursor;
         std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
@@ -450,8 +514,10 @@ void MainWindow::reconnect()
         useCamera(std::move(camera));
         if (state) {
             state->applyTo(*m_tree);
+            m_tree->setPolling(polls);
+        } else {
+            recallCamera();
         }
-        m_tree->setPolling(polls);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showAction(exception.getMessage(), tr("Reconnect"));
     }
@@ -541,6 +607,7 @@ void MainWindow::updateActions()
     m_controlAction->setToolTip(canTakeControl ? tr("Allows the camera's features to be changed")
                                                : tr("Only of a camera that is open read-only and free"));
     m_controlAction->setStatusTip(m_controlAction->toolTip());
+    updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());
     m_ipAction->setToolTip(obstacle.isEmpty() ? tr("Address, mask and gateway that the camera starts with")
@@ -723,5 +790,6 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     saveState();
+    rememberCamera();
     QMainWindow::closeEvent(event);
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "cameramemory.h"
 #include "options.h"
 
 #include <cameras/camera.h>
@@ -29,6 +30,8 @@ class QModelIndex;
 class QSplitter;
 class QStackedWidget;
 class QTimer;
+class QToolButton;
+class RecentSources;
 class TreeMenu;
 class WorkbenchService;
 
@@ -77,6 +80,7 @@ protected:
 
 private slots:
     void openDescriptionFile();
+    void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();
     void configureIp();
     void closeCameraIfWanted();
@@ -118,6 +122,11 @@ private:
     bool confirm(const QString &key, const QString &title, const QString &text);
     bool isExecutionWanted(const ParameterCollection::IParameter &command);
     QMenu *createLevelMenu(QMenu *parent);
+    QMenu *createRecentMenu();
+    void createLevelButton();
+    void updateLevelButton();
+    void recallCamera();
+    void rememberCamera();
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void fitColumns();
     void restoreState();
@@ -142,6 +151,9 @@ private:
     WorkbenchService *m_workbench = nullptr;
     QMenu *m_panels = nullptr;
     QActionGroup *m_levels = nullptr;
+    QToolButton *m_levelButton = nullptr;
+    RecentSources *m_recent = nullptr;
+    CameraMemory m_memory;
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;
     QAction *m_copyAction = nullptr;

@@ -55,6 +55,8 @@ class TestDescription : public QObject
 private slots:
     void refusesBrokenFiles_data();
     void refusesBrokenFiles();
+    void linesAboveTheFirstTagAreSkipped_data();
+    void linesAboveTheFirstTagAreSkipped();
     void oneBadFeatureLeavesTheTree();
     void circlesAreUnreadable();
     void impossibleLengthsAreUnreadable();
@@ -122,6 +124,28 @@ void TestDescription::refusesBrokenFiles()
             QVERIFY(!message.contains(QLatin1Char('\n')));
         }
     }
+}
+
+void TestDescription::linesAboveTheFirstTagAreSkipped_data()
+{
+    columns<QByteArray>({"contents"});
+    const QByteArray good = description(root("A") + "<Integer Name=\"A\"><Value>1</Value></Integer>");
+    const QByteArray bare = good.mid(good.indexOf("<Register"));
+    row("blank lines", "\r\n  \n" + good);
+    row("a letter", "Content-Type: text/xml\n\n" + good);
+    row("comments", "<!-- of 2026 -->\n<!-- <Register> -->\n" + good);
+    row("a byte order mark, lines", "\xef\xbb\xbf\n\n" + good);
+    row("lines, no declaration", "\n# saved\n" + bare);
+    row("a comment, no declaration", "\n<!-- <?xml is missing -->\n" + bare);
+    QStringEncoder encoder(QStringEncoder::Utf16, QStringEncoder::Flag::WriteBom);
+    row("UTF-16", QByteArray(encoder.encode(QString(good).replace("1.0\"?", "1.0\" encoding=\"UTF-16\"?"))));
+}
+
+void TestDescription::linesAboveTheFirstTagAreSkipped()
+{
+    QFETCH(QByteArray, contents);
+    const auto camera = Camera::openDescription(saved(contents));
+    QVERIFY(camera->nodeMaps().at(0).collection->parameter("A"));
 }
 
 void TestDescription::oneBadFeatureLeavesTheTree()

@@ -69,7 +69,6 @@ private slots:
     void ipConfigurationNeedsAnAbleCamera();
     void ipConfigurationIsWritten();
     void silencedMessageComesBack();
-    void reconnectingKeepsTheTree();
     void clickOnALockedEditorGoesToItsRow();
     void lostCameraIsReopened();
     void cameraInOtherHandsOffersItsControl();
@@ -179,31 +178,6 @@ void TestMainWindow::silencedMessageComesBack()
     action("Show All Messages Again")->trigger();
     enterIpConfiguration("192.168.0.79", false);
     QCOMPARE(m_boxes, 2);
-}
-
-void TestMainWindow::reconnectingKeepsTheTree()
-{
-    FeatureTreeWidget *const tree = m_window->featureTree();
-    const auto row = [tree](int category, int feature) {
-        const QAbstractItemModel *const model = tree->treeView()->model();
-        return model->index(feature, 0, model->index(category, 0, model->index(1, 0)));
-    };
-    tree->treeView()->expand(row(1, 0).parent());
-    tree->treeView()->setCurrentIndex(row(1, 2));
-    const QString current = row(1, 2).data().toString();
-    auto *const box = tree->findChild<QLineEdit *>(QStringLiteral("filterEdit"));
-    box->setText(QStringLiteral("exposure"));
-
-    m_window->reconnect();
-    QCOMPARE(box->text(), QStringLiteral("exposure"));
-    box->clear();
-    QCOMPARE(tree->treeView()->currentIndex().data().toString(), current);
-    QVERIFY(tree->treeView()->isExpanded(row(1, 0).parent()));
-    QVERIFY(!tree->treeView()->isExpanded(row(0, 0).parent()));
-
-    m_window->closeCamera();
-    m_window->reconnect();
-    QVERIFY(tree->treeView()->isExpanded(row(1, 0).parent().parent()));
 }
 
 void TestMainWindow::clickOnALockedEditorGoesToItsRow()

@@ -7,10 +7,19 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSpinBox>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTextStream>
+#include <QThread>
+#include <QTreeWidget>
+
+#include <array>
+#include <memory>
 
 namespace {
 
@@ -38,6 +47,33 @@ QString names(const FavoritesData &data)
         all += data.entryAt(i)->featureName;
     }
     return all;
+}
+
+/* Does what stands in words: "+x" adds x at the end, "-x" removes it, "=x2" moves it before the row 2. */
+void change(FavoritesData &data, const QString &changes)
+{
+    const QStringList words = changes.split(u' ', Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        const QString name = word.startsWith(u'=') ? word.mid(1, 1) : word.mid(1);
+        if (word.startsWith(u'+')) {
+            data.appendEntry(favorite(name));
+        } else if (word.startsWith(u'-')) {
+            data.removeEntry(data.indexOfEntry(favorite(name)));
+        } else if (word.startsWith(u'=')) {
+            data.moveEntry(data.indexOfEntry(favorite(name)), word.mid(2).toInt());
+        }
+    }
+}
+
+void useSettingsBelow(const QString &path)
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path);
+}
+
+QByteArray fileContents()
+{
+    QFile file(QSettings().fileName());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QVariant stored(const QString &key, const QString &from = group)
@@ -86,7 +122,8 @@ class TestFavoritesData : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QSettings().clear(); }
+    void init();
+    void cleanup();
 
     void insert_data();
     void insert();
@@ -108,9 +145,33 @@ private slots:
     void attachesOnce();
     void anotherGroupIsLoadedBeforeItIsSaved();
     void detachSavesAndDisconnects();
-    void changesAreWrittenFromTheEventLoop();
     void destructionSaves();
+    void saveTellsWhetherItWrote_data();
+    void saveTellsWhetherItWrote();
+    void closingWithoutAChangeWritesNothing();
+    void vanishedSettingsRemoveNothing();
+    void twoPrograms_data();
+    void twoPrograms();
+    void othersWaitForWhatIsBeingTyped();
+    void manyProgramsAtOnce();
+
+private:
+    std::unique_ptr<QProcess> startOther(const QString &changes, const QString &mode = {});
+
+    std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+void TestFavoritesData::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    useSettingsBelow(m_folder->filePath("none yet/config"));
+}
+
+void TestFavoritesData::cleanup()
+{
+    QCoreApplication::setOrganizationName("zelto");
+    useSettingsBelow(qEnvironmentVariable("XDG_CONFIG_HOME"));
+}
 
 void TestFavoritesData::insert_data()
 {
@@ -253,7 +314,8 @@ void TestFavoritesData::persistentForm()
     FavoritesData data;
     fill(data, "ab");
     QVERIFY(data.appendEntry(favorite("c", QString())));
-    fill(data, "de");
+    fill(data, "d");
+    QVERIFY(data.appendEntry({"e", QString(), "@CameraDevice"}));
     QVERIFY(!data.save(QString()));
     QVERIFY(data.save(group));
     QCOMPARE(storedKeys(),
@@ -269,7 +331,7 @@ void TestFavoritesData::persistentForm()
     QVERIFY(!loaded.load(QString()));
     QVERIFY(loaded.load(group));
     QCOMPARE(names(loaded), "abde");
-    QCOMPARE(loaded.entryAt(3)->displayName, "e shown");
+    QCOMPARE(loaded.entryAt(3)->displayName, "e");
     QCOMPARE(loaded.entryAt(3)->nodeMapKey, "@CameraDevice");
     QCOMPARE(updates.count(), 5);
     QVERIFY(loaded.viewAll());
@@ -405,9 +467,9 @@ void TestFavoritesData::randomSettings()
     const QString path = place.fileName();
     QRandomGenerator random(20240607);
     const auto alphabet = QByteArrayLiteral("[Favorites]\n0=1*2@%\\\"x,;\r\t\0\xff\xc3(ViewAlNumberOfEntri");
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 150; ++round) {
         QByteArray contents("[Favorites]\nNumberOfEntries=5\n0=a*A*@C\n1=b*B*@C\n2=c*C*@C\nViewAll=1\n");
-        for (int i = 0; i < 1 + round / 10; ++i) {
+        for (int i = 0; i < 1 + round / 5; ++i) {
             contents[random.bounded(contents.size())] = alphabet.at(random.bounded(alphabet.size()));
         }
         {
@@ -496,31 +558,6 @@ void TestFavoritesData::detachSavesAndDisconnects()
     QCOMPARE(staying.expansions.size(), 1);
 }
 
-void TestFavoritesData::changesAreWrittenFromTheEventLoop()
-{
-    FavoritesData data;
-    data.attach(group);
-    fill(data, "ab");
-    QVERIFY(!QSettings().contains(group + "/NumberOfEntries"));
-    QCoreApplication::processEvents();
-    // The file itself holds it, not only the memory of this process.
-    const auto contents = [] {
-        QFile file(QSettings().fileName());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    QVERIFY(contents().contains("1=b*b shown*@CameraDevice"));
-    QVERIFY(data.moveEntry(0, 2));
-    data.setViewAll(!data.viewAll());
-    data.setExpanded(!data.isExpanded());
-    QCoreApplication::processEvents();
-    QVERIFY(contents().contains("0=b*b shown*@CameraDevice"));
-    QCOMPARE(stored("ViewAll").toBool(), data.viewAll());
-    QCOMPARE(stored("Expanded").toBool(), data.isExpanded());
-    QVERIFY(data.takeEntry(0));
-    QCoreApplication::processEvents();
-    QCOMPARE(stored("NumberOfEntries").toInt(), 1);
-}
-
 void TestFavoritesData::destructionSaves()
 {
     {
@@ -529,6 +566,202 @@ void TestFavoritesData::destructionSaves()
         fill(data, "a");
     }
     QCOMPARE(stored("NumberOfEntries").toInt(), 1);
+}
+
+void TestFavoritesData::saveTellsWhetherItWrote_data()
+{
+    columns<QString, bool, bool>({"organization", "isFolderUsable", "written"});
+    row("with an organization", "zelto", true, true);
+    row("without an organization", "", true, true);
+    row("no folder", "zelto", false, false);
+    row("without an organization, no folder", "", false, false);
+}
+
+void TestFavoritesData::saveTellsWhetherItWrote()
+{
+    QFETCH(QString, organization);
+    QFETCH(bool, isFolderUsable);
+    if (!isFolderUsable) { // not by permissions, which do not stop everybody
+        QFile file(m_folder->filePath("none yet"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QCoreApplication::setOrganizationName(organization);
+    FavoritesData data;
+    fill(data, "a");
+    QTEST(data.save(group), "written");
+    QCOMPARE(fileContents().contains("0=a*a shown*@CameraDevice"), isFolderUsable);
+}
+
+void TestFavoritesData::closingWithoutAChangeWritesNothing()
+{
+    {
+        FavoritesData fresh;
+        fresh.attach(group);
+        fresh.detach(nullptr);
+    }
+    QVERIFY(!QFile::exists(m_folder->filePath("none yet")));
+    store("NumberOfEntries", 1);
+    store("0", "a*A*@C");
+    QSettings().sync();
+    {
+        FavoritesData data;
+        data.attach(group);
+        QFile file(QSettings().fileName());
+        QVERIFY(file.open(QIODevice::Append) && file.write("; of somebody else\n") > 0);
+        file.close();
+        data.detach(nullptr);
+    }
+    QVERIFY(fileContents().endsWith("; of somebody else\n"));
+}
+
+void TestFavoritesData::vanishedSettingsRemoveNothing()
+{
+    FavoritesData data;
+    data.attach(group);
+    fill(data, "ab");
+    QCoreApplication::processEvents();
+    const QSignalSpy updates(&data, SIGNAL(dataUpdated()));
+    QVERIFY(QFile::remove(QSettings().fileName()));
+    QTest::qWait(300);
+    QCOMPARE(names(data), "ab");
+    QCOMPARE(updates.count(), 0);
+    QVERIFY(data.appendEntry(favorite("c")));
+    QCoreApplication::processEvents();
+    QCOMPARE(stored("NumberOfEntries").toInt(), 3);
+}
+
+// Starts this program with the same settings; see other() below.
+std::unique_ptr<QProcess> TestFavoritesData::startOther(const QString &changes, const QString &mode)
+{
+    auto process = std::make_unique<QProcess>();
+    process->start(QCoreApplication::applicationFilePath(),
+                   {"--other", m_folder->filePath("none yet/config"), changes, mode});
+    process->waitForStarted();
+    return process;
+}
+
+void TestFavoritesData::twoPrograms_data()
+{
+    columns<QString, QString, QString, QString>({"before", "ours", "theirs", "expected"});
+    row("nothing before", "", "+x", "+y", "yx");
+    row("added by both", "ab", "+x", "+y", "abyx");
+    row("the same added", "ab", "+x", "+x", "abx");
+    row("added and removed", "abc", "+x", "-b", "acx");
+    row("removed and added", "abc", "-b", "+y", "acy");
+    row("the same removed", "abc", "-b", "-b", "ac");
+    row("all removed", "abc", "-a -b -c", "+y", "y");
+    row("moved up", "abc", "=c0", "+y", "caby");
+    row("moved down", "abc", "=a2", "+y", "bacy");
+    row("moved behind the last", "abc", "=a3", "+y", "bcay");
+    row("moved, but removed there", "abc", "=c0 +x", "-c", "abx");
+    row("moved beside what was removed", "abc", "=a2", "-b -c", "a");
+    row("both moved", "abcd", "=a2", "=d2", "bdac");
+    row("theirs alone", "abc", "", "=c0 -a +y", "cby");
+    row("ours alone", "abc", "=c0 -a +x", "", "cbx");
+}
+
+void TestFavoritesData::twoPrograms()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, ours);
+    QFETCH(QString, theirs);
+    QFETCH(QString, expected);
+    if (!before.isEmpty()) {
+        FavoritesData data;
+        fill(data, before);
+        QVERIFY(data.save(group));
+    }
+    FavoritesData data;
+    data.attach(group);
+    const Listener listener(data);
+    const bool wasExpanded = data.isExpanded();
+    const auto other = startOther(theirs, "stay");
+    QVERIFY(other->waitForReadyRead()); // without an event loop here: nothing is known here of their changes
+    QCOMPARE(names(data), before);
+    change(data, ours);
+    QTRY_COMPARE(names(data), expected);
+    QByteArray shown = other->readAllStandardOutput();
+    QTRY_VERIFY2((shown += other->readAllStandardOutput()).endsWith(expected.toUtf8() + '\n'),
+                 shown.constData());
+    QCOMPARE(stored("NumberOfEntries").toInt(), expected.size());
+    // Nobody folds a branch that is looked at.
+    QCOMPARE(data.isExpanded(), wasExpanded);
+    QVERIFY(listener.expansions.isEmpty());
+    other->closeWriteChannel();
+    QVERIFY(other->waitForFinished());
+    FavoritesData again;
+    QVERIFY(again.load(group));
+    QCOMPARE(names(again), expected);
+}
+
+void TestFavoritesData::othersWaitForWhatIsBeingTyped()
+{
+    FavoritesData data;
+    data.attach(group);
+    QTreeWidget tree;
+    tree.addTopLevelItem(new QTreeWidgetItem);
+    auto *const editor = new QSpinBox;
+    tree.setItemWidget(tree.topLevelItem(0), 0, editor);
+    tree.show();
+    editor->setFocus();
+    QTest::keyClick(editor, Qt::Key_1);
+    QVERIFY(startOther("+x")->waitForFinished());
+    QTest::qWait(500);
+    QCOMPARE(data.count(), 0);
+    tree.setFocus();
+    QTRY_COMPARE(data.count(), 1);
+}
+
+void TestFavoritesData::manyProgramsAtOnce()
+{
+    constexpr int programs = 4;
+    constexpr int each = 12;
+    std::array<std::unique_ptr<QProcess>, programs> others;
+    for (int i = 0; i < programs; ++i) {
+        QString changes;
+        for (int j = 0; j < each; ++j) {
+            changes += QStringLiteral("+p%1x%2 ").arg(i).arg(j);
+        }
+        others[i] = startOther(changes);
+    }
+    for (const auto &other : others) {
+        QVERIFY(other->waitForFinished());
+        QCOMPARE(other->exitCode(), 0);
+    }
+    FavoritesData data;
+    QVERIFY(data.load(group));
+    QCOMPARE(data.count(), programs * each);
+}
+
+/* The other program: makes the changes one by one, and when it is to stay tells of its list whenever that has
+ * changed, until its input ends. */
+int other(const QStringList &arguments)
+{
+    useSettingsBelow(arguments.at(2));
+    FavoritesData data;
+    data.attach(group);
+    const QStringList words = arguments.at(3).split(u' ', Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        change(data, word);
+        QCoreApplication::processEvents();
+    }
+    if (arguments.at(4).isEmpty()) {
+        return 0;
+    }
+    QTextStream out(stdout);
+    const auto tell = [&] { out << names(data) << Qt::endl; };
+    QObject::connect(&data, &FavoritesData::dataUpdated, tell);
+    if (!words.isEmpty()) {
+        data.setExpanded(!data.isExpanded());
+        QCoreApplication::processEvents();
+    }
+    tell();
+    std::unique_ptr<QThread> input(QThread::create([] { QTextStream(stdin).readAll(); }));
+    QObject::connect(input.get(), SIGNAL(finished()), qApp, SLOT(quit()));
+    input->start();
+    const int result = QCoreApplication::exec();
+    input->wait();
+    return result;
 }
 
 /* Runs the tests, then uses the static store on its way out: changed with a save pending, and changed and
@@ -541,6 +774,9 @@ int main(int argc, char **argv)
         QApplication application(argc, argv);
         QCoreApplication::setOrganizationName("zelto");
         QCoreApplication::setApplicationName("tst_favoritesdata");
+        if (argc == 5 && QString::fromLocal8Bit(argv[1]) == "--other") {
+            return other(QCoreApplication::arguments());
+        }
         QSettings().clear();
         staticStore.attach("Static");
         TestFavoritesData test;

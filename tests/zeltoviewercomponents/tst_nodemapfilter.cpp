@@ -74,6 +74,8 @@ private slots:
     void candidates_data();
     void candidates();
     void fileBesideTheApplicationWins();
+    void usableFiles_data();
+    void usableFiles();
     void unusableFiles_data();
     void unusableFiles();
     void externalEntitiesStayOutside();
@@ -188,6 +190,40 @@ void TestNodeMapFilter::fileBesideTheApplicationWins()
     QCOMPARE(entriesOf(document), QStringList{"A::"});
 }
 
+void TestNodeMapFilter::usableFiles_data()
+{
+    columns<QByteArray, QString>({"contents", "entry"});
+    const QByteArray signs(2000, '=');
+    row("equals signs that are no attributes",
+        filterOf("<!-- '" + signs + " --><?x \"" + signs + "?><F a='>" + signs
+                 + "'><Name>A</Name><![CDATA[<b " + signs + "]]>" + signs + "</F>"),
+        "A::");
+    QByteArray entries;
+    for (int i = 0; i < 900; ++i) {
+        entries += "<F note='a = b'/>";
+    }
+    row("fewer attributes than the bound, with signs in them", filterOf("<F><Name>A</Name></F>" + entries),
+        "A::");
+    const QString wide = QString::fromUtf8(filterOf("<F><Name>Ä</Name></F>"));
+    row("UTF-16",
+        QByteArray("\xff\xfe")
+            + QByteArray(reinterpret_cast<const char *>(wide.utf16()), wide.size() * qsizetype(2)),
+        "Ä::");
+    row("Latin-1",
+        QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><Filter><F><Name>\xc4</Name></F></Filter>"),
+        "Ä::");
+}
+
+void TestNodeMapFilter::usableFiles()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, entry);
+    place("GEV_Camera_Filter.xml", contents);
+    QDomDocument document;
+    QVERIFY(NodeMapFilter::createDocument(document, QSharedPointer<MemoryCollection>::create(), "@Camera"));
+    QCOMPARE(entriesOf(document).value(0), entry);
+}
+
 void TestNodeMapFilter::unusableFiles_data()
 {
     columns<QByteArray>({"contents"});
@@ -204,6 +240,9 @@ void TestNodeMapFilter::unusableFiles_data()
         attributes += " a" + QByteArray::number(i) + "=''";
     }
     row("attributes", filterOf("<Feature" + attributes + "/>"));
+    row("attributes behind apostrophes", filterOf("<!-- ' --><?x '?><![CDATA[']]>'<F" + attributes + "/>"));
+    row("declared to be wider", "<?xml version='1.0' encoding='UTF-16'?><Filter" + attributes + "/>");
+    row("not UTF-8", filterOf("<F><Name>\xc4</Name></F>"));
     QByteArray laughs("<!DOCTYPE Filter [<!ENTITY a0 \"haha\">");
     for (int i = 1; i < 12; ++i) {
         const QByteArray below = "&a" + QByteArray::number(i - 1) + ";";

@@ -449,6 +449,18 @@ Open a description file or connect to a camera (menu File).</source>
         <source>Only of a camera that is open read-only and free</source>
         <translation>Nur bei einer Kamera, die nur lesend geöffnet und frei ist</translation>
     </message>
+    <message>
+        <source>Open R&amp;ecent</source>
+        <translation>Zuletzt &amp;geöffnet</translation>
+    </message>
+    <message>
+        <source>How many features are shown</source>
+        <translation>Wie viele Merkmale gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Level: %1</source>
+        <translation>Stufe: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -562,6 +574,17 @@ Was die Datei enthält, geht verloren.</translation>
     <message>
         <source>This feature is not shown at the current level</source>
         <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>RecentSources</name>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>The file does not exist at present</source>
+        <translation>Die Datei gibt es zurzeit nicht</translation>
     </message>
 </context>
 </TS>

@@ -4,7 +4,9 @@
 #include "asyncerrorqueue.h"
 
 #include <QCoreApplication>
+#include <QMutex>
 #include <QMutexLocker>
+#include <QThread>
 
 AsyncErrorQueue::AsyncErrorQueue(QObject *parent)
     : QObject(parent)
@@ -18,16 +20,17 @@ AsyncErrorQueue::~AsyncErrorQueue() = default;
 bool AsyncErrorQueue::reportErrorAsync(ErrorSeverity severity, const QString &message, const QString &details,
                                        QWidget *parent)
 {
-    append(severity, message, details, parent);
-    QMetaObject::invokeMethod(this, "asyncSignaler", Qt::QueuedConnection);
-    return true;
+    return append(severity, message, details, parent);
 }
 
 bool AsyncErrorQueue::append(ErrorSeverity severity, const QString &message, const QString &details,
                              QWidget *parent)
 {
-    const QMutexLocker locker(&m_mutex);
-    m_entries.append({severity, message, details, parent});
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_entries.append({severity, message, details, parent});
+    }
+    QMetaObject::invokeMethod(this, "asyncSignaler", Qt::QueuedConnection);
     return true;
 }
 
@@ -56,19 +59,54 @@ void AsyncErrorQueue::asyncSignaler()
     emit displayError(entry.severity, entry.message, entry.details, entry.parent.data());
 }
 
+namespace {
+
+/*! \brief The one queue, on the application's thread.
+ *
+ * As long as there is no application it is on no thread: one that made it might end, and only an object
+ * without a thread lets itself be fetched. What is reported meanwhile waits with it.
+ */
+struct GlobalQueue
+{
+    GlobalQueue()
+    {
+        const QMutexLocker locker(&s_mutex);
+        queue.moveToThread(s_applicationThread);
+        s_queue = &queue;
+    }
+
+    ~GlobalQueue()
+    {
+        const QMutexLocker locker(&s_mutex);
+        s_queue = nullptr;
+    }
+
+    AsyncErrorQueue queue;
+
+    static QBasicMutex s_mutex; // for these two; a worker may make the queue while the application starts
+    static QThread *s_applicationThread;
+    static AsyncErrorQueue *s_queue;
+};
+
+QBasicMutex GlobalQueue::s_mutex;
+QThread *GlobalQueue::s_applicationThread = nullptr;
+AsyncErrorQueue *GlobalQueue::s_queue = nullptr;
+
+void fetchGlobalQueue()
+{
+    const QMutexLocker locker(&GlobalQueue::s_mutex);
+    GlobalQueue::s_applicationThread = QCoreApplication::instance()->thread();
+    if (GlobalQueue::s_queue) {
+        GlobalQueue::s_queue->moveToThread(GlobalQueue::s_applicationThread);
+    }
+}
+
+Q_COREAPP_STARTUP_FUNCTION(fetchGlobalQueue)
+
+} // namespace
+
 AsyncErrorQueue *GetTheGlobalAsyncErrorQueue()
 {
-    struct GlobalQueue
-    {
-        GlobalQueue()
-        {
-            if (QCoreApplication *const application = QCoreApplication::instance()) {
-                queue.moveToThread(application->thread());
-            }
-        }
-
-        AsyncErrorQueue queue;
-    };
     static GlobalQueue global;
     return &global.queue;
 }

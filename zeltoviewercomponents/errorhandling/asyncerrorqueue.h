@@ -37,8 +37,7 @@ public:
     bool reportErrorAsync(ErrorSeverity severity, const QString &message, const QString &details,
                           QWidget *parent);
 
-    /*! Appends a message without scheduling its delivery: it goes out with the next reported one, in its
-     * place in the order. Always returns true. */
+    /*! Does the same as reportErrorAsync(). */
     bool append(ErrorSeverity severity, const QString &message, const QString &details, QWidget *parent);
 
     /*! Removes all pending messages. */
@@ -68,5 +67,6 @@ private:
     QList<Entry> m_entries;
 };
 
-/*! Returns the one queue of the process. It belongs to the application's thread, whoever calls first. */
+/*! Returns the one queue of the process. It belongs to the application's thread, whoever calls first; what is
+ * reported before there is an application waits for it. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AsyncErrorQueue *GetTheGlobalAsyncErrorQueue();

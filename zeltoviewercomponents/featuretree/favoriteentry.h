@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <utility>
+
 /*! \brief One favorite feature: known by its node map and its name, whether or not a camera has it now. */
 struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoriteEntry
 {
@@ -14,9 +16,14 @@ struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoriteEntry
     QString displayName; //!< the text shown for it
     QString nodeMapKey; //!< the name of the node map, such as "@CameraDevice"
 
+    bool operator==(const FavoriteEntry &) const = default;
+
     /*! Returns whether both are the same favorite; what they are called on screen does not matter. */
     bool isSameFavorite(const FavoriteEntry &other) const
     {
         return nodeMapKey == other.nodeMapKey && featureName == other.featureName;
     }
+
+    /*! Returns what makes it the favorite that it is, for sets. */
+    std::pair<QString, QString> identity() const { return {nodeMapKey, featureName}; }
 };

@@ -3,41 +3,18 @@
 
 #include "favoritesdata.h"
 
-#include <QCoreApplication>
+#include "favoritesstore_p.h"
+#include "settingswatcher_p.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
 #include <QSet>
-#include <QSettings>
-#include <QStringList>
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace {
-
-constexpr QLatin1Char separator('*');
-constexpr int formatVersion = 3;
-// Far beyond any feature; what is longer is damage, and would stall whoever has to paint it.
-constexpr int maximumStoredLength = 65536;
-
-QString versionKey()
-{
-    return QStringLiteral("Version");
-}
-
-QString countKey()
-{
-    return QStringLiteral("NumberOfEntries");
-}
-
-QString viewAllKey()
-{
-    return QStringLiteral("ViewAll");
-}
-
-QString expandedKey()
-{
-    return QStringLiteral("Expanded");
-}
 
 // During static destruction the names that a QSettings needs may be gone already.
 bool settingsUsable()
@@ -45,49 +22,30 @@ bool settingsUsable()
     return QCoreApplication::instance() != nullptr;
 }
 
-// Returns the numbers of the numbered keys that exist, ascending. Going by these instead of counting up makes
-// a damaged number of entries harmless.
-QList<qint64> storedNumbers(const QSettings &settings)
+// Rows that are made anew take their editors with them, and a half-typed number might be written.
+bool isBeingTyped()
 {
-    QList<qint64> numbers;
-    const QStringList keys = settings.childKeys();
-    for (const QString &key : keys) {
-        bool ok = false;
-        const qint64 number = key.toLongLong(&ok);
-        if (ok && number >= 0 && QString::number(number) == key) {
-            numbers.append(number);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        const QWidget *const focus = window->focusWidget();
+        const auto *edit = qobject_cast<const QLineEdit *>(focus);
+        edit = focus && !edit ? focus->findChild<QLineEdit *>({}, Qt::FindDirectChildrenOnly) : edit;
+        const QWidget *parent = edit && edit->isModified() ? edit : nullptr;
+        while (parent && !qobject_cast<const QAbstractItemView *>(parent)) {
+            parent = parent->parentWidget();
         }
+        return parent != nullptr;
+    });
+}
+
+qsizetype indexIn(const QList<FavoriteEntry> &entries, const std::optional<FavoriteEntry> &entry)
+{
+    if (!entry) {
+        return -1;
     }
-    std::sort(numbers.begin(), numbers.end());
-    return numbers;
-}
-
-std::optional<FavoriteEntry> parseEntry(const QString &stored)
-{
-    if (stored.size() > maximumStoredLength) {
-        return std::nullopt;
-    }
-    const QStringList parts = stored.split(separator, Qt::SkipEmptyParts);
-    if (parts.size() != 3) {
-        return std::nullopt;
-    }
-    return FavoriteEntry{QString::fromLocal8Bit(parts.at(0).toLocal8Bit()), parts.at(1), parts.at(2)};
-}
-
-// Not arg(): a "%1" in a name is part of the name.
-QString storedText(const FavoriteEntry &entry)
-{
-    return entry.featureName + separator + entry.displayName + separator + entry.nodeMapKey;
-}
-
-bool isStorable(const FavoriteEntry &entry)
-{
-    return !entry.featureName.isEmpty() && !entry.nodeMapKey.isEmpty();
-}
-
-std::pair<QString, QString> identity(const FavoriteEntry &entry)
-{
-    return {entry.nodeMapKey, entry.featureName};
+    const auto found = std::find_if(entries.cbegin(), entries.cend(),
+                                    [&entry](const auto &other) { return entry->isSameFavorite(other); });
+    return found == entries.cend() ? -1 : found - entries.cbegin();
 }
 
 } // namespace
@@ -115,17 +73,18 @@ void FavoritesData::attach(const QString &group)
     // What was added before any group was known has no other home, so the stored entries join it.
     m_settingsGroup = group;
     load(group);
-    if (m_unsaved) {
-        markChanged();
+    watchStore();
+    if (hasChanges()) {
+        scheduleSaving();
     }
 }
 
 void FavoritesData::detach(QObject *view)
 {
-    save(m_settingsGroup);
     if (view) {
-        disconnect(view);
+        disconnect(view); // first: what others have stored is of no use to it any more
     }
+    saveChanges();
 }
 
 void FavoritesData::setSettingsGroup(const QString &group)
@@ -135,9 +94,10 @@ void FavoritesData::setSettingsGroup(const QString &group)
     }
     saveChanges();
     m_settingsGroup = group;
-    m_unsaved = false;
+    forgetChanges();
     if (!group.isEmpty()) {
         replaceBy(group);
+        watchStore();
     }
 }
 
@@ -158,13 +118,14 @@ bool FavoritesData::load(const QString &group)
     if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
-    QSettings settings;
-    settings.beginGroup(group);
-    loadEntries(settings);
-    // A group that was never written hides unavailable favorites and shows the branch expanded.
-    m_viewAll = settings.value(viewAllKey()).toBool();
-    const bool wasExpanded = std::exchange(m_expanded, settings.value(expandedKey(), true).toBool());
-    settings.endGroup();
+    FavoritesStore store(group);
+    const FavoritesList stored = store.read();
+    append(stored.entries);
+    m_viewAll = stored.viewAll;
+    const bool wasExpanded = std::exchange(m_expanded, stored.expanded);
+    if (isStoredIn(group)) {
+        setStored(stored, group);
+    }
     notify();
     if (m_expanded != wasExpanded) {
         emit expanded(m_expanded);
@@ -172,22 +133,15 @@ bool FavoritesData::load(const QString &group)
     return true;
 }
 
-void FavoritesData::loadEntries(const QSettings &settings)
+void FavoritesData::append(const QList<FavoriteEntry> &entries)
 {
     QSet<std::pair<QString, QString>> known;
     for (const FavoriteEntry &entry : std::as_const(m_entries)) {
-        known.insert(identity(entry));
+        known.insert(entry.identity());
     }
-    const qint64 storedCount = settings.value(countKey(), 0).toLongLong();
-    const QList<qint64> numbers = storedNumbers(settings);
-    for (const qint64 number : numbers) {
-        if (number >= storedCount) {
-            break;
-        }
-        const auto entry = parseEntry(settings.value(QString::number(number)).toString());
-        if (entry && !known.contains(identity(*entry))) {
-            known.insert(identity(*entry));
-            m_entries.append(*entry);
+    for (const FavoriteEntry &entry : entries) {
+        if (!known.contains(entry.identity())) {
+            m_entries.append(entry);
             notify();
         }
     }
@@ -198,38 +152,125 @@ bool FavoritesData::save(const QString &group)
     if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
-    QSettings settings;
-    settings.beginGroup(group);
-    settings.setValue(versionKey(), formatVersion);
-    settings.setValue(countKey(), static_cast<qint64>(m_entries.size()));
-    // Every number left over from another list goes: one in a gap would come back as a favorite.
-    const QList<qint64> numbers = storedNumbers(settings);
-    for (const qint64 number : numbers) {
-        if (number >= m_entries.size() || !isStorable(m_entries.at(number))) {
-            settings.remove(QString::number(number));
+    FavoritesStore store(group);
+    store.lock();
+    FavoritesList list{m_entries, m_viewAll, m_expanded};
+    if (m_stored && group == m_storedGroup) {
+        const FavoritesList stored = store.read();
+        list = store.hasList() ? mergedWith(stored) : list;
+    }
+    if (!store.write(list)) {
+        return false;
+    }
+    if (isStoredIn(group)) {
+        forgetChanges();
+        setStored(store.read(), group);
+        store.unlock(); // before others hear of the list and perhaps save something
+        adopt(list);
+    }
+    return true;
+}
+
+// Before there is a settings group, the one that was loaded or saved last takes its place.
+bool FavoritesData::isStoredIn(const QString &group) const
+{
+    return m_settingsGroup.isEmpty() || group == m_settingsGroup;
+}
+
+void FavoritesData::setStored(const FavoritesList &stored, const QString &group)
+{
+    m_stored = std::make_unique<FavoritesList>(stored);
+    m_storedGroup = group;
+}
+
+// Returns what is stored with the own changes done again on it.
+FavoritesList FavoritesData::mergedWith(const FavoritesList &stored) const
+{
+    FavoritesList merged{m_entries, m_viewAll, m_expanded};
+    if (stored.entries != m_stored->entries) {
+        merged.entries = stored.entries;
+        for (const Change &change : m_changes) {
+            repeat(change, merged.entries);
         }
     }
-    for (qsizetype i = 0; i < m_entries.size(); ++i) {
-        if (isStorable(m_entries.at(i))) {
-            settings.setValue(QString::number(i), storedText(m_entries.at(i)));
-        }
+    merged.viewAll = m_viewAllChanged ? m_viewAll : stored.viewAll;
+    merged.expanded = m_expandedChanged ? m_expanded : stored.expanded;
+    return merged;
+}
+
+void FavoritesData::repeat(const Change &change, QList<FavoriteEntry> &entries)
+{
+    const qsizetype index = indexIn(entries, change.entry);
+    if ((change.kind == Change::Insertion) == (index >= 0)) {
+        return; // the other program has added it, too, or removed it
     }
-    settings.setValue(viewAllKey(), m_viewAll ? 1 : 0);
-    settings.setValue(expandedKey(), m_expanded ? 1 : 0);
-    settings.endGroup();
-    settings.sync();
-    // A format error is about what was read: the well-formed rest is kept and written.
-    const bool written = settings.status() != QSettings::AccessError;
-    if (written && group == m_settingsGroup) {
-        m_unsaved = false;
+    if (index >= 0) {
+        entries.removeAt(index);
     }
-    return written;
+    if (change.kind == Change::Removal) {
+        return;
+    }
+    const qsizetype next = indexIn(entries, change.next);
+    const qsizetype previous = change.kind == Change::Move ? indexIn(entries, change.previous) : -1;
+    entries.insert(next >= 0 ? next : previous >= 0 ? previous + 1 : entries.size(), change.entry);
+}
+
+void FavoritesData::adopt(const FavoritesList &list)
+{
+    if (list.isSameAs({m_entries, m_viewAll, m_expanded})) {
+        return;
+    }
+    m_entries = list.entries;
+    m_viewAll = list.viewAll;
+    notify();
+}
+
+void FavoritesData::takeOverStored()
+{
+    if (m_settingsGroup.isEmpty() || !settingsUsable()) {
+        return;
+    }
+    if (hasChanges()) {
+        saveChanges();
+        return;
+    }
+    if (isBeingTyped()) {
+        m_watcher->schedule();
+        return;
+    }
+    FavoritesStore store(m_settingsGroup);
+    const FavoritesList stored = store.read();
+    if (store.hasList() && (!m_stored || !stored.isSameAs(*m_stored))) {
+        setStored(stored, m_settingsGroup);
+        adopt(stored);
+    }
+}
+
+void FavoritesData::watchStore()
+{
+    const QString file = settingsUsable() ? FavoritesStore::fileName() : QString();
+    if (!file.isEmpty() && !m_watcher) {
+        m_watcher = new SettingsWatcher(file, QCoreApplication::instance()); // which this may outlive
+        connect(m_watcher, SIGNAL(changed()), this, SLOT(takeOverStored()));
+    }
+}
+
+bool FavoritesData::hasChanges() const
+{
+    return !m_changes.isEmpty() || m_viewAllChanged || m_expandedChanged;
+}
+
+void FavoritesData::forgetChanges()
+{
+    m_changes.clear();
+    m_viewAllChanged = false;
+    m_expandedChanged = false;
 }
 
 void FavoritesData::saveChanges()
 {
     m_saveScheduled = false;
-    if (m_unsaved) {
+    if (hasChanges()) {
         save(m_settingsGroup);
     }
 }
@@ -244,9 +285,7 @@ std::optional<FavoriteEntry> FavoritesData::entryAt(int index) const
 
 int FavoritesData::indexOfEntry(const FavoriteEntry &entry) const
 {
-    const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
-                                    [&entry](const auto &other) { return entry.isSameFavorite(other); });
-    return found == m_entries.cend() ? -1 : static_cast<int>(found - m_entries.cbegin());
+    return static_cast<int>(indexIn(m_entries, entry));
 }
 
 bool FavoritesData::insertEntry(int position, const FavoriteEntry &entry)
@@ -258,7 +297,7 @@ bool FavoritesData::insertEntry(int position, const FavoriteEntry &entry)
         return false;
     }
     m_entries.insert(position, entry);
-    markChanged();
+    recordChange(Change::Insertion, position);
     notify();
     return true;
 }
@@ -273,11 +312,11 @@ bool FavoritesData::takeEntry(int index, FavoriteEntry *taken)
     if (index < 0 || index >= count()) {
         return false;
     }
+    recordChange(Change::Removal, index);
     FavoriteEntry entry = m_entries.takeAt(index);
     if (taken) {
         *taken = std::move(entry);
     }
-    markChanged();
     return true;
 }
 
@@ -301,7 +340,7 @@ bool FavoritesData::moveEntry(int from, int to)
         return false;
     }
     m_entries.move(from, position);
-    markChanged();
+    recordChange(Change::Move, position);
     // One for the taking, one for the inserting, both afterwards: no receiver sees the list without the
     // entry.
     notify();
@@ -315,7 +354,8 @@ void FavoritesData::setViewAll(bool viewAll)
         return;
     }
     m_viewAll = viewAll;
-    markChanged();
+    m_viewAllChanged = true;
+    scheduleSaving();
     notify();
 }
 
@@ -325,7 +365,8 @@ void FavoritesData::setExpanded(bool expand)
         return;
     }
     m_expanded = expand;
-    markChanged();
+    m_expandedChanged = true;
+    scheduleSaving();
     emit expanded(expand);
 }
 
@@ -348,9 +389,14 @@ void FavoritesData::notify()
     }
 }
 
-void FavoritesData::markChanged()
+void FavoritesData::recordChange(Change::Kind kind, int index)
 {
-    m_unsaved = true;
+    m_changes.append({kind, m_entries.at(index), entryAt(index - 1), entryAt(index + 1)});
+    scheduleSaving();
+}
+
+void FavoritesData::scheduleSaving()
+{
     if (m_saveScheduled || !settingsUsable()) {
         return;
     }

@@ -8,11 +8,14 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
-class QSettings;
+class SettingsWatcher;
+struct FavoritesList;
 
 /*! \brief The user's list of favorite features, in the order shown, and how its branch is to be shown.
  *
@@ -20,6 +23,10 @@ class QSettings;
  * while an application object exists. The list is kept in the application's settings, below the settings
  * group; changes are written when the event loop comes round, so that a crash loses none, and when a view is
  * detached. Attaching and setting the group need that object, too. GUI thread only.
+ *
+ * Other programs may use the same settings. What changed here is then done again on what they have stored,
+ * and what changed there is taken over as soon as it is stored, where the settings are a file; elsewhere with
+ * the next change made here. Only the expansion of the branch stays each program's own.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoritesData : public QObject
 {
@@ -31,7 +38,7 @@ public:
 
     /*! Loads \a group and makes it the settings group. Only the first call does anything. */
     void attach(const QString &group);
-    /*! Saves, and disconnects \a view (or model), when given. */
+    /*! Saves what has changed, and disconnects \a view (or model), when given. */
     void detach(QObject *view);
 
     /*! Returns the settings group, empty before there is one. */
@@ -42,8 +49,8 @@ public:
 
     /*! Appends the entries stored in \a group and takes over its flags. Returns false for an empty group. */
     bool load(const QString &group);
-    /*! Stores everything in \a group. Returns false for an empty group and when the store cannot be written.
-     */
+    /*! Stores everything in \a group, after merging into it what others have stored there since it was loaded
+     * or saved. Returns false for an empty group and when the store cannot be written. */
     bool save(const QString &group);
 
     /*! Returns the number of entries. */
@@ -87,12 +94,31 @@ signals:
 
 private slots:
     void saveChanges();
+    void takeOverStored();
 
 private:
+    struct Change
+    {
+        enum Kind { Insertion, Removal, Move };
+        Kind kind;
+        FavoriteEntry entry;
+        std::optional<FavoriteEntry> previous; // the neighbours at the new place
+        std::optional<FavoriteEntry> next;
+    };
+
     void notify();
-    void markChanged();
+    void append(const QList<FavoriteEntry> &entries);
     void replaceBy(const QString &group);
-    void loadEntries(const QSettings &settings);
+    void recordChange(Change::Kind kind, int index);
+    void scheduleSaving();
+    bool hasChanges() const;
+    void forgetChanges();
+    void watchStore();
+    bool isStoredIn(const QString &group) const;
+    void setStored(const FavoritesList &stored, const QString &group);
+    FavoritesList mergedWith(const FavoritesList &stored) const;
+    static void repeat(const Change &change, QList<FavoriteEntry> &entries);
+    void adopt(const FavoritesList &list);
 
     QList<FavoriteEntry> m_entries;
     QString m_settingsGroup;
@@ -101,6 +127,12 @@ private:
     bool m_expanded = false;
     bool m_deferred = false;
     bool m_pending = false;
-    bool m_unsaved = false;
     bool m_saveScheduled = false;
+    // What differs from the store, as far as is known here.
+    QList<Change> m_changes;
+    bool m_viewAllChanged = false;
+    bool m_expandedChanged = false;
+    std::unique_ptr<FavoritesList> m_stored; // as last seen, none before
+    QString m_storedGroup;
+    QPointer<SettingsWatcher> m_watcher;
 };

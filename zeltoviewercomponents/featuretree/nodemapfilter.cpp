@@ -11,10 +11,15 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringConverter>
 #include <QStringList>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <array>
 #include <memory>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -94,14 +99,69 @@ std::unique_ptr<QFile> openFirst(const QStringList &names)
     return nullptr;
 }
 
+// The files are UTF-8; what declares itself to be something else is welcome.
+QStringDecoder decoderFor(const QByteArray &contents)
+{
+    if (const auto encoding = QStringConverter::encodingForData(contents, u'<')) {
+        return QStringDecoder(*encoding);
+    }
+    static const QRegularExpression declaration(
+        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([^\"']*)"));
+    const QString name = declaration.match(QString::fromLatin1(contents.left(200))).captured(1);
+    const QStringDecoder declared(name.toLatin1().constData());
+    return declared.isValid() ? QStringDecoder(name.toLatin1().constData())
+                              : QStringDecoder(QStringDecoder::Utf8);
+}
+
+// Returns the position after the tag that begins at \a position and adds its attributes to \a attributes.
+qsizetype skipTag(const QString &text, qsizetype position, qsizetype &attributes)
+{
+    QChar quote;
+    for (; position < text.size(); ++position) {
+        const QChar c = text.at(position);
+        if (!quote.isNull()) {
+            quote = c == quote ? QChar() : quote;
+        } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
+            quote = c;
+        } else if (c == QLatin1Char('=')) {
+            ++attributes;
+        } else if (c == QLatin1Char('>')) {
+            return position + 1;
+        }
+    }
+    return position;
+}
+
+// Counts the attributes without a parser, which would compare them with each other.
+qsizetype attributeCount(const QString &text)
+{
+    static constexpr std::array others{std::pair{"<!--", "-->"}, std::pair{"<![CDATA[", "]]>"},
+                                       std::pair{"<?", "?>"}};
+    qsizetype attributes = 0;
+    qsizetype position = text.indexOf(QLatin1Char('<'));
+    while (position >= 0) {
+        const auto other = std::find_if(others.begin(), others.end(), [&text, position](const auto &ends) {
+            return QStringView(text).mid(position).startsWith(QLatin1String(ends.first));
+        });
+        if (other == others.end()) {
+            position = skipTag(text, position, attributes);
+        } else {
+            const auto size = qsizetype(qstrlen(other->first));
+            position = text.indexOf(QLatin1String(other->second), position + size);
+        }
+        position = position < 0 ? position : text.indexOf(QLatin1Char('<'), position);
+    }
+    return attributes;
+}
+
 // Nodes of a document are freed recursively, and a document type's declarations may stand for any length of
 // text, so both are looked at before the document is built. Returns why it is refused; empty when it is not.
-QString refusal(const QByteArray &contents)
+QString refusal(const QString &text)
 {
-    if (contents.count('=') > maximumAttributes) {
+    if (attributeCount(text) > maximumAttributes) {
         return QStringLiteral("there are more than %1 attributes").arg(maximumAttributes);
     }
-    QXmlStreamReader reader(contents);
+    QXmlStreamReader reader(text);
     reader.setNamespaceProcessing(false); // as for the document: an unknown prefix ends neither
     int depth = 0;
     while (!reader.atEnd()) {
@@ -126,11 +186,11 @@ bool parse(QDomDocument &document, QFile &file, ParseError &error)
         error.message = QStringLiteral("the file is larger than %1 bytes").arg(maximumFileSize);
         return false;
     }
-    error.message = refusal(contents);
-    if (!error.message.isEmpty()) {
-        return false;
-    }
-    return document.setContent(contents, &error.message, &error.line, &error.column);
+    // Decoded here, so that the attributes counted are those that are parsed.
+    QStringDecoder decoder = decoderFor(contents);
+    const QString text = decoder(contents);
+    error.message = decoder.hasError() ? QStringLiteral("the file is wrongly encoded") : refusal(text);
+    return error.message.isEmpty() && document.setContent(text, &error.message, &error.line, &error.column);
 }
 
 QDomElement firstElement(const QDomElement &entry, const QString &tag)

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "treestate.h"
+
+#include <QString>
+
+#include <optional>
+
+struct Options;
+
+/*! \brief How a camera or description file was looked at when it was closed. */
+struct CameraView
+{
+    TreeState tree;
+    bool polls = false;
+    bool monitors = false;
+};
+
+/*! \brief Keeps in the settings how each camera was looked at; of many, those that were used last. */
+class CameraMemory
+{
+public:
+    /*! Sets which camera it is about. Scripts leave no traces and find none. */
+    void setSource(const Options &options);
+
+    /*! Returns how the camera was looked at last, none when that is not known. */
+    std::optional<CameraView> recall() const;
+    void remember(const CameraView &view) const;
+
+private:
+    QString m_group; // of the settings, empty when nothing is to be remembered
+    QString m_name;
+};

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "recentsources.h"
+
+#include "options.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QMenu>
+#include <QSettings>
+
+namespace {
+
+constexpr qsizetype maximumCount = 10;
+constexpr qsizetype maximumLength = 4096; // of a path; what is longer is damage
+
+const QLatin1String filePrefix("file:");
+const QLatin1String cameraPrefix("camera:");
+
+QString settingsKey()
+{
+    return QStringLiteral("MainWindow/Recent");
+}
+
+bool isUsable(const QString &source)
+{
+    const bool isKnown = source.startsWith(filePrefix) || source.startsWith(cameraPrefix);
+    return isKnown && !source.endsWith(QLatin1Char(':')) && source.size() <= maximumLength;
+}
+
+QStringList storedSources()
+{
+    QStringList usable;
+    const QStringList stored = QSettings().value(settingsKey()).toStringList();
+    for (const QString &source : stored) {
+        if (usable.size() < maximumCount && isUsable(source) && !usable.contains(source)) {
+            usable.append(source);
+        }
+    }
+    return usable;
+}
+
+} // namespace
+
+RecentSources::RecentSources(QMenu *menu)
+    : QObject(menu)
+    , m_menu(menu)
+{
+    menu->setToolTipsVisible(true);
+    connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillMenu()));
+    connect(menu, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
+    fillMenu();
+}
+
+RecentSources::~RecentSources() = default;
+
+void RecentSources::add(const Options &options)
+{
+    const QString source = !options.description.isEmpty()
+        ? filePrefix + QFileInfo(options.description).absoluteFilePath()
+        : cameraPrefix + options.camera;
+    if (isUsable(source)) {
+        QStringList sources = storedSources();
+        sources.removeAll(source);
+        sources.prepend(source);
+        store(sources);
+    }
+}
+
+QString RecentSources::lastCamera() const
+{
+    const QStringList cameras = storedSources().filter(cameraPrefix);
+    return cameras.value(0).mid(cameraPrefix.size());
+}
+
+void RecentSources::store(const QStringList &sources)
+{
+    QSettings().setValue(settingsKey(), sources.mid(0, maximumCount));
+    // Later: one of the menu's actions may be what brought this about.
+    QMetaObject::invokeMethod(this, "fillMenu", Qt::QueuedConnection);
+}
+
+void RecentSources::fillMenu()
+{
+    m_menu->clear();
+    const QStringList sources = storedSources();
+    for (const QString &source : sources) {
+        addEntry(source, static_cast<int>(m_menu->actions().size()) + 1);
+    }
+    m_menu->addSeparator();
+    m_menu->addAction(tr("&Clear List"));
+    m_menu->menuAction()->setEnabled(!sources.isEmpty());
+}
+
+QAction *RecentSources::addEntry(const QString &source, int number)
+{
+    const bool isFile = source.startsWith(filePrefix);
+    const QString name = source.mid(isFile ? filePrefix.size() : cameraPrefix.size());
+    const QFontMetrics metrics = m_menu->fontMetrics();
+    QString shown = metrics.elidedText(name.simplified(), Qt::ElideMiddle, metrics.averageCharWidth() * 60);
+    shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction *const action = m_menu->addAction(QStringLiteral("&%1 %2").arg(number % 10).arg(shown));
+    action->setData(source);
+    const bool isThere = !isFile || QFileInfo(name).isFile();
+    action->setEnabled(isThere);
+    action->setToolTip(isThere ? name : tr("The file does not exist at present"));
+    action->setStatusTip(action->toolTip());
+    return action;
+}
+
+void RecentSources::onTriggered(QAction *action)
+{
+    const QString source = action->data().toString();
+    if (source.isEmpty()) {
+        store({});
+    } else if (source.startsWith(filePrefix)) {
+        emit chosen(source.mid(filePrefix.size()), QString());
+    } else {
+        emit chosen(QString(), source.mid(cameraPrefix.size()));
+    }
+}

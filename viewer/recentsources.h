@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QAction;
+class QMenu;
+struct Options;
+
+/*! \brief The description files and live cameras that were opened last, as a menu and in the settings.
+ *
+ * Files that are gone are greyed, since they may be back soon: on a stick, on a server.
+ */
+class RecentSources : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! Fills \a menu, its parent. */
+    explicit RecentSources(QMenu *menu);
+    ~RecentSources() override;
+
+    /*! Puts the file or camera of \a options at the front. */
+    void add(const Options &options);
+    /*! Returns the id of the live camera that was opened last, empty when there is none. */
+    QString lastCamera() const;
+
+signals:
+    /*! The user wants one of them; the other argument is empty. */
+    void chosen(const QString &description, const QString &camera);
+
+private slots:
+    void fillMenu();
+    void onTriggered(QAction *action);
+
+private:
+    QAction *addEntry(const QString &source, int number);
+    void store(const QStringList &sources);
+
+    QMenu *m_menu;
+};
