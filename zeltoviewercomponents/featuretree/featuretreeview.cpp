@@ -677,7 +677,9 @@ void FeatureTreeView::copyValue()
 
 void FeatureTreeView::onEscaped(QWidget *editor)
 {
-    itemDelegate()->setEditorData(editor, m_editors.rowOf(editor));
+    if (const QModelIndex index = m_editors.rowOf(editor); index.isValid()) {
+        itemDelegate()->setEditorData(editor, index);
+    }
 }
 
 void FeatureTreeView::keyboardSearch(const QString &search)
