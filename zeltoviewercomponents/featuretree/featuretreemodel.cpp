@@ -3,6 +3,7 @@
 
 #include "featuretreemodel.h"
 
+#include "favoritesbranch_p.h"
 #include "featuretreefavoritesitem.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreenames.h"
@@ -57,33 +58,6 @@ bool isSameValue(FeatureTreeItem &item, const QVariant &value)
     return item.data(FeatureTreeColumns::value, Qt::EditRole) == value;
 }
 
-// Names pass through the local 8-bit encoding, in which they are stored.
-QString storedName(const QString &name)
-{
-    return QString::fromLocal8Bit(name.toLocal8Bit());
-}
-
-FavoriteEntry probeOf(const QString &featureName, const QString &nodeMapKey)
-{
-    FavoriteEntry entry;
-    entry.featureName = storedName(featureName);
-    entry.nodeMapKey = nodeMapKey;
-    return entry;
-}
-
-QString firstSegment(const QString &path)
-{
-    return path.section(QLatin1Char('/'), 0, 0);
-}
-
-QString favoritesRowName(const FavoriteEntry &entry)
-{
-    QString nodeMap = entry.nodeMapKey;
-    nodeMap.remove(QLatin1Char('@'));
-    const QStringList parts{FeatureTreeNames::favorite, firstSegment(nodeMap), entry.featureName};
-    return parts.join(QLatin1Char(FeatureTreeNames::separator));
-}
-
 // A category below itself would make an endless tree.
 bool standsAbove(const FeatureTreeItem *row, const QSharedPointer<IParameter> &category)
 {
@@ -94,11 +68,6 @@ bool standsAbove(const FeatureTreeItem *row, const QSharedPointer<IParameter> &c
         }
     }
     return false;
-}
-
-bool isPlaceholder(const FeatureTreeItem *row)
-{
-    return !qobject_cast<const FeatureTreeINodeItem *>(row) && row->getFullName() != FeatureTreeNames::dummy;
 }
 
 } // namespace
@@ -113,6 +82,7 @@ QString FeatureTreeModel::dragFormat()
 FeatureTreeModel::FeatureTreeModel(QObject *parent)
     : QAbstractItemModel(parent)
     , m_rootItem(std::make_unique<FeatureTreeItem>(QString(), this, QString(), nullptr))
+    , m_favoritesBranch(std::make_unique<FavoritesBranch>(*this, m_favorites))
     , m_pollTimer(new QTimer(this))
 {
     liveRoots().append(m_rootItem.get());
@@ -130,9 +100,14 @@ FeatureTreeModel::~FeatureTreeModel()
     m_favorites.detach(this);
 }
 
+FeatureTreeItem *FeatureTreeModel::itemAt(const QModelIndex &index) const
+{
+    return index.isValid() ? getFeatureTreeItem(index) : nullptr;
+}
+
 FeatureTreeItem *FeatureTreeModel::itemOrRoot(const QModelIndex &index) const
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const item = itemAt(index);
     return item ? item : m_rootItem.get();
 }
 
@@ -144,7 +119,7 @@ QModelIndex FeatureTreeModel::index(int row, int column, const QModelIndex &pare
 
 QModelIndex FeatureTreeModel::parent(const QModelIndex &index) const
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const item = itemAt(index);
     FeatureTreeItem *const above = item ? item->parent() : nullptr;
     if (!above || above == m_rootItem.get()) {
         return {};
@@ -173,7 +148,7 @@ bool FeatureTreeModel::hasChildren(const QModelIndex &parent) const
 
 QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const item = itemAt(index);
     if (!item) {
         return {};
     }
@@ -212,7 +187,7 @@ void FeatureTreeModel::reportReadFailure() const
 
 bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const item = itemAt(index);
     if (!item || role != Qt::EditRole || index.column() != FeatureTreeColumns::value || !value.isValid()
         || !m_deviceAlive) {
         return false;
@@ -234,8 +209,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
 }
 
 // Reports the exception that is being handled. The item is null when it is gone by now.
-void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item,
-                                          const QSharedPointer<IParameter> &parameter)
+void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPointer<IParameter> &parameter)
 {
     const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
@@ -274,7 +248,7 @@ QVariant FeatureTreeModel::headerData(int section, Qt::Orientation orientation, 
 
 Qt::ItemFlags FeatureTreeModel::flags(const QModelIndex &index) const
 {
-    FeatureTreeItem *const item = index.isValid() ? getFeatureTreeItem(index) : nullptr;
+    FeatureTreeItem *const item = itemAt(index);
     return item ? item->flags(index.column()) : Qt::ItemIsEnabled;
 }
 
@@ -335,39 +309,18 @@ bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action
     if (row < -1 || !data || !data->hasFormat(dragFormat()) || !readDraggedItems(*data, items)) {
         return false;
     }
-    int target = std::min(row == -1 ? rowCount() : row, m_favorites.count());
-    m_favorites.setDeferredUpdates(true);
-    // From the last to the first: each lands on the same row, so that the dragged order stays.
-    for (auto item = items.crbegin(); item != items.crend(); ++item) {
-        target = dropItem(*item, target);
-    }
-    m_favorites.setDeferredUpdates(false);
+    m_favoritesBranch->drop(items, row == -1 ? rowCount() : row);
     return true;
-}
-
-// Moves or adds one favorite to \a row. Returns the row at which the item dragged before it belongs.
-int FeatureTreeModel::dropItem(FeatureTreeItem *item, int row)
-{
-    // Asked of the item's own model, which may be another tree's.
-    if (item->getExtension()->IsFavoriteTreeItem(item)) {
-        const int from = getFavoritesIndexFromFeatureTreeItem(item);
-        const bool cameFromAbove = m_favorites.moveEntry(from, row) && from < row;
-        return cameFromAbove ? row - 1 : row;
-    }
-    if (const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item)) {
-        AddFavorite(nodeItem->node(), row);
-    }
-    return row;
 }
 
 bool FeatureTreeModel::IsFavoriteTreeItem(const FeatureTreeItem *item) const
 {
-    return item && IsFavoriteTreeRoot(item->parent());
+    return m_favoritesBranch->contains(item);
 }
 
 bool FeatureTreeModel::IsFavoriteTreeRoot(const FeatureTreeItem *item) const
 {
-    return item && item == m_favoritesRoot;
+    return item && item == m_favoritesBranch->root();
 }
 
 QModelIndex FeatureTreeModel::indexForItem(FeatureTreeItem *item, int column)
@@ -377,7 +330,7 @@ QModelIndex FeatureTreeModel::indexForItem(FeatureTreeItem *item, int column)
 
 QModelIndex FeatureTreeModel::GetFavoritesRootIndex()
 {
-    return indexForItem(m_favoritesRoot, FeatureTreeColumns::name);
+    return indexForItem(m_favoritesBranch->root(), FeatureTreeColumns::name);
 }
 
 void FeatureTreeModel::EnablePolling(bool enable)
@@ -678,7 +631,7 @@ void FeatureTreeModel::refreshSpecialItems()
 
 void FeatureTreeModel::clear()
 {
-    m_favoritesRoot = nullptr;
+    m_favoritesBranch->forgetRows();
     m_searchHelpItem = nullptr;
     m_collections.clear();
     const QModelIndexList persistent = persistentIndexList();
@@ -738,182 +691,29 @@ void FeatureTreeModel::createSearchRow()
 
 void FeatureTreeModel::CreateFavoritesRoot()
 {
-    if (m_favoritesRoot) {
-        return;
-    }
-    emit layoutAboutToBeChanged();
-    m_favoritesRoot = new FeatureTreeFavoritesItem(tr("Favorites"), this, m_rootItem.get());
-    m_favoritesRoot->SetDescription(tr(
-        "<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
-        "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also "
-        "use "
-        "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the "
-        "list "
-        "as well as removed from the list by right-clicking an item and choosing the appropriate option from "
-        "the "
-        "context menu."));
-    m_favoritesRoot->setVisibility(GenApi::Beginner);
-    m_favoritesRoot->SetIsFullRowItem(true);
-    m_favoritesRoot->SetIsSpecialNode(true);
-    insertTopItem(m_favoritesRoot);
-    emit layoutChanged();
-    const QModelIndex root = indexForItem(m_rootItem.get(), FeatureTreeColumns::name);
-    emit dataChanged(root, root);
-    if (m_favoritesRoot) {
-        const QModelIndex favoritesRoot = GetFavoritesRootIndex();
-        emit dataChanged(favoritesRoot, favoritesRoot);
-    }
+    m_favoritesBranch->createRoot();
 }
 
 void FeatureTreeModel::rebuildFavoriteItems()
 {
     CreateFavoritesRoot();
-    removeFavoriteRows();
-    if (!m_favoritesRoot || m_favoritesRoot->hasChildren()) {
-        return; // a receiver of these signals had the tree cleared or the rows made
+    if (!m_favoritesBranch->rebuild()) {
+        return;
     }
-    insertFavoritePlaceholders();
     const QList<Collection> collections = m_collections;
     for (const Collection &entry : collections) {
         replaceFavoritesZombies(entry.collection, entry.nodeMapName);
     }
-    if (m_favoritesRoot && !m_searchHelpItem) {
+    if (m_favoritesBranch->root() && !m_searchHelpItem) {
         createSearchRow();
     }
     refreshSpecialItems();
 }
 
-void FeatureTreeModel::removeFavoriteRows()
-{
-    const int count = m_favoritesRoot ? m_favoritesRoot->existingChildCount() : 0;
-    if (count == 0) {
-        return;
-    }
-    beginRemoveRows(GetFavoritesRootIndex(), 0, count - 1);
-    ++m_removals;
-    m_favoritesRoot->clearChildren();
-    endRemoveRows();
-}
-
-void FeatureTreeModel::insertFavoritePlaceholders()
-{
-    const GenApi::EVisibility visibility = m_favorites.viewAll() ? GenApi::Beginner : GenApi::Invisible;
-    const int count = m_favorites.count();
-    if (count == 0) {
-        showEmptyFavoritesHint();
-        return;
-    }
-    beginInsertRows(GetFavoritesRootIndex(), 0, count - 1);
-    for (int i = 0; i < count; ++i) {
-        const FavoriteEntry entry = *m_favorites.entryAt(i);
-        auto *const row =
-            new FeatureTreeItem(entry.displayName, this, favoritesRowName(entry), m_favoritesRoot);
-        row->setVisibility(visibility);
-        m_favoritesRoot->appendChild(row);
-    }
-    endInsertRows();
-}
-
-void FeatureTreeModel::showEmptyFavoritesHint()
-{
-    const QPointer<FeatureTreeItem> hint(
-        new FeatureTreeItem(tr("Add favorites by right-clicking a feature below."), this,
-                            FeatureTreeNames::dummy, m_favoritesRoot));
-    hint->SetToolTip(
-        tr("To add a feature, right-click the feature and choose 'Add to Favorites' from the context "
-           "menu. You can also use drag and drop to add features to your favorites."));
-    hint->setVisibility(GenApi::Beginner);
-    hint->SetIsFullRowItem(true);
-    hint->SetIsSpecialNode(true);
-    beginInsertRows(GetFavoritesRootIndex(), 0, 0);
-    m_favoritesRoot->appendChild(hint);
-    endInsertRows();
-    if (hint) {
-        const QModelIndex index = indexForItem(hint, FeatureTreeColumns::name);
-        emit dataChanged(index, index);
-    }
-}
-
 void FeatureTreeModel::replaceFavoritesZombies(QSharedPointer<IParameterCollection> collection,
                                                const QString &nodeMapName)
 {
-    if (!collection || !m_favoritesRoot) {
-        return;
-    }
-    const Collection source{nodeMapName, collection, childNodeFlagOf(collection.data())};
-    const quint64 removals = m_removals;
-    for (int i = 0; i < std::min(m_favorites.count(), m_favoritesRoot->existingChildCount()); ++i) {
-        const FavoriteEntry entry = *m_favorites.entryAt(i);
-        // The list may be ahead of its rows while its updates are deferred.
-        if (entry.nodeMapKey != nodeMapName
-            || m_favoritesRoot->child(i)->getFullName() != favoritesRowName(entry)) {
-            continue;
-        }
-        const QString fullName = entry.nodeMapKey + QLatin1Char('/') + entry.featureName;
-        Core::guardedRun(
-            site("FeatureTreeModel::replaceFavoritesZombies"),
-            QStringLiteral("Failed to look up the favorite %1").arg(fullName), [this, &source, &fullName, i] {
-                const QSharedPointer<IParameter> parameter = source.collection->parameter(fullName);
-                if (parameter && !parameter->isExcluded()) {
-                    replaceFavoritesPlaceholder(source, i, parameter);
-                }
-            });
-        if (removals != m_removals) {
-            return; // a receiver of these signals had the tree cleared or the rows made anew
-        }
-    }
-    updateFavoritesToolTip();
-    refreshSpecialItems();
-}
-
-void FeatureTreeModel::replaceFavoritesPlaceholder(const Collection &source, int row,
-                                                   const QSharedPointer<IParameter> &parameter)
-{
-    FeatureTreeItem *const old = m_favoritesRoot->child(row);
-    if (qobject_cast<FeatureTreeINodeItem *>(old)) {
-        old->SetIsFullRowItem(false);
-        old->SetIsSpecialNode(false);
-        return;
-    }
-    auto item = std::make_unique<FeatureTreeINodeItem>(source.collection, parameter, this, old->getFullName(),
-                                                       nullptr, source.childNodeFlag);
-    adoptNodeItem(item.get(), false);
-    const QModelIndex parent = GetFavoritesRootIndex();
-    const quint64 removals = m_removals;
-    beginRemoveRows(parent, row, row);
-    std::unique_ptr<FeatureTreeItem> placeholder(m_favoritesRoot->removeChild(row));
-    endRemoveRows();
-    placeholder.reset();
-    if (removals != m_removals) {
-        return;
-    }
-    beginInsertRows(parent, row, row);
-    m_favoritesRoot->insertChild(item.release(), row);
-    endInsertRows();
-    if (removals == m_removals) {
-        const QModelIndex index = this->index(row, FeatureTreeColumns::name, parent);
-        emit dataChanged(index, index);
-    }
-}
-
-void FeatureTreeModel::updateFavoritesToolTip()
-{
-    int unavailable = 0;
-    for (int row = 0; row < m_favoritesRoot->existingChildCount(); ++row) {
-        unavailable += isPlaceholder(m_favoritesRoot->child(row)) ? 1 : 0;
-    }
-    const int count = m_favorites.count();
-    if (unavailable == 0 && count == 0) {
-        return;
-    }
-    const QString noun = count < 2 ? tr("Favorite") : tr("Favorites");
-    if (unavailable == 0) {
-        m_favoritesRoot->SetToolTip(QStringLiteral("%1 %2").arg(count).arg(noun));
-        return;
-    }
-    const QString text = unavailable == 1 ? tr("%1 %2 (%3 is unavailable for the current camera)")
-                                          : tr("%1 %2 (%3 are unavailable for the current camera)");
-    m_favoritesRoot->SetToolTip(text.arg(count).arg(noun).arg(unavailable));
+    m_favoritesBranch->replaceZombies(collection, nodeMapName, childNodeFlagOf(collection.data()));
 }
 
 bool FeatureTreeModel::childNodeFlagOf(const IParameterCollection *collection) const
@@ -926,98 +726,37 @@ bool FeatureTreeModel::childNodeFlagOf(const IParameterCollection *collection) c
 
 bool FeatureTreeModel::AddFavorite(QSharedPointer<IParameter> parameter, int row)
 {
-    if (!parameter || row < 0) {
-        return false;
-    }
-    return Core::guarded(site("FeatureTreeModel::AddFavorite"), QStringLiteral("Failed to add a favorite"),
-                         false, [&parameter, row] {
-                             if (parameter->isExcluded()) {
-                                 return false;
-                             }
-                             FavoriteEntry entry;
-                             entry.featureName = parameter->name();
-                             // Without a text it would not survive being stored.
-                             const auto access = parameter->propertyAccess();
-                             entry.displayName = access
-                                 ? access->property(QStringLiteral("DisplayName"), entry.featureName)
-                                 : entry.featureName;
-                             entry.nodeMapKey = firstSegment(parameter->fullName());
-                             return row < m_favorites.count() ? m_favorites.insertEntry(row, entry)
-                                                              : m_favorites.appendEntry(entry);
-                         });
+    return m_favoritesBranch->add(parameter, row);
 }
 
 bool FeatureTreeModel::CanAddAsFavorite(QModelIndex index) const
 {
-    const auto *const item =
-        index.isValid() ? qobject_cast<FeatureTreeINodeItem *>(getFeatureTreeItem(index)) : nullptr;
-    const QSharedPointer<IParameter> parameter = item ? item->node() : nullptr;
-    if (!parameter || getFavoritesIndexFromModelIndex(index) >= 0) {
-        return false;
-    }
-    return Core::guarded(site("FeatureTreeModel::CanAddAsFavorite"),
-                         QStringLiteral("Failed to ask whether a feature can be a favorite"), false,
-                         [&parameter] {
-                             const ParameterType type = parameter->type();
-                             return !parameter->isExcluded() && type >= ParameterType::Integer
-                                 && type <= ParameterType::Enumeration;
-                         });
-}
-
-// A plain row of a favorite feature has a favorites index too; moving and removing act on the branch alone.
-bool FeatureTreeModel::isFavoritesRow(const QModelIndex &index) const
-{
-    return index.isValid() && IsFavoriteTreeItem(getFeatureTreeItem(index));
+    return m_favoritesBranch->canAdd(itemAt(index));
 }
 
 bool FeatureTreeModel::CanMoveFavorite(QModelIndex index, bool up) const
 {
-    const int i = isFavoritesRow(index) ? getFavoritesIndexFromModelIndex(index) : -1;
-    return i >= 0 && (up ? i >= 1 : i < m_favorites.count() - 1);
+    return m_favoritesBranch->canMove(itemAt(index), up);
 }
 
 bool FeatureTreeModel::MoveFavorite(QModelIndex index, bool up)
 {
-    if (!CanMoveFavorite(index, up)) {
-        return false;
-    }
-    const int i = getFavoritesIndexFromModelIndex(index);
-    // An entry is inserted before its target, counted with the entry still in place.
-    return m_favorites.moveEntry(i, up ? i - 1 : i + 2);
+    return m_favoritesBranch->move(itemAt(index), up);
 }
 
 bool FeatureTreeModel::RemoveFavorite(QModelIndex index)
 {
-    const int i = isFavoritesRow(index) ? getFavoritesIndexFromModelIndex(index) : -1;
-    return i >= 0 && m_favorites.removeEntry(i);
+    return m_favoritesBranch->remove(itemAt(index));
 }
 
 int FeatureTreeModel::getFavoritesIndexFromModelIndex(QModelIndex index) const
 {
-    return index.isValid() ? getFavoritesIndexFromFeatureTreeItem(getFeatureTreeItem(index)) : -1;
+    return getFavoritesIndexFromFeatureTreeItem(itemAt(index));
 }
 
 int FeatureTreeModel::getFavoritesIndexFromFeatureTreeItem(const FeatureTreeItem *item) const
 {
-    if (!item) {
-        return -1;
-    }
-    const QStringList parts = item->getFullName().split(QLatin1Char(FeatureTreeNames::separator));
-    if (parts.size() >= 2) {
-        const bool isFavoritesName = parts.size() >= 3 && parts[0] == FeatureTreeNames::favorite;
-        const qsizetype nodeMap = isFavoritesName ? 1 : 0;
-        return m_favorites.indexOfEntry(probeOf(parts[nodeMap + 1], QLatin1Char('@') + parts[nodeMap]));
-    }
-    const auto *const nodeItem = qobject_cast<const FeatureTreeINodeItem *>(item);
-    const QSharedPointer<IParameter> parameter = nodeItem ? nodeItem->node() : nullptr;
-    if (!parameter) {
-        return -1;
-    }
-    return Core::guarded(site("FeatureTreeModel::getFavoritesIndexFromFeatureTreeItem"),
-                         QStringLiteral("Failed to identify a favorite"), -1, [&parameter] {
-                             return m_favorites.indexOfEntry(
-                                 probeOf(parameter->name(), firstSegment(parameter->fullName())));
-                         });
+    return m_favoritesBranch->indexOf(item);
 }
 
 FavoritesData &FeatureTreeModel::GetFavorites()

@@ -15,7 +15,7 @@
 
 #include <memory>
 
-class FeatureTreeFavoritesItem;
+class FavoritesBranch;
 class QTimer;
 
 /*! \brief The item model of the feature tree.
@@ -114,6 +114,8 @@ signals:
     void writeFailed(QSharedPointer<ParameterCollection::IParameter> parameter, QString message);
 
 private:
+    friend class FavoritesBranch; // its rows come and go as the model's own do
+
     struct Collection
     {
         QString nodeMapName;
@@ -121,6 +123,7 @@ private:
         bool childNodeFlag = false;
     };
 
+    FeatureTreeItem *itemAt(const QModelIndex &index) const;
     FeatureTreeItem *itemOrRoot(const QModelIndex &index) const;
     QSharedPointer<ParameterCollection::IParameterCollection> firstCollection() const;
     void scheduleChecksBelow(FeatureTreeItem *item);
@@ -134,21 +137,12 @@ private:
     void createSearchRow();
 
     bool readDraggedItems(const QMimeData &data, QList<FeatureTreeItem *> &items) const;
-    int dropItem(FeatureTreeItem *item, int row);
-
-    void removeFavoriteRows();
-    void insertFavoritePlaceholders();
-    void showEmptyFavoritesHint();
-    void replaceFavoritesPlaceholder(const Collection &source, int row,
-                                     const QSharedPointer<ParameterCollection::IParameter> &parameter);
-    void updateFavoritesToolTip();
     bool childNodeFlagOf(const ParameterCollection::IParameterCollection *collection) const;
-    bool isFavoritesRow(const QModelIndex &index) const;
 
     static FavoritesData m_favorites;
 
     std::unique_ptr<FeatureTreeItem> m_rootItem;
-    FeatureTreeFavoritesItem *m_favoritesRoot = nullptr;
+    std::unique_ptr<FavoritesBranch> m_favoritesBranch;
     FeatureTreeItem *m_searchHelpItem = nullptr;
     QList<Collection> m_collections;
     mutable bool m_dataErrorShown = false;
