@@ -22,9 +22,13 @@ bool settingsUsable()
     return QCoreApplication::instance() != nullptr;
 }
 
-// Rows that are made anew take their editors with them, and a half-typed number might be written.
-bool isBeingTyped()
+// Rows that are made anew take their editors with them, and a half-typed number might be written; a menu or a
+// list that is open would be about another row.
+bool isInUse()
 {
+    if (QApplication::activePopupWidget()) {
+        return true;
+    }
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
         const QWidget *const focus = window->focusWidget();
@@ -70,13 +74,7 @@ void FavoritesData::attach(const QString &group)
         setSettingsGroup(group);
         return;
     }
-    // What was added before any group was known has no other home, so the stored entries join it.
-    m_settingsGroup = group;
-    load(group);
-    watchStore();
-    if (hasChanges()) {
-        scheduleSaving();
-    }
+    settleIn(group, true);
 }
 
 void FavoritesData::detach(QObject *view)
@@ -89,7 +87,12 @@ void FavoritesData::detach(QObject *view)
 
 void FavoritesData::setSettingsGroup(const QString &group)
 {
-    if (group == m_settingsGroup) {
+    if (group == m_settingsGroup || !settingsUsable()) {
+        m_settingsGroup = group;
+        return;
+    }
+    if (m_settingsGroup.isEmpty()) {
+        settleIn(group, FavoritesStore(group).hasList());
         return;
     }
     saveChanges();
@@ -98,6 +101,21 @@ void FavoritesData::setSettingsGroup(const QString &group)
     if (!group.isEmpty()) {
         replaceBy(group);
         watchStore();
+    }
+}
+
+// What was added before any group was known has no other home, so the stored entries join it.
+void FavoritesData::settleIn(const QString &group, bool isToBeLoaded)
+{
+    m_settingsGroup = group;
+    if (isToBeLoaded) {
+        load(group);
+    } else {
+        setStored({}, FavoritesStore(group).place());
+    }
+    watchStore();
+    if (hasChanges()) {
+        scheduleSaving();
     }
 }
 
@@ -120,11 +138,16 @@ bool FavoritesData::load(const QString &group)
     }
     FavoritesStore store(group);
     const FavoritesList stored = store.read();
-    append(stored.entries);
-    m_viewAll = stored.viewAll;
+    const bool isImport = !isStoredIn(group);
+    append(stored.entries, isImport);
+    const bool wasViewAll = std::exchange(m_viewAll, stored.viewAll);
     const bool wasExpanded = std::exchange(m_expanded, stored.expanded);
-    if (isStoredIn(group)) {
-        setStored(stored, group);
+    if (isImport) {
+        m_viewAllChanged = m_viewAllChanged || m_viewAll != wasViewAll;
+        m_expandedChanged = m_expandedChanged || m_expanded != wasExpanded;
+        scheduleSaving();
+    } else {
+        setStored(stored, store.place());
     }
     notify();
     if (m_expanded != wasExpanded) {
@@ -133,17 +156,21 @@ bool FavoritesData::load(const QString &group)
     return true;
 }
 
-void FavoritesData::append(const QList<FavoriteEntry> &entries)
+void FavoritesData::append(const QList<FavoriteEntry> &entries, bool isImport)
 {
     QSet<std::pair<QString, QString>> known;
     for (const FavoriteEntry &entry : std::as_const(m_entries)) {
         known.insert(entry.identity());
     }
     for (const FavoriteEntry &entry : entries) {
-        if (!known.contains(entry.identity())) {
-            m_entries.append(entry);
-            notify();
+        if (known.contains(entry.identity())) {
+            continue;
         }
+        m_entries.append(entry);
+        if (isImport) {
+            recordChange(Change::Insertion, count() - 1);
+        }
+        notify();
     }
 }
 
@@ -155,7 +182,7 @@ bool FavoritesData::save(const QString &group)
     FavoritesStore store(group);
     store.lock();
     FavoritesList list{m_entries, m_viewAll, m_expanded};
-    if (m_stored && group == m_storedGroup) {
+    if (m_stored && m_storedPlace == store.place()) {
         const FavoritesList stored = store.read();
         list = store.hasList() ? mergedWith(stored) : list;
     }
@@ -164,7 +191,7 @@ bool FavoritesData::save(const QString &group)
     }
     if (isStoredIn(group)) {
         forgetChanges();
-        setStored(store.read(), group);
+        setStored(store.read(), store.place());
         store.unlock(); // before others hear of the list and perhaps save something
         adopt(list);
     }
@@ -177,10 +204,10 @@ bool FavoritesData::isStoredIn(const QString &group) const
     return m_settingsGroup.isEmpty() || group == m_settingsGroup;
 }
 
-void FavoritesData::setStored(const FavoritesList &stored, const QString &group)
+void FavoritesData::setStored(const FavoritesList &stored, const QString &place)
 {
     m_stored = std::make_unique<FavoritesList>(stored);
-    m_storedGroup = group;
+    m_storedPlace = place;
 }
 
 // Returns what is stored with the own changes done again on it.
@@ -227,23 +254,22 @@ void FavoritesData::adopt(const FavoritesList &list)
 
 void FavoritesData::takeOverStored()
 {
-    if (m_settingsGroup.isEmpty() || !settingsUsable()) {
-        return;
+    if (m_settingsGroup.isEmpty() || m_saveScheduled || !settingsUsable()) {
+        return; // saving takes over, too
     }
-    if (hasChanges()) {
-        saveChanges();
-        return;
-    }
-    if (isBeingTyped()) {
+    if (isInUse()) {
         m_watcher->schedule();
         return;
     }
     FavoritesStore store(m_settingsGroup);
     const FavoritesList stored = store.read();
-    if (store.hasList() && (!m_stored || !stored.isSameAs(*m_stored))) {
-        setStored(stored, m_settingsGroup);
-        adopt(stored);
+    if (!store.hasList() || !m_stored || stored.isSameAs(*m_stored)) {
+        return;
     }
+    // Changes that could not be saved stay; saving them here would change the folder that is watched.
+    const FavoritesList merged = mergedWith(stored);
+    setStored(stored, store.place());
+    adopt(merged);
 }
 
 void FavoritesData::watchStore()
