@@ -23,10 +23,10 @@ bool settingsUsable()
 }
 
 // Rows that are made anew take their editors with them, and a half-typed number might be written; a menu or a
-// list that is open would be about another row.
+// list that is open, or what is being dragged, would be about another row.
 bool isInUse()
 {
-    if (QApplication::activePopupWidget()) {
+    if (QApplication::activePopupWidget() || QGuiApplication::mouseButtons() != Qt::NoButton) {
         return true;
     }
     const QWidgetList windows = QApplication::topLevelWidgets();
