@@ -541,8 +541,12 @@ void TestFavoritesData::anotherGroupIsLoadedBeforeItIsSaved()
     QCOMPARE(listener.updates, 1);
     data.setSettingsGroup(other);
     QCOMPARE(listener.updates, 1);
+    // Where nothing is stored, the entries stay.
+    data.setSettingsGroup("New");
+    QCOMPARE(names(data), "xy");
     QCoreApplication::processEvents();
     data.detach(nullptr);
+    QCOMPARE(stored("1", "New").toString(), "y*Y*@C");
     // The change that was still to be saved went to the group it belonged to.
     QCOMPARE(stored("NumberOfEntries").toInt(), 3);
     QCOMPARE(stored("2").toString(), "c*c shown*@CameraDevice");

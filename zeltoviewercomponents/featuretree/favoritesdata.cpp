@@ -74,7 +74,9 @@ void FavoritesData::attach(const QString &group)
         setSettingsGroup(group);
         return;
     }
-    settleIn(group, true);
+    m_settingsGroup = group;
+    load(group);
+    settle();
 }
 
 void FavoritesData::detach(QObject *view)
@@ -91,31 +93,39 @@ void FavoritesData::setSettingsGroup(const QString &group)
         m_settingsGroup = group;
         return;
     }
-    if (m_settingsGroup.isEmpty()) {
-        settleIn(group, FavoritesStore(group).hasList());
+    saveChanges();
+    const bool isFirst = m_settingsGroup.isEmpty();
+    m_settingsGroup = group;
+    if (group.isEmpty()) {
+        forgetChanges();
         return;
     }
-    saveChanges();
-    m_settingsGroup = group;
-    forgetChanges();
-    if (!group.isEmpty()) {
+    if (!FavoritesStore(group).hasList()) {
+        bringAlong();
+    } else if (isFirst) {
+        load(group); // what was added before any group was known has no other home, so it stays
+    } else {
+        forgetChanges();
         replaceBy(group);
-        watchStore();
     }
+    settle();
 }
 
-// What was added before any group was known has no other home, so the stored entries join it.
-void FavoritesData::settleIn(const QString &group, bool isToBeLoaded)
+void FavoritesData::settle()
 {
-    m_settingsGroup = group;
-    if (isToBeLoaded) {
-        load(group);
-    } else {
-        setStored({}, FavoritesStore(group).place());
-    }
     watchStore();
     if (hasChanges()) {
         scheduleSaving();
+    }
+}
+
+// To a group that has nothing stored all entries are new.
+void FavoritesData::bringAlong()
+{
+    forgetChanges();
+    setStored({}, FavoritesStore(m_settingsGroup).place());
+    for (int i = 0; i < count(); ++i) {
+        recordChange(Change::Insertion, i);
     }
 }
 

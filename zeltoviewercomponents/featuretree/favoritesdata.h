@@ -43,8 +43,8 @@ public:
 
     /*! Returns the settings group, empty before there is one. */
     QString settingsGroup() const { return m_settingsGroup; }
-    /*! Makes \a group the settings group. What is stored there joins what was added before there was any
-     * group, and replaces what belongs to another one, to which its changes are saved. */
+    /*! Makes \a group the settings group. What is stored there replaces what belongs to another group, and
+     * joins what was added before there was any. The entries stay where nothing is stored. */
     void setSettingsGroup(const QString &group);
 
     /*! Appends the entries stored in \a group and takes over its flags; of another group than the settings
@@ -108,7 +108,8 @@ private:
     };
 
     void notify();
-    void settleIn(const QString &group, bool isToBeLoaded);
+    void settle();
+    void bringAlong();
     void append(const QList<FavoriteEntry> &entries, bool isImport);
     void replaceBy(const QString &group);
     void recordChange(Change::Kind kind, int index);
