@@ -18,8 +18,8 @@ namespace {
 
 // Names and numbers are those of the GigE Vision control protocol.
 constexpr quint16 port = 3956;
-constexpr quint16 readRegisterCommand = 0x0080;
 constexpr quint16 readMemoryCommand = 0x0084;
+constexpr quint16 readMemoryAcknowledge = 0x0085;
 constexpr quint16 pendingAcknowledge = 0x0089;
 constexpr quint16 requestOfAnAnswer = 0x4201; // key value and flag
 constexpr qsizetype headerSize = 8;
@@ -115,7 +115,7 @@ QByteArray GigeLink::readBlock(quint32 address, quint32 size, GError **error)
     QByteArray request;
     append(request, address);
     append(request, size); // of which the upper half is reserved
-    const QByteArray answer = exchange(readMemoryCommand, request, error);
+    const QByteArray answer = exchange(request, error);
     if (answer.isEmpty()) {
         return {};
     }
@@ -126,15 +126,14 @@ QByteArray GigeLink::readBlock(quint32 address, quint32 size, GError **error)
     return answer.mid(sizeof(address));
 }
 
+// As memory: there are cameras to which whoever asks for the register of their control holds it.
 bool GigeLink::readRegister(quint32 address, quint32 *value, GError **error)
 {
-    QByteArray request;
-    append(request, address);
-    const QByteArray answer = exchange(readRegisterCommand, request, error);
-    if (answer.size() != sizeof(*value)) {
+    const QByteArray block = readBlock(address, sizeof(*value), error);
+    if (block.isEmpty()) {
         return false;
     }
-    *value = numberAt<quint32>(answer, 0);
+    *value = numberAt<quint32>(block, 0);
     return true;
 }
 
@@ -161,19 +160,19 @@ GigeLink::Control GigeLink::control()
     return control;
 }
 
-QByteArray GigeLink::exchange(quint16 command, const QByteArray &payload, GError **error)
+QByteArray GigeLink::exchange(const QByteArray &payload, GError **error)
 {
     m_requestId = m_requestId == 0xffff ? 1 : m_requestId + 1; // 0 is no id
     QByteArray request;
     append(request, requestOfAnAnswer);
-    append(request, command);
+    append(request, readMemoryCommand);
     append(request, quint16(payload.size()));
     append(request, m_requestId);
     request.append(payload);
     for (int attempt = 0; attempt < m_attempts; ++attempt) {
         m_socket.writeDatagram(request, m_camera, port);
         QByteArray answer;
-        if (receive(command + 1, &answer, error)) {
+        if (receive(&answer, error)) {
             return answer;
         }
     }
@@ -182,9 +181,10 @@ QByteArray GigeLink::exchange(quint16 command, const QByteArray &payload, GError
 }
 
 // Returns whether the answer came; it is empty and told by error when the camera refused.
-bool GigeLink::receive(quint16 acknowledge, QByteArray *answer, GError **error)
+bool GigeLink::receive(QByteArray *answer, GError **error)
 {
     QDeadlineTimer deadline(answerTime);
+    const QDeadlineTimer end(longestPause); // however often the camera asks for patience
     while (m_socket.hasPendingDatagrams() || m_socket.waitForReadyRead(int(deadline.remainingTime()))) {
         const QNetworkDatagram datagram = m_socket.receiveDatagram();
         const QByteArray bytes = datagram.data();
@@ -195,14 +195,14 @@ bool GigeLink::receive(quint16 acknowledge, QByteArray *answer, GError **error)
         const auto kind = numberAt<quint16>(bytes, 2);
         if (kind == pendingAcknowledge && bytes.size() >= headerSize + 4) {
             deadline.setRemainingTime(
-                std::min<int>(numberAt<quint16>(bytes, headerSize + 2) + answerTime, longestPause));
+                std::min<qint64>(numberAt<quint16>(bytes, headerSize + 2) + answerTime, end.remainingTime()));
             continue;
         }
         if (const auto status = numberAt<quint16>(bytes, 0)) {
             report(error, errorOf(status), "refused by the camera");
             return true;
         }
-        if (kind == acknowledge && bytes.size() > headerSize) {
+        if (kind == readMemoryAcknowledge && bytes.size() > headerSize) {
             *answer = bytes.mid(headerSize);
             return true;
         }

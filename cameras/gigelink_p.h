@@ -47,8 +47,8 @@ public:
 private:
     QByteArray readBlock(quint32 address, quint32 size, GError **error);
     bool readRegister(quint32 address, quint32 *value, GError **error);
-    QByteArray exchange(quint16 command, const QByteArray &payload, GError **error);
-    bool receive(quint16 acknowledge, QByteArray *answer, GError **error);
+    QByteArray exchange(const QByteArray &payload, GError **error);
+    bool receive(QByteArray *answer, GError **error);
 
     QHostAddress m_camera;
     int m_attempts;

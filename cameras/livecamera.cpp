@@ -11,6 +11,8 @@
 #include <platform/core/exception.h>
 
 #include <QList>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QNetworkInterface>
 
 #include <algorithm>
@@ -58,7 +60,9 @@ private:
 // Giving a device back would write the camera's control register, which is another program's by now.
 void leaveAlone(ArvDevice *device)
 {
+    static QBasicMutex mutex; // each camera has its own thread
     static auto *const devices = new QList<ArvDevice *>;
+    const QMutexLocker locker(&mutex);
     devices->append(ARV_DEVICE(g_object_ref(device)));
 }
 

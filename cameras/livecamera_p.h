@@ -46,6 +46,8 @@ public:
     /*! Returns the description that the camera handed out. */
     QByteArray xml() const;
 
+    /*! Returns whether what open() or its like returned last was connected with control. */
+    bool isOpenedWithControl() const { return m_controlled != nullptr; }
     /*! Returns whether access() is worth being asked again and again. */
     bool isWatchable() const;
     /*! Asks the camera who controls it; \a isDoubtful says that there is a reason to doubt that we do. */

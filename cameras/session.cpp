@@ -317,7 +317,6 @@ void Session::watchControl()
     Lock lock(m_mutex);
     const bool isDoubtful = std::exchange(m_isControlDoubtful, false);
     const bool isWanted = std::exchange(m_isControlWanted, false) && m_access.isReadOnly;
-    const bool wasReadOnly = m_access.isReadOnly;
     lock.unlock();
     if (isWanted) {
         tryToTakeControl();
@@ -328,7 +327,7 @@ void Session::watchControl()
         markLost(silence());
         return;
     }
-    if (access.isReadOnly && !wasReadOnly) {
+    if (access.isReadOnly && m_live->isOpenedWithControl()) {
         useDevice(m_live->openReadOnly());
     }
     changeAccess(access);

@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QUdpSocket>
 
 using namespace ParameterCollection;
 using namespace Cameras;
@@ -28,6 +29,7 @@ private slots:
     void lossIsToldOnceAndReopeningWorks();
     void writeToALostCamera();
     void isReadOnlyInOtherHands();
+    void seesThatTheOtherProgramDied();
     void controlLostWhileOpen_data();
     void controlLostWhileOpen();
 
@@ -207,6 +209,20 @@ void TestLiveCamera::isReadOnlyInOtherHands()
     again->setValueFromString("512");
     QCOMPARE(again->parameterData()->valueString, "512");
     QVERIFY(lost.isEmpty() && available.isEmpty());
+}
+
+void TestLiveCamera::seesThatTheOtherProgramDied()
+{
+    const QString camera = id();
+    // Takes the control as the standard has it, and is not heard of again.
+    QUdpSocket other;
+    const QByteArray takeControl = QByteArray::fromHex("42010082000800010000 0a00 00000002");
+    other.writeDatagram(takeControl, QHostAddress(QHostAddress::LocalHost), 3956);
+    QTRY_COMPARE(Camera::status(camera).state, CameraStatus::State::ReadOnly);
+    const auto open = Camera::openLive(camera);
+    QVERIFY(open->isReadOnly());
+    QSignalSpy freed(open.get(), SIGNAL(controlAvailable()));
+    QVERIFY(freed.wait(8000));
 }
 
 void TestLiveCamera::controlLostWhileOpen_data()

@@ -142,7 +142,7 @@ private slots:
     void damagedSettings();
     void hugeSettingsLoadFast();
     void randomSettings();
-    void attachesOnce();
+    void firstGroupIsJoined();
     void anotherGroupIsLoadedBeforeItIsSaved();
     void detachSavesAndDisconnects();
     void destructionSaves();
@@ -496,18 +496,28 @@ void TestFavoritesData::randomSettings()
     }
 }
 
-void TestFavoritesData::attachesOnce()
+void TestFavoritesData::firstGroupIsJoined()
 {
-    store("NumberOfEntries", 1);
-    store("0", "a*A*@C");
-    FavoritesData data;
-    fill(data, "x");
-    data.attach(group);
-    data.attach("Other");
-    QCOMPARE(data.settingsGroup(), group);
-    QCOMPARE(names(data), "xa");
-    QCoreApplication::processEvents();
-    QCOMPARE(stored("NumberOfEntries").toInt(), 2);
+    store("NumberOfEntries", 1, "Other");
+    store("0", "b*B*@C", "Other");
+    for (const bool isAttached : {true, false}) {
+        store("NumberOfEntries", 1);
+        store("0", "a*A*@C");
+        FavoritesData data;
+        fill(data, "x");
+        isAttached ? data.attach(group) : data.setSettingsGroup(group);
+        QCOMPARE(data.settingsGroup(), group);
+        QCOMPARE(names(data), "xa");
+        QCoreApplication::processEvents();
+        QCOMPARE(stored("NumberOfEntries").toInt(), 2);
+        // Another group's entries are additions as any other.
+        QVERIFY(data.load("Other"));
+        data.detach(nullptr);
+        QCOMPARE(stored("2").toString(), "b*B*@C");
+        data.attach(group);
+        data.attach("Other");
+        QCOMPARE(data.settingsGroup(), group);
+    }
 }
 
 void TestFavoritesData::anotherGroupIsLoadedBeforeItIsSaved()
@@ -531,8 +541,12 @@ void TestFavoritesData::anotherGroupIsLoadedBeforeItIsSaved()
     QCOMPARE(listener.updates, 1);
     data.setSettingsGroup(other);
     QCOMPARE(listener.updates, 1);
+    // Where nothing is stored, the entries stay.
+    data.setSettingsGroup("New");
+    QCOMPARE(names(data), "xy");
     QCoreApplication::processEvents();
     data.detach(nullptr);
+    QCOMPARE(stored("1", "New").toString(), "y*Y*@C");
     // The change that was still to be saved went to the group it belonged to.
     QCOMPARE(stored("NumberOfEntries").toInt(), 3);
     QCOMPARE(stored("2").toString(), "c*c shown*@CameraDevice");

@@ -4,6 +4,7 @@
 #include <support/table.h>
 #include <zeltoviewercomponents/featuretree/featuretreehighlighter.h>
 
+#include <QFile>
 #include <QSettings>
 #include <QTest>
 
@@ -48,6 +49,13 @@ void TestFeatureTreeHighlighter::color()
     FeatureTreeHighlighter highlighter;
     QCOMPARE(highlighter.color().name(), expected);
     QCOMPARE(QSettings().value(key).toString(), expected);
+    // What is there is not written again.
+    QSettings().sync();
+    QFile file(QSettings().fileName());
+    QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Append) && file.write("; by hand\n") > 0);
+    const FeatureTreeHighlighter other;
+    QSettings().sync();
+    QVERIFY(file.seek(0) && file.readAll().endsWith("; by hand\n"));
     highlighter.setColor(Qt::cyan);
     QCOMPARE(highlighter.color(), QColor(Qt::cyan));
     QCOMPARE(QSettings().value(key).toString(), expected);

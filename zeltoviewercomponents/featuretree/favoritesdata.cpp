@@ -22,9 +22,13 @@ bool settingsUsable()
     return QCoreApplication::instance() != nullptr;
 }
 
-// Rows that are made anew take their editors with them, and a half-typed number might be written.
-bool isBeingTyped()
+// Rows that are made anew take their editors with them, and a half-typed number might be written; a menu or a
+// list that is open, or what is being dragged, would be about another row.
+bool isInUse()
 {
+    if (QApplication::activePopupWidget() || QGuiApplication::mouseButtons() != Qt::NoButton) {
+        return true;
+    }
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
         const QWidget *const focus = window->focusWidget();
@@ -70,13 +74,9 @@ void FavoritesData::attach(const QString &group)
         setSettingsGroup(group);
         return;
     }
-    // What was added before any group was known has no other home, so the stored entries join it.
     m_settingsGroup = group;
     load(group);
-    watchStore();
-    if (hasChanges()) {
-        scheduleSaving();
-    }
+    settle();
 }
 
 void FavoritesData::detach(QObject *view)
@@ -89,15 +89,43 @@ void FavoritesData::detach(QObject *view)
 
 void FavoritesData::setSettingsGroup(const QString &group)
 {
-    if (group == m_settingsGroup) {
+    if (group == m_settingsGroup || !settingsUsable()) {
+        m_settingsGroup = group;
         return;
     }
     saveChanges();
+    const bool isFirst = m_settingsGroup.isEmpty();
     m_settingsGroup = group;
-    forgetChanges();
-    if (!group.isEmpty()) {
+    if (group.isEmpty()) {
+        forgetChanges();
+        return;
+    }
+    if (!FavoritesStore(group).hasList()) {
+        bringAlong();
+    } else if (isFirst) {
+        load(group); // what was added before any group was known has no other home, so it stays
+    } else {
+        forgetChanges();
         replaceBy(group);
-        watchStore();
+    }
+    settle();
+}
+
+void FavoritesData::settle()
+{
+    watchStore();
+    if (hasChanges()) {
+        scheduleSaving();
+    }
+}
+
+// To a group that has nothing stored all entries are new.
+void FavoritesData::bringAlong()
+{
+    forgetChanges();
+    setStored({}, FavoritesStore(m_settingsGroup).place());
+    for (int i = 0; i < count(); ++i) {
+        recordChange(Change::Insertion, i);
     }
 }
 
@@ -120,11 +148,16 @@ bool FavoritesData::load(const QString &group)
     }
     FavoritesStore store(group);
     const FavoritesList stored = store.read();
-    append(stored.entries);
-    m_viewAll = stored.viewAll;
+    const bool isImport = !isStoredIn(group);
+    append(stored.entries, isImport);
+    const bool wasViewAll = std::exchange(m_viewAll, stored.viewAll);
     const bool wasExpanded = std::exchange(m_expanded, stored.expanded);
-    if (isStoredIn(group)) {
-        setStored(stored, group);
+    if (isImport) {
+        m_viewAllChanged = m_viewAllChanged || m_viewAll != wasViewAll;
+        m_expandedChanged = m_expandedChanged || m_expanded != wasExpanded;
+        scheduleSaving();
+    } else {
+        setStored(stored, store.place());
     }
     notify();
     if (m_expanded != wasExpanded) {
@@ -133,17 +166,21 @@ bool FavoritesData::load(const QString &group)
     return true;
 }
 
-void FavoritesData::append(const QList<FavoriteEntry> &entries)
+void FavoritesData::append(const QList<FavoriteEntry> &entries, bool isImport)
 {
     QSet<std::pair<QString, QString>> known;
     for (const FavoriteEntry &entry : std::as_const(m_entries)) {
         known.insert(entry.identity());
     }
     for (const FavoriteEntry &entry : entries) {
-        if (!known.contains(entry.identity())) {
-            m_entries.append(entry);
-            notify();
+        if (known.contains(entry.identity())) {
+            continue;
         }
+        m_entries.append(entry);
+        if (isImport) {
+            recordChange(Change::Insertion, count() - 1);
+        }
+        notify();
     }
 }
 
@@ -155,7 +192,7 @@ bool FavoritesData::save(const QString &group)
     FavoritesStore store(group);
     store.lock();
     FavoritesList list{m_entries, m_viewAll, m_expanded};
-    if (m_stored && group == m_storedGroup) {
+    if (m_stored && m_storedPlace == store.place()) {
         const FavoritesList stored = store.read();
         list = store.hasList() ? mergedWith(stored) : list;
     }
@@ -164,7 +201,7 @@ bool FavoritesData::save(const QString &group)
     }
     if (isStoredIn(group)) {
         forgetChanges();
-        setStored(store.read(), group);
+        setStored(store.read(), store.place());
         store.unlock(); // before others hear of the list and perhaps save something
         adopt(list);
     }
@@ -177,10 +214,10 @@ bool FavoritesData::isStoredIn(const QString &group) const
     return m_settingsGroup.isEmpty() || group == m_settingsGroup;
 }
 
-void FavoritesData::setStored(const FavoritesList &stored, const QString &group)
+void FavoritesData::setStored(const FavoritesList &stored, const QString &place)
 {
     m_stored = std::make_unique<FavoritesList>(stored);
-    m_storedGroup = group;
+    m_storedPlace = place;
 }
 
 // Returns what is stored with the own changes done again on it.
@@ -227,23 +264,22 @@ void FavoritesData::adopt(const FavoritesList &list)
 
 void FavoritesData::takeOverStored()
 {
-    if (m_settingsGroup.isEmpty() || !settingsUsable()) {
-        return;
+    if (m_settingsGroup.isEmpty() || m_saveScheduled || !settingsUsable()) {
+        return; // saving takes over, too
     }
-    if (hasChanges()) {
-        saveChanges();
-        return;
-    }
-    if (isBeingTyped()) {
+    if (isInUse()) {
         m_watcher->schedule();
         return;
     }
     FavoritesStore store(m_settingsGroup);
     const FavoritesList stored = store.read();
-    if (store.hasList() && (!m_stored || !stored.isSameAs(*m_stored))) {
-        setStored(stored, m_settingsGroup);
-        adopt(stored);
+    if (!store.hasList() || !m_stored || stored.isSameAs(*m_stored)) {
+        return;
     }
+    // Changes that could not be saved stay; saving them here would change the folder that is watched.
+    const FavoritesList merged = mergedWith(stored);
+    setStored(stored, store.place());
+    adopt(merged);
 }
 
 void FavoritesData::watchStore()

@@ -43,11 +43,12 @@ public:
 
     /*! Returns the settings group, empty before there is one. */
     QString settingsGroup() const { return m_settingsGroup; }
-    /*! Makes \a group the settings group. Another one than before is loaded, replacing the entries; what had
-     * changed before is saved to the previous group. */
+    /*! Makes \a group the settings group. What is stored there replaces what belongs to another group, and
+     * joins what was added before there was any. The entries stay where nothing is stored. */
     void setSettingsGroup(const QString &group);
 
-    /*! Appends the entries stored in \a group and takes over its flags. Returns false for an empty group. */
+    /*! Appends the entries stored in \a group and takes over its flags; of another group than the settings
+     * group, this is a change. Returns false for an empty group. */
     bool load(const QString &group);
     /*! Stores everything in \a group, after merging into it what others have stored there since it was loaded
      * or saved. Returns false for an empty group and when the store cannot be written. */
@@ -107,7 +108,9 @@ private:
     };
 
     void notify();
-    void append(const QList<FavoriteEntry> &entries);
+    void settle();
+    void bringAlong();
+    void append(const QList<FavoriteEntry> &entries, bool isImport);
     void replaceBy(const QString &group);
     void recordChange(Change::Kind kind, int index);
     void scheduleSaving();
@@ -115,7 +118,7 @@ private:
     void forgetChanges();
     void watchStore();
     bool isStoredIn(const QString &group) const;
-    void setStored(const FavoritesList &stored, const QString &group);
+    void setStored(const FavoritesList &stored, const QString &place);
     FavoritesList mergedWith(const FavoritesList &stored) const;
     static void repeat(const Change &change, QList<FavoriteEntry> &entries);
     void adopt(const FavoritesList &list);
@@ -133,6 +136,6 @@ private:
     bool m_viewAllChanged = false;
     bool m_expandedChanged = false;
     std::unique_ptr<FavoritesList> m_stored; // as last seen, none before
-    QString m_storedGroup;
+    QString m_storedPlace;
     QPointer<SettingsWatcher> m_watcher;
 };

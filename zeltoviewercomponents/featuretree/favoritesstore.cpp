@@ -20,7 +20,10 @@ constexpr QLatin1Char separator('*');
 constexpr int formatVersion = 3;
 // Far beyond any feature; what is longer is damage, and would stall whoever has to paint it.
 constexpr int maximumStoredLength = 65536;
-constexpr int lockTimeout = 2000; // ms
+// The user waits meanwhile. Who has the lock needs it for milliseconds; one that is much older was left
+// behind, which is only known at once of the programs of this computer.
+constexpr int lockTimeout = 500; // ms
+constexpr int lockAge = 5000;
 constexpr int lockInterval = 5;
 
 QString versionKey()
@@ -106,6 +109,11 @@ QString FavoritesStore::fileName()
     return fileOf(QSettings());
 }
 
+QString FavoritesStore::place() const
+{
+    return m_settings.fileName() + QLatin1Char('\n') + m_settings.group();
+}
+
 void FavoritesStore::lock()
 {
     const QString file = fileOf(m_settings);
@@ -113,6 +121,7 @@ void FavoritesStore::lock()
         return;
     }
     m_lock = std::make_unique<QLockFile>(file + QStringLiteral(".favorites.lock"));
+    m_lock->setStaleLockTime(lockAge);
     // Asked for often: waiting in the lock itself sleeps so long in between that others slip in again and
     // again.
     const QDeadlineTimer deadline(lockTimeout);

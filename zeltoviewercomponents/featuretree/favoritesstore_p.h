@@ -39,6 +39,9 @@ public:
     /*! Returns the file of the application's settings, empty when they are kept elsewhere. */
     static QString fileName();
 
+    /*! Returns what tells this store from others: settings may move to another file. */
+    QString place() const;
+
     /*! Keeps other programs from writing until unlock(), or while the object lives. Goes on without after a
      * while, since a list that cannot be saved is worse than one that is mixed. */
     void lock();

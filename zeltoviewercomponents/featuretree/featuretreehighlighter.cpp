@@ -14,7 +14,9 @@ FeatureTreeHighlighter::FeatureTreeHighlighter()
     if (!m_color.isValid()) {
         m_color.setNamedColor(defaultColor);
     }
-    settings.setValue(key, m_color.name());
+    if (settings.value(key) != m_color.name()) { // else the settings would be written each time
+        settings.setValue(key, m_color.name());
+    }
 }
 
 QString FeatureTreeHighlighter::text() const
