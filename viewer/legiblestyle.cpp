@@ -10,6 +10,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionSpinBox>
+#include <QStyleOptionToolButton>
 
 namespace {
 
@@ -61,6 +62,17 @@ void LegibleStyle::polish(QPalette &palette)
 {
     QProxyStyle::polish(palette);
     makeLegible(palette);
+}
+
+QSize LegibleStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                                     const QWidget *widget) const
+{
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto *const button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
+    if (type == CT_ToolButton && button && button->features.testFlag(QStyleOptionToolButton::HasMenu)) {
+        result.rwidth() += proxy()->pixelMetric(PM_MenuButtonIndicator, option, widget);
+    }
+    return result;
 }
 
 void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

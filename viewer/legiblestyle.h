@@ -21,6 +21,9 @@ public:
     using QProxyStyle::polish;
     void polish(QPalette &palette) override;
 
+    /*! Leaves a tool button room for the arrow that says it has a menu. */
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget = nullptr) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,

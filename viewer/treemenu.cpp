@@ -158,7 +158,9 @@ void TreeMenu::collapseAll()
 
 void TreeMenu::setExpanded(bool expanded)
 {
-    m_tree->treeView()->setExpandedRows([expanded](const QModelIndex &) { return expanded; });
+    FeatureTreeView *const view = m_tree->treeView();
+    view->setExpandedRows([expanded](const QModelIndex &) { return expanded; });
+    view->scrollTo(view->currentIndex());
     if (m_tree->searchText().isEmpty()) { // a search has its own expansion
         m_tree->getFeatureExtension()->GetFavorites().setExpanded(expanded);
     }

@@ -28,6 +28,8 @@ private slots:
     void typingSurvivesRefreshes();
     void entryOfTheValueBeforeARefresh_data() { kinds(); }
     void entryOfTheValueBeforeARefresh();
+    void selectedTextIsReplaced_data() { kinds(); }
+    void selectedTextIsReplaced();
     void deletedTextIsNoValue_data() { kinds(); }
     void deletedTextIsNoValue();
     void refusalShowsTheTruth_data() { kinds(); }
@@ -146,6 +148,22 @@ void TestNumberEditors::entryOfTheValueBeforeARefresh()
     QCOMPARE(m_line->selectedText(), "0");
     m_bench->press(Qt::Key_Return);
     QCOMPARE(writes(), QStringList("10"));
+}
+
+void TestNumberEditors::selectedTextIsReplaced()
+{
+    createEditor();
+    m_editor->setFocus();
+    for (const int selected : {2, 1}) {
+        setCamera(10);
+        m_line->setSelection(0, selected);
+        setCamera(987); // half of which must not go into what is typed
+        QCOMPARE(m_line->selectedText(), selected == 2 ? "987" : "");
+    }
+    m_line->selectAll();
+    m_bench->press(Qt::Key_Up);
+    QTest::keyClicks(QApplication::focusWidget(), "5");
+    QCOMPARE(m_line->text(), "5");
 }
 
 void TestNumberEditors::deletedTextIsNoValue()

@@ -549,7 +549,7 @@ Was die Datei enthält, geht verloren.</translation>
     <name>TreeMenu</name>
     <message>
         <source>&amp;Expand All</source>
-        <translation>Alles &amp;aufklappen</translation>
+        <translation>Alles a&amp;ufklappen</translation>
     </message>
     <message>
         <source>Collapse &amp;All</source>

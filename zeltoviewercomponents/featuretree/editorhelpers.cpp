@@ -261,6 +261,25 @@ void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
     } while (lineEdit.isUndoAvailable() && lineEdit.text() != text);
 }
 
+SelectedText::SelectedText(QLineEdit *lineEdit)
+    : m_lineEdit(lineEdit)
+    , m_text(lineEdit->text())
+    , m_selected(lineEdit->selectedText())
+{
+}
+
+SelectedText::~SelectedText()
+{
+    if (m_selected.isEmpty() || m_lineEdit->text() == m_text) {
+        return;
+    }
+    if (m_selected == m_text) {
+        m_lineEdit->selectAll();
+    } else {
+        m_lineEdit->deselect();
+    }
+}
+
 TypedText::TypedText(QLineEdit *lineEdit)
     : m_lineEdit(lineEdit)
     , m_text(lineEdit->text())

@@ -118,6 +118,22 @@ bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);
 void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press);
 
+/*! \brief Keeps a text selected as a whole while another one takes its place: what is typed next replaces it.
+ * A part of a text is no part of the next one, and is selected no longer. */
+class SelectedText
+{
+public:
+    explicit SelectedText(QLineEdit *lineEdit);
+    ~SelectedText();
+    SelectedText(const SelectedText &) = delete;
+    SelectedText &operator=(const SelectedText &) = delete;
+
+private:
+    QLineEdit *m_lineEdit;
+    QString m_text;
+    QString m_selected;
+};
+
 /*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes. */
 class TypedText
 {

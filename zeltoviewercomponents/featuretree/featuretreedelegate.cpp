@@ -57,21 +57,8 @@ int alignmentIn(const QStyleOptionViewItem &option)
     return static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute);
 }
 
-// Returns the brush that a row asks for. That of rows which cannot be changed may be of colours that the view
-// had before.
-QBrush foregroundOf(const QModelIndex &index, const QPalette &palette)
+QColor nameColor(const QStyleOptionViewItem &option)
 {
-    const auto brush = index.data(Qt::ForegroundRole).value<QBrush>();
-    return brush == FeatureTreeItem::disabledTextBrush() ? palette.brush(QPalette::Disabled, QPalette::Text)
-                                                         : brush;
-}
-
-QColor nameColor(const QStyleOptionViewItem &option, const QModelIndex &index)
-{
-    const QVariant foreground = index.data(Qt::ForegroundRole);
-    if (foreground.canConvert<QBrush>() && foreground.isValid()) {
-        return foregroundOf(index, option.palette).color();
-    }
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     return option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
 }
@@ -366,6 +353,16 @@ QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option, const QM
     return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, height});
 }
 
+// The brush of rows that cannot be changed may be of colours that the view had before.
+void FeatureTreeDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    const QBrush locked = option->palette.brush(QPalette::Disabled, QPalette::Text);
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.data(Qt::ForegroundRole).value<QBrush>() == FeatureTreeItem::disabledTextBrush()) {
+        option->palette.setBrush(QPalette::Text, locked);
+    }
+}
+
 void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {
@@ -374,23 +371,10 @@ void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     const bool isCategory =
         index.model() && index.model()->data(index, FeatureTreeItem::GenicamCategory).toBool();
     if (index.column() != FeatureTreeColumns::name || !m_highlighter || isCategory) {
-        paintPlain(painter, opt, index);
+        QStyledItemDelegate::paint(painter, opt, index);
         return;
     }
     paintName(painter, opt, index);
-}
-
-// As the base paints it, but for the foreground.
-void FeatureTreeDelegate::paintPlain(QPainter *painter, const QStyleOptionViewItem &option,
-                                     const QModelIndex &index) const
-{
-    QStyleOptionViewItem opt = option;
-    initStyleOption(&opt, index);
-    if (index.data(Qt::ForegroundRole).isValid()) {
-        opt.palette.setBrush(QPalette::Text, foregroundOf(index, option.palette));
-    }
-    const QStyle *const style = opt.widget ? opt.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, opt.widget);
 }
 
 void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
@@ -414,7 +398,7 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
 
     // The style draws the item with its own copy of the text, below ours: fully transparent, so that one is
     // seen.
-    const QColor color = nameColor(opt, index);
+    const QColor color = nameColor(opt);
     for (const auto role : {QPalette::Text, QPalette::HighlightedText}) {
         opt.palette.setColor(QPalette::All, role, Qt::transparent);
     }
@@ -444,7 +428,7 @@ void FeatureTreeDelegate::paintStyledName(QPainter *painter, QStyleOptionViewIte
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
     const QRect textRect = style.subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget)
                                .adjusted(margin, 0, -margin, 0); // where the style's text begins
-    const QColor color = nameColor(option, index);
+    const QColor color = nameColor(option);
     const QString markup = isSpecial && Qt::mightBeRichText(option.text) ? option.text : QString();
     option.text = !markup.isEmpty() ? QString()
         : isSpecial                 ? option.text

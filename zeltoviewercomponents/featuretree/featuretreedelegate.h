@@ -57,6 +57,7 @@ public slots:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
     // Each returns null for an empty or excluded parameter.
     QWidget *createIntEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -91,7 +92,6 @@ private:
                          const QString &text) const;
     void paintOnMarks(QPainter *painter, const QRect &target, int alignment, const QString &text,
                       const QRegion &marked) const;
-    void paintPlain(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintName(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintStyledName(QPainter *painter, QStyleOptionViewItem option, const QModelIndex &index,
                          const QStyle &style) const;

@@ -65,6 +65,9 @@ void InputHint::setProblem(const QString &problem)
         return;
     }
     const bool wasMarked = !m_problem.isEmpty();
+    if (wasMarked && QToolTip::text() == m_problem) {
+        QToolTip::hideText(); // keys alone leave it there
+    }
     m_problem = problem;
     if (!problem.isEmpty()) {
         endTelling(); // what became of the entry before is out of date

@@ -114,6 +114,7 @@ void IntEditor::showText(const QString &text)
     m_isRefused = false;
     m_shownText = text;
     if (this->text() != text) {
+        const EditorHelpers::SelectedText selected(this);
         setText(text);
     }
     setModified(false);

@@ -98,6 +98,12 @@ double ZeltoQtDoubleSpinBox::maximum() const
     return std::min(QDoubleSpinBox::maximum(), Doubles::max());
 }
 
+void ZeltoQtDoubleSpinBox::setValue(double value)
+{
+    const EditorHelpers::SelectedText selected(lineEdit());
+    QDoubleSpinBox::setValue(value);
+}
+
 void ZeltoQtDoubleSpinBox::showValue(double value)
 {
     makeRoomFor(value);
@@ -360,6 +366,7 @@ void ZeltoQtDoubleSpinBox::showText()
     }
     const QString shown = shownText(value());
     if (lineEdit()->text() != shown) {
+        const EditorHelpers::SelectedText selected(lineEdit());
         const QSignalBlocker blocker(lineEdit());
         lineEdit()->setText(shown);
     }

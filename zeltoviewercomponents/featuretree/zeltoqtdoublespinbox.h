@@ -44,6 +44,8 @@ public:
     double minimum() const;
     /*! Returns the highest value. */
     double maximum() const;
+    /*! Sets the value to \a value, limited to the range. */
+    void setValue(double value);
     /*! Shows \a value, limited to the range, with all its digits kept when feature values are shown. */
     void showValue(double value);
 

@@ -26,6 +26,12 @@ void ZeltoQtSpinBox::setPageStep(int pageStep)
     m_pageStep = pageStep;
 }
 
+void ZeltoQtSpinBox::setValue(int value)
+{
+    const EditorHelpers::SelectedText selected(lineEdit());
+    QSpinBox::setValue(value);
+}
+
 void ZeltoQtSpinBox::stepBy(int steps)
 {
     if (m_pageKeyPressed) {
@@ -59,6 +65,7 @@ void ZeltoQtSpinBox::setSubstitute(const QString &text)
     m_substitute = text;
     const QString shown = textFromValue(value());
     if (lineEdit()->text() != shown) {
+        const EditorHelpers::SelectedText selected(lineEdit());
         lineEdit()->setText(shown);
     }
 }

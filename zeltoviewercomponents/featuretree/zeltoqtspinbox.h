@@ -23,6 +23,8 @@ public:
 
     /*! Sets by how much Page Up and Page Down change the value, in single steps. */
     void setPageStep(int pageStep);
+    /*! Sets the value to \a value, limited to the range. */
+    void setValue(int value);
 
     /*! Changes the value by \a steps single steps, or by the page step after a page key, and ends the
      * editing. */

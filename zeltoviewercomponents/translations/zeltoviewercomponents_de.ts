@@ -40,15 +40,15 @@
     </message>
     <message>
         <source>%1 is the maximum</source>
-        <translation>%1 ist der größte Wert</translation>
+        <translation>%1 ist das Maximum</translation>
     </message>
     <message>
         <source>%1 is the minimum</source>
-        <translation>%1 ist der kleinste Wert</translation>
+        <translation>%1 ist das Minimum</translation>
     </message>
     <message>
         <source>%1 is the next value below, in steps of %2</source>
-        <translation>%1 ist der nächste Wert darunter, in Schritten von %2</translation>
+        <translation>%1 ist der nächstliegende Wert darunter, in Schritten von %2</translation>
     </message>
 </context>
 <context>
@@ -448,7 +448,7 @@
     </message>
     <message>
         <source>%1 is the nearest value (increment: %2)</source>
-        <translation>%1 ist der nächste Wert (Schrittweite: %2)</translation>
+        <translation>%1 ist der nächstliegende Wert (Schrittweite: %2)</translation>
     </message>
 </context>
 <context>
