@@ -430,7 +430,7 @@ void TestFloatEditors::steps()
         parameter->update([value](auto &data) { data.value = value; });
         parameter->writes.clear();
         m_bench->present();
-        editor->setFocus();
+        QTest::mouseClick(EditorBench::lineOf(editor), Qt::LeftButton); // else the wheel is the view's
         EditorBench::lineOf(editor)->selectAll();
         for (const QChar key : keys) {
             QTest::qWait(qobject_cast<FloatSliderEditor *>(editor) ? 50 : 0);
@@ -471,7 +471,7 @@ void TestFloatEditors::swallowedSteps()
     QWidget *const editor =
         hasSlider ? static_cast<QWidget *>(sliderEditor(parameter)) : floatEditor(parameter);
     m_bench->present();
-    editor->setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(EditorBench::lineOf(editor), Qt::LeftButton);
     QStringList expected = values.split(QLatin1Char(' '));
     for (const QChar key : keys) {
         pressStep(editor, key);
