@@ -213,8 +213,13 @@ QString ZeltoQtDoubleSpinBox::shownText(double value) const
 
 double ZeltoQtDoubleSpinBox::valueFromText(const QString &text) const
 {
-    // What is shown may be rounded; the value is not.
-    return isAsShown(text) ? value() : NumberText(text, locale()).number().value_or(value());
+    const auto number = NumberText(text, locale()).number();
+    if (!number || isAsShown(text)) {
+        return value(); // what is shown may be rounded; the value is not
+    }
+    return m_notation == GenApi::UndefinedDisplayNotation
+        ? QString::number(*number, 'f', decimals()).toDouble() // as setValue() does
+        : *number;
 }
 
 bool ZeltoQtDoubleSpinBox::isAsShown(const QString &text) const
