@@ -253,6 +253,7 @@ void TestFloatEditors::typedTexts_data()
     row("comma in English", english, "3,5", "", "use . as the decimal sign");
     row("groups in English", english, "1,500", "", "nothing may stand between thousands");
     row("unit", english, "12.5 ms", "", "leave out the unit");
+    row("sign as a unit", english, "-5 %", "", "leave out the unit");
     row("half an exponent", english, "1e", "", "the exponent is missing");
     row("too large", english, "1e999", "", "it is too large");
     row("infinity", english, "inf", "", "use digits");
