@@ -44,8 +44,10 @@ public:
 
     void setValueFromString(const QString &text) override
     {
+        enter("setValueFromString");
         const double kept = std::floor(text.toDouble() / unit + 1e-6) * unit;
         if (std::abs(kept - held()) < unit / 2.0 || kept == 0.0) {
+            writes.append(text);
             if (!isSilent) {
                 edit([](auto &) {});
                 publishLater();
@@ -101,8 +103,9 @@ private slots:
     void steps();
     void swallowedSteps_data();
     void swallowedSteps();
-    void refusedStepEnds();
-    void lockDropsWhatIsTyped();
+    void stepEnds_data();
+    void stepEnds();
+    void staleValueIsTypedAgain();
     void oddSnapshots_data();
     void oddSnapshots();
     void positionsAreRecovered_data();
@@ -155,6 +158,7 @@ QList<QWidget *> TestFloatEditors::bothEditors(const QSharedPointer<MemoryFloat>
 void TestFloatEditors::pageStepsAndToolTips()
 {
     DoubleSpinBox box(nullptr, "Linear");
+    QCOMPARE(box.findChild<QDoubleSpinBox *>()->minimum(), std::numeric_limits<double>::lowest());
     box.setIncrement(0.01);
     box.setRange(-1.0, 1.0);
     box.setPageStep();
@@ -249,6 +253,7 @@ void TestFloatEditors::typedTexts_data()
     row("comma in English", english, "3,5", "", "use . as the decimal sign");
     row("groups in English", english, "1,500", "", "nothing may stand between thousands");
     row("unit", english, "12.5 ms", "", "leave out the unit");
+    row("sign as a unit", english, "-5 %", "", "leave out the unit");
     row("half an exponent", english, "1e", "", "the exponent is missing");
     row("too large", english, "1e999", "", "it is too large");
     row("infinity", english, "inf", "", "use digits");
@@ -333,6 +338,8 @@ void TestFloatEditors::controlsTakeWhatIsTyped()
     m_bench->type(control, "12.5");
     other->setFocus();
     QCOMPARE(control->value(), 12.5);
+    m_bench->enter(control, "12.345");
+    QCOMPARE(control->value(), line->text().toDouble());
 }
 
 void TestFloatEditors::othersAreNotLeaving_data()
@@ -430,7 +437,7 @@ void TestFloatEditors::steps()
         parameter->update([value](auto &data) { data.value = value; });
         parameter->writes.clear();
         m_bench->present();
-        editor->setFocus();
+        QTest::mouseClick(EditorBench::lineOf(editor), Qt::LeftButton); // else the wheel is the view's
         EditorBench::lineOf(editor)->selectAll();
         for (const QChar key : keys) {
             QTest::qWait(qobject_cast<FloatSliderEditor *>(editor) ? 50 : 0);
@@ -471,7 +478,7 @@ void TestFloatEditors::swallowedSteps()
     QWidget *const editor =
         hasSlider ? static_cast<QWidget *>(sliderEditor(parameter)) : floatEditor(parameter);
     m_bench->present();
-    editor->setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(EditorBench::lineOf(editor), Qt::LeftButton);
     QStringList expected = values.split(QLatin1Char(' '));
     for (const QChar key : keys) {
         pressStep(editor, key);
@@ -483,30 +490,58 @@ void TestFloatEditors::swallowedSteps()
     QCOMPARE(parameter->held(), values.section(QLatin1Char(' '), -1).toDouble());
 }
 
-void TestFloatEditors::refusedStepEnds()
+void TestFloatEditors::stepEnds_data()
 {
-    const auto parameter = feature(5.0, 0.0, 1000.0);
-    FloatEditor *const editor = floatEditor(parameter);
-    m_bench->present();
-    parameter->fail({"setValueFromString"}, GenICam::AccessException("locked"));
-    editor->setFocus();
-    m_bench->press(Qt::Key_Up);
-    QTest::qWait(700);
-    QCOMPARE(m_bench->refusals, QStringList("locked"));
-    QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
+    columns<QString, int>({"shown", "tries"});
+    row("refused", "5000", 0);
+    row("no answer", "5000", 1);
+    row("typing", "7", 1);
+    row("leaving", "5000", 1);
 }
 
-void TestFloatEditors::lockDropsWhatIsTyped()
+void TestFloatEditors::stepEnds()
 {
-    const auto parameter = feature(5.0, 0.0, 1000.0);
+    const QString how = QTest::currentDataTag();
+    const auto parameter = QSharedPointer<CoarseFloat>::create("Feature", "@CameraDevice/Feature");
+    parameter->snapshot = feature(5000.0, 0.0, 1e7)->snapshot;
+    parameter->unit = 1e9;
+    if (how == "refused") {
+        parameter->fail({"setValueFromString"}, GenICam::AccessException("locked"));
+    } else if (how == "no answer") {
+        parameter->isSilent = true;
+        parameter->fail({"scheduleParameterDataChangedCheck"}, GenICam::AccessException("busy"));
+    }
     for (QWidget *editor : bothEditors(parameter)) {
-        parameter->update([](auto &data) { data.isWritable = true; });
         m_bench->present();
-        m_bench->type(editor, "77");
-        parameter->update([](auto &data) { data.isWritable = false; });
-        QVERIFY(!editor->isEnabled());
-        QCOMPARE(EditorBench::lineOf(editor)->text(), "5");
-        QCOMPARE(m_bench->refusals, QStringList());
+        editor->setFocus();
+        m_bench->press(Qt::Key_Up);
+        if (how == "typing") {
+            m_bench->type(editor, "7");
+        } else if (how == "leaving") {
+            m_bench->press(Qt::Key_Tab);
+        }
+        QTest::qWait(600);
+        QTEST(int(parameter->writes.size()), "tries");
+        QTEST(EditorBench::lineOf(editor)->text(), "shown");
+        m_bench->press(Qt::Key_Escape);
+        parameter->writes.clear();
+    }
+    QCOMPARE(m_bench->refusals.size(), how == "refused" ? 2 : 0);
+}
+
+void TestFloatEditors::staleValueIsTypedAgain()
+{
+    const auto parameter = feature(5.0, 0.0, 10.0);
+    const AbstractItemEditor::EditorData old{parameter, parameter->parameterData()};
+    for (QWidget *editor : bothEditors(parameter)) {
+        disconnect(parameter.data(), nullptr, m_bench.get(), nullptr); // as with callbacks off
+        m_bench->present();
+        m_bench->enter(editor, "7");
+        dynamic_cast<AbstractItemEditor *>(editor)->setEditorData(old);
+        QTest::qWait(50);
+        m_bench->enter(editor, "5");
+        QTRY_COMPARE(parameter->writes, QStringList({"7", "5"}));
+        parameter->writes.clear();
     }
 }
 
@@ -560,7 +595,9 @@ void TestFloatEditors::oddSnapshots()
         for (QWidget *editor : {static_cast<QWidget *>(plain), static_cast<QWidget *>(withSlider)}) {
             parameter->update([&](auto &data) { data.value = value; });
             m_bench->refusals.clear();
-            m_bench->enter(editor, "77");
+            m_bench->type(editor, "77");
+            m_bench->press(Qt::Key_Up); // from nowhere
+            m_bench->press(Qt::Key_Return);
             QTRY_COMPARE(m_bench->refusals.size(), 1);
             QVERIFY2(m_bench->refusals.constFirst().contains("77"),
                      qPrintable(m_bench->refusals.constFirst()));

@@ -24,12 +24,13 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
     : DoubleSpinBox(parent, representation)
     , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
-    , m_step(std::make_shared<FloatStep>())
+    , m_step(new FloatStep(this))
 {
     connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
     connect(spinBox(), SIGNAL(left()), this, SLOT(onLeft()));
+    connect(m_step, SIGNAL(swallowed()), this, SLOT(takeStep()));
 }
 
 FloatEditor::~FloatEditor() = default;
@@ -40,10 +41,6 @@ void FloatEditor::setEditorData(EditorData data)
         m_keeper->keep(data);
         m_step->show(data);
         showSnapshot(snapshot);
-        if (m_step->isUnderWay()) {
-            // Not from within the refresh, whose sender is not done yet.
-            QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
-        }
     };
     EditorHelpers::takeFloatData({logCategory(), "FloatEditor::setEditorData"}, data, show);
 }
@@ -57,7 +54,7 @@ void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
     }
     setEnabled(EditorHelpers::canBeChanged(snapshot));
     m_limits = EditorHelpers::entryLimits(snapshot);
-    m_canStep = EditorHelpers::canStep(snapshot);
+    spinBox()->setSteppable(EditorHelpers::canStep(snapshot));
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     if (hasFocus() && isUpdateExspected()) {
         spinBox()->settle();
@@ -101,6 +98,7 @@ QVariant FloatEditor::editorData()
 
 void FloatEditor::onTextEdited()
 {
+    m_step->end();
     enableUpdate(false);
 }
 
@@ -117,15 +115,14 @@ void FloatEditor::onEditingFinished()
 
 void FloatEditor::onStepTriggered(int steps)
 {
-    if (m_canStep) {
-        m_step->begin(value(), steps);
-        takeStep();
-    }
+    m_step->begin(value(), steps);
+    takeStep();
 }
 
 void FloatEditor::onLeft()
 {
     m_stepWidth = 0.0;
+    m_step->end();
 }
 
 void FloatEditor::takeStep()
@@ -138,16 +135,6 @@ void FloatEditor::takeStep()
         commit(*target);
     } else if (spinBox()->entry()) {
         commit(*spinBox()->entry()); // typed at a limit
-    }
-}
-
-// The answer may have come within the write, or comes with a later snapshot.
-void FloatEditor::goOnStepping()
-{
-    if (m_step->isSwallowed()) {
-        takeStep();
-    } else if (m_step->isUnderWay()) {
-        m_keeper->showAgainAfterCommit();
     }
 }
 
@@ -179,28 +166,28 @@ double FloatEditor::freeStepWidth() const
 
 double FloatEditor::snapped(double number) const
 {
-    return EditorHelpers::snappedToGrid(number, m_limits.minimum, m_limits.maximum, m_limits.increment);
+    // What the camera holds stays as it is when it is typed again, whatever the limits are.
+    return number == m_settledValue
+        ? number
+        : EditorHelpers::snappedToGrid(number, m_limits.minimum, m_limits.maximum, m_limits.increment);
 }
 
 void FloatEditor::commit(double number)
 {
     const double usable = snapped(number);
-    spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
+    spinBox()->setLimits(std::min(m_limits.minimum, usable), std::max(m_limits.maximum, usable));
     setValue(usable);
     enableUpdate(true);
-    if (usable == m_settledValue) {
+    if (usable == m_settledValue && m_step->isHeld(usable)) {
         m_step->end();
         return;
     }
     m_settledValue = usable;
     m_isChanged = true;
     const QPointer<FloatEditor> self(this);
-    const std::shared_ptr<FloatStep> step = m_step;
-    {
-        const auto writing = step->writing();
-        emit boxValueChanged();
-    }
+    m_step->beginWrite();
+    emit boxValueChanged();
     if (self) {
-        goOnStepping();
+        m_step->endWrite();
     }
 }

@@ -8,8 +8,6 @@
 #include <zeltoviewercomponents/featuretree/editorhelpers.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <memory>
-
 class EditorDataKeeper;
 class FloatStep;
 
@@ -43,7 +41,7 @@ private slots:
     void onEditingFinished();
     void onStepTriggered(int steps);
     void onLeft();
-    void goOnStepping();
+    void takeStep();
 
 private:
     void showSnapshot(const ParameterCollection::FloatParameterData &snapshot);
@@ -51,14 +49,12 @@ private:
     double stepDistance(int steps);
     double freeStepWidth() const;
     double snapped(double number) const;
-    void takeStep();
     void commit(double number);
 
     EditorDataKeeper *m_keeper;
-    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
+    FloatStep *m_step;
     EditorHelpers::FloatLimits m_limits; //!< of what the user enters; the shown value may lie outside
     double m_settledValue = 0.0; //!< what was last shown or committed
     double m_stepWidth = 0.0; //!< since the first step in the editor; 0 before
-    bool m_canStep = false;
     bool m_isChanged = false; //!< committed, not handed out yet
 };

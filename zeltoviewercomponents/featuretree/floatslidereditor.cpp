@@ -66,11 +66,6 @@ void FloatSliderEditor::setEditorData(EditorData data)
         m_keeper->keep(data);
         step().show(data);
         showSnapshot(data.ptrParameter->fullName(), snapshot);
-        if (step().isUnderWay()) {
-            // Not from within the refresh, whose sender is not done yet.
-            QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
-            m_keeper->showAgainAfterCommit();
-        }
     };
     EditorHelpers::takeFloatData({logCategory(), "FloatSliderEditor::setEditorData"}, data, show);
 }
@@ -80,7 +75,7 @@ void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterDa
     if (!EditorHelpers::canBeChanged(snapshot)) {
         // The focus goes with the lock; it would take what is typed along.
         spinBox()->showText();
-        step().end();
+        dropChange();
     }
     setEnabled(EditorHelpers::canBeChanged(snapshot));
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.

@@ -6,8 +6,8 @@
 #include <platform/parametercollection/parameterdata.h>
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 
-#include <QDeadlineTimer>
-#include <QScopedValueRollback>
+#include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -16,11 +16,17 @@
  *
  * A register may swallow a step, as one of single precision does: the camera then answers with the value that
  * it had. Such a step is taken again from where it began, tenfold. A refusal ends the step, since a wider one
- * is not what the user asked for.
+ * is not what the user asked for; so does everything else that the user does. Silence is no answer: a camera
+ * that says nothing is asked.
  */
-class FloatStep
+class FloatStep : public QObject
 {
+    Q_OBJECT
+
 public:
+    explicit FloatStep(QObject *parent);
+    ~FloatStep() override;
+
     /*! Takes over what the editor is told to show. */
     void show(const AbstractItemEditor::EditorData &data);
 
@@ -28,8 +34,6 @@ public:
     void begin(double start, int steps);
     /*! Ends the step. */
     void end();
-    /*! Returns whether the camera has not answered yet. */
-    bool isUnderWay() const;
 
     /*! Returns the steps that were asked for; negative ones go down. */
     int steps() const;
@@ -37,21 +41,35 @@ public:
      * the step leads to from \a start when it is taken \a factor times as wide. */
     std::optional<double> next(const std::function<double(double start, double factor)> &reached);
 
-    /*! To be kept while the number is written: what is shown again meanwhile was refused. */
-    QScopedValueRollback<bool> writing();
-    /*! Returns whether the camera's answer is the value it had. Any other answer ends the step. */
-    bool isSwallowed();
+    /*! To be called before the number is written: what is shown again until endWrite() was refused. */
+    void beginWrite();
+    /*! To be called after the number was written. */
+    void endWrite();
+
+    /*! Returns whether the camera, as far as is known, holds \a value: the editor may show an older one. */
+    bool isHeld(double value) const;
+
+signals:
+    /*! The camera has answered with the value it had: next() tells how to go on. */
+    void swallowed();
+
+private slots:
+    void onPublished();
+    void judge();
+    void ask();
 
 private:
+    bool isWaiting() const;
     ParameterCollection::ParameterDataPtr current() const;
 
     AbstractItemEditor::EditorData m_shown;
     ParameterCollection::ParameterDataPtr m_before; //!< the camera's answer is a newer one
-    double m_valueBefore = 0.0;
     double m_start = 0.0;
     double m_last = 0.0; //!< the number that was written last, or the start
     double m_factor = 1.0;
     int m_steps = 0; //!< 0 when no step is under way
+    int m_tries = 0;
     bool m_isWriting = false;
-    QDeadlineTimer m_answerTime; //!< after it, an old answer counts, too
+    bool m_isAsked = false; //!< then the same snapshot is an answer, too
+    QTimer m_answerTimer; //!< runs from a write to its answer, or until the camera is asked
 };

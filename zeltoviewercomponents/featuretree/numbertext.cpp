@@ -111,7 +111,9 @@ QString NumberText::reason() const
     if (std::isinf(plain.toDouble(&ok)) && plain.contains(QLatin1Char('e'))) {
         return tr("it is too large");
     }
-    if (plain.at(0).isDigit() && plain.at(plain.size() - 1).isLetter()) {
+    const bool beginsAsNumber = plain.at(isMinus(plain.at(0)) && plain.size() > 1 ? 1 : 0).isDigit();
+    const QChar last = plain.at(plain.size() - 1);
+    if (beginsAsNumber && !last.isDigit() && !QStringLiteral("+-.").contains(last)) {
         return tr("leave out the unit");
     }
     return tr("use digits, a decimal sign and an exponent as in %1")

@@ -24,7 +24,7 @@ constexpr int shortestPauseMilliseconds = 30;
 
 TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     : DoubleComboSlider(parent)
-    , m_step(std::make_shared<FloatStep>())
+    , m_step(new FloatStep(this))
 {
     m_pause.setSingleShot(true);
     connect(&m_pause, SIGNAL(timeout()), this, SLOT(announceNow()));
@@ -34,6 +34,7 @@ TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     // A value may lie between the positions that the base steps to.
     disconnect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
+    connect(m_step, SIGNAL(swallowed()), this, SLOT(takeStep()));
     connect(slider(), SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(slider(), SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved(int)));
     connect(slider(), SIGNAL(sliderReleased()), this, SLOT(announceNow()));
@@ -59,6 +60,7 @@ void TwoModeDoubleComboSlider::setIncrement(double increment)
 void TwoModeDoubleComboSlider::setFree(bool isFree)
 {
     m_isFree = isFree;
+    spinBox()->setSteppable(!isFree);
 }
 
 void TwoModeDoubleComboSlider::setLimits(double minimum, double maximum, int minimumPosition,
@@ -86,6 +88,12 @@ void TwoModeDoubleComboSlider::settle(double value)
 {
     m_settledValue = value;
     spinBox()->settle();
+}
+
+void TwoModeDoubleComboSlider::dropChange()
+{
+    m_step->end();
+    m_isUnannounced = false;
 }
 
 FloatStep &TwoModeDoubleComboSlider::step() const
@@ -144,6 +152,7 @@ void TwoModeDoubleComboSlider::showPosition(int position)
 
 void TwoModeDoubleComboSlider::onTextEdited()
 {
+    m_step->end();
     enableUpdate(false);
 }
 
@@ -208,6 +217,7 @@ void TwoModeDoubleComboSlider::onStepTriggered(int steps)
 void TwoModeDoubleComboSlider::onLeft()
 {
     m_digit = 0.0;
+    m_step->end();
 }
 
 void TwoModeDoubleComboSlider::takeSteps(int steps, bool isPage)
@@ -229,13 +239,6 @@ void TwoModeDoubleComboSlider::takeStep()
         enter(*target);
     } else if (spinBox()->entry()) {
         enter(*spinBox()->entry()); // typed at a limit
-    }
-}
-
-void TwoModeDoubleComboSlider::goOnStepping()
-{
-    if (!isBeingMoved() && m_step->isSwallowed()) {
-        takeStep();
     }
 }
 
@@ -266,19 +269,21 @@ double TwoModeDoubleComboSlider::slidersDistance(double start, double positions)
 
 double TwoModeDoubleComboSlider::usable(double value) const
 {
-    return m_isFree ? value
-                    : EditorHelpers::snappedToGrid(value, m_limits.minimum, m_limits.maximum, m_increment);
+    // What the camera holds stays as it is when it is typed again, whatever the limits are.
+    return m_isFree || value == m_settledValue
+        ? value
+        : EditorHelpers::snappedToGrid(value, m_limits.minimum, m_limits.maximum, m_increment);
 }
 
 void TwoModeDoubleComboSlider::enter(double value)
 {
     const double entered = usable(value);
     const auto limits = m_isFree ? EditorHelpers::FloatLimits() : m_limits;
-    spinBox()->setLimits(limits.minimum, limits.maximum);
+    spinBox()->setLimits(std::min(limits.minimum, entered), std::max(limits.maximum, entered));
     setValue(entered);
     showPosition(positionFromValue(entered));
     enableUpdate(true);
-    if (entered != m_settledValue) {
+    if (entered != m_settledValue || !m_step->isHeld(entered)) {
         m_isUnannounced = true;
     }
     settle(entered);
@@ -297,14 +302,10 @@ void TwoModeDoubleComboSlider::announceNow()
     QElapsedTimer duration;
     duration.start();
     const QPointer<TwoModeDoubleComboSlider> self(this);
-    const std::shared_ptr<FloatStep> step = m_step;
-    {
-        const auto writing = step->writing();
-        emit boxValueChanged();
+    m_step->beginWrite();
+    emit boxValueChanged();
+    if (self) {
+        m_step->endWrite();
+        m_pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
     }
-    if (!self) {
-        return;
-    }
-    m_pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
-    goOnStepping();
 }

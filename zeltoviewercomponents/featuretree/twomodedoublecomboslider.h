@@ -9,8 +9,6 @@
 
 #include <QTimer>
 
-#include <memory>
-
 class FloatStep;
 
 /*! \brief How the positions of a slider divide the range of values. */
@@ -67,11 +65,9 @@ protected:
     bool isBeingMoved() const;
     /*! Makes \a value the base that the user's next change is compared with; NaN for none. */
     void settle(double value);
+    /*! Drops a change that is not announced yet. */
+    void dropChange();
     FloatStep &step() const;
-
-protected slots:
-    /*! Goes on with a step that the camera has swallowed. */
-    void goOnStepping();
 
 private slots:
     void onTextEdited();
@@ -81,6 +77,7 @@ private slots:
     void onStepTriggered(int steps);
     void onLeft();
     void announceNow();
+    void takeStep();
 
 private:
     bool isLogarithmic() const;
@@ -88,7 +85,6 @@ private:
     void enter(double value);
     void showPosition(int position);
     void takeSteps(int steps, bool isPage);
-    void takeStep();
     double stepDistance(double start, int steps);
     double slidersDistance(double start, double positions) const;
 
@@ -97,7 +93,7 @@ private:
     EditorHelpers::FloatLimits m_limits{0.0, 0.0, 0.0};
     double m_settledValue = 0.0; //!< what was last shown or entered
     double m_digit = 0.0; //!< that steps change where a limit is missing, since the first one; 0 before
-    std::shared_ptr<FloatStep> m_step; // outlives an editor that is closed by its own write
+    FloatStep *m_step;
     bool m_isPage = false; //!< the step under way
     bool m_isFree = false;
     bool m_isShowing = false; //!< the slider moves because of the program

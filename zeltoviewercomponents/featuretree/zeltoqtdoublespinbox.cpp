@@ -80,22 +80,9 @@ void ZeltoQtDoubleSpinBox::setLimits(double minimum, double maximum)
 {
     makeRoomFor(minimum);
     makeRoomFor(maximum);
-    // Qt rounds limits by way of a text, which takes a millisecond for the farthest doubles.
-    const double lowest = minimum <= Doubles::lowest() ? -Doubles::infinity() : minimum;
-    const double highest = maximum >= Doubles::max() ? Doubles::infinity() : maximum;
-    if (lowest != QDoubleSpinBox::minimum() || highest != QDoubleSpinBox::maximum()) {
-        setRange(lowest, highest);
+    if (minimum != this->minimum() || maximum != this->maximum()) {
+        setRange(minimum, maximum);
     }
-}
-
-double ZeltoQtDoubleSpinBox::minimum() const
-{
-    return std::max(QDoubleSpinBox::minimum(), Doubles::lowest());
-}
-
-double ZeltoQtDoubleSpinBox::maximum() const
-{
-    return std::min(QDoubleSpinBox::maximum(), Doubles::max());
 }
 
 void ZeltoQtDoubleSpinBox::setValue(double value)
@@ -119,6 +106,12 @@ void ZeltoQtDoubleSpinBox::makeRoomFor(double number)
     if (m_notation != GenApi::UndefinedDisplayNotation && decimalsOf(number) > decimals()) {
         setDecimals(decimalsOf(number));
     }
+}
+
+void ZeltoQtDoubleSpinBox::setSteppable(bool isSteppable)
+{
+    m_isSteppable = isSteppable;
+    update(); // the buttons
 }
 
 void ZeltoQtDoubleSpinBox::setSubstitute(const QString &text)
@@ -193,8 +186,7 @@ void ZeltoQtDoubleSpinBox::tellOutcome(double typed, double value, double minimu
 
 void ZeltoQtDoubleSpinBox::stepBy(int steps)
 {
-    // Where there is no value, there is nothing to step from: the typed text stays.
-    if (!hasSubstitute() && !takeTyped()) {
+    if (!m_isSteppable || !takeTyped()) {
         return;
     }
     const QPointer<ZeltoQtDoubleSpinBox> self(this); // a write may end in a message, and that in a closed row
@@ -207,7 +199,7 @@ void ZeltoQtDoubleSpinBox::stepBy(int steps)
 QAbstractSpinBox::StepEnabled ZeltoQtDoubleSpinBox::stepEnabled() const
 {
     // The base would go by the value alone; the owner knows the limits of its steps.
-    return isReadOnly() ? StepNone : StepUpEnabled | StepDownEnabled;
+    return isReadOnly() || !m_isSteppable ? StepNone : StepUpEnabled | StepDownEnabled;
 }
 
 QString ZeltoQtDoubleSpinBox::textFromValue(double value) const
@@ -227,8 +219,13 @@ QString ZeltoQtDoubleSpinBox::shownText(double value) const
 
 double ZeltoQtDoubleSpinBox::valueFromText(const QString &text) const
 {
-    // What is shown may be rounded; the value is not.
-    return isAsShown(text) ? value() : NumberText(text, locale()).number().value_or(value());
+    const auto number = NumberText(text, locale()).number();
+    if (!number || isAsShown(text)) {
+        return value(); // what is shown may be rounded; the value is not
+    }
+    return m_notation == GenApi::UndefinedDisplayNotation
+        ? QString::number(*number, 'f', decimals()).toDouble() // as setValue() does
+        : *number;
 }
 
 bool ZeltoQtDoubleSpinBox::isAsShown(const QString &text) const
@@ -271,6 +268,9 @@ bool ZeltoQtDoubleSpinBox::takeTyped()
 {
     m_entry.reset();
     if (isAsShown(text()) || text().isEmpty()) {
+        if (isBeingTyped() && !text().isEmpty() && !hasSubstitute()) {
+            m_entry = value();
+        }
         showText(); // without blanks around
         return true;
     }

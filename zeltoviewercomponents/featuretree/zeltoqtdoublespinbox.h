@@ -40,14 +40,13 @@ public:
 
     /*! Sets both limits, with all their digits when feature values are shown. */
     void setLimits(double minimum, double maximum);
-    /*! Returns the lowest value. */
-    double minimum() const;
-    /*! Returns the highest value. */
-    double maximum() const;
     /*! Sets the value to \a value, limited to the range. */
     void setValue(double value);
     /*! Shows \a value, limited to the range, with all its digits kept when feature values are shown. */
     void showValue(double value);
+
+    /*! Sets whether stepping makes sense. Where it does not, keys and wheel leave alone what is typed. */
+    void setSteppable(bool isSteppable);
 
     /*! Shows \a text instead of the value until the user types a number; an empty text shows the value. */
     void setSubstitute(const QString &text);
@@ -69,8 +68,8 @@ public:
     void showText();
     /*! Takes the text that stands there for the value: it is not typed, nor has it a problem. */
     void settle();
-    /*! Returns, during editingFinished() and stepTriggered(), the number that was typed; none when the text
-     * was left alone. */
+    /*! Returns, during editingFinished() and stepTriggered(), the number that was typed, that which was shown
+     * included; none when the text was left alone. */
     std::optional<double> entry() const;
     /*! Tells the user beside the box when the limits or \a increment made \a value of the \a typed number. */
     void tellOutcome(double typed, double value, double minimum, double maximum, double increment);
@@ -116,6 +115,7 @@ private:
     GenApi::EDisplayNotation m_notation = GenApi::UndefinedDisplayNotation;
     int m_precision = 0;
     bool m_hasAllDigits = false; //!< shown, as long as the user is here
+    bool m_isSteppable = true;
     bool m_isTextKept = false;
     QString m_substitute;
     std::optional<double> m_entry;
