@@ -30,7 +30,6 @@ class TestFeatureTreeEditing : public FeatureTreeTest
 
 private slots:
     void editorsWriteWhatIsClicked();
-    void transientEditorsComeAndGo();
     void refusedWriteShowsTheTruth();
     void refusedTextStaysForCorrection_data();
     void refusedTextStaysForCorrection();
@@ -426,28 +425,6 @@ void TestFeatureTreeEditing::editorsWriteWhatIsClicked()
     QCOMPARE(bench.parameter<MemoryCommand>(QStringLiteral("TriggerSoftware"))->executions, 1);
 }
 
-void TestFeatureTreeEditing::transientEditorsComeAndGo()
-{
-    const QString name = QStringLiteral("OffsetX");
-    const QString typed = QStringLiteral("12");
-    TreeBench bench;
-    auto *const node = bench.node(name);
-    bench.click(bench.value(name));
-    auto *const edit = qobject_cast<QLineEdit *>(bench.view()->indexWidget(bench.value(name)));
-    QVERIFY(edit && edit == QApplication::focusWidget());
-    edit->selectAll();
-    QTest::keyClicks(edit, typed);
-    // A refresh of the row leaves what is being typed.
-    bench.publish(name);
-    QCOMPARE(edit->text(), typed);
-    QTest::keyClick(edit, Qt::Key_Return);
-    bench.settle();
-    QCOMPARE(node->writes, QStringList(typed));
-    QVERIFY(!bench.view()->indexWidget(bench.value(name)));
-    QCOMPARE(bench.value(name).data().toString(), typed);
-    QCOMPARE(QApplication::focusWidget(), bench.view());
-}
-
 void TestFeatureTreeEditing::refusedWriteShowsTheTruth()
 {
     TreeBench bench;
@@ -527,6 +504,7 @@ void TestFeatureTreeEditing::refusedTextStaysForCorrection()
     QTest::keyClick(edit, key);
     if (!written.isEmpty()) {
         QTest::keyClick(edit, Qt::Key_Return);
+        QTRY_VERIFY(bench.view()->hasFocus());
     }
     bench.settle();
     QCOMPARE(edit.isNull(), key != Qt::Key_Return);
@@ -723,13 +701,6 @@ void TestFeatureTreeEditing::switchesLevelWhileEditing()
     bench.widget.onVisibilityChanged(GenApi::Expert);
     bench.settle();
     QVERIFY(bench.editor<FloatEditor>(QStringLiteral("Gain")));
-    bench.click(bench.value(QStringLiteral("OffsetX")));
-    QVERIFY(bench.view()->indexWidget(bench.value(QStringLiteral("OffsetX"))));
-    bench.widget.onVisibilityChanged(GenApi::Beginner);
-    bench.settle();
-    QVERIFY(!bench.row(QStringLiteral("OffsetX")).isValid());
-    QVERIFY(!bench.widget.GetCurrentNode());
-    QVERIFY(bench.view()->hasFocus());
 }
 
 void TestFeatureTreeEditing::leavesEditorsOfOtherRows_data()
