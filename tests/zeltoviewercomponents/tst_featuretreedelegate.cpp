@@ -24,6 +24,7 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 
 static_assert(QStyle::CE_ItemViewItem == 45 && QStyle::SE_ItemViewItemText == 46);
 
@@ -433,6 +434,11 @@ void TestFeatureTreeDelegate::asksBeforeCommands()
             bench.settle();
         }
     }
+    // A question that fails is not a yes.
+    bench.widget.setCommandVeto([](const auto &) -> bool { throw std::runtime_error("no dialog"); });
+    QTest::mouseClick(button, Qt::LeftButton);
+    bench.settle();
+    QCOMPARE(command->executions, 1);
     // The tree may be cleared while the question stands.
     bench.widget.setCommandVeto([&](const auto &) {
         bench.widget.clear();

@@ -6,6 +6,7 @@
 #include "wheelguard.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -226,7 +227,14 @@ bool isFocusLent(const QEvent &event)
     }
     const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
     return reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason
-        || reason == Qt::ActiveWindowFocusReason;
+        || reason == Qt::ActiveWindowFocusReason || (reason == Qt::MouseFocusReason && isFocusForMenu());
+}
+
+bool isFocusForMenu()
+{
+    const QWidget *const focus = QApplication::focusWidget();
+    return QGuiApplication::mouseButtons() == Qt::RightButton && !qobject_cast<const QLineEdit *>(focus)
+        && !qobject_cast<const QAbstractSpinBox *>(focus);
 }
 
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit)

@@ -108,6 +108,9 @@ QLineEdit *lineEditOf(const QAbstractSpinBox &spinBox);
  * meanwhile. */
 bool isFocusLent(const QEvent &event);
 
+/*! Returns whether the focus is where a right click has put it, which is for a menu: not in another input. */
+bool isFocusForMenu();
+
 /*! Returns whether the user is typing into \a lineEdit, whose focus \a owner has, or will have again behind
  * a menu or when its window is active. */
 bool isBeingTyped(const QWidget &owner, const QLineEdit &lineEdit);

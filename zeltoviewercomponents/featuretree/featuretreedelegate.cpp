@@ -315,7 +315,10 @@ void FeatureTreeDelegate::askForCommands()
         const PendingCommand command = m_pendingCommands.constFirst();
         const FeatureTreeINodeItem *const item = nodeItemAt(command.index);
         const CommandVeto veto = m_commandVeto;
-        const bool isVetoed = item && veto && veto(item->node());
+        const bool isVetoed = item && veto
+            && Core::guarded({logCategory(), "FeatureTreeDelegate::askForCommands"},
+                             QStringLiteral("Failed to ask about a command"), true,
+                             [&veto, item] { return veto(item->node()); });
         if (!self) {
             return;
         }

@@ -3,6 +3,7 @@
 
 #include "featuretreefocus.h"
 
+#include "editorhelpers.h"
 #include "featuretreeeditors.h"
 
 #include <QAbstractItemDelegate>
@@ -26,13 +27,16 @@ void closePopupOf(const QWidget *editor)
     }
 }
 
-bool hasSelectedText(const QWidget *input)
+const QLineEdit *lineEditIn(const QWidget *input)
 {
-    const auto *lineEdit = qobject_cast<const QLineEdit *>(input);
-    if (!lineEdit) {
-        lineEdit = input->findChild<QLineEdit *>();
-    }
-    return lineEdit && lineEdit->hasSelectedText();
+    const auto *const lineEdit = qobject_cast<const QLineEdit *>(input);
+    return lineEdit ? lineEdit : input->findChild<QLineEdit *>();
+}
+
+bool isTypedInto(const QWidget *input)
+{
+    const QLineEdit *const lineEdit = lineEditIn(input);
+    return lineEdit && lineEdit->isModified();
 }
 
 } // namespace
@@ -50,7 +54,11 @@ QWidget *FeatureTreeFocus::focusWidget() const
 
 QWidget *FeatureTreeFocus::editor() const
 {
-    QWidget *widget = focusWidget();
+    return editorAround(focusWidget());
+}
+
+QWidget *FeatureTreeFocus::editorAround(QWidget *widget) const
+{
     if (!widget || !m_view->viewport()->isAncestorOf(widget)) {
         return nullptr;
     }
@@ -58,6 +66,11 @@ QWidget *FeatureTreeFocus::editor() const
         widget = widget->parentWidget();
     }
     return widget;
+}
+
+bool FeatureTreeFocus::isTyping() const
+{
+    return editor() && isTypedInto(focusWidget());
 }
 
 QModelIndex FeatureTreeFocus::row(const QModelIndex &current) const
@@ -116,6 +129,10 @@ void FeatureTreeFocus::abandonEditor()
 
 void FeatureTreeFocus::follow(QWidget *old, QWidget *now)
 {
+    if (now && editorAround(old) && isTypedInto(old) && EditorHelpers::isFocusForMenu()) {
+        old->setFocus();
+        return;
+    }
     if (old) {
         old->removeEventFilter(this);
     }
@@ -126,11 +143,16 @@ void FeatureTreeFocus::follow(QWidget *old, QWidget *now)
 
 bool FeatureTreeFocus::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusIn
+        && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason) {
+        emit returned();
+    }
     if (event->type() != QEvent::KeyPress) {
         return false;
     }
     const auto *const key = static_cast<QKeyEvent *>(event);
-    if (key->matches(QKeySequence::Copy) && !hasSelectedText(static_cast<QWidget *>(watched))) {
+    const QLineEdit *const lineEdit = lineEditIn(static_cast<QWidget *>(watched));
+    if (key->matches(QKeySequence::Copy) && !(lineEdit && lineEdit->hasSelectedText())) {
         emit copyRequested();
         return true;
     }

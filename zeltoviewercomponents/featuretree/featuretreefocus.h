@@ -28,6 +28,9 @@ public:
     /*! Returns the row of the editor with the focus; one that is not permanent belongs to \a current. */
     QModelIndex row(const QModelIndex &current) const;
 
+    /*! Returns whether text in the editor with the focus has been changed, and not yet been entered. */
+    bool isTyping() const;
+
     /*! Takes the focus from \a widget and from what is in it. */
     void takeFrom(const QWidget *widget);
     /*! Takes the focus from an editor whose row is in a collapsed branch, hidden or scrolled away. */
@@ -49,13 +52,17 @@ signals:
     void escaped(QWidget *editor);
     /*! The value is to be copied, as no text is selected. */
     void copyRequested();
+    /*! The focus is back in an editor, from a menu or a list. */
+    void returned();
 
 public slots:
-    /*! Looks at the keys of \a now, if it is an editor or in one, and no longer at those of \a old. */
+    /*! Looks at the keys of \a now, if it is an editor or in one, and no longer at those of \a old. While
+     * text is being typed into \a old, a right click does not take the focus from it. */
     void follow(QWidget *old, QWidget *now);
 
 private:
     QWidget *focusWidget() const;
+    QWidget *editorAround(QWidget *widget) const;
     QWidget *nextOutsideView() const;
     void escape(QObject *input, QEvent *event);
 

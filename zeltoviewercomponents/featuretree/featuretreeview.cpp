@@ -17,8 +17,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -77,6 +79,7 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
 {
     keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
+    setFocusPolicy(Qt::TabFocus); // clicks on rows take it, those on a scroll bar leave it to what is typed
     createModel();
     connect(this, SIGNAL(expanded(const QModelIndex &)), this, SLOT(onSelfExpanded(const QModelIndex &)));
     connect(this, SIGNAL(collapsed(const QModelIndex &)), this, SLOT(onSelfCollapsed(const QModelIndex &)));
@@ -92,6 +95,8 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
     connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
     connect(&m_focus, SIGNAL(copyRequested()), this, SLOT(copyValue()));
     connect(&m_focus, SIGNAL(escaped(QWidget *)), this, SLOT(onEscaped(QWidget *)));
+    // Later: what is chosen from a menu, which closes first, is about the row of the menu.
+    connect(&m_focus, SIGNAL(returned()), this, SLOT(goBackToTyping()), Qt::QueuedConnection);
     connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
             SLOT(onFocusChanged(QWidget *, QWidget *)));
 }
@@ -653,7 +658,8 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
     if (!m_keepsFocus && newRow.isValid() && !isSameRow(m_focus.row(oldRow), newRow)) {
         m_focus.takeFrom(viewport());
     }
-    QTreeView::currentChanged(newRow, oldRow);
+    // The base would close the editor of the row that is left.
+    QTreeView::currentChanged(newRow, m_keepsEditor ? QModelIndex() : QModelIndex(oldRow));
     // The base repaints the cells; the frame goes around the whole row, with its indentation.
     for (const QModelIndex &index : {QModelIndex(newRow), QModelIndex(oldRow)}) {
         const QRect cell = visualRect(index);
@@ -716,6 +722,53 @@ void FeatureTreeView::keyPressEvent(QKeyEvent *event)
     QTreeView::keyPressEvent(event);
 }
 
+// A right click is for the menu of a row; what is being typed, there or elsewhere, waits until that is
+// closed.
+void FeatureTreeView::mousePressEvent(QMouseEvent *event)
+{
+    m_typingRow = QModelIndex();
+    if (event->button() != Qt::RightButton || !m_focus.isTyping()) {
+        setFocus();
+        QTreeView::mousePressEvent(event);
+        return;
+    }
+    const QModelIndex clicked = indexAt(event->position().toPoint());
+    const QModelIndex typing = m_focus.row(currentIndex());
+    if (clicked.isValid() && !isSameRow(clicked, typing)) {
+        m_typingRow = typing;
+        goToRowBesideEditor(clicked);
+    }
+}
+
+// The current row changes, and what is being typed in another one goes on.
+void FeatureTreeView::goToRowBesideEditor(const QModelIndex &index)
+{
+    const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
+    const QScopedValueRollback<bool> keepsEditor(m_keepsEditor, true);
+    setCurrentIndex(index);
+}
+
+void FeatureTreeView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_typingRow.isValid()) {
+        // The menu may be yet to come.
+        QMetaObject::invokeMethod(this, "goBackToTyping", Qt::QueuedConnection);
+        return;
+    }
+    QTreeView::mouseReleaseEvent(event);
+}
+
+void FeatureTreeView::goBackToTyping()
+{
+    if (!m_typingRow.isValid() || QApplication::activePopupWidget()) {
+        return;
+    }
+    if (m_focus.isTyping()) {
+        goToRowBesideEditor(m_typingRow);
+    }
+    m_typingRow = QModelIndex();
+}
+
 bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
     if (trigger == AnyKeyPressed && m_isForwardingKey) {
@@ -747,7 +800,7 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
 void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 {
     m_focus.follow(old, now);
-    const QModelIndex index = m_editors.rowOf(now);
+    const QModelIndex index = m_editors.rowOf(now == QApplication::focusWidget() ? now : nullptr);
     const QModelIndex current = currentIndex();
     if (index.isValid() && !isSameRow(index, current)) {
         const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
@@ -850,8 +903,9 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
         }
         return true;
     }
-    if (!takesFocus) {
-        return false;
+    const bool isLetter = key && !key->text().trimmed().isEmpty();
+    if (!takesFocus || (trigger == AnyKeyPressed && isLetter && qobject_cast<QComboBox *>(editor))) {
+        return false; // a list would take the first letter of a name for an entry, and write that
     }
     editor->setFocus(Qt::ShortcutFocusReason); // selects as Tab does, which is for those who tab
     if (trigger == AnyKeyPressed && event && m_focus.editor() == editor) {

@@ -96,6 +96,8 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void updateGeometries() override;
@@ -107,6 +109,7 @@ protected slots:
 
 private slots:
     void copyValue();
+    void goBackToTyping();
     void onEscaped(QWidget *editor);
     void onFocusChanged(QWidget *old, QWidget *now);
     void onLayoutAboutToChange();
@@ -137,6 +140,7 @@ private:
     bool isSearching() const;
     bool activateEditor(const QModelIndex &value, EditTrigger trigger, QEvent *event);
     bool editNeighbour(const QModelIndex &from, bool below);
+    void goToRowBesideEditor(const QModelIndex &index);
     void goToNeighbour(const QModelIndex &from, bool below);
 
     QStringList selectedFavorites(const QModelIndex &branch) const;
@@ -150,6 +154,8 @@ private:
     bool m_isExpandingMany = false; // the rows are updated elsewhere, and nothing is recorded
     bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
+    bool m_keepsEditor = false; // nor does one close
+    QPersistentModelIndex m_typingRow; // while another row is the current one for its menu
     bool m_isForwardingKey = false; // to an editor that may leave it to the view
     QElapsedTimer m_searchClock; // since the last key that searched the names
     mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below

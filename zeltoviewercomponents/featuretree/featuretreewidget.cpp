@@ -812,8 +812,10 @@ bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
     if (isClick || (isKey && static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)) {
         escapePressed() = false;
     }
-    if (isKey && watched == m_ui->treeView && IsCurrentFavorite()) {
-        // Else one Ctrl+Down too many would leave the favorite that is being moved.
+    const auto *const target = isKey ? qobject_cast<QWidget *>(watched) : nullptr;
+    const bool isInTree = target && (target == m_ui->treeView || m_ui->treeView->isAncestorOf(target));
+    if (isInTree && IsCurrentFavorite()) {
+        // Else one Ctrl+Down too many would leave the favorite that is being moved, or change its value.
         const QKeySequence keys(static_cast<QKeyEvent *>(event)->keyCombination());
         return keys == m_actionMoveFavouriteUp->shortcut() || keys == m_actionMoveFavouriteDown->shortcut();
     }
