@@ -85,7 +85,7 @@ double snappedToGrid(double value, double minimum, double maximum, double increm
     if (!(increment > 0.0) || !(steps < 9007199254740992.0)) {
         return limited;
     }
-    const auto point = [=](double step) { return withoutNoise(std::fma(step, increment, minimum)); };
+    const auto point = [=](double step) { return sumWithoutNoise(minimum, step * increment); };
     const double nearest = point(steps);
     return std::max(nearest <= maximum ? nearest : point(steps - 1.0), minimum);
 }
@@ -93,6 +93,15 @@ double snappedToGrid(double value, double minimum, double maximum, double increm
 double withoutNoise(double value)
 {
     return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
+}
+
+double sumWithoutNoise(double a, double b)
+{
+    const double larger = std::max(std::abs(a), std::abs(b));
+    const double decimals = std::numeric_limits<double>::digits10 - 1 - std::floor(std::log10(larger));
+    return decimals > 0.0 && decimals <= std::numeric_limits<double>::max_exponent10
+        ? QString::number(a + b, 'f', static_cast<int>(decimals)).toDouble()
+        : withoutNoise(a + b);
 }
 
 bool FloatLimits::isBounded() const

@@ -47,6 +47,10 @@ double snappedToGrid(double value, double minimum, double maximum, double increm
 /*! Returns \a value without the binary noise behind its 15th significant digit. */
 double withoutNoise(double value);
 
+/*! Returns the sum without the binary noise behind the 15th significant digit of the larger of both: -0.3 and
+ * three times 0.1 are 0. */
+double sumWithoutNoise(double a, double b);
+
 /*! \brief What a control makes of the limits of a feature: they are finite and in order, the increment is 0
  * when there is none. */
 struct FloatLimits

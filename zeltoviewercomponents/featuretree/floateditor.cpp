@@ -129,7 +129,7 @@ void FloatEditor::takeStep()
 {
     const auto target = m_step->next([this](double start, double factor) {
         const double distance = stepDistance(m_step->steps()) * factor;
-        return snapped(EditorHelpers::withoutNoise(start + distance));
+        return snapped(EditorHelpers::sumWithoutNoise(start, distance));
     });
     if (target) {
         commit(*target);

@@ -119,7 +119,7 @@ double TwoModeDoubleComboSlider::valueFromPosition(int position) const
     // In this form no step in between is larger than the result.
     return isLogarithmic()
         ? std::exp(std::log(m_limits.minimum) * (1.0 - part) + std::log(m_limits.maximum) * part)
-        : m_limits.minimum * (1.0 - part) + m_limits.maximum * part;
+        : EditorHelpers::sumWithoutNoise(m_limits.minimum * (1.0 - part), m_limits.maximum * part);
 }
 
 int TwoModeDoubleComboSlider::positionFromValue(double value) const
@@ -177,6 +177,10 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
         return;
     }
     m_step->end();
+    if (!m_limits.isBounded()) {
+        showPosition(positionFromValue(value())); // nobody means what lies a position farther
+        return;
+    }
     const int trimmed = trimSliderValue(position);
     // The end of the slider is the limit, although the last step may fall short of it.
     const double reached = valueFromPosition(position == intMaximum() ? position : trimmed);
@@ -233,7 +237,7 @@ void TwoModeDoubleComboSlider::takeSteps(int steps, bool isPage)
 void TwoModeDoubleComboSlider::takeStep()
 {
     const auto target = m_step->next([this](double start, double factor) {
-        return usable(EditorHelpers::withoutNoise(start + stepDistance(start, m_step->steps()) * factor));
+        return usable(EditorHelpers::sumWithoutNoise(start, stepDistance(start, m_step->steps()) * factor));
     });
     if (target) {
         enter(*target);
