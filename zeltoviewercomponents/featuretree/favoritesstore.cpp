@@ -20,10 +20,9 @@ constexpr QLatin1Char separator('*');
 constexpr int formatVersion = 3;
 // Far beyond any feature; what is longer is damage, and would stall whoever has to paint it.
 constexpr int maximumStoredLength = 65536;
-// The user waits meanwhile. Who has the lock needs it for milliseconds; one that is much older was left
-// behind, which is only known at once of the programs of this computer.
-constexpr int lockTimeout = 500; // ms
-constexpr int lockAge = 5000;
+// Who has the lock needs it for milliseconds; one that is much older was left behind, which is only known at
+// once of the programs of this computer.
+constexpr int lockAge = 5000; // ms
 constexpr int lockInterval = 5;
 
 constexpr QLatin1String versionKey("Version");
@@ -99,20 +98,21 @@ QString FavoritesStore::place() const
     return m_settings.fileName() + QLatin1Char('\n') + m_settings.group();
 }
 
-void FavoritesStore::lock()
+bool FavoritesStore::lock(int milliseconds)
 {
     const QString file = fileOf(m_settings);
     if (file.isEmpty() || !QDir().mkpath(QFileInfo(file).path())) {
-        return;
+        return true;
     }
     m_lock = std::make_unique<QLockFile>(file + QStringLiteral(".favorites.lock"));
     m_lock->setStaleLockTime(lockAge);
     // Asked for often: waiting in the lock itself sleeps so long in between that others slip in again and
     // again.
-    const QDeadlineTimer deadline(lockTimeout);
+    const QDeadlineTimer deadline(milliseconds);
     while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError && !deadline.hasExpired()) {
         QThread::msleep(lockInterval);
     }
+    return m_lock->isLocked() || m_lock->error() != QLockFile::LockFailedError;
 }
 
 void FavoritesStore::unlock()
