@@ -208,22 +208,26 @@ void Session::work()
             lock.lock();
             continue;
         }
-        if (m_reads.empty()) {
-            continue;
+        if (!m_reads.empty()) {
+            readNext(lock);
         }
-        const Read read = m_reads.front();
-        m_reads.pop_front();
-        MapState &map = *m_maps[size_t(read.map)];
-        NodeState &state = map.nodes[size_t(read.node)];
-        const bool force = std::exchange(state.isForced, false);
-        const bool isPolled = std::exchange(state.isPolled, false);
-        state.isQueued = false;
-        lock.unlock();
-        Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to read a node"),
-                         [&] { readNow(read.map, read.node, force); });
-        lock.lock();
-        map.pollsUnderWay -= isPolled ? 1 : 0;
     }
+}
+
+void Session::readNext(Lock &lock)
+{
+    const Read read = m_reads.front();
+    m_reads.pop_front();
+    MapState &map = *m_maps[size_t(read.map)];
+    NodeState &state = map.nodes[size_t(read.node)];
+    const bool force = std::exchange(state.isForced, false);
+    const bool isPolled = std::exchange(state.isPolled, false);
+    state.isQueued = false;
+    lock.unlock();
+    Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to read a node"),
+                     [&] { readNow(read.map, read.node, force); });
+    lock.lock();
+    map.pollsUnderWay -= isPolled ? 1 : 0;
 }
 
 void Session::carryOut(const std::shared_ptr<Call> &call)

@@ -164,6 +164,7 @@ private:
     void run(const Opener &opener);
     void open(const Opener &opener);
     void work();
+    void readNext(Lock &lock);
     void carryOut(const std::shared_ptr<Call> &call);
     void carryOutWrite(int map, int node, const NodeValue &value);
     void readNow(int map, int node, bool force);

@@ -17,40 +17,13 @@ namespace {
 
 constexpr qsizetype maximumCameras = 50;
 
-QString allCameras()
-{
-    return QStringLiteral("Cameras");
-}
-
-QString nameKey()
-{
-    return QStringLiteral("Name");
-}
-
-QString usedKey()
-{
-    return QStringLiteral("Used");
-}
-
-QString openRowsKey()
-{
-    return QStringLiteral("OpenRows");
-}
-
-QString currentRowKey()
-{
-    return QStringLiteral("CurrentRow");
-}
-
-QString pollingKey()
-{
-    return QStringLiteral("Polling");
-}
-
-QString monitorKey()
-{
-    return QStringLiteral("MonitorMode");
-}
+constexpr QLatin1String allCameras("Cameras");
+constexpr QLatin1String nameKey("Name");
+constexpr QLatin1String usedKey("Used");
+constexpr QLatin1String openRowsKey("OpenRows");
+constexpr QLatin1String currentRowKey("CurrentRow");
+constexpr QLatin1String pollingKey("Polling");
+constexpr QLatin1String monitorKey("MonitorMode");
 
 // However a file is written, it is the same camera.
 QString nameOf(const Options &options)
@@ -64,14 +37,14 @@ QString nameOf(const Options &options)
 void forgetOldest()
 {
     QSettings settings;
-    settings.beginGroup(allCameras());
+    settings.beginGroup(allCameras);
     QStringList groups = settings.childGroups();
     const qsizetype excess = groups.size() - maximumCameras;
     if (excess <= 0) {
         return;
     }
     const auto used = [&settings](const QString &group) {
-        return settings.value(group + QLatin1Char('/') + usedKey()).toLongLong();
+        return settings.value(group + QLatin1Char('/') + usedKey).toLongLong();
     };
     std::sort(groups.begin(), groups.end(),
               [&used](const QString &one, const QString &other) { return used(one) < used(other); });
@@ -87,20 +60,19 @@ void CameraMemory::setSource(const Options &options)
     m_name = nameOf(options);
     // Names hold what no key may hold.
     const QByteArray hash = QCryptographicHash::hash(m_name.toUtf8(), QCryptographicHash::Sha1).toHex();
-    m_group =
-        options.isInteractive() ? allCameras() + QLatin1Char('/') + QString::fromLatin1(hash) : QString();
+    m_group = options.isInteractive() ? allCameras + QLatin1Char('/') + QString::fromLatin1(hash) : QString();
 }
 
 std::optional<CameraView> CameraMemory::recall() const
 {
     QSettings settings;
     settings.beginGroup(m_group);
-    if (m_group.isEmpty() || settings.value(nameKey()).toString() != m_name) {
+    if (m_group.isEmpty() || settings.value(nameKey).toString() != m_name) {
         return std::nullopt;
     }
     return CameraView{
-        TreeState(settings.value(openRowsKey()).toStringList(), settings.value(currentRowKey()).toString()),
-        settings.value(pollingKey()).toBool(), settings.value(monitorKey()).toBool()};
+        TreeState(settings.value(openRowsKey).toStringList(), settings.value(currentRowKey).toString()),
+        settings.value(pollingKey).toBool(), settings.value(monitorKey).toBool()};
 }
 
 void CameraMemory::remember(const CameraView &view) const
@@ -110,11 +82,11 @@ void CameraMemory::remember(const CameraView &view) const
     }
     QSettings settings;
     settings.beginGroup(m_group);
-    settings.setValue(nameKey(), m_name);
-    settings.setValue(usedKey(), QDateTime::currentMSecsSinceEpoch());
-    settings.setValue(openRowsKey(), view.tree.openRows());
-    settings.setValue(currentRowKey(), view.tree.currentRow());
-    settings.setValue(pollingKey(), view.polls);
-    settings.setValue(monitorKey(), view.monitors);
+    settings.setValue(nameKey, m_name);
+    settings.setValue(usedKey, QDateTime::currentMSecsSinceEpoch());
+    settings.setValue(openRowsKey, view.tree.openRows());
+    settings.setValue(currentRowKey, view.tree.currentRow());
+    settings.setValue(pollingKey, view.polls);
+    settings.setValue(monitorKey, view.monitors);
     forgetOldest();
 }

@@ -8,7 +8,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -141,7 +140,6 @@ private slots:
     void damagedSettings_data();
     void damagedSettings();
     void hugeSettingsLoadFast();
-    void randomSettings();
     void firstGroupIsJoined();
     void anotherGroupIsLoadedBeforeItIsSaved();
     void detachSavesAndDisconnects();
@@ -457,43 +455,6 @@ void TestFavoritesData::hugeSettingsLoadFast()
     QVERIFY(data.load(group));
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(data.count(), entries / 2);
-}
-
-void TestFavoritesData::randomSettings()
-{
-    QSettings place;
-    place.setValue("x", 1);
-    place.sync();
-    const QString path = place.fileName();
-    QRandomGenerator random(20240607);
-    const auto alphabet = QByteArrayLiteral("[Favorites]\n0=1*2@%\\\"x,;\r\t\0\xff\xc3(ViewAlNumberOfEntri");
-    for (int round = 0; round < 150; ++round) {
-        QByteArray contents("[Favorites]\nNumberOfEntries=5\n0=a*A*@C\n1=b*B*@C\n2=c*C*@C\nViewAll=1\n");
-        for (int i = 0; i < 1 + round / 5; ++i) {
-            contents[random.bounded(contents.size())] = alphabet.at(random.bounded(alphabet.size()));
-        }
-        {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(contents);
-        }
-        QSettings().sync();
-        FavoritesData data;
-        QVERIFY(data.load(group));
-        QVERIFY(data.count() <= 5);
-        for (int i = 0; i < data.count(); ++i) {
-            const FavoriteEntry entry = *data.entryAt(i);
-            QVERIFY(!entry.featureName.isEmpty() && !entry.displayName.isEmpty()
-                    && !entry.nodeMapKey.isEmpty());
-            QCOMPARE(data.indexOfEntry(entry), i);
-        }
-        // What was loaded is well-formed, so it comes back the same.
-        QVERIFY(data.save(group));
-        FavoritesData again;
-        QVERIFY(again.load(group));
-        QCOMPARE(names(again), names(data));
-        QCOMPARE(again.viewAll(), data.viewAll());
-    }
 }
 
 void TestFavoritesData::firstGroupIsJoined()

@@ -10,11 +10,18 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QSet>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
+
+// The user waits meanwhile; what is saved for good goes on without the lock afterwards, since a list that
+// cannot be saved is worse than one that is mixed.
+constexpr int briefWait = 100; // ms
+constexpr int longWait = 2000;
+constexpr int retryPause = 250;
 
 // During static destruction the names that a QSettings needs may be gone already.
 bool settingsUsable()
@@ -190,7 +197,12 @@ bool FavoritesData::save(const QString &group)
         return false;
     }
     FavoritesStore store(group);
-    store.lock();
+    store.lock(longWait);
+    return saveTo(store, group);
+}
+
+bool FavoritesData::saveTo(FavoritesStore &store, const QString &group)
+{
     FavoritesList list{m_entries, m_viewAll, m_expanded};
     if (m_stored && m_storedPlace == store.place()) {
         const FavoritesList stored = store.read();
@@ -301,6 +313,21 @@ void FavoritesData::forgetChanges()
     m_changes.clear();
     m_viewAllChanged = false;
     m_expandedChanged = false;
+}
+
+void FavoritesData::saveScheduled()
+{
+    if (!hasChanges() || m_settingsGroup.isEmpty() || !settingsUsable()) {
+        m_saveScheduled = false;
+        return;
+    }
+    FavoritesStore store(m_settingsGroup);
+    if (!store.lock(briefWait)) {
+        QTimer::singleShot(retryPause, this, SLOT(saveScheduled()));
+        return;
+    }
+    m_saveScheduled = false;
+    saveTo(store, m_settingsGroup);
 }
 
 void FavoritesData::saveChanges()
@@ -437,5 +464,5 @@ void FavoritesData::scheduleSaving()
         return;
     }
     m_saveScheduled = true;
-    QMetaObject::invokeMethod(this, "saveChanges", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "saveScheduled", Qt::QueuedConnection);
 }

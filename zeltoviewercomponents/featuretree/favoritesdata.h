@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 
+class FavoritesStore;
 class SettingsWatcher;
 struct FavoritesList;
 
@@ -94,7 +95,7 @@ signals:
     void expanded(bool isExpanded);
 
 private slots:
-    void saveChanges();
+    void saveScheduled();
     void takeOverStored();
 
 private:
@@ -114,6 +115,8 @@ private:
     void replaceBy(const QString &group);
     void recordChange(Change::Kind kind, int index);
     void scheduleSaving();
+    void saveChanges();
+    bool saveTo(FavoritesStore &store, const QString &group);
     bool hasChanges() const;
     void forgetChanges();
     void watchStore();

@@ -20,31 +20,15 @@ constexpr QLatin1Char separator('*');
 constexpr int formatVersion = 3;
 // Far beyond any feature; what is longer is damage, and would stall whoever has to paint it.
 constexpr int maximumStoredLength = 65536;
-// The user waits meanwhile. Who has the lock needs it for milliseconds; one that is much older was left
-// behind, which is only known at once of the programs of this computer.
-constexpr int lockTimeout = 500; // ms
-constexpr int lockAge = 5000;
+// Who has the lock needs it for milliseconds; one that is much older was left behind, which is only known at
+// once of the programs of this computer.
+constexpr int lockAge = 5000; // ms
 constexpr int lockInterval = 5;
 
-QString versionKey()
-{
-    return QStringLiteral("Version");
-}
-
-QString countKey()
-{
-    return QStringLiteral("NumberOfEntries");
-}
-
-QString viewAllKey()
-{
-    return QStringLiteral("ViewAll");
-}
-
-QString expandedKey()
-{
-    return QStringLiteral("Expanded");
-}
+constexpr QLatin1String versionKey("Version");
+constexpr QLatin1String countKey("NumberOfEntries");
+constexpr QLatin1String viewAllKey("ViewAll");
+constexpr QLatin1String expandedKey("Expanded");
 
 QString fileOf(const QSettings &settings)
 {
@@ -114,20 +98,21 @@ QString FavoritesStore::place() const
     return m_settings.fileName() + QLatin1Char('\n') + m_settings.group();
 }
 
-void FavoritesStore::lock()
+bool FavoritesStore::lock(int milliseconds)
 {
     const QString file = fileOf(m_settings);
     if (file.isEmpty() || !QDir().mkpath(QFileInfo(file).path())) {
-        return;
+        return true;
     }
     m_lock = std::make_unique<QLockFile>(file + QStringLiteral(".favorites.lock"));
     m_lock->setStaleLockTime(lockAge);
     // Asked for often: waiting in the lock itself sleeps so long in between that others slip in again and
     // again.
-    const QDeadlineTimer deadline(lockTimeout);
+    const QDeadlineTimer deadline(milliseconds);
     while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError && !deadline.hasExpired()) {
         QThread::msleep(lockInterval);
     }
+    return m_lock->isLocked() || m_lock->error() != QLockFile::LockFailedError;
 }
 
 void FavoritesStore::unlock()
@@ -139,15 +124,15 @@ FavoritesList FavoritesStore::read()
 {
     m_settings.sync();
     // A group that was never written hides unavailable favorites and shows the branch expanded.
-    return {readEntries(), m_settings.value(viewAllKey()).toBool(),
-            m_settings.value(expandedKey(), true).toBool()};
+    return {readEntries(), m_settings.value(viewAllKey).toBool(),
+            m_settings.value(expandedKey, true).toBool()};
 }
 
 QList<FavoriteEntry> FavoritesStore::readEntries() const
 {
     QList<FavoriteEntry> entries;
     QSet<std::pair<QString, QString>> known;
-    const qint64 count = m_settings.value(countKey(), 0).toLongLong();
+    const qint64 count = m_settings.value(countKey, 0).toLongLong();
     const QList<qint64> numbers = storedNumbers(m_settings);
     for (const qint64 number : numbers) {
         if (number >= count) {
@@ -165,13 +150,13 @@ QList<FavoriteEntry> FavoritesStore::readEntries() const
 bool FavoritesStore::hasList() const
 {
     bool isNumber = false;
-    return m_settings.value(countKey()).toLongLong(&isNumber) >= 0 && isNumber;
+    return m_settings.value(countKey).toLongLong(&isNumber) >= 0 && isNumber;
 }
 
 bool FavoritesStore::write(const FavoritesList &list)
 {
-    m_settings.setValue(versionKey(), formatVersion);
-    m_settings.setValue(countKey(), static_cast<qint64>(list.entries.size()));
+    m_settings.setValue(versionKey, formatVersion);
+    m_settings.setValue(countKey, static_cast<qint64>(list.entries.size()));
     // Every number left over from another list goes: one in a gap would come back as a favorite.
     const QList<qint64> numbers = storedNumbers(m_settings);
     for (const qint64 number : numbers) {
@@ -184,8 +169,8 @@ bool FavoritesStore::write(const FavoritesList &list)
             m_settings.setValue(QString::number(i), storedText(list.entries.at(i)));
         }
     }
-    m_settings.setValue(viewAllKey(), list.viewAll ? 1 : 0);
-    m_settings.setValue(expandedKey(), list.expanded ? 1 : 0);
+    m_settings.setValue(viewAllKey, list.viewAll ? 1 : 0);
+    m_settings.setValue(expandedKey, list.expanded ? 1 : 0);
     m_settings.sync();
     // A format error is about what was read: the well-formed rest is kept and written.
     if (m_settings.status() != QSettings::AccessError) {

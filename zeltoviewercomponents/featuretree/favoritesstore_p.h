@@ -42,9 +42,9 @@ public:
     /*! Returns what tells this store from others: settings may move to another file. */
     QString place() const;
 
-    /*! Keeps other programs from writing until unlock(), or while the object lives. Goes on without after a
-     * while, since a list that cannot be saved is worse than one that is mixed. */
-    void lock();
+    /*! Keeps other programs from writing until unlock(), or while the object lives. Waits at most that long
+     * for the others and returns false when one of them is still at it. */
+    bool lock(int milliseconds);
     void unlock();
     /*! Reads anew what is stored. */
     FavoritesList read();
