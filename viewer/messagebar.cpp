@@ -50,7 +50,8 @@ MessageBar::~MessageBar() = default;
 
 void MessageBar::showMessage(const QString &message, const QString &details, const QString &subject)
 {
-    ++m_count;
+    m_count +=
+        1 - static_cast<int>(forget(subject)); // what became of the try before is no longer of interest
     m_messages.append({details.isEmpty() ? message : message + QLatin1Char('\n') + details, subject});
     if (m_messages.size() > messagesKept) {
         m_messages.removeFirst();
@@ -58,10 +59,15 @@ void MessageBar::showMessage(const QString &message, const QString &details, con
     updateText();
 }
 
+qsizetype MessageBar::forget(const QString &subject)
+{
+    const auto isAboutIt = [&subject](const Message &message) { return message.subject == subject; };
+    return subject.isEmpty() ? 0 : m_messages.removeIf(isAboutIt);
+}
+
 void MessageBar::resolve(const QString &subject)
 {
-    const auto isResolved = [&subject](const Message &message) { return message.subject == subject; };
-    const auto resolved = subject.isEmpty() ? 0 : m_messages.removeIf(isResolved);
+    const auto resolved = forget(subject);
     if (resolved == 0) {
         return;
     }

@@ -23,7 +23,8 @@ public:
     explicit MessageBar(QWidget *parent = nullptr);
     ~MessageBar() override;
 
-    /*! Shows \a message; \a details appear below it. A \a subject lets the message be taken back. */
+    /*! Shows \a message; \a details appear below it. A \a subject lets the message be taken back; the next
+     * one about it takes its place. */
     void showMessage(const QString &message, const QString &details, const QString &subject = QString());
     /*! Takes the messages about \a subject back, which are true no more. */
     void resolve(const QString &subject);
@@ -44,6 +45,7 @@ private:
         QString subject; // what it is about, empty when nobody will take it back
     };
 
+    qsizetype forget(const QString &subject);
     void updateText();
     QStringList texts() const;
 
