@@ -76,11 +76,11 @@ bool ZeltoQtSpinBox::canStep() const
 
 QString ZeltoQtSpinBox::problem() const
 {
-    const QString text = lineEdit()->text();
-    if (text.isEmpty() || text == textFromValue(value())) {
+    const QString text = cleanText();
+    if (text.isEmpty() || text == specialValueText() || text == textFromValue(value())) {
         return {};
     }
-    const auto number = IntegerText::number(text, locale());
+    const auto number = numberIn(text);
     if (!number) {
         return IntegerText::problem(text, IntegerText::Form::Decimal, locale());
     }
@@ -114,16 +114,17 @@ QValidator::State ZeltoQtSpinBox::validate(QString &text, int &) const
     if (!m_substitute.isEmpty() && text == m_substitute) {
         return QValidator::Acceptable;
     }
-    const auto number = m_hasLimits ? IntegerText::number(text, locale()) : std::nullopt;
+    const auto number = m_hasLimits ? numberIn(text) : std::nullopt;
     return number && *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
                                                                   : QValidator::Intermediate;
 }
 
 void ZeltoQtSpinBox::fixup(QString &text) const
 {
-    const auto number = IntegerText::number(text, locale());
+    const auto number = numberIn(text);
     if (number && m_hasLimits && !m_isPausing) {
-        text = QSpinBox::textFromValue(qBound(minimum(), EditorHelpers::saturated(*number), maximum()));
+        const int limited = qBound(minimum(), EditorHelpers::saturated(*number), maximum());
+        text = prefix() + QSpinBox::textFromValue(limited) + suffix();
     }
 }
 
@@ -134,7 +135,7 @@ QString ZeltoQtSpinBox::textFromValue(int value) const
 
 int ZeltoQtSpinBox::valueFromText(const QString &text) const
 {
-    const auto number = IntegerText::number(text, locale());
+    const auto number = numberIn(text);
     return number ? EditorHelpers::saturated(*number) : value();
 }
 
@@ -206,9 +207,17 @@ void ZeltoQtSpinBox::hideEvent(QHideEvent *)
     endRepeatedSteps();
 }
 
+std::optional<qint64> ZeltoQtSpinBox::numberIn(const QString &text) const
+{
+    QString bare = text;
+    bare.remove(0, bare.startsWith(prefix()) ? prefix().size() : 0);
+    bare.chop(bare.endsWith(suffix()) ? suffix().size() : 0);
+    return IntegerText::number(bare, locale());
+}
+
 std::optional<qint64> ZeltoQtSpinBox::typedNumber() const
 {
-    return lineEdit()->isModified() ? IntegerText::number(lineEdit()->text(), locale()) : std::nullopt;
+    return lineEdit()->isModified() ? numberIn(lineEdit()->text()) : std::nullopt;
 }
 
 void ZeltoQtSpinBox::noteEntered()

@@ -64,6 +64,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    std::optional<qint64> numberIn(const QString &text) const;
     std::optional<qint64> typedNumber() const;
     void noteEntered();
     void pause(QFocusEvent *event);
