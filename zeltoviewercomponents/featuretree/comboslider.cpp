@@ -17,7 +17,6 @@
 #include <QSlider>
 
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.comboSlider")
@@ -193,17 +192,9 @@ ZeltoQtSpinBox *ComboSlider::spinBox() const
     return m_spinBox;
 }
 
-void ComboSlider::valueTold() { }
-
-bool ComboSlider::isStepping() const
+std::optional<int> ComboSlider::stepStart() const
 {
-    return m_isSliderStepping || m_spinBox->isStepping();
-}
-
-void ComboSlider::stepTo(int value)
-{
-    const QScopedValueRollback<bool> stepping(m_isSliderStepping, true);
-    m_slider->setValue(value);
+    return m_sliderStepStart ? m_sliderStepStart : m_spinBox->stepStart();
 }
 
 void ComboSlider::setShowsTrueValue(bool showsTrueValue)
@@ -219,8 +210,9 @@ void ComboSlider::onComboBoxEditingFinished()
     if (trimmed != m_spinBox->value()) {
         m_spinBox->setValue(trimmed);
     }
-    if (entered) {
-        tellWhatBecameOf(*entered, trimmed);
+    const QString outcome = entered && !stepStart() ? m_spinBox->outcomeOf(*entered) : QString();
+    if (!outcome.isEmpty()) {
+        m_hint->tell(outcome);
     }
     if (entered && !m_showsTrueValue && trimmed == m_slider->value()) {
         tellUser(trimmed);
@@ -240,16 +232,14 @@ void ComboSlider::onSliderValueChanged(int value)
         return;
     }
     tellUser(value);
+    m_sliderStepStart.reset();
 }
 
 void ComboSlider::tellUser(int value)
 {
-    if (!m_updateEnabled) {
-        return;
+    if (m_updateEnabled) {
+        emit valueChanged(value);
     }
-    emit valueChanged(value);
-    valueTold();
-    m_isSliderStepping = false;
 }
 
 void ComboSlider::onSliderAction(int action)
@@ -258,19 +248,20 @@ void ComboSlider::onSliderAction(int action)
         action == QAbstractSlider::SliderSingleStepAdd || action == QAbstractSlider::SliderPageStepAdd;
     const bool isDown =
         action == QAbstractSlider::SliderSingleStepSub || action == QAbstractSlider::SliderPageStepSub;
-    m_isSliderStepping = false;
+    m_sliderStepStart.reset();
     if (!isUp && !isDown) {
         return;
     }
     const int value = m_slider->value();
+    // Whole steps, as those of the spin box, and one at least: a page may be smaller.
     const int step = std::max(m_spinBox->singleStep(), 1);
-    if (!m_spinBox->canStep()) {
-        m_slider->setSliderPosition(value);
-    } else if (std::abs(qint64(m_slider->sliderPosition()) - value) < step) {
-        // A page may be smaller than a step, and the grid would swallow it.
-        m_slider->setSliderPosition(EditorHelpers::saturated(qint64(value) + (isUp ? step : -step)));
+    const qint64 wholeSteps = (qint64(m_slider->sliderPosition()) - value) / step;
+    const qint64 steps = wholeSteps != 0 ? wholeSteps : isUp ? 1 : -1;
+    const int target = trimValue(EditorHelpers::saturated(value + steps * step));
+    m_slider->setSliderPosition(m_spinBox->canStep() ? target : value);
+    if (m_slider->sliderPosition() != value) {
+        m_sliderStepStart = value; // until the slider tells of it
     }
-    m_isSliderStepping = m_slider->sliderPosition() != value;
 }
 
 void ComboSlider::onTextChanged()
@@ -280,19 +271,8 @@ void ComboSlider::onTextChanged()
 
 void ComboSlider::onReturnPressed()
 {
+    onTextChanged(); // the limits may have changed below the text
     if (!m_hint->problem().isEmpty()) {
         m_hint->tell(m_hint->problem());
-    }
-}
-
-void ComboSlider::tellWhatBecameOf(qint64 entered, int value)
-{
-    if (entered > m_spinBox->maximum()) {
-        m_hint->tell(tr("%1 is the maximum").arg(value));
-    } else if (entered < m_spinBox->minimum()) {
-        m_hint->tell(tr("%1 is the minimum").arg(value));
-    } else if (entered != value && !isStepping()) {
-        m_hint->tell(
-            tr("%1 is the next value below, in steps of %2").arg(value).arg(m_spinBox->singleStep()));
     }
 }

@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class InputHint;
 class QSlider;
 class ZeltoQtSpinBox;
@@ -71,16 +73,14 @@ signals:
 protected:
     virtual void updateToolTip();
 
-    /*! Called after the user's change was told to everybody. */
-    virtual void valueTold();
+    /*! Tells everybody of the user's change to \a value, unless updates are off. */
+    virtual void tellUser(int value);
 
     /*! Returns the grid point at or below \a value, inside the limits. */
     int trimValue(int value) const;
 
-    /*! Returns whether the user's change that is being told is a step, and not an entry or a drag. */
-    bool isStepping() const;
-    /*! Makes a step to \a value. */
-    void stepTo(int value);
+    /*! Returns where the step began that is being told; nothing when that is an entry or a drag. */
+    std::optional<int> stepStart() const;
     /*! Sets whether what is shown is the value that setValue() was asked for. Any entry changes one that is
      * not. */
     void setShowsTrueValue(bool showsTrueValue);
@@ -98,14 +98,11 @@ private slots:
     void onReturnPressed();
 
 private:
-    void tellUser(int value);
-    void tellWhatBecameOf(qint64 entered, int value);
-
     ZeltoQtSpinBox *m_spinBox;
     QSlider *m_slider;
     InputHint *m_hint;
     int m_editBoxWidth = 0;
+    std::optional<int> m_sliderStepStart;
     bool m_updateEnabled = true;
-    bool m_isSliderStepping = false;
     bool m_showsTrueValue = true;
 };

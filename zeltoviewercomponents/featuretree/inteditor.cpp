@@ -69,8 +69,12 @@ void IntEditor::setEditorData(EditorData data)
         if (snapshot.representation == QLatin1String("IPV4Address")) {
             m_addressName = data.ptrParameter->name();
         }
-        setEnabled(EditorHelpers::canBeChanged(snapshot));
+        const bool isChangeable = EditorHelpers::canBeChanged(snapshot);
+        if (!isChangeable) {
+            setModified(false); // the focus goes with the lock, and would take what is typed along
+        }
         showSnapshot(snapshot);
+        setEnabled(isChangeable);
     });
 }
 
@@ -129,7 +133,7 @@ QVariant IntEditor::editorData()
     }
     setModified(false);
     m_keeper->showAgainAfterCommit();
-    return text();
+    return IntegerText::handedOut(text(), locale());
 }
 
 bool IntEditor::isUntouched() const

@@ -12,6 +12,8 @@
 
 namespace {
 
+using Limits = std::numeric_limits<qint64>;
+
 // Any four octets: features hold addresses of groups, of networks and of nobody, too.
 class OctetsValidator : public AddressValidator
 {
@@ -44,7 +46,8 @@ bool isHexadecimal(const QString &text)
 IntegerText::Form IntegerText::formOf(const QString &representation, const QString &name)
 {
     if (representation == QLatin1String("IPV4Address")) {
-        return name.contains(QLatin1String("SubnetMask")) ? Form::SubnetMask : Form::Address;
+        return name.contains(QLatin1String("NetMask"), Qt::CaseInsensitive) ? Form::SubnetMask
+                                                                            : Form::Address;
     }
     if (representation == QLatin1String("MACAddress")) {
         return Form::MacAddress;
@@ -65,9 +68,14 @@ QString IntegerText::problem(const QString &text, Form form, const QLocale &loca
     case Form::Address:
     case Form::SubnetMask:
         if (!OctetsValidator().reason(trimmed).isEmpty()) {
-            return tr("Enter four numbers from 0 to 255 with dots between them, such as 192.168.0.10.");
+            return tr(
+                "Enter four numbers from 0 to 255 with dots between them and without leading zeros, such "
+                "as 192.168.0.10.");
         }
-        return form == Form::SubnetMask ? QIpNetmaskValidator().reason(trimmed) : QString();
+        // All zeros stand for a mask that is not set.
+        return form == Form::SubnetMask && trimmed != QLatin1String("0.0.0.0")
+            ? QIpNetmaskValidator().reason(trimmed)
+            : QString();
     case Form::MacAddress:
         return matches(trimmed, QStringLiteral("([0-9a-fA-F]{1,2}:){5}[0-9a-fA-F]{1,2}"))
             ? QString()
@@ -91,10 +99,10 @@ QString IntegerText::numberProblem(const QString &text, Form form, const QLocale
     if (form == Form::Hexadecimal) {
         return tr("Enter a hexadecimal number behind 0x, with the digits 0 to 9 and a to f.");
     }
-    if (matches(text, QStringLiteral("[+-]?[0-9]*[.,'\\s][0-9.,'\\s]*"))) {
+    if (matches(text, QStringLiteral("[+-]?[0-9]*[.,'\u2019\\s][0-9.,'\u2019\\s]*"))) {
         return tr("Enter a whole number, without decimals and without separators.");
     }
-    return matches(text, QStringLiteral("[+-]?[0-9]+\\s*[^0-9xX\\s].*"))
+    return matches(text, QStringLiteral("[+-]?[0-9]+\\s*(?![eE][0-9+-])[^0-9xX\\s].*"))
         ? tr("Enter a whole number alone, without a unit.")
         : tr("Enter a whole number.");
 }
@@ -104,16 +112,31 @@ QString IntegerText::limitsProblem()
     return tr("The limits of this feature contradict each other, so that no number fits.");
 }
 
+QString IntegerText::gridHint(const QString &value, const QString &step)
+{
+    return tr("%1 is the next value below, in steps of %2").arg(value, step);
+}
+
 QString IntegerText::refusal()
 {
     return tr("This value was refused.");
 }
 
+QString IntegerText::handedOut(const QString &text, const QLocale &locale)
+{
+    bool isPlain = false;
+    text.toLongLong(&isPlain);
+    const auto value = isPlain ? std::nullopt : number(text, locale);
+    return value && *value != Limits::min() && *value != Limits::max() ? QString::number(*value) : text;
+}
+
+// Marks of the writing direction stand beside the signs of some languages.
 std::optional<qint64> IntegerText::number(const QString &text, const QLocale &locale)
 {
     QLocale strict = locale;
     strict.setNumberOptions(QLocale::RejectGroupSeparator);
-    const QString trimmed = text.trimmed();
+    QString trimmed = text.trimmed();
+    trimmed.removeIf([](QChar letter) { return letter.category() == QChar::Other_Format; });
     bool ok = false;
     const qint64 value = strict.toLongLong(trimmed, &ok);
     if (ok) {
@@ -122,6 +145,5 @@ std::optional<qint64> IntegerText::number(const QString &text, const QLocale &lo
     if (!matches(trimmed, QStringLiteral("[+-]?[0-9]+"))) {
         return std::nullopt;
     }
-    using Limits = std::numeric_limits<qint64>;
     return trimmed.startsWith(QLatin1Char('-')) ? Limits::min() : Limits::max();
 }

@@ -33,11 +33,15 @@ public:
     static QString problem(const QString &text, Form form, const QLocale &locale);
     /*! Returns what is to be said of any text where the limits contradict each other. */
     static QString limitsProblem();
+    /*! Returns the words for an entry that became \a value, which is on a grid of the distance \a step. */
+    static QString gridHint(const QString &value, const QString &step);
     /*! Returns what is to be said of a text that the parameter has refused. */
     static QString refusal();
 
     /*! Returns the number that \a text stands for in Form::Decimal, limited to 64 bits. */
     static std::optional<qint64> number(const QString &text, const QLocale &locale);
+    /*! Returns \a text as parameters read it: a number in the signs of the language has those of C. */
+    static QString handedOut(const QString &text, const QLocale &locale);
 
 private:
     static QString numberProblem(const QString &text, Form form, const QLocale &locale);

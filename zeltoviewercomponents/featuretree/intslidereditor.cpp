@@ -10,6 +10,7 @@
 #include <platform/core/guard.h>
 
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSlider>
 
 #include <optional>
@@ -22,24 +23,33 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.intSliderEditor")
 namespace {
 
 constexpr char setEditorDataName[] = "IntSliderEditor::setEditorData";
+constexpr int answerMilliseconds = 400; // less than editors wait before they show the last data again
 
 void log(const QString &text)
 {
     Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(), text);
 }
 
-void logInconsistency(const IParameter &parameter, int value, int minimum, int maximum)
+void logInconsistency(const IParameter &parameter, const IntegerParameterData &snapshot)
 {
+    const QString name = EditorHelpers::nodeName(&parameter);
+    if (!snapshot.isReadable) {
+        log(QStringLiteral("Non-readable slider: %1??????").arg(name));
+        return;
+    }
     const QString function = QString::fromLatin1(setEditorDataName);
+    const int value = EditorHelpers::saturated(snapshot.value);
+    const int minimum = EditorHelpers::saturated(snapshot.minimum);
+    const int maximum = EditorHelpers::saturated(snapshot.maximum);
     if (minimum > maximum) {
         log(QStringLiteral("%1: Feature %2: min value %3 > max value %4???")
-                .arg(function, EditorHelpers::nodeName(&parameter))
+                .arg(function, name)
                 .arg(minimum)
                 .arg(maximum));
     }
     if (value < minimum || value > maximum) {
         log(QStringLiteral("%1: Feature %2: value %3 out of range??? min = %4, max = %5")
-                .arg(function, EditorHelpers::nodeName(&parameter))
+                .arg(function, name)
                 .arg(value)
                 .arg(minimum)
                 .arg(maximum));
@@ -59,8 +69,6 @@ IntSliderEditor::IntSliderEditor(QWidget *parent)
 {
     // What came in during a drag was not shown.
     connect(slider(), SIGNAL(sliderReleased()), m_keeper, SLOT(showAgainAfterCommit()));
-    // Before any delegate connects, which writes the value from within the signal.
-    connect(this, SIGNAL(valueChanged(int)), this, SLOT(noteStep(int)));
 }
 
 IntSliderEditor::~IntSliderEditor() = default;
@@ -72,61 +80,49 @@ void IntSliderEditor::setEditorData(EditorData data)
         log(QStringLiteral("%1 is called with non-integer node????").arg(QLatin1String(setEditorDataName)));
         return;
     }
-    if (m_shown.ptrParameterData == data.ptrParameterData) {
+    if (m_isWriting && m_shown.ptrParameterData == data.ptrParameterData) {
         m_step.reset(); // what was there is shown again: the step was refused
     }
     m_shown = data;
-    const Core::GuardSite site{logCategory(), setEditorDataName};
+    m_keeper->keep(data);
     const bool isReadable = data.ptrParameterData->isReadable;
-    Core::guardedRun(site,
+    Core::guardedRun({logCategory(), setEditorDataName},
                      isReadable ? QStringLiteral("Failed to update the integer value editor")
                                 : QStringLiteral("Failed to retrieve a node's name"),
-                     [this, &data, isReadable] {
-                         m_keeper->keep(data);
-                         setEnabled(EditorHelpers::canBeChanged(*data.ptrParameterData));
-                         if (isReadable) {
-                             showSnapshot(data);
-                         } else {
-                             showUnreadable(data);
-                         }
-                     });
-}
-
-void IntSliderEditor::showUnreadable(const EditorData &data)
-{
-    log(QStringLiteral("Non-readable slider: %1??????")
-            .arg(EditorHelpers::nodeName(data.ptrParameter.data())));
-    std::optional<EditorHelpers::TypedText> typed;
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
-    if (EditorHelpers::isBeingTyped(*spinBox(), *lineEdit)) {
-        typed.emplace(lineEdit);
+                     [this, &data] { showSnapshot(data); });
+    if (m_step) {
+        m_keeper->showAgainAfterCommit(); // the answer may have been there before
+        // Not from within the refresh, whose sender is not done yet.
+        QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
     }
-    showLimits(static_cast<const IntegerParameterData &>(*data.ptrParameterData));
-    spinBox()->setSubstitute(tr("<not readable>"));
-    lineEdit->setModified(false);
-    setShowsTrueValue(false);
 }
 
 void IntSliderEditor::showSnapshot(const EditorData &data)
 {
     const auto &snapshot = static_cast<const IntegerParameterData &>(*data.ptrParameterData);
-    const int value = EditorHelpers::saturated(snapshot.value);
-    logInconsistency(*data.ptrParameter, value, EditorHelpers::saturated(snapshot.minimum),
-                     EditorHelpers::saturated(snapshot.maximum));
+    logInconsistency(*data.ptrParameter, snapshot);
+    const bool isChangeable = EditorHelpers::canBeChanged(snapshot);
+    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
+    if (!isChangeable) {
+        lineEdit->setModified(false); // the focus goes with the lock, and would take what is typed along
+    }
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     std::optional<EditorHelpers::TypedText> typed;
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
     if (EditorHelpers::isBeingTyped(*spinBox(), *lineEdit)) {
         typed.emplace(lineEdit);
     }
     showLimits(snapshot);
-    spinBox()->setSubstitute(QString());
-    if (!slider()->isSliderDown() && (!typed || this->value() != trimValue(value))) {
+    spinBox()->setSubstitute(snapshot.isReadable ? QString() : tr("<not readable>"));
+    const int value = EditorHelpers::saturated(snapshot.value);
+    if (!snapshot.isReadable) {
+        lineEdit->setModified(false);
+    } else if (!slider()->isSliderDown() && (!typed || this->value() != trimValue(value))) {
         setValue(value);
     }
-    if (this->value() != snapshot.value) {
+    if (!snapshot.isReadable || this->value() != snapshot.value) {
         setShowsTrueValue(false);
     }
+    setEnabled(isChangeable);
 }
 
 void IntSliderEditor::showLimits(const IntegerParameterData &snapshot)
@@ -147,24 +143,50 @@ QVariant IntSliderEditor::editorData()
     return value();
 }
 
-void IntSliderEditor::noteStep(int value)
+void IntSliderEditor::tellUser(int value)
 {
-    m_step.reset();
-    if (const ParameterDataPtr before = isStepping() ? currentValue() : nullptr) {
-        m_step = Step{before, qint64(value) - valueOf(before)};
+    if (!isUpdateEnabled()) {
+        return;
     }
+    m_step.reset();
+    const std::optional<int> start = stepStart();
+    if (const ParameterDataPtr before = start ? currentValue() : nullptr) {
+        m_step = Step{before, *start, qint64(value) - *start, value, {}};
+    }
+    write(value);
 }
 
-void IntSliderEditor::valueTold()
+void IntSliderEditor::write(int value)
 {
-    const ParameterDataPtr after = m_step ? currentValue() : nullptr;
-    if (!after || after == m_step->before || valueOf(after) != valueOf(m_step->before)) {
-        return; // refused, not answered yet, or moved
+    if (m_step) {
+        m_step->answerTime.setRemainingTime(answerMilliseconds);
     }
-    const int next = trimValue(EditorHelpers::saturated(valueOf(after) + 10 * m_step->distance));
-    if (next != value()) {
-        stepTo(next);
+    {
+        const QScopedValueRollback<bool> writing(m_isWriting, true);
+        ComboSlider::tellUser(value);
     }
+    goOnStepping();
+}
+
+// The answer may have come within the write, or comes with a later snapshot.
+void IntSliderEditor::goOnStepping()
+{
+    const ParameterDataPtr answer = m_step ? currentValue() : nullptr;
+    if (!answer || (answer == m_step->before && !m_step->answerTime.hasExpired())) {
+        return;
+    }
+    m_step->distance *= 10;
+    const int next = trimValue(EditorHelpers::saturated(m_step->start + m_step->distance));
+    const bool isSwallowed = valueOf(answer) == valueOf(m_step->before);
+    if (!isSwallowed || next == m_step->last
+        || EditorHelpers::isBeingTyped(*spinBox(), *EditorHelpers::lineEditOf(*spinBox()))) {
+        m_step.reset();
+        return;
+    }
+    m_step->before = answer;
+    m_step->last = next;
+    setValue(next);
+    write(next);
 }
 
 // Returns the snapshot that the parameter has now, null without a value.

@@ -7,6 +7,8 @@
 #include <zeltoviewercomponents/featuretree/comboslider.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <QDeadlineTimer>
+
 #include <optional>
 
 class EditorDataKeeper;
@@ -28,25 +30,29 @@ public:
     QVariant editorData() override;
 
 protected:
-    void valueTold() override;
+    void tellUser(int value) override;
 
 private slots:
-    void noteStep(int value);
+    void goOnStepping();
 
 private:
-    /*! \brief A step that the camera has not answered yet. */
+    /*! \brief A step that has not moved the camera's value yet. */
     struct Step
     {
-        ParameterCollection::ParameterDataPtr before;
+        ParameterCollection::ParameterDataPtr before; //!< the camera's answer is a newer one
+        int start;
         qint64 distance;
+        int last; //!< the value that was written last
+        QDeadlineTimer answerTime; //!< after it, an old answer counts, too
     };
 
     void showSnapshot(const EditorData &data);
+    void write(int value);
     void showLimits(const ParameterCollection::IntegerParameterData &snapshot);
-    void showUnreadable(const EditorData &data);
     ParameterCollection::ParameterDataPtr currentValue() const;
 
     EditorDataKeeper *m_keeper;
     EditorData m_shown;
     std::optional<Step> m_step;
+    bool m_isWriting = false;
 };

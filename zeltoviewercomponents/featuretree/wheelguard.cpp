@@ -43,7 +43,7 @@ bool WheelGuard::isEditorEntered() const
 
 void WheelGuard::noteFocus(QObject *watched, const QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseButtonPress && m_control->isEnabled()) {
         m_isEntered = true; // the focus may have been there before
     } else if (watched == m_control && event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();

@@ -5,6 +5,7 @@
 
 #include "editorhelpers.h"
 #include "integertext_p.h"
+#include "numbertext_p.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -43,7 +44,7 @@ void ZeltoQtSpinBox::stepBy(int steps)
     }
     noteEntered();
     interpretText(); // the base makes no step from beyond a limit
-    const QScopedValueRollback<bool> stepping(m_isStepping, true);
+    const QScopedValueRollback<std::optional<int>> stepping(m_stepStart, value());
     QAbstractSpinBox::stepBy(steps);
     if (singleStep() == 0) {
         // The grid has no distance, and the base made no step.
@@ -52,9 +53,9 @@ void ZeltoQtSpinBox::stepBy(int steps)
     emit editingFinished();
 }
 
-bool ZeltoQtSpinBox::isStepping() const
+std::optional<int> ZeltoQtSpinBox::stepStart() const
 {
-    return m_isStepping;
+    return m_stepStart;
 }
 
 void ZeltoQtSpinBox::setSubstitute(const QString &text)
@@ -82,12 +83,32 @@ bool ZeltoQtSpinBox::canStep() const
 
 QString ZeltoQtSpinBox::problem() const
 {
-    const QString text = lineEdit()->text();
-    if (text.isEmpty() || text == textFromValue(value())) {
+    const QString text = cleanText();
+    if (text.isEmpty() || text == specialValueText() || text == textFromValue(value())) {
         return {};
     }
-    const QString problem = IntegerText::problem(text, IntegerText::Form::Decimal, locale());
-    return problem.isEmpty() && !m_hasLimits ? IntegerText::limitsProblem() : problem;
+    const auto number = numberIn(text);
+    if (!number) {
+        return IntegerText::problem(text, IntegerText::Form::Decimal, locale());
+    }
+    if (!m_hasLimits) {
+        return IntegerText::limitsProblem();
+    }
+    // Where no value was read, none is chosen in the place of the one that was meant.
+    return m_substitute.isEmpty() ? QString() : outcomeOf(*number);
+}
+
+QString ZeltoQtSpinBox::outcomeOf(qint64 number) const
+{
+    const int limited = qBound(minimum(), EditorHelpers::saturated(number), maximum());
+    const int value = EditorHelpers::trimmedToGrid(limited, minimum(), singleStep());
+    if (number == value) {
+        return {};
+    }
+    const QString text = QSpinBox::textFromValue(value);
+    return number > maximum() || number < minimum()
+        ? NumberText::limitHint(text, number > maximum())
+        : IntegerText::gridHint(text, QSpinBox::textFromValue(singleStep()));
 }
 
 std::optional<qint64> ZeltoQtSpinBox::takeEntered()
@@ -100,16 +121,17 @@ QValidator::State ZeltoQtSpinBox::validate(QString &text, int &) const
     if (!m_substitute.isEmpty() && text == m_substitute) {
         return QValidator::Acceptable;
     }
-    const auto number = m_hasLimits ? IntegerText::number(text, locale()) : std::nullopt;
+    const auto number = m_hasLimits ? numberIn(text) : std::nullopt;
     return number && *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
                                                                   : QValidator::Intermediate;
 }
 
 void ZeltoQtSpinBox::fixup(QString &text) const
 {
-    const auto number = IntegerText::number(text, locale());
+    const auto number = numberIn(text);
     if (number && m_hasLimits && !m_isPausing) {
-        text = QSpinBox::textFromValue(qBound(minimum(), EditorHelpers::saturated(*number), maximum()));
+        const int limited = qBound(minimum(), EditorHelpers::saturated(*number), maximum());
+        text = prefix() + QSpinBox::textFromValue(limited) + suffix();
     }
 }
 
@@ -120,7 +142,7 @@ QString ZeltoQtSpinBox::textFromValue(int value) const
 
 int ZeltoQtSpinBox::valueFromText(const QString &text) const
 {
-    const auto number = IntegerText::number(text, locale());
+    const auto number = numberIn(text);
     return number ? EditorHelpers::saturated(*number) : value();
 }
 
@@ -178,17 +200,31 @@ void ZeltoQtSpinBox::focusOutEvent(QFocusEvent *event)
     QSpinBox::focusOutEvent(event);
 }
 
-void ZeltoQtSpinBox::hideEvent(QHideEvent *event)
+// The base enters what is typed when it is hidden, and drops it when it is shown again: a minimized window
+// has not been left.
+void ZeltoQtSpinBox::showEvent(QShowEvent *event)
 {
-    // The base enters what is typed, also when the window is only minimized.
-    if (!event->spontaneous()) {
-        QSpinBox::hideEvent(event);
+    if (!lineEdit()->isModified()) {
+        QSpinBox::showEvent(event);
     }
+}
+
+void ZeltoQtSpinBox::hideEvent(QHideEvent *)
+{
+    endRepeatedSteps();
+}
+
+std::optional<qint64> ZeltoQtSpinBox::numberIn(const QString &text) const
+{
+    QString bare = text;
+    bare.remove(0, bare.startsWith(prefix()) ? prefix().size() : 0);
+    bare.chop(bare.endsWith(suffix()) ? suffix().size() : 0);
+    return IntegerText::number(bare, locale());
 }
 
 std::optional<qint64> ZeltoQtSpinBox::typedNumber() const
 {
-    return lineEdit()->isModified() ? IntegerText::number(lineEdit()->text(), locale()) : std::nullopt;
+    return lineEdit()->isModified() ? numberIn(lineEdit()->text()) : std::nullopt;
 }
 
 void ZeltoQtSpinBox::noteEntered()
@@ -200,9 +236,14 @@ void ZeltoQtSpinBox::noteEntered()
 void ZeltoQtSpinBox::pause(QFocusEvent *event)
 {
     const QScopedValueRollback<bool> pausing(m_isPausing, true);
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
-    QSpinBox::mouseReleaseEvent(&release); // ends steps that repeat themselves
+    endRepeatedSteps();
     lineEdit()->event(event);
     QWidget::focusOutEvent(event);
+}
+
+void ZeltoQtSpinBox::endRepeatedSteps()
+{
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QSpinBox::mouseReleaseEvent(&release);
 }

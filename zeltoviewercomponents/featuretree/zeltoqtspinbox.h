@@ -13,7 +13,8 @@
  *
  * What is typed stays as it is typed, also beyond the limits, until it is entered with Return, by a step or
  * by leaving. Then the nearest limit takes its place. A text that is no number is kept by Return and replaced
- * by the value on leaving. A menu or another window is not leaving.
+ * by the value on leaving, as is a number outside the limits where the value is not known. A menu or another
+ * window is not leaving.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ZeltoQtSpinBox : public QSpinBox
 {
@@ -29,8 +30,9 @@ public:
     /*! Changes the value by \a steps single steps, or by the page step after a page key, and ends the
      * editing. */
     void stepBy(int steps) override;
-    /*! Returns whether a step is being made, which includes the end of the editing that follows. */
-    bool isStepping() const;
+    /*! Returns where the step began that is being made, which includes the end of the editing that follows.
+     */
+    std::optional<int> stepStart() const;
 
     /*! Shows \a text in the place of a value that is not known, which no step can start from. An empty one
      * shows the value again. */
@@ -42,6 +44,8 @@ public:
 
     /*! Returns why what stands there is no value, empty when it is one. */
     QString problem() const;
+    /*! Returns the words for what the limits and the grid make of \a number; empty when they leave it. */
+    QString outcomeOf(qint64 number) const;
     /*! Returns the number that was typed before the editing ended, once. */
     std::optional<qint64> takeEntered();
 
@@ -58,18 +62,21 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
+    std::optional<qint64> numberIn(const QString &text) const;
     std::optional<qint64> typedNumber() const;
     void noteEntered();
     void pause(QFocusEvent *event);
+    void endRepeatedSteps();
 
     QString m_substitute;
     std::optional<qint64> m_entered;
+    std::optional<int> m_stepStart;
     int m_pageStep = 10;
     bool m_pageKeyPressed = false;
-    bool m_isStepping = false;
     bool m_isPausing = false; // nothing is entered
     bool m_hasLimits = true;
 };

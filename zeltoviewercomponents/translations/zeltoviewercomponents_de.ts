@@ -38,18 +38,6 @@
         <source>Range: %1..%2</source>
         <translation>Bereich: %1..%2</translation>
     </message>
-    <message>
-        <source>%1 is the maximum</source>
-        <translation>%1 ist das Maximum</translation>
-    </message>
-    <message>
-        <source>%1 is the minimum</source>
-        <translation>%1 ist das Minimum</translation>
-    </message>
-    <message>
-        <source>%1 is the next value below, in steps of %2</source>
-        <translation>%1 ist der nächstliegende Wert darunter, in Schritten von %2</translation>
-    </message>
 </context>
 <context>
     <name>DoubleComboSlider</name>
@@ -461,8 +449,8 @@
 <context>
     <name>IntegerText</name>
     <message>
-        <source>Enter four numbers from 0 to 255 with dots between them, such as 192.168.0.10.</source>
-        <translation>Geben Sie vier Zahlen von 0 bis 255 mit Punkten dazwischen ein, etwa 192.168.0.10.</translation>
+        <source>Enter four numbers from 0 to 255 with dots between them and without leading zeros, such as 192.168.0.10.</source>
+        <translation>Geben Sie vier Zahlen von 0 bis 255 mit Punkten dazwischen und ohne führende Nullen ein, etwa 192.168.0.10.</translation>
     </message>
     <message>
         <source>Enter six hexadecimal numbers with colons between them, such as 00:1B:2C:3D:4E:5F.</source>
@@ -487,6 +475,10 @@
     <message>
         <source>The limits of this feature contradict each other, so that no number fits.</source>
         <translation>Die Grenzen dieses Merkmals widersprechen sich, so dass keine Zahl passt.</translation>
+    </message>
+    <message>
+        <source>%1 is the next value below, in steps of %2</source>
+        <translation>%1 ist der nächste Wert darunter, in Schritten von %2</translation>
     </message>
     <message>
         <source>This value was refused.</source>
