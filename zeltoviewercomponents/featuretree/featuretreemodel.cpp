@@ -224,7 +224,9 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
     try {
         if (!isSameValue(*item, value)) {
             item->setData(FeatureTreeColumns::value, value, Qt::EditRole);
-            emit written(parameter);
+            if (parameter && (!guardedItem || nodeItem->hasWritten())) {
+                emit written(parameter);
+            }
         }
         return true;
     } catch (...) {
@@ -234,8 +236,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
 }
 
 // Reports the exception that is being handled. The item is null when it is gone by now.
-void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item,
-                                          const QSharedPointer<IParameter> &parameter)
+void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPointer<IParameter> &parameter)
 {
     const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
@@ -245,14 +246,19 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item,
     if (!m_deviceAlive) {
         return;
     }
+    const auto tell = [this, &parameter](const QString &message) {
+        if (parameter) {
+            emit writeFailed(parameter, message);
+        }
+    };
     // The system's and the standard library's own exceptions all derive from std::exception.
     try {
         throw;
     } catch (const std::exception &exception) {
-        emit writeFailed(parameter, QString::fromUtf8(exception.what()));
+        tell(QString::fromUtf8(exception.what()));
         showException(context, exception, text);
     } catch (...) {
-        emit writeFailed(parameter, text);
+        tell(text);
         showUnexpectedException(context, text);
     }
 }

@@ -56,6 +56,7 @@ void UnansweredWrites::write(IParameter &parameter, const QString &text)
         writes = new UnansweredWrites(parameter);
     }
     const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
+    writes->m_isCertain = false; // should it fail: the camera may have taken it
     parameter.setValueFromString(text);
     writes->m_before = before;
     writes->m_text = text;
