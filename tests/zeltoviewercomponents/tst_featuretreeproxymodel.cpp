@@ -30,6 +30,17 @@ namespace {
 
 const QString cameraDevice = "@CameraDevice";
 
+QStringList matchesIn(const FeatureTreeProxyModel &proxy)
+{
+    QStringList names;
+    const auto rows = proxy.match(proxy.index(0, 0), FeatureTreeItem::FullNodeNameRole, QString(), -1,
+                                  Qt::MatchContains | Qt::MatchRecursive);
+    for (const QModelIndex &row : rows) {
+        names += proxy.isMatch(row) ? QStringList(row.data().toString()) : QStringList();
+    }
+    return names;
+}
+
 } // namespace
 
 class TestFeatureTreeProxyModel : public QObject
@@ -188,6 +199,7 @@ void TestFeatureTreeProxyModel::acceptanceFollowsTheRule()
                                .arg(text, accepted.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')))));
             QCOMPARE(m_proxy->visibleMatches(), behind.visibleMatches());
             QCOMPARE(m_proxy->hiddenMatches(), behind.hiddenMatches());
+            QCOMPARE(matchesIn(*m_proxy), matchesIn(behind));
         }
     }
 }
