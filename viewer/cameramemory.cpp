@@ -16,6 +16,8 @@
 namespace {
 
 constexpr qsizetype maximumCameras = 50;
+constexpr FeatureTreeLook::Parts keptParts = FeatureTreeLook::Parts(FeatureTreeLook::OpenRows)
+    | FeatureTreeLook::CurrentRow | FeatureTreeLook::Polling;
 
 QString allCameras()
 {
@@ -30,21 +32,6 @@ QString nameKey()
 QString usedKey()
 {
     return QStringLiteral("Used");
-}
-
-QString openRowsKey()
-{
-    return QStringLiteral("OpenRows");
-}
-
-QString currentRowKey()
-{
-    return QStringLiteral("CurrentRow");
-}
-
-QString pollingKey()
-{
-    return QStringLiteral("Polling");
 }
 
 QString monitorKey()
@@ -98,9 +85,12 @@ std::optional<CameraView> CameraMemory::recall() const
     if (m_group.isEmpty() || settings.value(nameKey()).toString() != m_name) {
         return std::nullopt;
     }
-    return CameraView{
-        TreeState(settings.value(openRowsKey()).toStringList(), settings.value(currentRowKey()).toString()),
-        settings.value(pollingKey()).toBool(), settings.value(monitorKey()).toBool()};
+    QVariantMap kept;
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        kept.insert(key, settings.value(key));
+    }
+    return CameraView{FeatureTreeLook(kept), settings.value(monitorKey()).toBool()};
 }
 
 void CameraMemory::remember(const CameraView &view) const
@@ -112,9 +102,10 @@ void CameraMemory::remember(const CameraView &view) const
     settings.beginGroup(m_group);
     settings.setValue(nameKey(), m_name);
     settings.setValue(usedKey(), QDateTime::currentMSecsSinceEpoch());
-    settings.setValue(openRowsKey(), view.tree.openRows());
-    settings.setValue(currentRowKey(), view.tree.currentRow());
-    settings.setValue(pollingKey(), view.polls);
+    const QVariantMap parts = view.tree.toMap(keptParts);
+    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
+        settings.setValue(part.key(), part.value());
+    }
     settings.setValue(monitorKey(), view.monitors);
     forgetOldest();
 }
