@@ -324,6 +324,8 @@ void TestFeatureTreeModel::setDataWritesChangesOnly()
     QVERIFY(!m_model->setData(value, QVariant()));
     QVERIFY(m_model->setData(value, "0"));
     QVERIFY(m_model->setData(value, 0));
+    node->snapshot->valueString = "0x0"; // as the camera writes it
+    QVERIFY(m_model->setData(value, 0));
     QCOMPARE(node->writes, QStringList());
     QVERIFY(m_model->setData(value, 12));
     QCOMPARE(node->writes, QStringList("12"));
