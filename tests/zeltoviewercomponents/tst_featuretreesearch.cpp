@@ -109,6 +109,7 @@ void TestFeatureTreeSearch::searchKeepsAndRestoresTheTree()
     bench.view()->collapseAll();
     bench.erase();
     QCOMPARE(bench.shownRows(), before);
+    QVERIFY(bench.favorites().isExpanded());
 }
 
 void TestFeatureTreeSearch::searchCounts()

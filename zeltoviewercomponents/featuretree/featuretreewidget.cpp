@@ -304,6 +304,12 @@ void FeatureTreeWidget::copyToClipboard()
 void FeatureTreeWidget::expandTree()
 {
     m_ui->treeView->expandToDepth(expandedDepth);
+    recordFavoritesExpansion();
+}
+
+// A search has its own expansion.
+void FeatureTreeWidget::recordFavoritesExpansion()
+{
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     const QModelIndex favorites = extension->GetFavoritesRootIndex();
     if (favorites.isValid() && m_filterText.isEmpty()) {
@@ -660,6 +666,7 @@ void FeatureTreeWidget::filter(const QString &text)
     } else if (wasSearching) {
         restoreExpandedStatus();
         restoreSelectionStatus();
+        recordFavoritesExpansion(); // which may have been closed in the search
     }
     getFeatureExtension()->refreshSpecialItems();
     if (wasSearching && !isSearching) {

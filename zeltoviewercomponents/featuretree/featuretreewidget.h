@@ -215,6 +215,7 @@ private:
     QModelIndex firstShownRow(const RowTest &isWanted, const QModelIndex &parent = QModelIndex()) const;
     QModelIndex shownRow(const QString &fullName) const;
     void goToFirstMatch();
+    void recordFavoritesExpansion();
     void filter(const QString &text);
     void showCounts();
     void setSearchRow(const QString &message, bool isShown);
