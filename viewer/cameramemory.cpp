@@ -16,13 +16,12 @@
 namespace {
 
 constexpr qsizetype maximumCameras = 50;
+constexpr FeatureTreeLook::Parts keptParts = FeatureTreeLook::Parts(FeatureTreeLook::OpenRows)
+    | FeatureTreeLook::CurrentRow | FeatureTreeLook::Polling;
 
 constexpr QLatin1String allCameras("Cameras");
 constexpr QLatin1String nameKey("Name");
 constexpr QLatin1String usedKey("Used");
-constexpr QLatin1String openRowsKey("OpenRows");
-constexpr QLatin1String currentRowKey("CurrentRow");
-constexpr QLatin1String pollingKey("Polling");
 constexpr QLatin1String monitorKey("MonitorMode");
 
 // However a file is written, it is the same camera.
@@ -70,9 +69,12 @@ std::optional<CameraView> CameraMemory::recall() const
     if (m_group.isEmpty() || settings.value(nameKey).toString() != m_name) {
         return std::nullopt;
     }
-    return CameraView{
-        TreeState(settings.value(openRowsKey).toStringList(), settings.value(currentRowKey).toString()),
-        settings.value(pollingKey).toBool(), settings.value(monitorKey).toBool()};
+    QVariantMap kept;
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        kept.insert(key, settings.value(key));
+    }
+    return CameraView{FeatureTreeLook(kept), settings.value(monitorKey).toBool()};
 }
 
 void CameraMemory::remember(const CameraView &view) const
@@ -84,9 +86,10 @@ void CameraMemory::remember(const CameraView &view) const
     settings.beginGroup(m_group);
     settings.setValue(nameKey, m_name);
     settings.setValue(usedKey, QDateTime::currentMSecsSinceEpoch());
-    settings.setValue(openRowsKey, view.tree.openRows());
-    settings.setValue(currentRowKey, view.tree.currentRow());
-    settings.setValue(pollingKey, view.polls);
+    const QVariantMap parts = view.tree.toMap(keptParts);
+    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
+        settings.setValue(part.key(), part.value());
+    }
     settings.setValue(monitorKey, view.monitors);
     forgetOldest();
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "treestate.h"
+#include <zeltoviewercomponents/featuretree/featuretreelook.h>
 
 #include <QString>
 
@@ -14,8 +14,7 @@ struct Options;
 /*! \brief How a camera or description file was looked at when it was closed. */
 struct CameraView
 {
-    TreeState tree;
-    bool polls = false;
+    FeatureTreeLook tree;
     bool monitors = false;
 };
 

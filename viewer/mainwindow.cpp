@@ -18,12 +18,12 @@
 #include "services/featuretreestatusservice.h"
 #include "services/workbenchservice.h"
 #include "treemenu.h"
-#include "treestate.h"
 
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
+#include <zeltoviewercomponents/featuretree/featuretreelook.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
@@ -356,16 +356,22 @@ void MainWindow::recallCamera()
     m_monitorAction->setChecked(view && view->monitors);
     if (view) {
         view->tree.applyTo(*m_tree);
-        m_tree->setPolling(view->polls);
     }
 }
 
 void MainWindow::rememberCamera()
 {
     if (m_camera) {
-        const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
-        m_memory.remember({TreeState(*m_tree), polls, m_monitorAction->isChecked()});
+        m_memory.remember({currentLook(), m_monitorAction->isChecked()});
     }
+}
+
+// That a lost camera is not polled says nothing about the next time.
+FeatureTreeLook MainWindow::currentLook()
+{
+    FeatureTreeLook look(*m_tree);
+    look.setPolling(look.polls() || m_pollsAfterReconnect);
+    return look;
 }
 
 void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
@@ -504,17 +510,15 @@ void MainWindow::onControlRefused(const QString &reason)
 
 void MainWindow::reconnect()
 {
-    const bool polls = m_tree->getPolling() || m_pollsAfterReconnect;
     try {
         const WaitCursor cursor;
         std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
-        const std::optional<TreeState> state =
-            m_camera ? std::make_optional<TreeState>(*m_tree) : std::nullopt;
+        const std::optional<FeatureTreeLook> look =
+            m_camera ? std::make_optional(currentLook()) : std::nullopt;
         closeCamera();
         useCamera(std::move(camera));
-        if (state) {
-            state->applyTo(*m_tree);
-            m_tree->setPolling(polls);
+        if (look) {
+            look->applyTo(*m_tree);
         } else {
             recallCamera();
         }

@@ -118,6 +118,7 @@ private:
     void createHelpMenu();
     QWidget *createEmptyPage();
     QString ipObstacle() const;
+    FeatureTreeLook currentLook();
     bool isCloseWanted();
     bool confirm(const QString &key, const QString &title, const QString &text);
     bool isExecutionWanted(const ParameterCollection::IParameter &command);

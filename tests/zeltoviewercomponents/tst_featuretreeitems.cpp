@@ -343,7 +343,6 @@ void TestFeatureTreeItems::writes_data()
     row("UTF-8", "DeviceUserID", true, QVariant("5 €"), QStringList("5 €"), false);
     row("integer from a slider", "Width", false, QVariant(656), QStringList("656"), false);
     row("boolean changes", "ReverseX", false, QVariant("1"), QStringList("1"), false);
-    row("boolean has the value", "ReverseX", false, QVariant("0"), nothing, false);
     row("boolean is unknown", "Unreadable", false, QVariant("0"), QStringList("0"), false);
     row("no boolean", "ReverseX", false, QVariant("off"), nothing, true);
 }
@@ -416,6 +415,7 @@ void TestFeatureTreeItems::clampsIntoLimits()
     QFETCH(const QStringList, written);
     QFETCH(const QString, lacks);
     auto *const item = itemFor(feature);
+    itemFor(feature); // another row of the parameter, which does not write it again
     m_model->SetDeviceAlive(lacks != "device");
     QSignalSpy spy(item, SIGNAL(nodeUpdated(int, FeatureTreeINodeItem *)));
     const auto change = [&](auto &data) {

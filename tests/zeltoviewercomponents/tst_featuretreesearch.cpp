@@ -4,6 +4,7 @@
 #include "featuretreetest.h"
 
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
+#include <zeltoviewercomponents/featuretree/featuretreelook.h>
 #include <zeltoviewercomponents/featuretree/floateditor.h>
 #include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
 
@@ -92,11 +93,23 @@ void TestFeatureTreeSearch::searchKeepsAndRestoresTheTree()
     bench.erase();
     QCOMPARE(bench.shownRows(), before);
 
-    // What is collapsed in a search is as it was afterwards, too.
+    // The same camera opened anew is brought to the same look, in the search and after it.
     bench.type(QStringLiteral("e"));
+    bench.view()->setCurrentIndex(bench.row(QStringLiteral("OffsetX")));
+    const FeatureTreeLook look(bench.widget);
+    TreeBench anew(camera, GenApi::Beginner);
+    FeatureTreeLook(look.toMap(~FeatureTreeLook::Parts())).applyTo(anew.widget);
+    QCOMPARE(anew.widget.visibility(), GenApi::Guru);
+    QCOMPARE(anew.box()->text(), QStringLiteral("e"));
+    QCOMPARE(anew.view()->currentIndex(), anew.row(QStringLiteral("OffsetX")));
+    anew.erase();
+    QCOMPARE(anew.shownRows(), before);
+
+    // What is collapsed in a search is as it was afterwards, too.
     bench.view()->collapseAll();
     bench.erase();
     QCOMPARE(bench.shownRows(), before);
+    QVERIFY(bench.favorites().isExpanded());
 }
 
 void TestFeatureTreeSearch::searchCounts()
@@ -436,6 +449,7 @@ void TestFeatureTreeSearch::showsFeatures_data()
     QTest::newRow("a hit") << QStringLiteral("gain") << QStringLiteral("Gain") << true << true;
     QTest::newRow("no hit") << QStringLiteral("gain") << QStringLiteral("Width") << true << false;
     QTest::newRow("unknown") << QStringLiteral("gain") << QStringLiteral("Nothing") << false << true;
+    QTest::newRow("above the level") << QStringLiteral("gain") << QStringLiteral("Hidden") << false << true;
     QTest::newRow("in two places") << QString() << QStringLiteral("GainFine") << true << true;
 }
 

@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QUuid>
+#include <QWeakPointer>
 
 #include <algorithm>
 #include <array>
@@ -99,6 +100,20 @@ bool isUsable(qint64 limit)
 bool isUsable(double limit)
 {
     return std::isfinite(limit);
+}
+
+/*! \brief What was brought back into its limits last. The rows of a parameter hear of a snapshot one after
+ * the other, and the first one writes for all. */
+struct LastClamp
+{
+    const IParameter *parameter = nullptr; // not followed
+    QWeakPointer<const ParameterData> snapshot;
+};
+
+LastClamp &lastClamp()
+{
+    static LastClamp last;
+    return last;
 }
 
 } // namespace
@@ -439,6 +454,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
 {
     // A copy, which keeps the parameter alive while it is at work: it may have the tree cleared.
     const QSharedPointer<IParameter> parameter = m_parameter;
+    m_hasWritten = false;
     if (column != FeatureTreeColumns::value || role != Qt::EditRole || !parameter
         || parameter->isExcluded()) {
         return;
@@ -448,6 +464,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         scheduleForcedParameterDataChangedCheck();
         return;
     }
+    m_hasWritten = true; // what follows throws, or may delete this item
     if (m_editorType == Command) {
         if (const auto command = qSharedPointerObjectCast<ICommandParameter>(parameter)) {
             command->execute(true);
@@ -456,9 +473,6 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         return;
     }
     const QString text = value.toString();
-    if (isOfType(ParameterType::Boolean) && isCurrentValue(value)) {
-        return;
-    }
     if (!m_useUtf8 && !isLatin1(text)) {
         throw GenICam::InvalidArgumentException(
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
@@ -469,22 +483,19 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
 
 bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
 {
-    // A value that cannot be read is not known to be the same, and a command has none.
-    if (!m_data || !m_data->isReadable || !m_parameter || m_editorType == Command || isCategory()) {
+    // The item's own snapshot is no measure: it may be the older one, and stays so without callbacks.
+    if (!m_parameter || m_editorType == Command || isCategory()) {
         return false;
     }
     const auto current = Core::guarded(
         site("FeatureTreeINodeItem::isCurrentValue"), QStringLiteral("Failed to get the current value"),
         QSharedPointer<const ParameterData>(), [this] { return m_parameter->parameterData(); });
     if (!current || !current->isReadable) {
-        return false;
+        return false; // what cannot be read is not known to be the same
     }
     const QString text = value.toString();
     const UnansweredWrites *const writes = UnansweredWrites::find(*m_parameter);
-    if (writes && writes->isWaiting()) {
-        return writes->isLast(text, *current);
-    }
-    return isValueOf(*m_data, text) && isValueOf(*current, text);
+    return writes && writes->isWaiting() ? writes->isLast(text, *current) : isValueOf(*current, text);
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
@@ -552,7 +563,12 @@ bool FeatureTreeINodeItem::clampTyped(const QSharedPointer<const ParameterData> 
         return false;
     }
     m_clamped = snapshot;
-    parameter->setValue(limit);
+    LastClamp &last = lastClamp();
+    if (last.parameter != m_parameter.data() || last.snapshot != snapshot) {
+        const LastClamp now{m_parameter.data(), snapshot};
+        parameter->setValue(limit); // after which this item may be gone
+        last = now;
+    }
     return true;
 }
 

@@ -73,10 +73,11 @@ public:
     QSharedPointer<ParameterCollection::IParameter> node() const;
     /*! Returns the latest snapshot, null until a read succeeded. */
     QSharedPointer<const ParameterCollection::ParameterData> getParameterData() const;
-    /*! Returns whether the parameter is known to have \a value already, so that writing it changes nothing: no
-     * write that would change it waits for the camera's answer, and both the latest snapshot and the item's
-     * have it. */
+    /*! Returns whether the parameter is known to have \a value already, so that writing it changes nothing:
+     * its current snapshot has it, and no write that would change it waits for the camera's answer. */
     bool isCurrentValue(const QVariant &value) const;
+    /*! Returns whether the last setData() came as far as writing or executing the parameter. */
+    bool hasWritten() const { return m_hasWritten; }
     /*! Returns whether the user may change the value now. */
     bool isEditable() const;
     /*! Sets what marks search hits in the tool tip; not owned, may be null. */
@@ -129,6 +130,7 @@ private:
     QSharedPointer<const ParameterCollection::ParameterData> m_data;
     State m_state;
     bool m_useUtf8 = false;
+    bool m_hasWritten = false;
     QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;
     QString m_unit;

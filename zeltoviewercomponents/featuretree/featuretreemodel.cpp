@@ -199,7 +199,9 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
     try {
         if (!isSameValue(*item, value)) {
             item->setData(FeatureTreeColumns::value, value, Qt::EditRole);
-            emit written(parameter);
+            if (parameter && (!guardedItem || nodeItem->hasWritten())) {
+                emit written(parameter);
+            }
         }
         return true;
     } catch (...) {
@@ -219,14 +221,19 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPo
     if (!m_deviceAlive) {
         return;
     }
+    const auto tell = [this, &parameter](const QString &message) {
+        if (parameter) {
+            emit writeFailed(parameter, message);
+        }
+    };
     // The system's and the standard library's own exceptions all derive from std::exception.
     try {
         throw;
     } catch (const std::exception &exception) {
-        emit writeFailed(parameter, QString::fromUtf8(exception.what()));
+        tell(QString::fromUtf8(exception.what()));
         showException(context, exception, text);
     } catch (...) {
-        emit writeFailed(parameter, text);
+        tell(text);
         showUnexpectedException(context, text);
     }
 }

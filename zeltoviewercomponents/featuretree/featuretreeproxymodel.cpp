@@ -153,10 +153,19 @@ bool FeatureTreeProxyModel::acceptAll() const
     return m_acceptAll;
 }
 
-bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
+bool FeatureTreeProxyModel::isUnfolded(const QModelIndex &index) const
 {
     const FeatureTreeItem *const item = getFeatureTreeItem(index);
-    return item && item->getFullName() != FeatureTreeNames::search && isHit(item);
+    return !item || isMapped(item);
+}
+
+bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
+{
+    if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == FeatureTreeNames::search) {
+        return false;
+    }
+    const FeatureTreeItem *const item = getFeatureTreeItem(index);
+    return item ? isHit(item) : index.isValid() && roleFilter().isHit(mapToSource(index));
 }
 
 QSet<QString> FeatureTreeProxyModel::visibleMatches() const

@@ -55,6 +55,8 @@ public:
     /*! Returns whether every row passes. */
     bool acceptAll() const;
 
+    /*! Returns whether anybody has asked for the rows below \a index. */
+    bool isUnfolded(const QModelIndex &index) const;
     /*! Returns whether the row itself contains the search text, not only one above or below it. The search
      * row and categories never do. */
     bool isMatch(const QModelIndex &index) const;

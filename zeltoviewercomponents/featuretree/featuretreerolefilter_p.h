@@ -33,13 +33,14 @@ public:
 
     /*! Returns whether the row matches, or one above or below it does. */
     bool accepts(const QModelIndex &row) const;
+    /*! Returns whether the row itself contains the text, and is no category. */
+    bool isHit(const QModelIndex &row) const;
     /*! Returns the matches in the whole tree. */
     Matches matches() const;
 
 private:
     bool hasRoles() const;
     bool isEmptyText() const;
-    bool isHit(const QModelIndex &row) const;
     bool matches(const QModelIndex &row) const;
     bool hasMatchBelow(const QModelIndex &parent) const;
     int effectiveVisibility(const QModelIndex &row) const;

@@ -441,6 +441,12 @@ void FeatureTreeView::onModelReset()
     updateRows(QModelIndex());
 }
 
+bool FeatureTreeView::mayHaveOpenRows(const QModelIndex &branch) const
+{
+    const auto *const proxy = qobject_cast<const FeatureTreeProxyModel *>(model());
+    return model()->hasChildren(branch) && (!proxy || proxy->isUnfolded(branch));
+}
+
 void FeatureTreeView::expandToDepth(int depth)
 {
     expandBranches([depth](const QModelIndex &, int level) { return level <= depth; });
@@ -486,6 +492,9 @@ void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, bool isR
         if (expand && isReachable) {
             updateRows(index);
         }
+    }
+    if (!expand && !mayHaveOpenRows(index)) {
+        return; // nothing to close, and nothing to create for it
     }
     const int count = model()->rowCount(index);
     for (int row = 0; row < count; ++row) {

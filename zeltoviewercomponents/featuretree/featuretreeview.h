@@ -57,6 +57,8 @@ public:
     void setExpandedRows(const std::function<bool(const QModelIndex &)> &isExpanded);
     /*! The same for \a top and the branches below it. */
     void setExpandedRows(const QModelIndex &top, const std::function<bool(const QModelIndex &)> &isExpanded);
+    /*! Returns false for leaves and for branches whose rows nobody has asked for: none of these is open. */
+    bool mayHaveOpenRows(const QModelIndex &branch) const;
     /*! Lays out what is pending, so that expansion and geometry can be asked for. */
     using QTreeView::executeDelayedItemsLayout;
 

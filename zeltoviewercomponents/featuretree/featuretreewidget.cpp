@@ -23,7 +23,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QTextStream>
 
@@ -51,42 +50,16 @@ QIcon refreshIcon()
     return icon;
 }
 
-QStringList pathOf(const QModelIndex &index)
+// Looks at the rows that exist and are not hidden at the level.
+bool hasRowBelow(const FeatureTreeItem &parent, const QString &fullName, GenApi::EVisibility level)
 {
-    QStringList path;
-    for (QModelIndex row = index; row.isValid(); row = row.parent()) {
-        path.prepend(row.data(FeatureTreeItem::FullNodeNameRole).toString());
-    }
-    return path;
-}
-
-QString pathKey(const QModelIndex &index)
-{
-    return pathOf(index).join(QLatin1Char('\n'));
-}
-
-QModelIndex childNamed(const QAbstractItemModel &model, const QModelIndex &parent, const QString &fullName)
-{
-    const int count = model.rowCount(parent);
-    for (int row = 0; row < count; ++row) {
-        const QModelIndex index = model.index(row, FeatureTreeColumns::name, parent);
-        if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == fullName) {
-            return index;
+    for (int row = 0; row < parent.existingChildCount(); ++row) {
+        const FeatureTreeItem &child = *parent.child(row);
+        if (child.ShowMe(level) && (child.getFullName() == fullName || hasRowBelow(child, fullName, level))) {
+            return true;
         }
     }
-    return {};
-}
-
-QModelIndex rowAt(const QAbstractItemModel &model, const QStringList &path)
-{
-    QModelIndex index;
-    for (const QString &fullName : path) {
-        index = childNamed(model, index, fullName);
-        if (!index.isValid()) {
-            return {};
-        }
-    }
-    return index;
+    return false;
 }
 
 // Shared by all instances: the first Escape of two was pressed.
@@ -265,9 +238,7 @@ void FeatureTreeWidget::addParameterCollection(
 void FeatureTreeWidget::clear()
 {
     getFeatureExtension()->clear();
-    m_expandedRows.clear();
-    m_savedCurrent = QVariant();
-    m_savedScroll = QPoint();
+    m_lookBeforeSearch = FeatureTreeLook();
     setSearchText(QString()); // and with it the filter and the highlighting
     m_actionTogglePolling->setEnabled(false);
     m_busy = true;
@@ -333,6 +304,12 @@ void FeatureTreeWidget::copyToClipboard()
 void FeatureTreeWidget::expandTree()
 {
     m_ui->treeView->expandToDepth(expandedDepth);
+    recordFavoritesExpansion();
+}
+
+// A search has its own expansion.
+void FeatureTreeWidget::recordFavoritesExpansion()
+{
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     const QModelIndex favorites = extension->GetFavoritesRootIndex();
     if (favorites.isValid() && m_filterText.isEmpty()) {
@@ -368,8 +345,9 @@ bool FeatureTreeWidget::showFeature(const QString &fullName)
     QModelIndex row = shownRow(fullName);
     if (!row.isValid() && !m_filterText.isEmpty() && !fullName.isEmpty()) {
         // A search has made all rows, those too that it keeps out of sight.
-        auto *const tree = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel());
-        if (!tree || !tree->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name).isValid()) {
+        const auto *const tree = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel());
+        const FeatureTreeItem *const top = tree ? tree->getFeatureTreeItem(tree->index(0, 0)) : nullptr;
+        if (!top || !hasRowBelow(*top->parent(), fullName, visibility())) {
             return false;
         }
         setSearchText(QString());
@@ -406,6 +384,11 @@ QModelIndex FeatureTreeWidget::firstShownRow(const RowTest &isWanted, const QMod
     return {};
 }
 
+const FeatureTreeLook &FeatureTreeWidget::lookBeforeSearch() const
+{
+    return m_lookBeforeSearch;
+}
+
 QString FeatureTreeWidget::searchText() const
 {
     return m_filterText;
@@ -413,7 +396,11 @@ QString FeatureTreeWidget::searchText() const
 
 void FeatureTreeWidget::setSearchText(const QString &text)
 {
-    m_ui->filterEdit->setText(text);
+    if (text.isEmpty()) {
+        m_ui->filterEdit->clear(); // which can be undone
+    } else {
+        m_ui->filterEdit->setText(text);
+    }
     if (m_ui->filterEdit->text() == text && m_filterText != text) {
         onFilterTextChanged(text); // the search had not begun in the box
     }
@@ -679,10 +666,12 @@ void FeatureTreeWidget::filter(const QString &text)
     } else if (wasSearching) {
         restoreExpandedStatus();
         restoreSelectionStatus();
+        recordFavoritesExpansion(); // which may have been closed in the search
     }
     getFeatureExtension()->refreshSpecialItems();
     if (wasSearching && !isSearching) {
-        restoreScrollPosition();
+        m_lookBeforeSearch.restoreScrollPosition(*m_ui->treeView);
+        m_lookBeforeSearch = FeatureTreeLook();
     }
     m_ui->treeView->viewport()->update();
 }
@@ -737,29 +726,14 @@ void FeatureTreeWidget::setSearchRow(const QString &message, bool isShown)
 
 void FeatureTreeWidget::saveExpandedStatus()
 {
-    m_expandedRows.clear();
-    m_ui->treeView->executeDelayedItemsLayout();
-    m_savedScroll = {m_ui->treeView->horizontalScrollBar()->value(),
-                     m_ui->treeView->verticalScrollBar()->value()};
-    const QAbstractItemModel *const model = m_ui->treeView->model();
-    for (int row = 0; row < model->rowCount(); ++row) {
-        saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name));
-    }
+    m_lookBeforeSearch.remove(FeatureTreeLook::OpenRows);
+    m_lookBeforeSearch.takeScrollPosition(*m_ui->treeView);
+    saveExpandedOnLevel(QModelIndex());
 }
 
 void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
 {
-    const QAbstractItemModel *const model = m_ui->treeView->model();
-    if (!model->hasChildren(index)) {
-        return;
-    }
-    if (m_ui->treeView->isExpanded(index)) {
-        m_expandedRows.insert(pathKey(index));
-    }
-    const int count = model->rowCount(index);
-    for (int row = 0; row < count; ++row) {
-        saveExpandedOnLevel(model->index(row, FeatureTreeColumns::name, index));
-    }
+    m_lookBeforeSearch.takeOpenRows(*m_ui->treeView, index);
 }
 
 void FeatureTreeWidget::restoreExpandedStatus()
@@ -772,36 +746,18 @@ void FeatureTreeWidget::restoreExpandedStatus()
 
 void FeatureTreeWidget::restoreExpandedOnLevel(const QModelIndex &index)
 {
-    m_ui->treeView->setExpandedRows(
-        index, [this](const QModelIndex &branch) { return m_expandedRows.contains(pathKey(branch)); });
+    m_lookBeforeSearch.restoreOpenRows(*m_ui->treeView, index);
 }
 
 void FeatureTreeWidget::saveSelectionStatus()
 {
-    const QModelIndex current = m_ui->treeView->selectionModel()->currentIndex();
-    m_savedCurrent = current.isValid() ? QVariant(pathOf(current)) : QVariant();
+    m_lookBeforeSearch.takeCurrentRow(*m_ui->treeView);
 }
 
 void FeatureTreeWidget::restoreSelectionStatus()
 {
-    if (!m_savedCurrent.isValid()) {
-        return;
-    }
-    const QModelIndex saved = rowAt(*m_ui->treeView->model(), m_savedCurrent.toStringList());
-    m_savedCurrent = QVariant();
-    if (saved.isValid()) {
-        // Scrolling to the row would expand its parents.
-        m_ui->treeView->setAutoScroll(false);
-        m_ui->treeView->setCurrentIndex(saved);
-        m_ui->treeView->setAutoScroll(true);
-    }
-}
-
-void FeatureTreeWidget::restoreScrollPosition()
-{
-    m_ui->treeView->executeDelayedItemsLayout();
-    m_ui->treeView->horizontalScrollBar()->setValue(m_savedScroll.x());
-    m_ui->treeView->verticalScrollBar()->setValue(m_savedScroll.y());
+    m_lookBeforeSearch.restoreCurrentRow(*m_ui->treeView);
+    m_lookBeforeSearch.remove(FeatureTreeLook::CurrentRow);
 }
 
 bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
@@ -827,7 +783,7 @@ void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
     const bool isEscape = event->key() == Qt::Key_Escape;
     const bool isSecondEscape = isEscape && escapePressed();
     if (isSecondEscape) {
-        m_ui->filterEdit->clear();
+        setSearchText(QString());
     }
     escapePressed() = isEscape && !isSecondEscape; // the next one is a first one again
     if (event->key() == Qt::Key_Down && m_ui->filterEdit->hasFocus()) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "commandveto.h"
+#include "featuretreelook.h"
 #include "treewidgetbase.h"
 
 #include <platform/core/baseinfo.h>
@@ -14,7 +15,6 @@
 #include <QMenu>
 #include <QModelIndex>
 #include <QPoint>
-#include <QSet>
 #include <QSharedPointer>
 #include <QString>
 
@@ -90,6 +90,8 @@ public:
     QString searchText() const;
     /*! Searches for \a text as if it was typed; an empty one ends the search. */
     void setSearchText(const QString &text);
+    /*! Returns what the end of the search brings back; a look without parts when there is no search. */
+    const FeatureTreeLook &lookBeforeSearch() const;
     /*! Gives the search box the focus, its text selected. */
     void focusSearch();
 
@@ -213,10 +215,10 @@ private:
     QModelIndex firstShownRow(const RowTest &isWanted, const QModelIndex &parent = QModelIndex()) const;
     QModelIndex shownRow(const QString &fullName) const;
     void goToFirstMatch();
+    void recordFavoritesExpansion();
     void filter(const QString &text);
     void showCounts();
     void setSearchRow(const QString &message, bool isShown);
-    void restoreScrollPosition();
     void moveCurrentFavorite(bool up);
 
     std::unique_ptr<Ui::FeatureTreeWidgetClass> m_ui;
@@ -225,10 +227,7 @@ private:
     QAction *m_actionMoveFavouriteDown = nullptr;
     QAction *m_actionRemoveFavourite = nullptr;
     QAction *m_actionTogglePolling = nullptr;
-    // A row is known by the full names from the top down to it: a feature may stand in two categories.
-    QSet<QString> m_expandedRows;
-    QVariant m_savedCurrent;
-    QPoint m_savedScroll;
+    FeatureTreeLook m_lookBeforeSearch;
     bool m_busy = false;
     QString m_filterText;
     int m_visibleMatches = 0; // as told last

@@ -33,7 +33,16 @@ bool isValueOf(const ParameterData &snapshot, const QString &text)
     if (const auto *const boolean = dynamic_cast<const BooleanParameterData *>(&snapshot)) {
         return booleanFrom(text) == boolean->value;
     }
-    return snapshot.valueString == text;
+    if (snapshot.valueString == text) {
+        return true;
+    }
+    bool isNumber = false;
+    if (const auto *const integer = dynamic_cast<const IntegerParameterData *>(&snapshot)) {
+        const bool isHex = text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
+        return text.toLongLong(&isNumber, isHex ? 16 : 10) == integer->value && isNumber;
+    }
+    const auto *const number = dynamic_cast<const FloatParameterData *>(&snapshot);
+    return number && text.toDouble(&isNumber) == number->value && isNumber;
 }
 
 UnansweredWrites::UnansweredWrites(IParameter &parameter)
@@ -56,6 +65,7 @@ void UnansweredWrites::write(IParameter &parameter, const QString &text)
         writes = new UnansweredWrites(parameter);
     }
     const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
+    writes->m_isCertain = false; // should it fail: the camera may have taken it
     parameter.setValueFromString(text);
     writes->m_before = before;
     writes->m_text = text;

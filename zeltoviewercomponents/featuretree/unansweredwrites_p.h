@@ -42,6 +42,6 @@ private:
     bool m_isCertain = false;
 };
 
-/*! Returns whether \a text stands for the value of \a snapshot, which has one; booleans have two names for
- * each of theirs. */
+/*! Returns whether \a text stands for the value of \a snapshot, which has one: numbers can be written in
+ * several ways, and addresses as numbers; booleans have two names for each of theirs. */
 bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QString &text);
