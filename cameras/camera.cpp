@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <array>
-#include <future>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -50,15 +49,15 @@ CameraRecord::Texts textsOf(unsigned int index)
             deviceClassOf(QString::fromUtf8(arv_get_device_protocol(index)))};
 }
 
-// The description is parsed here and by the engine at the same time.
+// Our parser decides whether the engine's sees the description.
 NodeMapSource simulatedMap(const QString &name, const QString &title, const QByteArray &xml,
                            const QByteArray &registerLines)
 {
-    auto parsing = std::async(std::launch::async, [&xml] { return std::make_shared<Description>(xml); });
+    auto description = std::make_shared<Description>(xml);
     const auto registers = std::make_shared<SimulatedRegisters>();
     registers->load(registerLines);
     DevicePtr device = newSimulatedDevice(xml, registers);
-    return {name, title, std::move(device), parsing.get(), registers};
+    return {name, title, std::move(device), std::move(description), registers};
 }
 
 QByteArray fileContents(const QString &fileName)

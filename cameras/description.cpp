@@ -23,13 +23,22 @@ constexpr int deepestChain = 500;
 constexpr int deepestNesting = 32;
 constexpr int mostRepeatedRows = 10000;
 
+// Far beyond what cameras have, and what the engine can hold without taking all memory or hours.
+constexpr int mostNodes = 100000;
+constexpr int mostElements = 500000;
+constexpr int deepestElement = 64;
+constexpr int longestText = 1024 * 1024;
+constexpr int mostEvaluations = 100000; // for one feature
+constexpr int mostEvaluationsInAll = 2000000;
+constexpr int lettersPerEvaluation = 1000; // of a formula: they take time, too
+constexpr qint64 longestShownRegister = 64;
+
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)
 {
     static const QStringView dropped[] = {
-        u"Value",      u"Address",      u"Formula",      u"FormulaTo", u"FormulaFrom", u"Expression",
-        u"Constant",   u"LSB",          u"MSB",          u"Bit",       u"Sign",        u"Endianess",
-        u"Endianness", u"ValueIndexed", u"ValueDefault", u"Extension", u"AccessMode",  u"Slope"};
+        u"Value",      u"Address",      u"LSB",          u"MSB",       u"Bit",        u"Sign", u"Endianess",
+        u"Endianness", u"ValueIndexed", u"ValueDefault", u"Extension", u"AccessMode", u"Slope"};
     return std::find(std::begin(dropped), std::end(dropped), tag) == std::end(dropped);
 }
 
@@ -51,12 +60,83 @@ std::vector<int> reached(std::vector<int> nodes, const std::vector<std::vector<i
     return nodes;
 }
 
+int sumUpToBound(qint64 first, qint64 second)
+{
+    return int(std::min<qint64>(first + second, mostEvaluations + 1));
+}
+
 } // namespace
+
+/*! \brief Reads a description as far as it keeps within bounds. */
+class Description::Reader : public QXmlStreamReader
+{
+public:
+    using QXmlStreamReader::QXmlStreamReader;
+
+    /*! Goes to the next start of an element here. Returns false at the end of the element around it. */
+    bool nextStart()
+    {
+        while (next() != EndElement && !atEnd()) {
+            if (isStartElement()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /*! Goes to the end of the element that has just begun. Returns the text in it but for that of elements
+     * in it. */
+    QString text()
+    {
+        QString text;
+        for (const int depth = m_depth; m_depth >= depth && !atEnd();) {
+            if (next() == Characters && m_depth == depth) {
+                text += QXmlStreamReader::text();
+            }
+        }
+        return text.trimmed();
+    }
+
+    void skip()
+    {
+        for (const int depth = m_depth; m_depth >= depth && !atEnd();) {
+            next();
+        }
+    }
+
+    TokenType next()
+    {
+        const TokenType token = readNext();
+        if (token == DTD) {
+            raiseError(tr("document type declarations are not allowed"));
+        } else if (token == Characters && QXmlStreamReader::text().size() > longestText) {
+            raiseError(tr("a text is longer than %1 characters").arg(longestText));
+        } else if (token == EndElement) {
+            --m_depth;
+        } else if (token == StartElement && ++m_depth > deepestElement) {
+            raiseError(tr("elements nest more than %1 deep").arg(deepestElement));
+        } else if (token == StartElement && ++m_elements > mostElements) {
+            raiseError(tr("there are more than %1 elements").arg(mostElements));
+        }
+        return hasError() ? Invalid : token;
+    }
+
+private:
+    int m_depth = 0;
+    int m_elements = 0;
+};
+
+/*! \brief The formulas of one node, by name when they are parts of others. */
+struct Description::Formulas
+{
+    QStringList texts;
+    std::vector<std::pair<QString, QString>> parts;
+};
 
 Description::Description(const QByteArray &xml)
 {
-    m_nodes.reserve(xml.size() / 250);
-    QXmlStreamReader reader(xml);
+    m_nodes.reserve(std::min<qsizetype>(xml.size() / 250, mostNodes));
+    Reader reader(xml);
     readDocument(reader);
     if (reader.hasError()) {
         throw Core::Exception::BaseException(
@@ -65,6 +145,8 @@ Description::Description(const QByteArray &xml)
     collectFeatures();
     collectDependencies();
     collectBroken();
+    collectCostly();
+    countRegisterBytes();
     collectPollingTimes();
 }
 
@@ -109,6 +191,21 @@ Description::LinkKind Description::linkKind(QStringView tag)
     return found == std::end(table) ? LinkKind::Related : found->kind;
 }
 
+Description::RegisterKind Description::registerKind(QStringView tag)
+{
+    if (tag == QLatin1String("IntReg") || tag == QLatin1String("MaskedIntReg")
+        || tag == QLatin1String("StructReg")) {
+        return RegisterKind::Integer;
+    }
+    if (tag == QLatin1String("FloatReg")) {
+        return RegisterKind::Float;
+    }
+    if (tag == QLatin1String("StringReg")) {
+        return RegisterKind::Text;
+    }
+    return tag == QLatin1String("Register") ? RegisterKind::Other : RegisterKind::None;
+}
+
 int Description::intern(const QString &name)
 {
     const auto found = m_indices.constFind(name);
@@ -121,12 +218,10 @@ int Description::intern(const QString &name)
     return index;
 }
 
-void Description::readDocument(QXmlStreamReader &xml)
+void Description::readDocument(Reader &xml)
 {
     while (!xml.atEnd() && !xml.isStartElement()) {
-        if (xml.readNext() == QXmlStreamReader::DTD) {
-            xml.raiseError(tr("document type declarations are not allowed"));
-        }
+        xml.next();
     }
     if (xml.hasError()) {
         return;
@@ -144,14 +239,14 @@ void Description::readDocument(QXmlStreamReader &xml)
     }
     readNodes(xml, 0);
     while (!xml.atEnd()) {
-        xml.readNext();
+        xml.next();
     }
 }
 
 // Reads the nodes below the description itself or below one of its groups.
-void Description::readNodes(QXmlStreamReader &xml, int depth)
+void Description::readNodes(Reader &xml, int depth)
 {
-    while (xml.readNextStartElement()) {
+    while (xml.nextStart()) {
         if (xml.name() == QLatin1String("Group") && depth < deepestNesting) {
             readNodes(xml, depth + 1);
             continue;
@@ -162,36 +257,64 @@ void Description::readNodes(QXmlStreamReader &xml, int depth)
             name = QStringLiteral("/StructReg%1").arg(m_nodes.size());
         }
         if (name.isEmpty()) {
-            xml.skipCurrentElement();
+            xml.skip();
         } else {
             readNode(xml, name, -1);
+        }
+        if (m_nodes.size() > mostNodes) {
+            xml.raiseError(tr("there are more than %1 nodes").arg(mostNodes));
         }
     }
 }
 
-void Description::readNode(QXmlStreamReader &xml, const QString &name, int owner)
+void Description::readNode(Reader &xml, const QString &name, int owner)
 {
     const int node = intern(name);
     m_nodes[node].isDefined = true;
+    m_nodes[node].registerKind = registerKind(xml.name());
     if (owner >= 0 && xml.name() == QLatin1String("StructEntry")) {
         // An entry is a part of its register: address, access and invalidators are the register's.
-        m_nodes[node].links.push_back({LinkKind::Related, owner});
+        m_nodes[node].links.push_back({LinkKind::Evaluated, owner});
     } else if (owner >= 0) {
-        m_nodes[owner].links.push_back({LinkKind::Related, node});
+        m_nodes[owner].links.push_back({LinkKind::Entry, node});
     }
-    while (xml.readNextStartElement()) {
+    Formulas formulas;
+    while (xml.nextStart()) {
         const bool isEntry =
             xml.name() == QLatin1String("EnumEntry") || xml.name() == QLatin1String("StructEntry");
         if (isEntry && owner >= 0) {
             // Entries have no entries.
-            xml.skipCurrentElement();
+            xml.skip();
         } else {
-            readNodeElement(xml, node);
+            readNodeElement(xml, node, formulas);
         }
+    }
+    noteFormulas(node, formulas);
+}
+
+void Description::noteFormulas(int node, const Formulas &formulas)
+{
+    QStringList texts = formulas.texts;
+    qint64 letters = 0;
+    for (const QString &text : formulas.texts) {
+        letters += text.size();
+        for (const auto &[name, part] : formulas.parts) {
+            letters += name.isEmpty() ? 0 : text.count(name) * part.size();
+        }
+    }
+    for (const auto &[name, part] : formulas.parts) {
+        texts.append(part);
+    }
+    m_nodes[node].evaluations = sumUpToBound(1, letters / lettersPerEvaluation);
+    const auto divides = [](const QString &text) {
+        return text.contains(QLatin1Char('/')) || text.contains(QLatin1Char('%'));
+    };
+    if (std::any_of(texts.cbegin(), texts.cend(), divides)) {
+        m_dividing.append(node);
     }
 }
 
-void Description::readNodeElement(QXmlStreamReader &xml, int node)
+void Description::readNodeElement(Reader &xml, int node, Formulas &formulas)
 {
     const QStringView tag = xml.name();
     if (tag == QLatin1String("EnumEntry") || tag == QLatin1String("StructEntry")) {
@@ -210,20 +333,29 @@ void Description::readNodeElement(QXmlStreamReader &xml, int node)
             m_nodes[node].links.push_back({LinkKind::Evaluated, intern(offset)});
         }
         if (kind == LinkKind::Ignored) {
-            xml.skipCurrentElement();
+            xml.skip();
             return;
         }
         m_nodes[node].hasLinkedLength = m_nodes[node].hasLinkedLength || tag == QLatin1String("pLength");
-        const int target = intern(xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed());
+        const int target = intern(xml.text());
         m_nodes[node].links.push_back({kind, target});
         return;
     }
+    if (tag == QLatin1String("Expression") || tag == QLatin1String("Constant")) {
+        const QString name = xml.attributes().value(QLatin1String("Name")).toString();
+        formulas.parts.emplace_back(name, xml.text());
+        return;
+    }
+    if (tag.startsWith(QLatin1String("Formula"))) {
+        formulas.texts.append(xml.text());
+        return;
+    }
     if (!isKept(tag)) {
-        xml.skipCurrentElement();
+        xml.skip();
         return;
     }
     const QString key = tag.toString();
-    const QString text = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+    const QString text = xml.text();
     m_nodes[node].properties.emplace_back(key, text);
 }
 
@@ -343,7 +475,7 @@ std::vector<std::vector<int>> Description::evaluators() const
     for (int node = 0; node < nodeCount(); ++node) {
         for (const Link &link : m_nodes[node].links) {
             if (link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated
-                || link.kind == LinkKind::Related) {
+                || link.kind == LinkKind::Related || link.kind == LinkKind::Entry) {
                 found[link.target].push_back(node);
             }
         }
@@ -375,13 +507,26 @@ void Description::collectBroken()
     }
 }
 
-// The engine allocates what a length says, and ends the program when it cannot.
+// The engine allocates what a length says, ends the program when it cannot, and takes what lies behind the
+// register for a number that is longer.
+bool Description::isPossibleLength(int node, qint64 length) const
+{
+    switch (m_nodes[node].registerKind) {
+    case RegisterKind::Integer:
+        return length >= 1 && length <= 8;
+    case RegisterKind::Float:
+        return length == 4 || length == 8;
+    default:
+        return length >= 0 && length <= largestRegister;
+    }
+}
+
 bool Description::hasBadLength(int node) const
 {
     for (const auto &[key, text] : m_nodes[node].properties) {
         bool ok = true;
         const qint64 length = key == QLatin1String("Length") ? text.toLongLong(&ok, 0) : 0;
-        if (!ok || length < 0 || length > largestRegister) {
+        if (!ok || (key == QLatin1String("Length") && (length == 0 || !isPossibleLength(node, length)))) {
             return true;
         }
     }
@@ -402,13 +547,95 @@ bool Description::findCircle(int node, std::vector<char> &state, int depth)
     bool found = hasBadLength(node);
     for (const Link &link : m_nodes[node].links) {
         const bool isEvaluated = link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated;
-        if (isEvaluated && (!m_nodes[link.target].isDefined || findCircle(link.target, state, depth + 1))) {
+        if (!isEvaluated) {
+            continue;
+        }
+        if (!m_nodes[link.target].isDefined || findCircle(link.target, state, depth + 1)) {
             found = true;
         }
+        m_nodes[node].evaluations = sumUpToBound(m_nodes[node].evaluations, m_nodes[link.target].evaluations);
     }
     m_isBroken[node] = found;
     state[node] = Done;
     return found;
+}
+
+// Formulas that use others several times multiply; it is the paths that take the time.
+void Description::collectCostly()
+{
+    std::vector<int> costs(m_nodes.size(), 0);
+    QStringList costly;
+    int inAll = 0;
+    for (const int node : std::as_const(m_published)) {
+        const int cost = readingCost(node, costs);
+        if (cost > mostEvaluations || inAll + cost > mostEvaluationsInAll) {
+            m_isBroken[node] = true;
+            costly.append(m_nodes[node].name);
+        } else {
+            inAll += cost;
+        }
+    }
+    if (!costly.isEmpty()) {
+        Core::Logging::createLogEntry(
+            Core::Logging::ELogLevel::Warning, logCategory(),
+            tr("%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)")
+                .arg(costly.size())
+                .arg(m_modelName)
+                .arg(mostEvaluations)
+                .arg(mostEvaluationsInAll)
+                .arg(costly.first()));
+    }
+}
+
+// Values of links are read; of what holds the value and of entries, their limits and conditions, too.
+int Description::readingCost(int node, std::vector<int> &costs) const
+{
+    if (m_isBroken[node]) {
+        return 0;
+    }
+    if (costs[node] == 0) {
+        int cost = m_nodes[node].evaluations;
+        costs[node] = cost; // an entry may lead back here
+        for (const Link &link : m_nodes[node].links) {
+            if (link.kind == LinkKind::Value || link.kind == LinkKind::Entry) {
+                cost = sumUpToBound(cost, readingCost(link.target, costs));
+            } else if (link.kind == LinkKind::Related) {
+                cost = sumUpToBound(cost, m_nodes[link.target].evaluations);
+            }
+        }
+        costs[node] = cost;
+    }
+    return costs[node];
+}
+
+// Of a plain register no more than some bytes are shown, others are left alone.
+bool Description::isRead(int node) const
+{
+    const RegisterKind kind = m_nodes[node].registerKind;
+    return kind != RegisterKind::None && !m_isBroken[node]
+        && (kind != RegisterKind::Other
+            || property(node, QStringLiteral("Length")).toLongLong(nullptr, 0) <= longestShownRegister);
+}
+
+void Description::countRegisterBytes()
+{
+    std::vector<std::vector<int>> edges(m_nodes.size());
+    for (int node = 0; node < nodeCount(); ++node) {
+        for (const Link &link : m_nodes[node].links) {
+            if (link.kind != LinkKind::Invalidator && link.kind != LinkKind::Selected) {
+                edges[node].push_back(link.target);
+            }
+        }
+    }
+    for (const int node : reached({m_published.cbegin(), m_published.cend()}, edges)) {
+        if (isRead(node)) {
+            m_registerBytes += property(node, QStringLiteral("Length")).toLongLong(nullptr, 0);
+        }
+    }
+    if (m_registerBytes > mostRegisterBytes) {
+        throw Core::Exception::BaseException(
+            tr("the registers take more than %1 MiB").arg(mostRegisterBytes / 1024 / 1024));
+    }
 }
 
 void Description::collectPollingTimes()
@@ -563,6 +790,16 @@ const QList<int> &Description::sizedRegisters(int node) const
 bool Description::isBroken(int node) const
 {
     return m_isBroken[node];
+}
+
+qint64 Description::registerBytes() const
+{
+    return m_registerBytes;
+}
+
+const QList<int> &Description::dividing() const
+{
+    return m_dividing;
 }
 
 } // namespace Cameras

@@ -14,12 +14,12 @@
 #include <utility>
 #include <vector>
 
-class QXmlStreamReader;
-
 namespace Cameras {
 
 /*! In bytes; no camera has one of that size. */
 constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
+/*! In bytes, what all registers that are read may take together. */
+constexpr qint64 mostRegisterBytes = qint64(64) * 1024 * 1024;
 
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *
@@ -72,11 +72,18 @@ public:
     /*! Returns the registers behind \a node whose length is the value of another node. */
     const QList<int> &sizedRegisters(int node) const;
     /*! Returns whether evaluating \a node leads into a circle of links, to a node that is missing or to a
-     * register of an impossible length. */
+     * register of an impossible length, or takes far too many steps. */
     bool isBroken(int node) const;
+    /*! Returns whether the register \a node can be \a length bytes long at some time. */
+    bool isPossibleLength(int node, qint64 length) const;
+    /*! Returns the bytes of all registers that are read and have their length stated. */
+    qint64 registerBytes() const;
+    /*! Returns the nodes that have a formula with a division. */
+    const QList<int> &dividing() const;
 
 private:
-    enum class LinkKind { Value, Evaluated, Related, Invalidator, Selected, Feature, Alias, Ignored };
+    enum class LinkKind { Value, Evaluated, Related, Entry, Invalidator, Selected, Feature, Alias, Ignored };
+    enum class RegisterKind { None, Integer, Float, Text, Other };
 
     struct Link
     {
@@ -89,18 +96,24 @@ private:
         QString name;
         std::vector<std::pair<QString, QString>> properties;
         std::vector<Link> links;
+        RegisterKind registerKind = RegisterKind::None;
+        int evaluations = 1; //!< that reading its value causes, counted up to a bound
         bool isDefined = false;
         bool hasLinkedLength = false;
     };
 
+    class Reader;
+    struct Formulas;
     struct Placing;
 
     static LinkKind linkKind(QStringView tag);
+    static RegisterKind registerKind(QStringView tag);
     int intern(const QString &name);
-    void readDocument(QXmlStreamReader &xml);
-    void readNodes(QXmlStreamReader &xml, int depth);
-    void readNode(QXmlStreamReader &xml, const QString &name, int owner);
-    void readNodeElement(QXmlStreamReader &xml, int node);
+    void readDocument(Reader &xml);
+    void readNodes(Reader &xml, int depth);
+    void readNode(Reader &xml, const QString &name, int owner);
+    void readNodeElement(Reader &xml, int node, Formulas &formulas);
+    void noteFormulas(int node, const Formulas &formulas);
     void collectFeatures();
     void place(int category, int depth, Placing &placing);
     bool placeBelow(int category, int node, int depth, Placing &placing);
@@ -109,6 +122,10 @@ private:
     std::vector<std::vector<int>> evaluators() const;
     bool hasBadLength(int node) const;
     void collectBroken();
+    void collectCostly();
+    int readingCost(int node, std::vector<int> &costs) const;
+    bool isRead(int node) const;
+    void countRegisterBytes();
     void collectPollingTimes();
     bool findCircle(int node, std::vector<char> &state, int depth);
     QList<int> closure(std::vector<int> changed, int without) const;
@@ -119,6 +136,8 @@ private:
     std::vector<Node> m_nodes;
     QHash<QString, int> m_indices;
     QList<int> m_published;
+    QList<int> m_dividing;
+    qint64 m_registerBytes = 0;
     std::vector<bool> m_isPublished;
     std::vector<bool> m_isFeature;
     std::vector<bool> m_isBroken;

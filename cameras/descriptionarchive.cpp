@@ -3,9 +3,10 @@
 
 #include "descriptionarchive_p.h"
 
-#include "aravis_p.h"
-
 #include <platform/core/exception.h>
+
+#include <archive.h>
+#include <archive_entry.h>
 
 #include <algorithm>
 #include <memory>
@@ -15,6 +16,10 @@ using Core::Exception::BaseException;
 namespace Cameras {
 
 namespace {
+
+constexpr qsizetype blockSize = 65536;
+
+using Reader = std::unique_ptr<struct archive, decltype(&archive_read_free)>;
 
 // Above its first tag a description may have lines that XML does not allow there: of a download, of an
 // editor.
@@ -38,30 +43,43 @@ QByteArray DescriptionArchive::xml(const QByteArray &contents)
     return fromFirstTag(contents.startsWith("PK") ? unzipped(contents) : contents);
 }
 
-QByteArray DescriptionArchive::unzipped(const QByteArray &archive)
+// What the archive says of sizes is not relied on.
+QByteArray DescriptionArchive::unpacked(struct archive *reader)
 {
-    const std::unique_ptr<ArvZip, decltype(&arv_zip_free)> zip(
-        arv_zip_new(archive.constData(), size_t(archive.size())), arv_zip_free);
     QByteArray xml;
-    for (const GSList *entry = zip ? arv_zip_get_file_list(zip.get()) : nullptr; entry && xml.isEmpty();
-         entry = entry->next) {
-        auto *file = static_cast<ArvZipFile *>(entry->data);
-        const char *name = arv_zip_file_get_name(file);
-        if (!QString::fromUtf8(name).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
-            continue;
+    QByteArray block(blockSize, Qt::Uninitialized);
+    for (;;) {
+        const la_ssize_t size = archive_read_data(reader, block.data(), size_t(block.size()));
+        if (size < 0) {
+            throw BaseException(tr("the archive is damaged"));
         }
-        if (arv_zip_file_get_uncompressed_size(file) > size_t(largest)) {
+        if (size == 0) {
+            return xml;
+        }
+        if (xml.size() + size > largest) {
             throw BaseException(tr("the file is too large"));
         }
-        size_t size = 0;
-        void *data = arv_zip_get_file(zip.get(), name, &size);
-        xml = QByteArray(static_cast<const char *>(data), qsizetype(size));
-        g_free(data);
+        xml.append(block.constData(), qsizetype(size));
     }
-    if (xml.isEmpty()) {
-        throw BaseException(tr("the archive holds no camera description"));
+}
+
+QByteArray DescriptionArchive::unzipped(const QByteArray &contents)
+{
+    const Reader reader(archive_read_new(), archive_read_free);
+    archive_read_support_format_zip(reader.get());
+    if (archive_read_open_memory(reader.get(), contents.constData(), size_t(contents.size())) != ARCHIVE_OK) {
+        throw BaseException(tr("the archive is damaged"));
     }
-    return xml;
+    struct archive_entry *entry = nullptr;
+    int result = archive_read_next_header(reader.get(), &entry);
+    for (; result == ARCHIVE_OK || result == ARCHIVE_WARN;
+         result = archive_read_next_header(reader.get(), &entry)) {
+        if (QByteArray(archive_entry_pathname(entry)).toLower().endsWith(".xml")) {
+            return unpacked(reader.get());
+        }
+    }
+    throw BaseException(result == ARCHIVE_EOF ? tr("the archive holds no camera description")
+                                              : tr("the archive is damaged"));
 }
 
 } // namespace Cameras

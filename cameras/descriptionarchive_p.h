@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QtGlobal>
 
+struct archive;
+
 namespace Cameras {
 
 /*! \brief Camera descriptions as they come: plain XML, or a zip archive of one. */
@@ -16,13 +18,14 @@ class DescriptionArchive
 
 public:
     /*! The most bytes that are taken, packed or not. */
-    static constexpr qint64 largest = qint64(256) * 1024 * 1024;
+    static constexpr qint64 largest = qint64(64) * 1024 * 1024;
 
     /*! Returns the XML in \a contents. Throws Core::Exception::BaseException when an archive holds none. */
     static QByteArray xml(const QByteArray &contents);
 
 private:
-    static QByteArray unzipped(const QByteArray &archive);
+    static QByteArray unzipped(const QByteArray &contents);
+    static QByteArray unpacked(struct archive *reader);
 };
 
 } // namespace Cameras

@@ -5,10 +5,12 @@
 
 #include "aravis_p.h"
 #include "enginefailure_p.h"
+#include "formulanode_p.h"
 #include "simulatedregisters_p.h"
 #include "valuetext_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/logging.h>
 #include <platform/core/singleprecision.h>
 #include <platform/genicam/genericexception.h>
 
@@ -21,6 +23,8 @@
 using namespace ParameterCollection;
 
 namespace Cameras {
+
+ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
@@ -145,6 +149,9 @@ Engine::Engine(DevicePtr device, std::shared_ptr<const Description> description,
     if (!genicam || !arv_gc_get_node(genicam, "Root")) {
         throw Core::Exception::BaseException(tr("the engine cannot read the description"));
     }
+    for (const int node : m_description->dividing()) {
+        guardFormulas(engineNode(node));
+    }
     for (const int node : m_description->published()) {
         ArvGcNode *found = engineNode(node);
         if (ARV_IS_GC_FEATURE_NODE(found)) {
@@ -218,13 +225,34 @@ Engine::Reading Engine::read(int node)
 bool Engine::isEvaluable(int node)
 {
     const QList<int> &sized = m_description->sizedRegisters(node);
-    return !m_description->isBroken(node) && std::all_of(sized.begin(), sized.end(), [this](int sizedNode) {
-        ArvGcNode *found = engineNode(sizedNode);
-        Failure failure(this);
-        const bool isSane = !ARV_IS_GC_REGISTER(found)
-            || arv_gc_register_get_length(ARV_GC_REGISTER(found), failure) <= guint64(largestRegister);
-        return !failure.take() && isSane;
-    });
+    return !m_description->isBroken(node)
+        && std::all_of(sized.begin(), sized.end(), [this](int sizedNode) { return isLengthSane(sizedNode); });
+}
+
+// The length is the value of another node.
+bool Engine::isLengthSane(int node)
+{
+    ArvGcNode *found = engineNode(node);
+    if (!ARV_IS_GC_REGISTER(found)) {
+        return true;
+    }
+    Failure failure(this);
+    const auto length = qint64(arv_gc_register_get_length(ARV_GC_REGISTER(found), failure));
+    if (failure.take() || !m_description->isPossibleLength(node, length)) {
+        return false;
+    }
+    // The engine keeps what it has allocated.
+    const qint64 more = std::max<qint64>(length - m_linkedLengths.value(node), 0);
+    if (m_description->registerBytes() + m_linkedBytes + more > mostRegisterBytes) {
+        Core::Logging::createLogEntry(Core::Logging::ELogLevel::Warning, logCategory(),
+                                      tr("%1 is not read: the registers would take more than %2 MiB")
+                                          .arg(m_description->name(node))
+                                          .arg(mostRegisterBytes / 1024 / 1024));
+        return false;
+    }
+    m_linkedBytes += more;
+    m_linkedLengths[node] += more;
+    return true;
 }
 
 GenApi::EAccessMode Engine::readAccess(int node)

@@ -9,6 +9,7 @@
 #include <platform/parametercollection/parameterdata.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QString>
 
 #include <memory>
@@ -68,6 +69,7 @@ private:
 
     ArvGcNode *engineNode(int node) const;
     bool isEvaluable(int node);
+    bool isLengthSane(int node);
     GenApi::EAccessMode readAccess(int node);
     void readLimits(int node, ParameterCollection::ParameterData &data);
     void readIntegerLimits(int node, ParameterCollection::IntegerParameterData &data);
@@ -97,6 +99,8 @@ private:
     std::shared_ptr<SimulatedRegisters> m_registers;
     std::vector<ArvGcNode *> m_nodes;
     std::vector<ParameterCollection::ParameterType> m_types;
+    QHash<int, qint64> m_linkedLengths; //!< the longest of each register whose length is a node's value
+    qint64 m_linkedBytes = 0; //!< the sum of these
     QString m_lossReason;
 };
 

@@ -4,6 +4,7 @@
 #include "livecamera_p.h"
 
 #include "aravis_p.h"
+#include "description_p.h"
 #include "descriptionarchive_p.h"
 #include "enginefailure_p.h"
 #include "portdevice_p.h"
@@ -156,6 +157,7 @@ DevicePtr LiveCamera::open()
     m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
     switch (m_link->control().hold) {
     case GigeLink::Hold::Free:
+        checkDescription();
         return connected();
     case GigeLink::Hold::NoAnswer:
         throw BaseException(isInOurSubnets(m_address)
@@ -218,7 +220,8 @@ DevicePtr LiveCamera::openReadOnly()
         leaveAlone(std::exchange(m_controlled, nullptr));
     }
     if (m_xml.isEmpty()) {
-        fetchXml();
+        m_xml = DescriptionArchive::xml(fetchDescription());
+        const Description accepted(m_xml); // throws before the engine sees it
     }
     return newPortDevice(m_xml, std::make_unique<ReadOnlyPort>(m_address));
 }
@@ -228,8 +231,20 @@ QByteArray LiveCamera::xml() const
     return m_xml;
 }
 
+// The engine unpacks and parses whatever the camera sends, and may not survive it.
+void LiveCamera::checkDescription() const
+{
+    QByteArray contents;
+    try {
+        contents = fetchDescription();
+    } catch (const BaseException &) {
+        return; // the engine knows of descriptions that are kept elsewhere
+    }
+    const Description accepted(DescriptionArchive::xml(contents));
+}
+
 // The camera keeps the place of its description as "Local:name;address;size", in hexadecimal digits.
-void LiveCamera::fetchXml()
+QByteArray LiveCamera::fetchDescription() const
 {
     GError *error = nullptr;
     const auto read = [&](quint64 address, quint32 size) {
@@ -251,7 +266,7 @@ void LiveCamera::fetchXml()
         || size > quint64(DescriptionArchive::largest)) {
         throw BaseException(tr("the camera hands out no description of its features"));
     }
-    m_xml = DescriptionArchive::xml(read(address, quint32(size)));
+    return read(address, quint32(size));
 }
 
 bool LiveCamera::isWatchable() const

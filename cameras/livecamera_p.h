@@ -64,7 +64,8 @@ private:
     QHostAddress findAddress() const;
     DevicePtr connected();
     bool isOurs(const GigeLink::Control &control, bool isDoubtful) const;
-    void fetchXml();
+    void checkDescription() const;
+    QByteArray fetchDescription() const;
 
     QString m_id;
     std::function<void()> m_onDoubt;

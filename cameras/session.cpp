@@ -25,28 +25,41 @@ namespace {
 constexpr auto writeTime = 1s;
 constexpr auto openTime = 20s;
 constexpr auto closeTime = 500ms;
+constexpr auto leaveTime = 1500ms; // with closeTime, what the end of the process may take
 constexpr auto watchTime = 1s;
 
-/*! \brief Threads of cameras that were closed while an access hung; joined before the process ends. */
+/*! \brief Threads of cameras that were closed while an access hung. They get a while to end before the
+ * process ends, and are left then: an access may hang for ever. */
 class LeftThreads
 {
 public:
     ~LeftThreads()
     {
-        for (std::thread &thread : m_threads) {
-            thread.join();
+        const auto end = std::chrono::steady_clock::now() + leaveTime;
+        for (Left &left : m_threads) {
+            if (left.isFinished.wait_until(end) == std::future_status::ready) {
+                left.thread.join();
+            } else {
+                left.thread.detach();
+            }
         }
     }
 
-    void add(std::thread thread)
+    void add(std::thread thread, std::future<void> isFinished)
     {
         const std::lock_guard lock(m_mutex);
-        m_threads.push_back(std::move(thread));
+        m_threads.push_back({std::move(thread), std::move(isFinished)});
     }
 
 private:
+    struct Left
+    {
+        std::thread thread;
+        std::future<void> isFinished;
+    };
+
     std::mutex m_mutex;
-    std::vector<std::thread> m_threads;
+    std::vector<Left> m_threads;
 };
 
 LeftThreads &leftThreads()
@@ -84,7 +97,12 @@ Session::~Session()
 
 void Session::start(const Opener &opener)
 {
-    m_thread = std::thread([self = shared_from_this(), opener] { self->run(opener); });
+    std::promise<void> finish;
+    m_finished = finish.get_future();
+    m_thread = std::thread([self = shared_from_this(), opener, finish = std::move(finish)]() mutable {
+        finish.set_value_at_thread_exit();
+        self->run(opener);
+    });
     Lock lock(m_mutex);
     const bool isInTime =
         m_changed.wait_for(lock, openTime, [this] { return m_isOpen || m_openFailure || m_isFinished; });
@@ -116,7 +134,7 @@ void Session::close()
     if (isFinished) {
         thread.join();
     } else {
-        leftThreads().add(std::move(thread));
+        leftThreads().add(std::move(thread), std::move(m_finished));
     }
 }
 

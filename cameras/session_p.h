@@ -23,6 +23,7 @@
 #include <deque>
 #include <exception>
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -186,6 +187,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::thread m_thread;
+    std::future<void> m_finished; //!< that the thread has ended
     Core::CameraPoolComponents::CameraInfoPtr m_info;
     std::vector<std::unique_ptr<MapState>> m_maps;
     std::deque<std::shared_ptr<Call>> m_calls;

@@ -70,6 +70,30 @@
         <source>the description has no category &quot;Root&quot;</source>
         <translation>der Beschreibung fehlt die Kategorie &quot;Root&quot;</translation>
     </message>
+    <message>
+        <source>a text is longer than %1 characters</source>
+        <translation>ein Text ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>elements nest more than %1 deep</source>
+        <translation>Elemente sind tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>es sind mehr als %1 Elemente</translation>
+    </message>
+    <message>
+        <source>there are more than %1 nodes</source>
+        <translation>es sind mehr als %1 Knoten</translation>
+    </message>
+    <message>
+        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
+        <translation>%1 Merkmale von %2 werden nicht gelesen: eines darf %3 Auswertungen brauchen, alle zusammen %4 (%5)</translation>
+    </message>
+    <message>
+        <source>the registers take more than %1 MiB</source>
+        <translation>die Register belegen mehr als %1 MiB</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::Engine</name>
@@ -137,6 +161,10 @@
         <source>%1 (not available)</source>
         <translation>%1 (nicht verfügbar)</translation>
     </message>
+    <message>
+        <source>%1 is not read: the registers would take more than %2 MiB</source>
+        <translation>%1 wird nicht gelesen: die Register würden mehr als %2 MiB belegen</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::NodeProperties</name>
@@ -197,6 +225,10 @@
     <message>
         <source>the archive holds no camera description</source>
         <translation>das Archiv enthält keine Kamerabeschreibung</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>das Archiv ist beschädigt</translation>
     </message>
 </context>
 <context>

@@ -11,8 +11,10 @@
 #include <support/table.h>
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextStream>
 
 #include <utility>
 
@@ -67,6 +69,7 @@ private slots:
     void hangingWriteLosesTheCameraOnce();
     void parametersOutliveTheCamera();
     void closingWhileAReadHangs();
+    void processEndsWhileAReadHangs();
 
 private:
     QSharedPointer<IParameter> parameter(const char *name, int map = 0) const;
@@ -559,5 +562,36 @@ void TestEmbeddedCamera::closingWhileAReadHangs()
     QCOMPARE(text("Width"), "1920");
 }
 
-QTEST_GUILESS_MAIN(TestEmbeddedCamera)
+void TestEmbeddedCamera::processEndsWhileAReadHangs()
+{
+    QProcess process;
+    QElapsedTimer timer;
+    process.start(QCoreApplication::applicationFilePath(), {"--hang"});
+    QVERIFY(process.waitForReadyRead());
+    timer.start();
+    QVERIFY(process.waitForFinished(10000));
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+}
+
+static int closeWhileAReadHangs()
+{
+    const auto camera = Camera::openEmbedded();
+    camera->session()->registers(0)->setDelay(3600 * 1000);
+    camera->nodeMaps().first().collection->refresh();
+    QTextStream(stdout) << "closing" << Qt::endl;
+    return 0;
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (application.arguments().contains("--hang")) {
+        return closeWhileAReadHangs();
+    }
+    TestEmbeddedCamera test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_embeddedcamera.moc"

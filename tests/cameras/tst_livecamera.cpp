@@ -10,6 +10,7 @@
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QUdpSocket>
 
@@ -26,6 +27,7 @@ private slots:
     void cleanup();
     void unknownCameraIsRefused();
     void listsReadsAndWrites();
+    void badDescriptionsDoNoHarm();
     void lossIsToldOnceAndReopeningWorks();
     void writeToALostCamera();
     void isReadOnlyInOtherHands();
@@ -34,16 +36,21 @@ private slots:
     void controlLostWhileOpen();
 
 private:
-    void startServer();
+    void startServer(const QByteArray &description = {});
     QString id() const;
     DevicePtr otherProgram() const;
 
     ArvGvFakeCamera *m_server = nullptr;
 };
 
-void TestLiveCamera::startServer()
+void TestLiveCamera::startServer(const QByteArray &description)
 {
-    m_server = arv_gv_fake_camera_new("127.0.0.1", "ZTEST");
+    QTemporaryFile file;
+    file.open();
+    file.write(description);
+    file.close();
+    const QByteArray name = description.isEmpty() ? QByteArray() : file.fileName().toUtf8();
+    m_server = arv_gv_fake_camera_new_full("127.0.0.1", "ZTEST", name.isEmpty() ? nullptr : name.constData());
     if (!m_server || !arv_gv_fake_camera_is_running(m_server)) {
         QSKIP("No GigE Vision server can be started on the loopback interface");
     }
@@ -104,6 +111,32 @@ void TestLiveCamera::listsReadsAndWrites()
     QCOMPARE(width->parameterData()->valueString, "256");
     QVERIFY_EXCEPTION_THROWN(width->setValueFromString("-1"), std::exception);
     QVERIFY(!open->isLost());
+}
+
+// The engine would not survive them.
+void TestLiveCamera::badDescriptionsDoNoHarm()
+{
+    cleanup();
+    startServer("<?xml verso=\"1.0\"?><a/>");
+    try {
+        Camera::openLive(id());
+        QFAIL("opened");
+    } catch (const Core::Exception::BaseException &exception) {
+        QVERIFY2(exception.getMessage().contains(": line 1: "), qPrintable(exception.getMessage()));
+    }
+    cleanup();
+    startServer(
+        "<?xml version=\"1.0\"?><RegisterDescription ModelName=\"M\" VendorName=\"V\" "
+        "SchemaMajorVersion=\"1\" "
+        "SchemaMinorVersion=\"1\" SchemaSubMinorVersion=\"0\">"
+        "<Category Name=\"Root\"><pFeature>Knife</pFeature><pFeature>Least</pFeature></Category>"
+        "<IntSwissKnife Name=\"Knife\"><pVariable Name=\"L\">Least</pVariable><Formula>L / -1</Formula>"
+        "</IntSwissKnife><Integer Name=\"Least\"><Value>-9223372036854775808</Value></Integer>"
+        "<Port Name=\"Device\"/></RegisterDescription>");
+    const auto open = Camera::openLive(id());
+    const auto collection = open->nodeMaps().first().collection;
+    QVERIFY(!collection->parameter("Knife")->parameterData()->isReadable);
+    QCOMPARE(collection->parameter("Least")->parameterData()->valueString, "-9223372036854775808");
 }
 
 void TestLiveCamera::lossIsToldOnceAndReopeningWorks()
