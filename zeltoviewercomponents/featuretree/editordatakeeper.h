@@ -47,5 +47,4 @@ private:
     QLineEdit *m_lineEdit;
     AbstractItemEditor::EditorData m_data;
     QTimer m_timer;
-    bool m_isInFront = false;
 };
