@@ -514,7 +514,8 @@ void Engine::writeText(int node, const QString &text)
         if (const auto value = ValueText::toInteger(text, representation(node))) {
             return writeInteger(node, *value, text);
         }
-        refuse(node, text, integerForm(node));
+        refuse(node, text,
+               ValueText::isTooLong(text) ? tr("an integer of at most 64 bits") : integerForm(node));
     case ParameterType::Float:
         if (const auto value = ValueText::toFloat(text)) {
             return writeFloat(node, *value, text);

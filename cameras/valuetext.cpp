@@ -94,6 +94,14 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
     return ok ? std::optional(value) : std::nullopt;
 }
 
+bool isTooLong(const QString &text)
+{
+    QString digits = text.trimmed();
+    const int base = digits.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10;
+    digits.remove(0, base == 16 ? 2 : digits.startsWith(QLatin1Char('-')) ? 1 : 0);
+    return digits.size() > 15 && isDigits(digits, base);
+}
+
 bool isSubnetMask(qint64 address)
 {
     const quint32 hostPart = ~quint32(address);

@@ -20,6 +20,8 @@ QString fromFloat(double value, GenApi::EDisplayNotation notation = GenApi::fnAu
 /*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a
  * representation. */
 std::optional<qint64> toInteger(const QString &text, const QString &representation);
+/*! Returns whether \a text, which is no number of 64 bits, has just too many digits for one. */
+bool isTooLong(const QString &text);
 /*! Returns whether \a address can be a subnet mask: its ones come before its zeros. */
 bool isSubnetMask(qint64 address);
 std::optional<double> toFloat(const QString &text);

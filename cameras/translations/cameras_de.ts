@@ -114,6 +114,10 @@
         <translation>eine ganze Zahl</translation>
     </message>
     <message>
+        <source>an integer of at most 64 bits</source>
+        <translation>eine ganze Zahl von höchstens 64 Bit</translation>
+    </message>
+    <message>
         <source>a number</source>
         <translation>eine Zahl</translation>
     </message>

@@ -269,6 +269,7 @@ void TestEmbeddedCamera::refusesText_data()
     row("Width", "abc", "an integer");
     row("Width", "", "an integer");
     row("Width", "12.5", "an integer");
+    row("LargeCounter", "99999999999999999999", "at most 64 bits");
     row("Width", "8", "16 to 5320");
     row("Width", "641", "multiple of 8");
     row("Width", "99999999999999999999", "an integer");
