@@ -364,7 +364,9 @@ void TestFloatEditors::othersAreNotLeaving()
             other.show();
             QApplication::setActiveWindow(&other);
             QVERIFY(QTest::qWaitForWindowActive(&other));
+            m_bench->showMinimized();
             isKept = check();
+            m_bench->showNormal();
         } else {
             QTimer::singleShot(0, this, [&] {
                 isKept = QApplication::activePopupWidget() && check();

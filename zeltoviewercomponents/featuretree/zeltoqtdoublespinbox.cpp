@@ -341,6 +341,13 @@ void ZeltoQtDoubleSpinBox::changeEvent(QEvent *event)
     QDoubleSpinBox::changeEvent(event);
 }
 
+// The base would show the value again when the window comes back.
+void ZeltoQtDoubleSpinBox::showEvent(QShowEvent *event)
+{
+    const auto kept = keepTypedText();
+    QDoubleSpinBox::showEvent(event);
+}
+
 void ZeltoQtDoubleSpinBox::hideEvent(QHideEvent *event)
 {
     const auto kept = keepTypedText();
