@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QWidget>
 
+#include <utility>
+
 namespace {
 
 // Longer than a snapshot takes after a write, so that a successful change does not flicker.
@@ -36,8 +38,11 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::FocusIn:
-        // Filters that come later, such as the delegate's, would see Escape first.
-        watched->installEventFilter(this);
+        // Filters that come later, such as the delegate's, would see Escape first. Once, since Qt tidies up
+        // the filters with it, and would leave one out of this event where another was removed.
+        if (!std::exchange(m_isInFront, true)) {
+            watched->installEventFilter(this);
+        }
         break;
     case QEvent::FocusOut:
         if (!EditorHelpers::isFocusLent(*event)) {

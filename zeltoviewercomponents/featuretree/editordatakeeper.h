@@ -47,4 +47,5 @@ private:
     QLineEdit *m_lineEdit;
     AbstractItemEditor::EditorData m_data;
     QTimer m_timer;
+    bool m_isInFront = false;
 };
