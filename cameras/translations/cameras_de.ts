@@ -16,10 +16,6 @@
         <translation>die Datei ist zu groß</translation>
     </message>
     <message>
-        <source>the archive holds no camera description</source>
-        <translation>das Archiv enthält keine Kamerabeschreibung</translation>
-    </message>
-    <message>
         <source>Camera</source>
         <translation>Kamera</translation>
     </message>
@@ -30,14 +26,6 @@
     <message>
         <source>Stream Grabber</source>
         <translation>Datenstrom</translation>
-    </message>
-    <message>
-        <source>the control of the camera was lost</source>
-        <translation>die Kontrolle über die Kamera ging verloren</translation>
-    </message>
-    <message>
-        <source>there is no such camera</source>
-        <translation>es gibt keine solche Kamera</translation>
     </message>
     <message>
         <source>Cannot open %1: %2</source>
@@ -186,18 +174,6 @@
     <message>
         <source>no answer in time</source>
         <translation>keine rechtzeitige Antwort</translation>
-    </message>
-    <message>
-        <source>the camera was closed</source>
-        <translation>die Kamera wurde geschlossen</translation>
-    </message>
-    <message>
-        <source>%1: the camera is lost (%2)</source>
-        <translation>%1: Die Kamera ist verloren (%2)</translation>
-    </message>
-    <message>
-        <source>no answer within a second</source>
-        <translation>keine Antwort innerhalb einer Sekunde</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -328,10 +328,6 @@
         <translation>Kamerabeschreibungen (*.xml *.zip);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>The camera was lost: %1</source>
-        <translation>Die Verbindung zur Kamera ist abgebrochen: %1</translation>
-    </message>
-    <message>
         <source>Reconnect</source>
         <translation>Neu verbinden</translation>
     </message>
