@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "camerastatus.h"
+
 #include <cameras/cameras_export.h>
-#include <cameras/camerastatus.h>
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/iparametercollection.h>
 

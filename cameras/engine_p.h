@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <cameras/description_p.h>
-#include <cameras/deviceptr_p.h>
+#include "description_p.h"
+#include "deviceptr_p.h"
 
 #include <platform/parametercollection/parameterdata.h>
 

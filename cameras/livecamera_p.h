@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <cameras/cameraaccess_p.h>
-#include <cameras/camerastatus.h>
-#include <cameras/deviceptr_p.h>
-#include <cameras/gigelink_p.h>
+#include "cameraaccess_p.h"
+#include "camerastatus.h"
+#include "deviceptr_p.h"
+#include "gigelink_p.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

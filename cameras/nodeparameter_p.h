@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <cameras/session_p.h>
+#include "session_p.h"
 
 #include <platform/parametercollection/iparameter.h>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <cameras/deviceptr_p.h>
+#include "deviceptr_p.h"
 
 #include <QByteArray>
 #include <QtGlobal>

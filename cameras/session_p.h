@@ -3,11 +3,12 @@
 
 #pragma once
 
-#include <cameras/cameraaccess_p.h>
+#include "cameraaccess_p.h"
+#include "description_p.h"
+#include "deviceptr_p.h"
+#include "engine_p.h"
+
 #include <cameras/cameras_export.h>
-#include <cameras/description_p.h>
-#include <cameras/deviceptr_p.h>
-#include <cameras/engine_p.h>
 
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/parameterdata.h>

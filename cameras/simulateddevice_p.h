@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "deviceptr_p.h"
+
 #include <cameras/cameras_export.h>
-#include <cameras/deviceptr_p.h>
 
 #include <QByteArray>
 

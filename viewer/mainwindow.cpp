@@ -10,16 +10,16 @@
 #include "filedrop.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
-#include "plugins/pluginhost.h"
 #include "recentsources.h"
-#include "services/cameracontrolservice.h"
-#include "services/camerastatusservice.h"
-#include "services/featuretreecontrolservice.h"
-#include "services/featuretreestatusservice.h"
-#include "services/workbenchservice.h"
 #include "treemenu.h"
 
 #include <platform/core/exception.h>
+#include <viewer/plugins/pluginhost.h>
+#include <viewer/services/cameracontrolservice.h>
+#include <viewer/services/camerastatusservice.h>
+#include <viewer/services/featuretreecontrolservice.h>
+#include <viewer/services/featuretreestatusservice.h>
+#include <viewer/services/workbenchservice.h>
 #include <zeltoviewercomponents/errorhandling/messageboxcheckable.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>

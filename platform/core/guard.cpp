@@ -3,7 +3,7 @@
 
 #include "guard.h"
 
-#include <platform/core/exception.h>
+#include "exception.h"
 
 namespace Core {
 

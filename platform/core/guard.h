@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <platform/core/logging.h>
+#include "logging.h"
+
 #include <platform/platform_export.h>
 
 #include <QString>

@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <platform/parametercollection/nodepropertyaccess.h>
-#include <platform/parametercollection/parameterdata.h>
+#include "nodepropertyaccess.h"
+#include "parameterdata.h"
+
 #include <platform/platform_export.h>
 
 #include <QObject>

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <platform/parametercollection/iparameter.h>
+#include "iparameter.h"
+
 #include <platform/platform_export.h>
 
 #include <QObject>

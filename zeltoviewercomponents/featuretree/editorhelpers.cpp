@@ -3,7 +3,7 @@
 
 #include "editorhelpers.h"
 
-#include "wheelguard.h"
+#include "wheelguard_p.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>

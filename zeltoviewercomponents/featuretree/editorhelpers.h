@@ -3,10 +3,11 @@
 
 #pragma once
 
+#include "abstractitemeditor.h"
+
 #include <platform/core/guard.h>
 #include <platform/core/logging.h>
 #include <platform/parametercollection/parameterdata.h>
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 
 #include <QString>
 

@@ -3,9 +3,9 @@
 
 #include "enumeditor.h"
 
-#include "editordatakeeper.h"
+#include "editordatakeeper_p.h"
 #include "editorhelpers.h"
-#include "parentpalette.h"
+#include "parentpalette_p.h"
 
 #include <platform/core/guard.h>
 

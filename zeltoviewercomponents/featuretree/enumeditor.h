@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "abstractitemeditor.h"
 #include "parentfont.h"
 
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QComboBox>

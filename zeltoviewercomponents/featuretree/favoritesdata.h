@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/favoriteentry.h>
+#include "favoriteentry.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QList>

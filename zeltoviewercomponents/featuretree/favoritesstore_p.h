@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/favoriteentry.h>
+#include "favoriteentry.h"
 
 #include <QList>
 #include <QLockFile>

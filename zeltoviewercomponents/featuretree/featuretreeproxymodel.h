@@ -4,7 +4,7 @@
 #pragma once
 
 #include "featuretreerolefilter_p.h"
-#include "featuretreesearchindex.h"
+#include "featuretreesearchindex_p.h"
 #include "ifeaturetreemodelextension.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "featuretreesearchindex.h"
+#include "featuretreesearchindex_p.h"
 
 #include "featuretreeinodeitem.h"
 #include "featuretreenames.h"

@@ -3,6 +3,7 @@
 
 #include "featuretreeview.h"
 
+#include "editorfocus_p.h"
 #include "editorhelpers.h"
 #include "favoritesdata.h"
 #include "featuretreedelegate.h"
@@ -11,6 +12,7 @@
 #include "featuretreenames.h"
 #include "featuretreeproxymodel.h"
 #include "inteditor.h"
+#include "openeditors_p.h"
 
 #include <platform/core/guard.h>
 
@@ -74,8 +76,8 @@ void frameRow(QPainter *painter, const QRect &row, const QColor &color)
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
-    , m_editors(this)
-    , m_focus(this, &m_editors)
+    , m_editors(std::make_unique<OpenEditors>(this))
+    , m_focus(std::make_unique<EditorFocus>(this, m_editors.get()))
 {
     keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
@@ -93,10 +95,10 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
     favorites.attach(QStringLiteral("Favorites"));
     connect(&favorites, SIGNAL(dataUpdated()), this, SLOT(onFavoriteDataUpdated()));
     connect(&favorites, SIGNAL(expanded(bool)), this, SLOT(onFavoriteDataExpanded(bool)));
-    connect(&m_focus, SIGNAL(copyRequested()), this, SLOT(copyValue()));
-    connect(&m_focus, SIGNAL(escaped(QWidget *)), this, SLOT(onEscaped(QWidget *)));
+    connect(m_focus.get(), SIGNAL(copyRequested()), this, SLOT(copyValue()));
+    connect(m_focus.get(), SIGNAL(escaped(QWidget *)), this, SLOT(onEscaped(QWidget *)));
     // Later: what is chosen from a menu, which closes first, is about the row of the menu.
-    connect(&m_focus, SIGNAL(returned()), this, SLOT(goBackToTyping()), Qt::QueuedConnection);
+    connect(m_focus.get(), SIGNAL(returned()), this, SLOT(goBackToTyping()), Qt::QueuedConnection);
     connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this,
             SLOT(onFocusChanged(QWidget *, QWidget *)));
 }
@@ -197,7 +199,7 @@ void FeatureTreeView::openPersistentEditor(const QModelIndex &index)
 {
     FeatureTreeItem *const item = itemAt(index);
     if (item && getFeatureExtension()->indexForItem(item, index.column()).isValid() && wantsEditor(item)) {
-        m_editors.open(index);
+        m_editors->open(index);
     }
 }
 
@@ -207,7 +209,7 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
         return;
     }
     const int count = model()->rowCount(parent);
-    for (int row = 0; row < count && !m_editors.isBudgetSpent(); ++row) {
+    for (int row = 0; row < count && !m_editors->isBudgetSpent(); ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
         FeatureTreeItem *const item = itemAt(index);
         if (item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(index)) {
@@ -218,7 +220,7 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
 
 void FeatureTreeView::ensureEditors()
 {
-    m_editors.ensureNearViewport([this](const QModelIndex &index) {
+    m_editors->ensureNearViewport([this](const QModelIndex &index) {
         FeatureTreeItem *const item = itemAt(index);
         return item && wantsEditor(item) && item->ShowMe(m_visibility);
     });
@@ -235,7 +237,7 @@ void FeatureTreeView::doItemsLayout()
 
 void FeatureTreeView::updateGeometries()
 {
-    m_focus.takeFromUnseenRow();
+    m_focus->takeFromUnseenRow();
     QTreeView::updateGeometries();
     ensureEditors();
 }
@@ -274,7 +276,7 @@ void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
     }
     const bool isShown = item->ShowMe(m_visibility);
     showRow(row, parent, isShown);
-    if (isShown && item->usePersistentEditor() && !m_editors.isBudgetSpent() && !indexWidget(index)) {
+    if (isShown && item->usePersistentEditor() && !m_editors->isBudgetSpent() && !indexWidget(index)) {
         openPersistentEditor(index);
     }
 }
@@ -374,7 +376,7 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
     const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
     QWidget *const editor = indexWidget(index);
     if (!editor) {
-        if (!isHidden && isAvailable && item->usePersistentEditor() && m_editors.hasRoomFor(index)) {
+        if (!isHidden && isAvailable && item->usePersistentEditor() && m_editors->hasRoomFor(index)) {
             openPersistentEditor(index);
         }
     } else if (wasHidden) {
@@ -384,7 +386,7 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
     } else if (!isAvailable || isHidden) {
-        if (m_focus.editor() == editor) {
+        if (m_focus->editor() == editor) {
             dropEditor();
         }
         closePersistentEditor(index);
@@ -394,8 +396,8 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
 // The editor with the focus gives it to the tree and does not commit.
 void FeatureTreeView::dropEditor()
 {
-    QWidget *const editor = m_focus.dropEditor();
-    if (editor && !m_editors.contains(editor)) {
+    QWidget *const editor = m_focus->dropEditor();
+    if (editor && !m_editors->contains(editor)) {
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 }
@@ -403,7 +405,7 @@ void FeatureTreeView::dropEditor()
 // Before the editor is disabled: then, the focus would wander on to another one, or be lost.
 void FeatureTreeView::dropLockedEditor()
 {
-    const QModelIndex index = m_focus.editor() ? m_focus.row(currentIndex()) : QModelIndex();
+    const QModelIndex index = m_focus->editor() ? m_focus->row(currentIndex()) : QModelIndex();
     const auto *const item = qobject_cast<FeatureTreeINodeItem *>(itemAt(index));
     const auto snapshot = item ? item->getParameterData() : nullptr;
     if (snapshot && !EditorHelpers::canBeChanged(*snapshot)) {
@@ -413,7 +415,7 @@ void FeatureTreeView::dropLockedEditor()
 
 void FeatureTreeView::onModelAboutToReset()
 {
-    m_focus.abandonEditor();
+    m_focus->abandonEditor();
 }
 
 void FeatureTreeView::onLayoutAboutToChange()
@@ -423,8 +425,8 @@ void FeatureTreeView::onLayoutAboutToChange()
 
 void FeatureTreeView::onLayoutChanged()
 {
-    m_focus.takeFromLostRow();
-    m_editors.forgetClosed();
+    m_focus->takeFromLostRow();
+    m_editors->forgetClosed();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     if (!m_isRebuilding) {
         updateRows(QModelIndex());
@@ -436,7 +438,7 @@ void FeatureTreeView::onLayoutChanged()
 
 void FeatureTreeView::onModelReset()
 {
-    m_editors.forgetAll();
+    m_editors->forgetAll();
     emit onCurrentChanged(QModelIndex());
     updateRows(QModelIndex());
 }
@@ -664,8 +666,8 @@ void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelInd
     const QPersistentModelIndex newRow(current);
     const QPersistentModelIndex oldRow(previous);
     emit onCurrentChanged(current);
-    if (!m_keepsFocus && newRow.isValid() && !isSameRow(m_focus.row(oldRow), newRow)) {
-        m_focus.takeFrom(viewport());
+    if (!m_keepsFocus && newRow.isValid() && !isSameRow(m_focus->row(oldRow), newRow)) {
+        m_focus->takeFrom(viewport());
     }
     // The base would close the editor of the row that is left.
     QTreeView::currentChanged(newRow, m_keepsEditor ? QModelIndex() : QModelIndex(oldRow));
@@ -692,7 +694,7 @@ void FeatureTreeView::copyValue()
 
 void FeatureTreeView::onEscaped(QWidget *editor)
 {
-    if (const QModelIndex index = m_editors.rowOf(editor); index.isValid()) {
+    if (const QModelIndex index = m_editors->rowOf(editor); index.isValid()) {
         itemDelegate()->setEditorData(editor, index);
     }
 }
@@ -736,13 +738,13 @@ void FeatureTreeView::keyPressEvent(QKeyEvent *event)
 void FeatureTreeView::mousePressEvent(QMouseEvent *event)
 {
     m_typingRow = QModelIndex();
-    if (event->button() != Qt::RightButton || !m_focus.isTyping()) {
+    if (event->button() != Qt::RightButton || !m_focus->isTyping()) {
         setFocus();
         QTreeView::mousePressEvent(event);
         return;
     }
     const QModelIndex clicked = indexAt(event->position().toPoint());
-    const QModelIndex typing = m_focus.row(currentIndex());
+    const QModelIndex typing = m_focus->row(currentIndex());
     if (clicked.isValid() && !isSameRow(clicked, typing)) {
         m_typingRow = typing;
         goToRowBesideEditor(clicked);
@@ -772,7 +774,7 @@ void FeatureTreeView::goBackToTyping()
     if (!m_typingRow.isValid() || QApplication::activePopupWidget()) {
         return;
     }
-    if (m_focus.isTyping()) {
+    if (m_focus->isTyping()) {
         goToRowBesideEditor(m_typingRow);
     }
     m_typingRow = QModelIndex();
@@ -808,8 +810,8 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
 // A row's editor is where the focus is, also when that is a part of the editor.
 void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 {
-    m_focus.follow(old, now);
-    const QModelIndex index = m_editors.rowOf(now == QApplication::focusWidget() ? now : nullptr);
+    m_focus->follow(old, now);
+    const QModelIndex index = m_editors->rowOf(now == QApplication::focusWidget() ? now : nullptr);
     const QModelIndex current = currentIndex();
     if (index.isValid() && !isSameRow(index, current)) {
         const QScopedValueRollback<bool> keepsFocus(m_keepsFocus, true);
@@ -819,7 +821,7 @@ void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 
 bool FeatureTreeView::focusNextPrevChild(bool next)
 {
-    const QModelIndex row = m_editors.rowOf(QApplication::focusWidget());
+    const QModelIndex row = m_editors->rowOf(QApplication::focusWidget());
     if (row.isValid()) {
         goToNeighbour(row, next);
         return true;
@@ -864,7 +866,7 @@ void FeatureTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
 void FeatureTreeView::goToNeighbour(const QModelIndex &from, bool below)
 {
     if (!editNeighbour(from, below)) {
-        m_focus.leaveEditors(below);
+        m_focus->leaveEditors(below);
     }
 }
 
@@ -917,7 +919,7 @@ bool FeatureTreeView::activateEditor(const QModelIndex &value, EditTrigger trigg
         return false; // a list would take the first letter of a name for an entry, and write that
     }
     editor->setFocus(Qt::ShortcutFocusReason); // selects as Tab does, which is for those who tab
-    if (trigger == AnyKeyPressed && event && m_focus.editor() == editor) {
+    if (trigger == AnyKeyPressed && event && m_focus->editor() == editor) {
         // What the editor ignores comes back here, where the row is searched for by it.
         m_isForwardingKey = true;
         QCoreApplication::sendEvent(QApplication::focusWidget(), event);

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "featuretreeeditors.h"
-#include "featuretreefocus.h"
 #include "featuretreehighlighter.h"
 
 #include <platform/genicam/genapi.h>
@@ -16,10 +14,13 @@
 #include <QTreeView>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
+class EditorFocus;
 class FeatureTreeItem;
 class IFeatureTreeModelExtension;
+class OpenEditors;
 
 /*! \brief The tree view of the feature tree.
  *
@@ -150,8 +151,8 @@ private:
 
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
-    FeatureTreeEditors m_editors;
-    FeatureTreeFocus m_focus;
+    std::unique_ptr<OpenEditors> m_editors;
+    std::unique_ptr<EditorFocus> m_focus;
     bool m_hadCurrent = false; // before the layout changed
     bool m_isExpandingMany = false; // the rows are updated elsewhere, and nothing is recorded
     bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes

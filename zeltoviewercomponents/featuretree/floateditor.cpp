@@ -3,7 +3,7 @@
 
 #include "floateditor.h"
 
-#include "editordatakeeper.h"
+#include "editordatakeeper_p.h"
 #include "editorhelpers.h"
 #include "floatstep_p.h"
 #include "zeltoqtdoublespinbox.h"

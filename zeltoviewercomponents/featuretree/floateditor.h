@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
-#include <zeltoviewercomponents/featuretree/doublespinbox.h>
-#include <zeltoviewercomponents/featuretree/editorhelpers.h>
+#include "abstractitemeditor.h"
+#include "doublespinbox.h"
+#include "editorhelpers.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 class EditorDataKeeper;

@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include "abstractitemeditor.h"
+#include "twomodedoublecomboslider.h"
+
 #include <platform/parametercollection/iparametercollection.h>
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
-#include <zeltoviewercomponents/featuretree/twomodedoublecomboslider.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 class EditorDataKeeper;

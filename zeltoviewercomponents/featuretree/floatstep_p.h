@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "abstractitemeditor.h"
+
 #include <platform/parametercollection/parameterdata.h>
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
 
 #include <QObject>
 #include <QTimer>

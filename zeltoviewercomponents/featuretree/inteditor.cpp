@@ -3,7 +3,7 @@
 
 #include "inteditor.h"
 
-#include "editordatakeeper.h"
+#include "editordatakeeper_p.h"
 #include "editorhelpers.h"
 #include "inputhint_p.h"
 #include "integertext_p.h"

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include "abstractitemeditor.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QLineEdit>

@@ -3,7 +3,7 @@
 
 #include "intslidereditor.h"
 
-#include "editordatakeeper.h"
+#include "editordatakeeper_p.h"
 #include "editorhelpers.h"
 #include "zeltoqtspinbox.h"
 

@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
-#include <zeltoviewercomponents/featuretree/comboslider.h>
+#include "abstractitemeditor.h"
+#include "comboslider.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QDeadlineTimer>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "parentpalette.h"
+#include "parentpalette_p.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -3,7 +3,7 @@
 
 #include "searchedit.h"
 
-#include "parentpalette.h"
+#include "parentpalette_p.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,7 +3,7 @@
 
 #include "toolbuttoneditor.h"
 
-#include "editordatakeeper.h"
+#include "editordatakeeper_p.h"
 #include "editorhelpers.h"
 
 #include <platform/core/guard.h>

@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/doublecomboslider.h>
-#include <zeltoviewercomponents/featuretree/editorhelpers.h>
+#include "doublecomboslider.h"
+#include "editorhelpers.h"
+
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QTimer>

@@ -6,7 +6,7 @@
 #include <QModelIndex>
 #include <QObject>
 
-class FeatureTreeEditors;
+class OpenEditors;
 class QTreeView;
 class QWidget;
 
@@ -16,12 +16,12 @@ class QWidget;
  * focus would go on to the editor of whatever row comes next. The focus is that of the window, which an open
  * popup and another window do not take away.
  */
-class FeatureTreeFocus : public QObject
+class EditorFocus : public QObject
 {
     Q_OBJECT
 
 public:
-    FeatureTreeFocus(QTreeView *view, const FeatureTreeEditors *editors);
+    EditorFocus(QTreeView *view, const OpenEditors *editors);
 
     /*! Returns the editor that has the focus, also when that is in a part of it. */
     QWidget *editor() const;
@@ -67,5 +67,5 @@ private:
     void escape(QObject *input, QEvent *event);
 
     QTreeView *m_view;
-    const FeatureTreeEditors *m_editors;
+    const OpenEditors *m_editors;
 };

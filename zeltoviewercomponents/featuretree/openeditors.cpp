@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "featuretreeeditors.h"
+#include "openeditors_p.h"
 
 #include "featuretreenames.h"
 
@@ -38,7 +38,7 @@ QList<int> rowsTo(QModelIndex index)
 
 } // namespace
 
-FeatureTreeEditors::FeatureTreeEditors(QTreeView *view)
+OpenEditors::OpenEditors(QTreeView *view)
     : m_view(view)
 {
     // When an editor's row is filtered out, the base releases the editor but keeps its address as that of a
@@ -46,7 +46,7 @@ FeatureTreeEditors::FeatureTreeEditors(QTreeView *view)
     connect(this, SIGNAL(editorDestroyed(QObject *)), view, SLOT(editorDestroyed(QObject *)));
 }
 
-void FeatureTreeEditors::open(const QModelIndex &index)
+void OpenEditors::open(const QModelIndex &index)
 {
     m_view->openPersistentEditor(index);
     QWidget *const editor = m_view->indexWidget(index);
@@ -63,7 +63,7 @@ void FeatureTreeEditors::open(const QModelIndex &index)
     connect(editor, SIGNAL(destroyed(QObject *)), this, SIGNAL(editorDestroyed(QObject *)));
 }
 
-void FeatureTreeEditors::ensureNearViewport(const std::function<bool(const QModelIndex &)> &wantsEditor)
+void OpenEditors::ensureNearViewport(const std::function<bool(const QModelIndex &)> &wantsEditor)
 {
     if (m_isEnsuring || !m_view->isVisible()) {
         return;
@@ -84,7 +84,7 @@ void FeatureTreeEditors::ensureNearViewport(const std::function<bool(const QMode
     }
 }
 
-void FeatureTreeEditors::forgetClosed()
+void OpenEditors::forgetClosed()
 {
     m_editors.removeIf([this](const Editor &editor) {
         return !editor.index.isValid() || !editor.widget
@@ -92,28 +92,28 @@ void FeatureTreeEditors::forgetClosed()
     });
 }
 
-void FeatureTreeEditors::forgetAll()
+void OpenEditors::forgetAll()
 {
     m_editors.clear();
 }
 
-bool FeatureTreeEditors::hasRoomFor(const QModelIndex &index) const
+bool OpenEditors::hasRoomFor(const QModelIndex &index) const
 {
     return !isBudgetSpent() || isNearViewport(index);
 }
 
-bool FeatureTreeEditors::isBudgetSpent() const
+bool OpenEditors::isBudgetSpent() const
 {
     return m_view->isVisible() && m_editors.size() >= editorBudget;
 }
 
-bool FeatureTreeEditors::contains(const QWidget *editor) const
+bool OpenEditors::contains(const QWidget *editor) const
 {
     return std::any_of(m_editors.cbegin(), m_editors.cend(),
                        [editor](const Editor &entry) { return entry.widget == editor; });
 }
 
-QModelIndex FeatureTreeEditors::rowOf(const QWidget *widget) const
+QModelIndex OpenEditors::rowOf(const QWidget *widget) const
 {
     if (!widget || !m_view->viewport()->isAncestorOf(widget)) {
         return {};
@@ -126,14 +126,14 @@ QModelIndex FeatureTreeEditors::rowOf(const QWidget *widget) const
     return {};
 }
 
-bool FeatureTreeEditors::isNearViewport(const QModelIndex &index) const
+bool OpenEditors::isNearViewport(const QModelIndex &index) const
 {
     const QRect row = m_view->visualRect(index);
     const int margin = rowsBeyondViewport * row.height();
     return row.isValid() && m_view->viewport()->rect().adjusted(0, -margin, 0, margin).intersects(row);
 }
 
-QModelIndexList FeatureTreeEditors::rowsNearViewport() const
+QModelIndexList OpenEditors::rowsNearViewport() const
 {
     QModelIndexList rows;
     QModelIndex index = m_view->indexAt(QPoint(0, 0));
@@ -149,7 +149,7 @@ QModelIndexList FeatureTreeEditors::rowsNearViewport() const
     return rows;
 }
 
-void FeatureTreeEditors::closeFar(const QModelIndexList &near)
+void OpenEditors::closeFar(const QModelIndexList &near)
 {
     for (qsizetype i = m_editors.size() - 1; i >= 0 && m_editors.size() > editorBudget; --i) {
         const Editor editor = m_editors[i];
@@ -161,7 +161,7 @@ void FeatureTreeEditors::closeFar(const QModelIndexList &near)
 }
 
 // The focus walks from top to bottom; the base leaves editors in the order in which they were opened.
-void FeatureTreeEditors::orderTabs()
+void OpenEditors::orderTabs()
 {
     m_isTabOrderStale = false;
     std::map<QList<int>, QWidget *> sorted;

@@ -19,12 +19,12 @@ class QTreeView;
  * Up to 200 editors stay open wherever their rows are. Beyond that number they are open in and near the
  * viewport and come and go as the view scrolls. Which rows want one is the view's business.
  */
-class FeatureTreeEditors : public QObject
+class OpenEditors : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit FeatureTreeEditors(QTreeView *view);
+    explicit OpenEditors(QTreeView *view);
 
     /*! Opens the editor of \a index and keeps account of it. */
     void open(const QModelIndex &index);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include "abstractitemeditor.h"
 
 #include <QObject>
 #include <QTimer>

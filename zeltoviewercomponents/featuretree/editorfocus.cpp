@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "featuretreefocus.h"
+#include "editorfocus_p.h"
 
 #include "editorhelpers.h"
-#include "featuretreeeditors.h"
+#include "openeditors_p.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
@@ -41,23 +41,23 @@ bool isTypedInto(const QWidget *input)
 
 } // namespace
 
-FeatureTreeFocus::FeatureTreeFocus(QTreeView *view, const FeatureTreeEditors *editors)
+EditorFocus::EditorFocus(QTreeView *view, const OpenEditors *editors)
     : m_view(view)
     , m_editors(editors)
 {
 }
 
-QWidget *FeatureTreeFocus::focusWidget() const
+QWidget *EditorFocus::focusWidget() const
 {
     return m_view->window()->focusWidget();
 }
 
-QWidget *FeatureTreeFocus::editor() const
+QWidget *EditorFocus::editor() const
 {
     return editorAround(focusWidget());
 }
 
-QWidget *FeatureTreeFocus::editorAround(QWidget *widget) const
+QWidget *EditorFocus::editorAround(QWidget *widget) const
 {
     if (!widget || !m_view->viewport()->isAncestorOf(widget)) {
         return nullptr;
@@ -68,18 +68,18 @@ QWidget *FeatureTreeFocus::editorAround(QWidget *widget) const
     return widget;
 }
 
-bool FeatureTreeFocus::isTyping() const
+bool EditorFocus::isTyping() const
 {
     return editor() && isTypedInto(focusWidget());
 }
 
-QModelIndex FeatureTreeFocus::row(const QModelIndex &current) const
+QModelIndex EditorFocus::row(const QModelIndex &current) const
 {
     const QModelIndex permanent = m_editors->rowOf(focusWidget());
     return permanent.isValid() ? permanent : current;
 }
 
-void FeatureTreeFocus::takeFrom(const QWidget *widget)
+void EditorFocus::takeFrom(const QWidget *widget)
 {
     const QWidget *const focus = focusWidget();
     if (focus && (focus == widget || widget->isAncestorOf(focus))) {
@@ -87,7 +87,7 @@ void FeatureTreeFocus::takeFrom(const QWidget *widget)
     }
 }
 
-void FeatureTreeFocus::takeFromUnseenRow()
+void EditorFocus::takeFromUnseenRow()
 {
     const QModelIndex index = editor() ? row(m_view->currentIndex()) : QModelIndex();
     if (index.isValid() && !m_view->visualRect(index).isValid()) {
@@ -95,7 +95,7 @@ void FeatureTreeFocus::takeFromUnseenRow()
     }
 }
 
-void FeatureTreeFocus::takeFromLostRow()
+void EditorFocus::takeFromLostRow()
 {
     const QWidget *const focused = editor();
     // An editor that is not permanent belongs to the current row.
@@ -106,7 +106,7 @@ void FeatureTreeFocus::takeFromLostRow()
     }
 }
 
-QWidget *FeatureTreeFocus::dropEditor()
+QWidget *EditorFocus::dropEditor()
 {
     QWidget *const focused = editor();
     if (!focused) {
@@ -118,7 +118,7 @@ QWidget *FeatureTreeFocus::dropEditor()
     return focused;
 }
 
-void FeatureTreeFocus::abandonEditor()
+void EditorFocus::abandonEditor()
 {
     if (QWidget *const focused = editor()) {
         focused->removeEventFilter(m_view->itemDelegate());
@@ -127,7 +127,7 @@ void FeatureTreeFocus::abandonEditor()
     }
 }
 
-void FeatureTreeFocus::follow(QWidget *old, QWidget *now)
+void EditorFocus::follow(QWidget *old, QWidget *now)
 {
     if (now && editorAround(old) && isTypedInto(old) && EditorHelpers::isFocusForMenu()) {
         old->setFocus();
@@ -141,7 +141,7 @@ void FeatureTreeFocus::follow(QWidget *old, QWidget *now)
     }
 }
 
-bool FeatureTreeFocus::eventFilter(QObject *watched, QEvent *event)
+bool EditorFocus::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn
         && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason) {
@@ -165,7 +165,7 @@ bool FeatureTreeFocus::eventFilter(QObject *watched, QEvent *event)
 
 // The editor sees the key first, takes back what was typed and lets go of what is pressed. Its parents do not
 // see it: they count the ones that clear a search.
-void FeatureTreeFocus::escape(QObject *input, QEvent *event)
+void EditorFocus::escape(QObject *input, QEvent *event)
 {
     input->event(event);
     event->accept();
@@ -174,13 +174,13 @@ void FeatureTreeFocus::escape(QObject *input, QEvent *event)
     }
 }
 
-void FeatureTreeFocus::leaveEditors(bool forward)
+void EditorFocus::leaveEditors(bool forward)
 {
     QWidget *const target = forward ? nextOutsideView() : m_view;
     target->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
-QWidget *FeatureTreeFocus::nextOutsideView() const
+QWidget *EditorFocus::nextOutsideView() const
 {
     const auto takesFocus = [this](const QWidget *widget) {
         return !m_view->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
