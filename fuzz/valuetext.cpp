@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+// A text written to a feature, as from a settings file or an editor. The first byte chooses the feature, the
+// rest is the text. Refused or not: what the feature shows afterwards can be written again and changes
+// nothing.
+
+#include "target.h"
+
+#include <cameras/camera.h>
+
+#include <exception>
+
+using namespace ParameterCollection;
+
+namespace {
+
+QSharedPointer<IParameterCollection> collection;
+QList<QSharedPointer<IParameter>> parameters;
+
+QString shownText(const IParameter &parameter)
+{
+    return parameter.parameterData()->valueString;
+}
+
+bool write(IParameter &parameter, const QString &text)
+{
+    try {
+        parameter.setValueFromString(text);
+    } catch (const std::exception &) {
+        return false;
+    }
+    Fuzz::settle();
+    return true;
+}
+
+} // namespace
+
+void Fuzz::prepare()
+{
+    static const std::unique_ptr<Cameras::Camera> camera = Cameras::Camera::openEmbedded();
+    collection = camera->nodeMaps().constFirst().collection;
+    const QStringList names = collection->childNames(QStringLiteral("Root"), 9, false);
+    for (const QString &name : names) {
+        const auto parameter = collection->parameter(name);
+        const ParameterType type = parameter->type();
+        if (parameter->isWritableNow() && type != ParameterType::Command && type != ParameterType::Category) {
+            parameters.append(parameter);
+        }
+    }
+    require(!parameters.isEmpty(), "the embedded camera has features to write to");
+}
+
+void Fuzz::run(const QByteArray &input)
+{
+    if (input.isEmpty()) {
+        return;
+    }
+    IParameter &parameter = *parameters.at(static_cast<uchar>(input.at(0)) % parameters.size());
+    if (!parameter.isWritableNow()) {
+        return; // an earlier input has locked it
+    }
+    const QString before = shownText(parameter);
+    if (!write(parameter, QString::fromUtf8(input.mid(1)))) {
+        require(shownText(parameter) == before, "a refused text changes nothing");
+        return;
+    }
+    const QString shown = shownText(parameter);
+    if (parameter.isWritableNow() && parameter.parameterData()->isReadable) {
+        require(write(parameter, shown), "what is shown is accepted");
+        require(shownText(parameter) == shown, "what is shown is what is there");
+    }
+}
