@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-// What is kept of a tree's look and of its columns: bytes of any kind leave a tree that works.
+// What is kept of a tree's look (JSON stands for the values in the settings) and, after a "c", of its
+// columns: a tree that works is left whatever it is.
 
 #include "target.h"
 
@@ -10,23 +11,27 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 
-#include <QDataStream>
 #include <QHeaderView>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPoint>
 
 namespace {
 
 constexpr int stateVersion = 1;
+const QString scrollPosition = QStringLiteral("ScrollPosition");
 
 const FeatureTreeLook::Parts everything(0xff);
 
 FeatureTreeWidget *tree;
 
-void applyLook(const QByteArray &bytes)
+void applyLook(const QByteArray &json)
 {
-    QDataStream stream(bytes);
-    stream.setVersion(QDataStream::Qt_6_4);
-    QVariantMap map;
-    stream >> map;
+    QVariantMap map = QJsonDocument::fromJson(json).object().toVariantMap();
+    const QVariantList point = map.value(scrollPosition).toList();
+    if (point.size() == 2) {
+        map.insert(scrollPosition, QPoint(point.at(0).toInt(), point.at(1).toInt()));
+    }
     FeatureTreeLook(map).applyTo(*tree);
     Fuzz::require(tree->visibility() >= GenApi::Beginner && tree->visibility() <= GenApi::Invisible,
                   "the user level is a level");
@@ -60,7 +65,7 @@ void Fuzz::run(const QByteArray &input)
     if (input.startsWith('c')) {
         restoreColumns(input.mid(1));
     } else {
-        applyLook(input.mid(1));
+        applyLook(input);
     }
     settle();
 }
