@@ -3,7 +3,7 @@
 
 #include "editordatakeeper_p.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -34,6 +34,19 @@ void EditorDataKeeper::keep(const AbstractItemEditor::EditorData &data)
     m_data = data;
 }
 
+void EditorDataKeeper::setCommitted(bool isCommitted)
+{
+    m_isCommitted = isCommitted;
+}
+
+bool EditorDataKeeper::takeCommitted()
+{
+    if (m_isCommitted) {
+        showAgainAfterCommit();
+    }
+    return std::exchange(m_isCommitted, false);
+}
+
 bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -45,7 +58,7 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::FocusOut:
-        if (!EditorHelpers::isFocusLent(*event)) {
+        if (!EditorKeys::isFocusLent(*event)) {
             showAgainAfterCommit();
         }
         break;

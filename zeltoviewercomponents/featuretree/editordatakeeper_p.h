@@ -30,6 +30,12 @@ public:
     /*! Takes over what the editor is told to show. */
     void keep(const AbstractItemEditor::EditorData &data);
 
+    /*! Sets whether the user has committed something that was not handed out yet. */
+    void setCommitted(bool isCommitted);
+    /*! Returns, once, whether the user has committed something; then the last data is shown again unless a
+     * refresh answers. */
+    bool takeCommitted();
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
@@ -48,4 +54,5 @@ private:
     AbstractItemEditor::EditorData m_data;
     QTimer m_timer;
     bool m_isInFront = false;
+    bool m_isCommitted = false;
 };

@@ -4,14 +4,16 @@
 #pragma once
 
 #include "abstractitemeditor.h"
-#include "parentfont.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QComboBox>
 #include <QPointer>
 
+#include <memory>
+
 class EditorDataKeeper;
+class ParentFont;
 
 /*! \brief Edits an enumeration feature; hands out the symbolic name of the chosen entry.
  *
@@ -41,5 +43,5 @@ private:
 
     EditorDataKeeper *m_keeper;
     QPointer<QWidget> m_watchedPopup; //!< the list while it is open
-    ParentFont m_parentFont{this};
+    std::unique_ptr<ParentFont> m_parentFont;
 };

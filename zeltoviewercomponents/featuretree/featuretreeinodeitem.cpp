@@ -3,10 +3,10 @@
 
 #include "featuretreeinodeitem.h"
 
-#include "editorhelpers.h"
 #include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
+#include "representation_p.h"
 #include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
@@ -62,7 +62,7 @@ QString nodeMapKindOf(const QString &fullName)
 bool hasSlider(const QSharedPointer<IParameter> &parameter)
 {
     const QSharedPointer<NodePropertyAccess> access = parameter->propertyAccess();
-    return access && EditorHelpers::wantsSlider(access->property(QStringLiteral("Representation")));
+    return access && isSliderRepresentation(access->property(QStringLiteral("Representation")));
 }
 
 FeatureTreeItem::EditorType editorOf(const QSharedPointer<IParameter> &parameter)

@@ -4,7 +4,7 @@
 #include "featuretreeview.h"
 
 #include "editorfocus_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
 #include "favoritesdata.h"
 #include "featuretreedelegate.h"
 #include "featuretreeinodeitem.h"
@@ -408,7 +408,7 @@ void FeatureTreeView::dropLockedEditor()
     const QModelIndex index = m_focus->editor() ? m_focus->row(currentIndex()) : QModelIndex();
     const auto *const item = qobject_cast<FeatureTreeINodeItem *>(itemAt(index));
     const auto snapshot = item ? item->getParameterData() : nullptr;
-    if (snapshot && !EditorHelpers::canBeChanged(*snapshot)) {
+    if (snapshot && !EditorIntake::canBeChanged(*snapshot)) {
         dropEditor();
     }
 }

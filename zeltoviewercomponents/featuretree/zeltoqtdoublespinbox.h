@@ -35,11 +35,18 @@ public:
     /*! Sets the page step. */
     void setPageStep(double pageStep);
 
-    /*! Shows values as formatFeatureValue() does with \a notation and \a precision. */
-    void showFeatureValues(GenApi::EDisplayNotation notation, int precision);
+    using QDoubleSpinBox::lineEdit;
+
+    /*! Shows values as formatFeatureValue() does with \a notation and \a precision. Returns whether they
+     * were shown otherwise before. */
+    bool showFeatureValues(GenApi::EDisplayNotation notation, int precision);
 
     /*! Sets both limits, with all their digits when feature values are shown. */
     void setLimits(double minimum, double maximum);
+    /*! Returns the lowest value, the lowest double where there is no limit. */
+    double lowestValue() const;
+    /*! Returns the highest value, the highest double where there is no limit. */
+    double highestValue() const;
     /*! Sets the value to \a value, limited to the range. */
     void setValue(double value);
     /*! Shows \a value, limited to the range, with all its digits kept when feature values are shown. */
