@@ -84,21 +84,32 @@ void EnumEditor::setEditorData(EditorData data)
 
 void EnumEditor::showSnapshot(const EditorData &data)
 {
-    clear();
     m_keeper->keep(data);
     if (!data.ptrParameterData || data.ptrParameterData->type != ParameterType::Enumeration) {
+        list({}, {});
         Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(),
                                       QStringLiteral("%1 is called with non-enumeration node????")
                                           .arg(QLatin1String(setEditorDataName)));
         return;
     }
     const auto &snapshot = static_cast<const EnumParameterData &>(*data.ptrParameterData);
-    for (qsizetype i = 0; i < snapshot.symbolicNames.size(); ++i) {
-        const QString &name = snapshot.symbolicNames.at(i);
-        insertItem(count(), QIcon(), snapshot.displayTexts.value(i, name), name);
-    }
+    list(snapshot.symbolicNames, snapshot.displayTexts);
     setCurrentIndex(shownIndex(data));
     setEnabled(EditorIntake::canBeChanged(snapshot));
+}
+
+// Fills the list, unless that is what it has: a new value comes far more often than another entry.
+void EnumEditor::list(const QStringList &names, const QStringList &texts)
+{
+    if (names == m_names && texts == m_texts && count() == names.size()) {
+        return;
+    }
+    m_names = names;
+    m_texts = texts;
+    clear();
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        insertItem(count(), QIcon(), texts.value(i, names.at(i)), names.at(i));
+    }
 }
 
 int EnumEditor::shownIndex(const EditorData &data) const

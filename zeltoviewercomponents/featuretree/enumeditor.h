@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QPointer>
+#include <QStringList>
 
 #include <memory>
 
@@ -39,9 +40,12 @@ private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool isPopupVisible() const;
     void showSnapshot(const EditorData &data);
+    void list(const QStringList &names, const QStringList &texts);
     int shownIndex(const EditorData &data) const;
 
     EditorDataKeeper *m_keeper;
     QPointer<QWidget> m_watchedPopup; //!< the list while it is open
     std::unique_ptr<ParentFont> m_parentFont;
+    QStringList m_names; // of the entries that are listed
+    QStringList m_texts;
 };

@@ -513,13 +513,19 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         return;
     }
     const bool comesAlive = !m_data;
+    const State before = m_state;
     takeSnapshot(ptrParameterData);
+    const bool isValueAloneNew = !comesAlive && m_state == before;
     if (comesAlive) {
         m_editorType = editorType(m_parameter);
         childCount();
     }
     if (self) {
+        m_isValueAloneNew = isValueAloneNew;
         emit nodeUpdated(row(), this);
+    }
+    if (self) {
+        m_isValueAloneNew = false;
     }
 }
 

@@ -338,6 +338,7 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         QTreeView::dataChanged(topLeft, bottomRight, roles);
         return;
     }
+    const bool isAsBefore = topLeft == bottomRight && isNameAsBefore(topLeft);
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
@@ -348,7 +349,18 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
                          });
     }
     executeDelayedItemsLayout();
-    QTreeView::dataChanged(topLeft, bottomRight, roles);
+    if (!isAsBefore) {
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+    }
+}
+
+// Values come by the thousand, and the base would paint the name of each again.
+bool FeatureTreeView::isNameAsBefore(const QModelIndex &index) const
+{
+    const auto *const item = index.column() == FeatureTreeColumns::name
+        ? qobject_cast<const FeatureTreeINodeItem *>(itemAt(index))
+        : nullptr;
+    return item && item->isValueAloneNew();
 }
 
 void FeatureTreeView::updateCell(const QModelIndex &index)

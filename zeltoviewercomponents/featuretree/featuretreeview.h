@@ -131,6 +131,7 @@ private:
     void expandBranch(const QModelIndex &index, int depth, bool isReachable, const ExpansionRule &isExpanded);
 
     void updateRow(int row, const QModelIndex &parent);
+    bool isNameAsBefore(const QModelIndex &index) const;
     void updateCell(const QModelIndex &index);
     void showRow(int row, const QModelIndex &parent, bool isShown);
     void spanRow(const QModelIndex &index);

@@ -30,6 +30,9 @@ void ZeltoQtSpinBox::setPageStep(int pageStep)
 
 void ZeltoQtSpinBox::setValue(int value)
 {
+    if (value == this->value() && cleanText() == textFromValue(value)) {
+        return; // the base would paint it again
+    }
     const EditorKeys::SelectedText selected(lineEdit());
     QSpinBox::setValue(value);
 }
