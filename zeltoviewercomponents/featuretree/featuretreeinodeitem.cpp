@@ -14,6 +14,7 @@
 
 #include <QBrush>
 #include <QCoreApplication>
+#include <QMetaType>
 #include <QPointer>
 #include <QUuid>
 #include <QWeakPointer>
@@ -472,13 +473,13 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         }
         return;
     }
-    const QString text = value.toString();
+    const QString text = value.typeId() == QMetaType::Double ? QString() : value.toString();
     if (!m_useUtf8 && !isLatin1(text)) {
         throw GenICam::InvalidArgumentException(
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
                 .arg(m_nodeName, text));
     }
-    UnansweredWrites::write(*parameter, text);
+    UnansweredWrites::write(*parameter, value);
 }
 
 bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
@@ -493,9 +494,8 @@ bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
     if (!current || !current->isReadable) {
         return false; // what cannot be read is not known to be the same
     }
-    const QString text = value.toString();
     const UnansweredWrites *const writes = UnansweredWrites::find(*m_parameter);
-    return writes && writes->isWaiting() ? writes->isLast(text, *current) : isValueOf(*current, text);
+    return writes && writes->isWaiting() ? writes->isLast(value, *current) : isValueOf(*current, value);
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
