@@ -12,8 +12,10 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QMetaMethod>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPair>
+#include <QPixmap>
 #include <QSet>
 #include <QSettings>
 #include <QSignalSpy>
@@ -104,6 +106,7 @@ private slots:
     void asksBeforeCommands();
     void paintsSelectionAndCurrentRow();
     void rendersRichTextOnce();
+    void paintsWhatIsNew();
 };
 
 void TestFeatureTreeDelegate::createsEditors_data()
@@ -504,6 +507,42 @@ void TestFeatureTreeDelegate::rendersRichTextOnce()
     QVERIFY(plain > 0);
     QCOMPARE(widthOf("<HTML>bbbb bbbb"), plain);
     QVERIFY(widthOf("<HTML><B>bbbb bbbb</B>") < 2 * plain);
+}
+
+void TestFeatureTreeDelegate::paintsWhatIsNew()
+{
+    class PaintedRegion : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint) {
+                region += static_cast<QPaintEvent *>(event)->region();
+            }
+            return false;
+        }
+        QRegion region;
+    };
+    TreeBench bench;
+    PaintedRegion painted;
+    bench.view()->viewport()->installEventFilter(&painted);
+    const QString name = "DeviceUserID";
+    const auto update = [&](const auto &change) {
+        painted.region = QRegion();
+        bench.parameter<MemoryPlain>(name)->update(change);
+        bench.settle();
+        return painted.region.intersects(bench.view()->visualRect(bench.row(name)));
+    };
+    QVERIFY(!update([](auto &data) { data.valueString = "right"; }));
+    QVERIFY(painted.region.intersects(bench.view()->visualRect(bench.value(name))));
+    QVERIFY(update([](auto &data) { data.isWritable = false; }));
+    // Rows that are painted in parts look as those that are painted as a whole.
+    QPixmap pixmap(bench.view()->viewport()->size());
+    pixmap.fill(bench.view()->palette().color(QPalette::Base));
+    for (int x = 0; x < pixmap.width(); x += 37) {
+        bench.view()->viewport()->render(&pixmap, QPoint(x, 0), QRect(x, 0, 37, pixmap.height()));
+    }
+    QCOMPARE(pixmap.toImage(), bench.view()->viewport()->grab().toImage());
 }
 
 QTEST_MAIN(TestFeatureTreeDelegate)

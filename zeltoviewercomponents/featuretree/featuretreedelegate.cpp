@@ -370,6 +370,9 @@ void FeatureTreeDelegate::initStyleOption(QStyleOptionViewItem *option, const QM
 void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {
+    if (painter->hasClipping() && !painter->clipRegion().intersects(option.rect)) {
+        return;
+    }
     QStyleOptionViewItem opt = option;
     opt.state &= ~QStyle::State_HasFocus; // the view draws a frame around the whole row
     const bool isCategory =

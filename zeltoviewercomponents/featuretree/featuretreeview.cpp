@@ -632,7 +632,10 @@ void FeatureTreeView::setVisibility(GenApi::EVisibility level)
 
 void FeatureTreeView::paintEvent(QPaintEvent *event)
 {
-    QTreeView::paintEvent(event);
+    {
+        const QScopedValueRollback<QRegion> painted(m_painted, event->region());
+        QTreeView::paintEvent(event);
+    }
     if (model() && model()->rowCount() == 0) {
         QPainter painter(viewport());
         painter.setPen(palette().color(QPalette::Active, QPalette::Text));
@@ -645,6 +648,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QItemSelectionModel *const selection = selectionModel();
     const bool isSelected = selection->isSelected(index);
+    // The base has all cells of a row painted for a value that is new; the delegate leaves out what is
+    // clipped.
+    const QRegion painted = m_painted.intersected(options.rect);
+    const bool isPart = !painted.isEmpty() && painted != QRegion(options.rect);
+    if (isPart) {
+        painter->setClipRegion(painted);
+    }
     {
         const QSignalBlocker blocker(selection);
         if (isSelected) {
@@ -654,6 +664,9 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
         if (isSelected) {
             selection->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
+    }
+    if (isPart) {
+        painter->setClipping(false);
     }
     if (isSameRow(currentIndex(), index)) {
         frameRow(painter, options.rect, palette().color(QPalette::Active, QPalette::Highlight));
