@@ -26,7 +26,6 @@ ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtSpinBox(this))
     , m_slider(new QSlider(Qt::Horizontal, this))
-    , m_hint(new InputHint(this, m_spinBox->lineEdit()))
 {
     ControlParts::layOutComboSlider(this, m_spinBox, m_slider);
     setEditBoxWidth(ControlParts::editBoxWidth(*m_spinBox));
@@ -169,11 +168,15 @@ void ComboSlider::updateToolTip()
 {
     ControlParts::guardedToolTip(logCategory(), [this] {
         const int step = m_spinBox->singleStep();
-        setToolTip(step != 1 ? tr("Range: %1..%2 (Increment: %3)")
-                                   .arg(m_spinBox->minimum())
-                                   .arg(m_spinBox->maximum())
-                                   .arg(step)
-                             : tr("Range: %1..%2").arg(m_spinBox->minimum()).arg(m_spinBox->maximum()));
+        const QString text = step != 1
+            ? tr("Range: %1..%2 (Increment: %3)")
+                  .arg(m_spinBox->minimum())
+                  .arg(m_spinBox->maximum())
+                  .arg(step)
+            : tr("Range: %1..%2").arg(m_spinBox->minimum()).arg(m_spinBox->maximum());
+        if (text != toolTip()) {
+            setToolTip(text);
+        }
     });
 }
 
@@ -213,7 +216,7 @@ void ComboSlider::onComboBoxEditingFinished()
     }
     const QString outcome = entered && !stepStart() ? m_spinBox->outcomeOf(*entered) : QString();
     if (!outcome.isEmpty()) {
-        m_hint->tell(outcome);
+        hint()->tell(outcome);
     }
     if (entered && !m_showsTrueValue && trimmed == m_slider->value()) {
         tellUser(trimmed);
@@ -267,13 +270,24 @@ void ComboSlider::onSliderAction(int action)
 
 void ComboSlider::onTextChanged()
 {
-    m_hint->setProblem(m_spinBox->problem());
+    const QString problem = m_spinBox->problem();
+    if (m_hint || !problem.isEmpty()) {
+        hint()->setProblem(problem);
+    }
 }
 
 void ComboSlider::onReturnPressed()
 {
     onTextChanged(); // the limits may have changed below the text
-    if (!m_hint->problem().isEmpty()) {
+    if (m_hint && !m_hint->problem().isEmpty()) {
         m_hint->tell(m_hint->problem());
     }
+}
+
+InputHint *ComboSlider::hint()
+{
+    if (!m_hint) {
+        m_hint = new InputHint(this, m_spinBox->lineEdit());
+    }
+    return m_hint;
 }

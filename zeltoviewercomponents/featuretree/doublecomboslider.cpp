@@ -234,9 +234,11 @@ void DoubleComboSlider::updateToolTip()
     ControlParts::guardedToolTip(logCategory(), [this] {
         const QString text =
             tr("Range: %1..%2").arg(m_spinBox->numberText(minimum()), m_spinBox->numberText(maximum()));
-        m_slider->setToolTip(text);
-        m_spinBox->setToolTip(text);
-        setToolTip(text);
+        if (text != toolTip()) {
+            m_slider->setToolTip(text);
+            m_spinBox->setToolTip(text);
+            setToolTip(text);
+        }
     });
 }
 

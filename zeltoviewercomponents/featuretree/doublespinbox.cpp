@@ -179,8 +179,10 @@ void DoubleSpinBox::updateToolTip()
         const QString text = increment.toDouble() == 0.0
             ? tr("Range: %1..%2").arg(lowest, highest)
             : tr("Range: %1..%2 (Increment: %3)").arg(lowest, highest, increment);
-        m_spinBox->setToolTip(text);
-        setToolTip(text);
+        if (text != toolTip()) {
+            m_spinBox->setToolTip(text);
+            setToolTip(text);
+        }
     });
 }
 

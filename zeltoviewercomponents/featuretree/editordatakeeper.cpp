@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimerEvent>
 #include <QWidget>
 
 #include <utility>
@@ -23,8 +24,6 @@ EditorDataKeeper::EditorDataKeeper(AbstractItemEditor *editor, QWidget *input, Q
     , m_editor(editor)
     , m_lineEdit(lineEdit)
 {
-    m_timer.setSingleShot(true);
-    connect(&m_timer, SIGNAL(timeout()), this, SLOT(showAgain()));
     input->installEventFilter(this);
 }
 
@@ -77,12 +76,22 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
 
 void EditorDataKeeper::showAgainAfterCommit()
 {
-    m_timer.start(answerMilliseconds);
+    m_timer.start(answerMilliseconds, this);
 }
 
 void EditorDataKeeper::showAgainSoon()
 {
-    m_timer.start(0);
+    m_timer.start(0, this);
+}
+
+void EditorDataKeeper::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    m_timer.stop();
+    showAgain();
 }
 
 void EditorDataKeeper::showAgain()

@@ -5,8 +5,8 @@
 
 #include "abstractitemeditor.h"
 
+#include <QBasicTimer>
 #include <QObject>
-#include <QTimer>
 
 class QLineEdit;
 class QWidget;
@@ -48,11 +48,14 @@ public slots:
     /*! Shows the last data. */
     void showAgain();
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private:
     AbstractItemEditor *m_editor;
     QLineEdit *m_lineEdit;
     AbstractItemEditor::EditorData m_data;
-    QTimer m_timer;
+    QBasicTimer m_timer; // without a connection: every editor has one
     bool m_isInFront = false;
     bool m_isCommitted = false;
 };

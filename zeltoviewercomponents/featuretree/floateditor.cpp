@@ -65,8 +65,8 @@ void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
     const bool isNewLook = spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
     const EditorNumbers::FloatLimits shown = EditorNumbers::usableLimits(snapshot);
     if (isNewLook || checkIfLimitsChanged(shown.minimum, shown.maximum, shown.increment)) {
+        setIncrement(shown.increment); // which the tool tip of the range tells
         setRangeStepAndIncrement(shown.minimum, shown.maximum, shown.increment);
-        updateToolTip();
     }
     showValue(snapshot);
 }

@@ -5,6 +5,8 @@
 
 #include <platform/core/guard.h>
 
+#include <QTimerEvent>
+
 #include <utility>
 
 using namespace ParameterCollection;
@@ -37,9 +39,6 @@ std::optional<double> valueOf(const ParameterDataPtr &data)
 NumberStep::NumberStep(QObject *parent)
     : QObject(parent)
 {
-    m_answerTimer.setSingleShot(true);
-    m_answerTimer.setInterval(answerMilliseconds);
-    connect(&m_answerTimer, SIGNAL(timeout()), this, SLOT(ask()));
 }
 
 NumberStep::~NumberStep() = default;
@@ -115,7 +114,7 @@ void NumberStep::beginWrite()
     m_before = current();
     if (m_steps != 0) {
         follow();
-        m_answerTimer.start();
+        m_answerTimer.start(answerMilliseconds, this);
     }
 }
 
@@ -165,6 +164,16 @@ void NumberStep::judge()
     } else {
         end();
     }
+}
+
+void NumberStep::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_answerTimer.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    m_answerTimer.stop();
+    ask();
 }
 
 void NumberStep::ask()

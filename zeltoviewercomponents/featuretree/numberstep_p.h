@@ -7,8 +7,8 @@
 
 #include <platform/parametercollection/parameterdata.h>
 
+#include <QBasicTimer>
 #include <QObject>
-#include <QTimer>
 
 #include <functional>
 #include <optional>
@@ -60,11 +60,14 @@ signals:
     /*! The camera has answered with the value it had: next() tells how to go on. */
     void swallowed();
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private slots:
     void onPublished();
-    void ask();
 
 private:
+    void ask();
     void follow();
     bool isWaiting() const;
     ParameterCollection::ParameterDataPtr current() const;
@@ -79,5 +82,5 @@ private:
     bool m_isFollowing = false;
     bool m_isWriting = false;
     bool m_isAsked = false; //!< then the same snapshot is an answer, too
-    QTimer m_answerTimer; //!< runs from a write to its answer, or until the camera is asked
+    QBasicTimer m_answerTimer; //!< runs from a write to its answer, or until the camera is asked
 };
