@@ -145,28 +145,29 @@ void FloatEditor::takeStep()
 
 double FloatEditor::stepDistance(int steps)
 {
-    if (m_entry->limits.increment > 0.0) {
-        m_entry->stepWidth = m_entry->limits.increment;
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (limits.increment > 0.0) {
+        m_entry->stepWidth = limits.increment;
     } else if (m_entry->stepWidth == 0.0) {
         m_entry->stepWidth = freeStepWidth();
     }
     if (std::abs(steps) != EditorKeys::pageKeySteps) {
         return m_entry->stepWidth * steps;
     }
-    const double page = m_entry->limits.isBounded() ? std::max(spinBox()->pageStep(), m_entry->stepWidth)
-                                                    : m_entry->stepWidth * EditorKeys::pageKeySteps;
+    const double page = limits.isBounded() ? std::max(spinBox()->pageStep(), m_entry->stepWidth)
+                                           : m_entry->stepWidth * EditorKeys::pageKeySteps;
     return std::copysign(page, steps);
 }
 
 double FloatEditor::freeStepWidth() const
 {
-    if (!m_entry->limits.isBounded()) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (!limits.isBounded()) {
         return spinBox()->lastDigit(value());
     }
     // A unit in the second digit of the value; near 0, of a hundredth of the range.
-    const double reference = value() != 0.0
-        ? std::abs(value())
-        : (m_entry->limits.maximum / 100.0 - m_entry->limits.minimum / 100.0);
+    const double reference =
+        value() != 0.0 ? std::abs(value()) : (limits.maximum / 100.0 - limits.minimum / 100.0);
     return reference > 0.0 ? std::pow(10.0, std::floor(std::log10(reference)) - 1.0) : 0.0;
 }
 

@@ -115,34 +115,34 @@ bool TwoModeDoubleComboSlider::isLogarithmic() const
 
 double TwoModeDoubleComboSlider::valueFromPosition(int position) const
 {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
     const double distance = double(intMaximum()) - intMinimum();
     if (position <= intMinimum() || distance == 0.0) {
-        return m_entry->limits.minimum;
+        return limits.minimum;
     }
     if (position >= intMaximum()) {
-        return m_entry->limits.maximum;
+        return limits.maximum;
     }
     const double part = (double(position) - intMinimum()) / distance;
     // In this form no step in between is larger than the result.
-    return isLogarithmic() ? std::exp(std::log(m_entry->limits.minimum) * (1.0 - part)
-                                      + std::log(m_entry->limits.maximum) * part)
-                           : EditorNumbers::sumWithoutNoise(m_entry->limits.minimum * (1.0 - part),
-                                                            m_entry->limits.maximum * part);
+    return isLogarithmic()
+        ? std::exp(std::log(limits.minimum) * (1.0 - part) + std::log(limits.maximum) * part)
+        : EditorNumbers::sumWithoutNoise(limits.minimum * (1.0 - part), limits.maximum * part);
 }
 
 int TwoModeDoubleComboSlider::positionFromValue(double value) const
 {
-    if (!(value > m_entry->limits.minimum)) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (!(value > limits.minimum)) {
         return intMinimum();
     }
-    if (value >= m_entry->limits.maximum) {
+    if (value >= limits.maximum) {
         return intMaximum();
     }
     // Halves, since the full range of doubles has no difference that is a double.
-    const double part = isLogarithmic() ? (std::log(value) - std::log(m_entry->limits.minimum))
-            / (std::log(m_entry->limits.maximum) - std::log(m_entry->limits.minimum))
-                                        : (value / 2.0 - m_entry->limits.minimum / 2.0)
-            / (m_entry->limits.maximum / 2.0 - m_entry->limits.minimum / 2.0);
+    const double part = isLogarithmic()
+        ? (std::log(value) - std::log(limits.minimum)) / (std::log(limits.maximum) - std::log(limits.minimum))
+        : (value / 2.0 - limits.minimum / 2.0) / (limits.maximum / 2.0 - limits.minimum / 2.0);
     return EditorNumbers::saturated(intMinimum()
                                     + std::llround(part * (double(intMaximum()) - intMinimum())));
 }
@@ -258,28 +258,29 @@ void TwoModeDoubleComboSlider::takeStep()
 
 double TwoModeDoubleComboSlider::stepDistance(double start, int steps)
 {
-    if (m_entry->limits.isBounded()) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (limits.isBounded()) {
         const double positions = m_isPage
             ? std::copysign(std::max(slider()->pageStep(), intIncrement()), steps)
             : double(steps) * std::max(1, intIncrement());
-        const double least =
-            m_entry->limits.increment > 0.0 ? m_entry->limits.increment : spinBox()->finestDigit(start);
+        const double least = limits.increment > 0.0 ? limits.increment : spinBox()->finestDigit(start);
         return std::copysign(std::max(std::abs(slidersDistance(start, positions)), least), steps);
     }
     if (m_entry->stepWidth == 0.0) {
         m_entry->stepWidth = spinBox()->lastDigit(start);
     }
-    const double width = m_entry->limits.increment > 0.0 ? m_entry->limits.increment : m_entry->stepWidth;
+    const double width = limits.increment > 0.0 ? limits.increment : m_entry->stepWidth;
     return m_isPage ? std::copysign(EditorKeys::pageKeySteps * width, steps) : steps * width;
 }
 
 // Returns how far the number of positions leads from the start, which may lie between two of them.
 double TwoModeDoubleComboSlider::slidersDistance(double start, double positions) const
 {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
     const double part = positions / (double(intMaximum()) - intMinimum());
-    return isLogarithmic() ? std::max(start, m_entry->limits.minimum)
-            * std::expm1(part * (std::log(m_entry->limits.maximum) - std::log(m_entry->limits.minimum)))
-                           : part * (m_entry->limits.maximum - m_entry->limits.minimum);
+    return isLogarithmic() ? std::max(start, limits.minimum)
+            * std::expm1(part * (std::log(limits.maximum) - std::log(limits.minimum)))
+                           : part * (limits.maximum - limits.minimum);
 }
 
 void TwoModeDoubleComboSlider::enter(double value)
