@@ -429,8 +429,6 @@ void TestFeatureTreeEditing::refusedTextStaysForCorrection_data()
     row("taken back", "5000", Qt::Key_Escape, 1, QStringList());
     row("left", "5000", Qt::Key_Tab, 1, QStringList());
     row("tried again", "5000", Qt::Key_Return, 2, QStringList());
-    row("no number, corrected", "12.", Qt::Key_Backspace, 1, QStringList("12"));
-    row("no number, left", "1,5", Qt::Key_Tab, 0, QStringList());
 }
 
 void TestFeatureTreeEditing::refusedTextStaysForCorrection()

@@ -97,11 +97,6 @@ FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data)
     return limits;
 }
 
-FloatLimits entryLimits(const ParameterCollection::FloatParameterData &data)
-{
-    return canStep(data) ? usableLimits(data) : FloatLimits();
-}
-
 bool hasNumber(const ParameterCollection::FloatParameterData &data)
 {
     return data.isReadable && std::isfinite(data.value);

@@ -54,10 +54,6 @@ struct FloatLimits
  * when they are in the wrong order. */
 FloatLimits usableLimits(const ParameterCollection::FloatParameterData &data);
 
-/*! Returns the limits of what can be entered while \a data is shown: none but the parameter's own refusal
- * when there is no value or the limits are in the wrong order. */
-FloatLimits entryLimits(const ParameterCollection::FloatParameterData &data);
-
 /*! Returns whether \a data has a value that can be shown as a number. */
 bool hasNumber(const ParameterCollection::FloatParameterData &data);
 

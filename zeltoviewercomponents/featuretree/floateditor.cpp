@@ -49,21 +49,23 @@ void FloatEditor::setEditorData(EditorData data)
 
 void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
 {
-    if (!EditorIntake::canBeChanged(snapshot)) {
+    const bool isChangeable = EditorIntake::canBeChanged(snapshot);
+    if (!isChangeable) {
         // The focus goes with the lock; it would take what is typed along.
         spinBox()->showText();
         m_entry->step.end();
     }
-    setEnabled(EditorIntake::canBeChanged(snapshot));
-    m_entry->limits = EditorNumbers::entryLimits(snapshot);
-    spinBox()->setSteppable(EditorNumbers::canStep(snapshot));
+    setEnabled(isChangeable);
+    const EditorNumbers::FloatLimits shown = EditorNumbers::usableLimits(snapshot);
+    const bool canStep = EditorNumbers::canStep(snapshot);
+    m_entry->limits = canStep ? shown : EditorNumbers::FloatLimits(); // then the parameter alone refuses
+    spinBox()->setSteppable(canStep);
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     if (hasFocus() && isUpdateExspected()) {
         spinBox()->settle();
     }
     const auto typed = spinBox()->keepTypedText();
     const bool isNewLook = spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
-    const EditorNumbers::FloatLimits shown = EditorNumbers::usableLimits(snapshot);
     if (isNewLook || checkIfLimitsChanged(shown.minimum, shown.maximum, shown.increment)) {
         setIncrement(shown.increment); // which the tool tip of the range tells
         setRangeStepAndIncrement(shown.minimum, shown.maximum, shown.increment);

@@ -69,9 +69,10 @@ bool ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation, 
     if (notation == GenApi::UndefinedDisplayNotation) {
         notation = GenApi::fnAutomatic;
     }
-    if (m_notation == notation && m_precision == precision) {
+    if (m_notation == notation && m_precision == precision && m_language == locale()) {
         return false;
     }
+    m_language = locale();
     m_notation = notation;
     m_precision = precision;
     showText();

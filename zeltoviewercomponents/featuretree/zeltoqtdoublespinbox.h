@@ -7,6 +7,7 @@
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QDoubleSpinBox>
+#include <QLocale>
 #include <QScopedValueRollback>
 
 #include <optional>
@@ -122,6 +123,7 @@ private:
     double m_pageStep = 0.0;
     GenApi::EDisplayNotation m_notation = GenApi::UndefinedDisplayNotation;
     int m_precision = 0;
+    QLocale m_language; //!< of feature values
     bool m_hasAllDigits = false; //!< shown, as long as the user is here
     bool m_isSteppable = true;
     bool m_isTextKept = false;
