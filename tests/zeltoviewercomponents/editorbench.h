@@ -4,6 +4,9 @@
 #pragma once
 
 #include <zeltoviewercomponents/featuretree/abstractitemeditor.h>
+#include <zeltoviewercomponents/featuretree/featuretreedelegate.h>
+#include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
+#include <zeltoviewercomponents/featuretree/featuretreemodel.h>
 
 #include <support/memorycollection.h>
 
@@ -14,28 +17,33 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-/*! \brief A window around editors that commits as the feature tree does: what an editor hands out is written,
- * a refusal is noted and the parameter's snapshot shown again. */
+#include <memory>
+
+/*! \brief A window around editors that are filled and committed by the tree's delegate and its model. */
 class EditorBench : public QWidget
 {
     Q_OBJECT
 
 public:
     EditorBench()
-        : m_layout(new QVBoxLayout(this))
+        : m_delegate(nullptr, &m_model, nullptr)
+        , m_layout(new QVBoxLayout(this))
     {
+        connect(&m_delegate, SIGNAL(commitData(QWidget *)), this, SLOT(commit(QWidget *)));
+        connect(&m_model, SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)), this,
+                SLOT(onWriteFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
     }
 
     template <typename Editor, typename Parameter>
     Editor *add(Editor *editor, const QSharedPointer<Parameter> &parameter, const char *commitSignal)
     {
         m_layout->addWidget(editor);
-        m_rows.append({editor, editor, parameter});
-        connect(editor, commitSignal, this, SLOT(commit()));
-        connect(
-            parameter.data(),
-            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)),
-            this, SLOT(refresh()));
+        m_rows.append({editor, editor,
+                       std::make_shared<FeatureTreeINodeItem>(nullptr, parameter, &m_model,
+                                                              parameter->fullName(), nullptr, true)});
+        connect(editor, commitSignal, &m_delegate, SLOT(emitCommitData()));
+        connect(m_rows.last().item.get(), SIGNAL(nodeUpdated(int, FeatureTreeINodeItem *)), this,
+                SLOT(onNodeUpdated(int, FeatureTreeINodeItem *)));
         refresh();
         return editor;
     }
@@ -77,53 +85,53 @@ public:
     QStringList refusals;
 
 public slots:
+    /*! Shows what the parameters have now, whether they have published it or not. */
     void refresh()
     {
         for (const Row &row : std::as_const(m_rows)) {
-            row.editor->setEditorData({row.parameter, row.parameter->parameterData()});
+            row.editor->setEditorData({row.item->node(), row.item->node()->parameterData()});
         }
     }
 
-    void commit()
+private slots:
+    void onNodeUpdated(int, FeatureTreeINodeItem *item)
     {
         for (const Row &row : std::as_const(m_rows)) {
-            if (row.widget == sender()) {
-                write(row);
+            if (row.item.get() == item) {
+                m_delegate.setEditorData(row.widget, m_model.cellOf(item));
             }
         }
     }
 
+    void commit(QWidget *editor)
+    {
+        for (const Row &row : std::as_const(m_rows)) {
+            if (row.widget == editor) {
+                m_delegate.setModelData(editor, &m_model, m_model.cellOf(row.item.get()));
+            }
+        }
+    }
+
+    void onWriteFailed(const QSharedPointer<ParameterCollection::IParameter> &, const QString &message)
+    {
+        refusals.append(message);
+    }
+
 private:
+    class Model : public FeatureTreeModel
+    {
+    public:
+        QModelIndex cellOf(FeatureTreeINodeItem *item) const { return createIndex(0, 1, item); }
+    };
     struct Row
     {
         AbstractItemEditor *editor;
         QWidget *widget;
-        QSharedPointer<ParameterCollection::IParameter> parameter;
+        std::shared_ptr<FeatureTreeINodeItem> item;
     };
 
-    void write(const Row &row)
-    {
-        const auto *const text = qobject_cast<QLineEdit *>(row.widget);
-        if (text && !text->isModified()) {
-            return;
-        }
-        const QVariant value = row.editor->editorData();
-        if (!value.isValid()) {
-            return;
-        }
-        try {
-            if (const auto command =
-                    qSharedPointerObjectCast<ParameterCollection::ICommandParameter>(row.parameter)) {
-                command->execute(true);
-            } else {
-                row.parameter->setValueFromString(value.toString());
-            }
-        } catch (const std::exception &exception) {
-            refusals.append(QString::fromUtf8(exception.what()));
-            row.editor->setEditorData({row.parameter, row.parameter->parameterData()});
-        }
-    }
-
+    Model m_model;
+    FeatureTreeDelegate m_delegate;
     QVBoxLayout *m_layout;
     QList<Row> m_rows;
 };

@@ -11,7 +11,6 @@
 #include <zeltoviewercomponents/featuretree/zeltoqtdoublespinbox.h>
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QHash>
 #include <QLabel>
 #include <QLayout>
@@ -20,7 +19,6 @@
 #include <QSlider>
 #include <QTest>
 #include <QThread>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -97,8 +95,6 @@ private slots:
     void typedTexts_data();
     void typedTexts();
     void controlsTakeWhatIsTyped();
-    void othersAreNotLeaving_data();
-    void othersAreNotLeaving();
     void steps_data();
     void steps();
     void swallowedSteps_data();
@@ -334,54 +330,6 @@ void TestFloatEditors::controlsTakeWhatIsTyped()
     QCOMPARE(control->value(), 12.5);
     m_bench->enter(control, "12.345");
     QCOMPARE(control->value(), line->text().toDouble());
-}
-
-void TestFloatEditors::othersAreNotLeaving_data()
-{
-    columns<bool, QString>({"isWindow", "typed"});
-    row("menu", false, "1");
-    row("window", true, "1");
-    row("menu, no number", false, "1.5x");
-    row("window, above the maximum", true, "99999");
-}
-
-void TestFloatEditors::othersAreNotLeaving()
-{
-    QFETCH(const bool, isWindow);
-    QFETCH(const QString, typed);
-    const auto parameter = feature(1500.0, 0.0, 3000.0);
-    for (QWidget *editor : bothEditors(parameter)) {
-        m_bench->present();
-        m_bench->type(editor, typed);
-        QLineEdit *const line = EditorBench::lineOf(editor);
-        const auto check = [&] {
-            m_bench->refresh();
-            return line->text() == typed && parameter->writes.isEmpty();
-        };
-        bool isKept = false;
-        if (isWindow) {
-            QWidget other;
-            other.show();
-            QApplication::setActiveWindow(&other);
-            QVERIFY(QTest::qWaitForWindowActive(&other));
-            m_bench->showMinimized();
-            isKept = check();
-            m_bench->showNormal();
-        } else {
-            QTimer::singleShot(0, this, [&] {
-                isKept = QApplication::activePopupWidget() && check();
-                QApplication::activePopupWidget()->close();
-            });
-            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), line->mapToGlobal(QPoint()));
-            QCoreApplication::sendEvent(line, &event);
-        }
-        QVERIFY(isKept);
-        m_bench->present();
-        QVERIFY(check());
-        m_bench->press(Qt::Key_Escape);
-        QCOMPARE(line->text(), "1500");
-        QVERIFY(parameter->writes.isEmpty());
-    }
 }
 
 void TestFloatEditors::steps_data()

@@ -12,6 +12,8 @@
 #include <zeltoviewercomponents/featuretree/inteditor.h>
 #include <zeltoviewercomponents/featuretree/intslidereditor.h>
 
+#include <QMenu>
+#include <QMenuBar>
 #include <QRandomGenerator>
 #include <QSlider>
 
@@ -37,6 +39,8 @@ private slots:
     void randomEntriesStayOnTheGrid_data() { kinds(); }
     void randomEntriesStayOnTheGrid();
     void leavingWritesNothing();
+    void pausesKeepWhatIsTyped_data();
+    void pausesKeepWhatIsTyped();
 
 private:
     static void kinds();
@@ -192,6 +196,10 @@ void TestNumberEditors::refusalShowsTheTruth()
     m_collection->node("Number")->fail({"setValueFromString"}, GenICam::AccessException("locked"));
     m_bench->enter(m_editor, "30");
     QCOMPARE(m_bench->refusals, QStringList("locked"));
+    if (qobject_cast<IntEditor *>(m_editor)) {
+        QCOMPARE(m_line->text(), "30"); // stays for correction
+        m_bench->press(Qt::Key_Escape);
+    }
     QCOMPARE(m_line->text(), "10");
     const auto *const slider = m_editor->findChild<QSlider *>();
     QVERIFY(!slider || slider->value() == 10);
@@ -256,6 +264,55 @@ void TestNumberEditors::leavingWritesNothing()
     for (const MemoryNode *node : std::as_const(nodes)) {
         QCOMPARE(node->writes, QStringList());
     }
+}
+
+void TestNumberEditors::pausesKeepWhatIsTyped_data()
+{
+    columns<bool, bool, QString, QString>({"isInteger", "hasSlider", "pause", "typed"});
+    for (const char *const pause : {"menu", "window", "menu bar", "minimized"}) {
+        for (const int kind : {0, 1, 2, 3}) {
+            for (const char *const typed : {"4", "4x", "99999"}) { // nothing, no number, above the maximum
+                QTest::addRow("%s, %d, %s", pause, kind, typed)
+                    << (kind < 2) << (kind % 2 == 1) << pause << typed;
+            }
+        }
+    }
+}
+
+void TestNumberEditors::pausesKeepWhatIsTyped()
+{
+    QFETCH(const QString, pause);
+    QFETCH(const QString, typed);
+    auto *const bar = new QMenuBar(m_bench.get());
+    QMenu menu(m_bench.get());
+    menu.addAction("Undo");
+    QWidget window;
+    createEditor();
+    m_bench->type(m_editor, typed);
+    if (pause == "menu") {
+        menu.popup(QPoint());
+    } else if (pause == "window") {
+        window.show();
+        QApplication::setActiveWindow(&window);
+    } else if (pause == "minimized") {
+        m_bench->showMinimized();
+    } else {
+        bar->setFocus(Qt::MenuBarFocusReason);
+    }
+    setCamera(70);
+    QCOMPARE(m_line->text(), typed);
+    QVERIFY(m_line->isModified());
+    menu.close();
+    window.close();
+    m_bench->showNormal();
+    QApplication::setActiveWindow(m_bench.get());
+    m_editor->setFocus(Qt::MenuBarFocusReason);
+    QCOMPARE(m_line->text(), typed);
+    QVERIFY(writes().isEmpty());
+    m_line->setSelection(1, static_cast<int>(typed.size()));
+    QTest::keyClicks(QApplication::focusWidget(), "2");
+    m_bench->press(Qt::Key_Return);
+    QCOMPARE(writes(), QStringList(typed.left(1) + "2"));
 }
 
 QTEST_MAIN(TestNumberEditors)

@@ -4,7 +4,7 @@
 #include "checkboxeditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
 
 #include <platform/core/guard.h>
 
@@ -29,13 +29,13 @@ void CheckBoxEditor::setEditorData(EditorData data)
     }
     const auto headline = [&data] {
         return QStringLiteral("!! Failed to initialize checkbox data for node %1")
-            .arg(EditorHelpers::nodeName(data.ptrParameter.data()));
+            .arg(EditorIntake::nodeName(data.ptrParameter.data()));
     };
     Core::guardedRun({logCategory(), "CheckBoxEditor::setEditorData"}, headline, [this, &data] {
         const auto &snapshot = static_cast<const BooleanParameterData &>(*data.ptrParameterData);
         m_keeper->keep(data);
         setChecked(snapshot.value);
-        setEnabled(EditorHelpers::canBeChanged(snapshot));
+        setEnabled(EditorIntake::canBeChanged(snapshot));
         // Unlike other widgets, a disabled button keeps clicks from the row.
         setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
     });

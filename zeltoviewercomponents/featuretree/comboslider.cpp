@@ -3,7 +3,8 @@
 
 #include "comboslider.h"
 
-#include "editorhelpers.h"
+#include "controlparts_p.h"
+#include "editornumbers_p.h"
 #include "inputhint_p.h"
 #include "zeltoqtspinbox.h"
 
@@ -25,15 +26,14 @@ ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtSpinBox(this))
     , m_slider(new QSlider(Qt::Horizontal, this))
-    , m_hint(new InputHint(this, EditorHelpers::lineEditOf(*m_spinBox)))
 {
-    EditorHelpers::layOutComboSlider(this, m_spinBox, m_slider);
-    setEditBoxWidth(EditorHelpers::editBoxWidth(*m_spinBox));
+    ControlParts::layOutComboSlider(this, m_spinBox, m_slider);
+    setEditBoxWidth(ControlParts::editBoxWidth(*m_spinBox));
     m_slider->installEventFilter(this);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
     connect(m_slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(m_spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
-    const QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*m_spinBox);
+    const QLineEdit *const lineEdit = m_spinBox->lineEdit();
     connect(lineEdit, SIGNAL(textChanged(QString)), this, SLOT(onTextChanged()));
     connect(lineEdit, SIGNAL(returnPressed()), this, SLOT(onReturnPressed()));
     ComboSlider::updateToolTip();
@@ -47,7 +47,7 @@ void ComboSlider::setValue(int value)
     m_slider->setValue(trimValue(value));
     // Takes back a text that was entered and refused: then the slider has not moved.
     m_spinBox->setValue(m_slider->value());
-    EditorHelpers::lineEditOf(*m_spinBox)->setModified(false);
+    m_spinBox->lineEdit()->setModified(false);
     m_showsTrueValue = m_slider->value() == value;
 }
 
@@ -166,20 +166,24 @@ bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
 
 void ComboSlider::updateToolTip()
 {
-    EditorHelpers::guardedToolTip(logCategory(), [this] {
+    ControlParts::guardedToolTip(logCategory(), [this] {
         const int step = m_spinBox->singleStep();
-        setToolTip(step != 1 ? tr("Range: %1..%2 (Increment: %3)")
-                                   .arg(m_spinBox->minimum())
-                                   .arg(m_spinBox->maximum())
-                                   .arg(step)
-                             : tr("Range: %1..%2").arg(m_spinBox->minimum()).arg(m_spinBox->maximum()));
+        const QString text = step != 1
+            ? tr("Range: %1..%2 (Increment: %3)")
+                  .arg(m_spinBox->minimum())
+                  .arg(m_spinBox->maximum())
+                  .arg(step)
+            : tr("Range: %1..%2").arg(m_spinBox->minimum()).arg(m_spinBox->maximum());
+        if (text != toolTip()) {
+            setToolTip(text);
+        }
     });
 }
 
 int ComboSlider::trimValue(int value) const
 {
     const int limited = qBound(m_slider->minimum(), value, m_slider->maximum());
-    return EditorHelpers::trimmedToGrid(limited, m_spinBox->minimum(), m_spinBox->singleStep());
+    return EditorNumbers::trimmedToGrid(limited, m_spinBox->minimum(), m_spinBox->singleStep());
 }
 
 QSlider *ComboSlider::slider() const
@@ -204,7 +208,7 @@ void ComboSlider::setShowsTrueValue(bool showsTrueValue)
 
 void ComboSlider::onComboBoxEditingFinished()
 {
-    EditorHelpers::lineEditOf(*m_spinBox)->setModified(false);
+    m_spinBox->lineEdit()->setModified(false);
     const std::optional<qint64> entered = m_spinBox->takeEntered();
     const int trimmed = trimValue(m_spinBox->value());
     if (trimmed != m_spinBox->value()) {
@@ -212,7 +216,7 @@ void ComboSlider::onComboBoxEditingFinished()
     }
     const QString outcome = entered && !stepStart() ? m_spinBox->outcomeOf(*entered) : QString();
     if (!outcome.isEmpty()) {
-        m_hint->tell(outcome);
+        hint()->tell(outcome);
     }
     if (entered && !m_showsTrueValue && trimmed == m_slider->value()) {
         tellUser(trimmed);
@@ -257,7 +261,7 @@ void ComboSlider::onSliderAction(int action)
     const int step = std::max(m_spinBox->singleStep(), 1);
     const qint64 wholeSteps = (qint64(m_slider->sliderPosition()) - value) / step;
     const qint64 steps = wholeSteps != 0 ? wholeSteps : isUp ? 1 : -1;
-    const int target = trimValue(EditorHelpers::saturated(value + steps * step));
+    const int target = trimValue(EditorNumbers::saturated(value + steps * step));
     m_slider->setSliderPosition(m_spinBox->canStep() ? target : value);
     if (m_slider->sliderPosition() != value) {
         m_sliderStepStart = value; // until the slider tells of it
@@ -266,13 +270,24 @@ void ComboSlider::onSliderAction(int action)
 
 void ComboSlider::onTextChanged()
 {
-    m_hint->setProblem(m_spinBox->problem());
+    const QString problem = m_spinBox->problem();
+    if (m_hint || !problem.isEmpty()) {
+        hint()->setProblem(problem);
+    }
 }
 
 void ComboSlider::onReturnPressed()
 {
     onTextChanged(); // the limits may have changed below the text
-    if (!m_hint->problem().isEmpty()) {
+    if (m_hint && !m_hint->problem().isEmpty()) {
         m_hint->tell(m_hint->problem());
     }
+}
+
+InputHint *ComboSlider::hint()
+{
+    if (!m_hint) {
+        m_hint = new InputHint(this, m_spinBox->lineEdit());
+    }
+    return m_hint;
 }

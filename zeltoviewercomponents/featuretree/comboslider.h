@@ -98,9 +98,11 @@ private slots:
     void onReturnPressed();
 
 private:
+    InputHint *hint();
+
     ZeltoQtSpinBox *m_spinBox;
     QSlider *m_slider;
-    InputHint *m_hint;
+    InputHint *m_hint = nullptr; // created when there is something to say
     int m_editBoxWidth = 0;
     std::optional<int> m_sliderStepStart;
     bool m_updateEnabled = true;

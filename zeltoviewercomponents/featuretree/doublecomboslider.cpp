@@ -3,7 +3,9 @@
 
 #include "doublecomboslider.h"
 
-#include "editorhelpers.h"
+#include "controlparts_p.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
 #include "spinboxeventcatcher.h"
 #include "zeltoqtdoublespinbox.h"
 
@@ -20,8 +22,8 @@ DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_eventCatcher(new SpinBoxEventCatcher(this))
 {
-    EditorHelpers::layOutComboSlider(this, m_spinBox, m_slider);
-    setEditBoxWidth(EditorHelpers::editBoxWidth(*m_spinBox));
+    ControlParts::layOutComboSlider(this, m_spinBox, m_slider);
+    setEditBoxWidth(ControlParts::editBoxWidth(*m_spinBox));
     m_spinBox->setAccelerated(true);
     m_spinBox->installEventFilter(m_eventCatcher);
     m_slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
@@ -102,10 +104,10 @@ void DoubleComboSlider::setIntIncrement(int increment)
 
 void DoubleComboSlider::setPageStep()
 {
-    int step = EditorHelpers::pageStep(m_slider->minimum(), m_slider->maximum(), m_intIncrement);
+    int step = EditorNumbers::pageStep(m_slider->minimum(), m_slider->maximum(), m_intIncrement);
     if (m_slider->singleStep() != 0 && m_intIncrement != 0) {
-        const qint64 distance = EditorHelpers::wrappingDifference(step, m_slider->minimum());
-        step = EditorHelpers::saturated(step - distance % m_intIncrement);
+        const qint64 distance = EditorNumbers::wrappingDifference(step, m_slider->minimum());
+        step = EditorNumbers::saturated(step - distance % m_intIncrement);
     }
     m_slider->setPageStep(step);
     updateToolTip();
@@ -141,12 +143,12 @@ double DoubleComboSlider::value() const
 
 double DoubleComboSlider::minimum() const
 {
-    return m_spinBox->minimum();
+    return m_spinBox->lowestValue();
 }
 
 double DoubleComboSlider::maximum() const
 {
-    return m_spinBox->maximum();
+    return m_spinBox->highestValue();
 }
 
 int DoubleComboSlider::decimals() const
@@ -214,7 +216,7 @@ int DoubleComboSlider::trimSliderValue(int position) const
 {
     return m_slider->singleStep() == 0
         ? position
-        : EditorHelpers::trimmedToGrid(position, m_slider->minimum(), m_intIncrement);
+        : EditorNumbers::trimmedToGrid(position, m_slider->minimum(), m_intIncrement);
 }
 
 QSlider *DoubleComboSlider::slider() const
@@ -229,22 +231,24 @@ ZeltoQtDoubleSpinBox *DoubleComboSlider::spinBox() const
 
 void DoubleComboSlider::updateToolTip()
 {
-    EditorHelpers::guardedToolTip(logCategory(), [this] {
+    ControlParts::guardedToolTip(logCategory(), [this] {
         const QString text =
             tr("Range: %1..%2").arg(m_spinBox->numberText(minimum()), m_spinBox->numberText(maximum()));
-        m_slider->setToolTip(text);
-        m_spinBox->setToolTip(text);
-        setToolTip(text);
+        if (text != toolTip()) {
+            m_slider->setToolTip(text);
+            m_spinBox->setToolTip(text);
+            setToolTip(text);
+        }
     });
 }
 
 void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
 {
     m_updateExpected = true;
-    const qint64 distance = steps == EditorHelpers::pageKeySteps ? m_slider->pageStep()
-        : steps == -EditorHelpers::pageKeySteps                  ? -qint64(m_slider->pageStep())
-                                                                 : qint64(steps) * m_intIncrement;
-    m_slider->setValue(EditorHelpers::saturated(m_slider->value() + distance));
+    const qint64 distance = steps == EditorKeys::pageKeySteps ? m_slider->pageStep()
+        : steps == -EditorKeys::pageKeySteps                  ? -qint64(m_slider->pageStep())
+                                                              : qint64(steps) * m_intIncrement;
+    m_slider->setValue(EditorNumbers::saturated(m_slider->value() + distance));
 }
 
 void DoubleComboSlider::onSpinBoxFocusEventTriggered(bool focus)

@@ -3,7 +3,7 @@
 
 #include "doublespinbox.h"
 
-#include "editorhelpers.h"
+#include "controlparts_p.h"
 #include "spinboxeventcatcher.h"
 #include "zeltoqtdoublespinbox.h"
 
@@ -15,6 +15,11 @@
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleSpinBox")
 
 DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
+    : DoubleSpinBox(parent, representation, Limits::Now)
+{
+}
+
+DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation, Limits limits)
     : QWidget(parent)
     , m_spinBox(new ZeltoQtDoubleSpinBox(this))
     , m_eventCatcher(new SpinBoxEventCatcher(this))
@@ -23,12 +28,14 @@ DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_spinBox);
     setContentsMargins(1, 0, 1, 0);
-    m_spinBox->setLimits(m_minRangeLimit, m_maxRangeLimit);
+    if (limits == Limits::Now) {
+        m_spinBox->setLimits(m_minRangeLimit, m_maxRangeLimit);
+    }
     m_spinBox->setAccelerated(true);
     if (representation == QLatin1String("PureNumber")) {
         m_spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     }
-    EditorHelpers::setUpComposite(this, m_spinBox);
+    ControlParts::setUpComposite(this, m_spinBox);
     m_spinBox->installEventFilter(m_eventCatcher);
     connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
 }
@@ -100,12 +107,12 @@ double DoubleSpinBox::value() const
 
 double DoubleSpinBox::minimum() const
 {
-    return m_spinBox->minimum();
+    return m_spinBox->lowestValue();
 }
 
 double DoubleSpinBox::maximum() const
 {
-    return m_spinBox->maximum();
+    return m_spinBox->highestValue();
 }
 
 int DoubleSpinBox::decimals() const
@@ -164,7 +171,7 @@ ZeltoQtDoubleSpinBox *DoubleSpinBox::spinBox() const
 
 void DoubleSpinBox::updateToolTip()
 {
-    EditorHelpers::guardedToolTip(logCategory(), [this] {
+    ControlParts::guardedToolTip(logCategory(), [this] {
         const QString lowest = m_spinBox->numberText(minimum());
         const QString highest = m_spinBox->numberText(maximum());
         const QString increment = m_spinBox->numberText(m_increment);
@@ -172,8 +179,10 @@ void DoubleSpinBox::updateToolTip()
         const QString text = increment.toDouble() == 0.0
             ? tr("Range: %1..%2").arg(lowest, highest)
             : tr("Range: %1..%2 (Increment: %3)").arg(lowest, highest, increment);
-        m_spinBox->setToolTip(text);
-        setToolTip(text);
+        if (text != toolTip()) {
+            m_spinBox->setToolTip(text);
+            setToolTip(text);
+        }
     });
 }
 

@@ -72,6 +72,13 @@ public slots:
     void onSpinBoxFocusEventTriggered(bool focus);
 
 protected:
+    /*! \brief When the spin box gets its limits. */
+    enum class Limits {
+        Now, //!< all doubles
+        Later, //!< by the owner, before it shows a value: all doubles take the base long
+    };
+    DoubleSpinBox(QWidget *parent, const QString &representation, Limits limits);
+
     virtual void updateToolTip();
     void setEditBoxWidth(int width);
     bool checkIfLimitsChanged(double minimum, double maximum, double increment) const;

@@ -3,10 +3,11 @@
 
 #include "editordatakeeper_p.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimerEvent>
 #include <QWidget>
 
 #include <utility>
@@ -23,8 +24,6 @@ EditorDataKeeper::EditorDataKeeper(AbstractItemEditor *editor, QWidget *input, Q
     , m_editor(editor)
     , m_lineEdit(lineEdit)
 {
-    m_timer.setSingleShot(true);
-    connect(&m_timer, SIGNAL(timeout()), this, SLOT(showAgain()));
     input->installEventFilter(this);
 }
 
@@ -32,6 +31,19 @@ void EditorDataKeeper::keep(const AbstractItemEditor::EditorData &data)
 {
     m_timer.stop();
     m_data = data;
+}
+
+void EditorDataKeeper::setCommitted(bool isCommitted)
+{
+    m_isCommitted = isCommitted;
+}
+
+bool EditorDataKeeper::takeCommitted()
+{
+    if (m_isCommitted) {
+        showAgainAfterCommit();
+    }
+    return std::exchange(m_isCommitted, false);
 }
 
 bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
@@ -45,7 +57,7 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::FocusOut:
-        if (!EditorHelpers::isFocusLent(*event)) {
+        if (!EditorKeys::isFocusLent(*event)) {
             showAgainAfterCommit();
         }
         break;
@@ -64,12 +76,22 @@ bool EditorDataKeeper::eventFilter(QObject *watched, QEvent *event)
 
 void EditorDataKeeper::showAgainAfterCommit()
 {
-    m_timer.start(answerMilliseconds);
+    m_timer.start(answerMilliseconds, this);
 }
 
 void EditorDataKeeper::showAgainSoon()
 {
-    m_timer.start(0);
+    m_timer.start(0, this);
+}
+
+void EditorDataKeeper::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    m_timer.stop();
+    showAgain();
 }
 
 void EditorDataKeeper::showAgain()

@@ -5,8 +5,8 @@
 
 #include "abstractitemeditor.h"
 
+#include <QBasicTimer>
 #include <QObject>
-#include <QTimer>
 
 class QLineEdit;
 class QWidget;
@@ -30,6 +30,12 @@ public:
     /*! Takes over what the editor is told to show. */
     void keep(const AbstractItemEditor::EditorData &data);
 
+    /*! Sets whether the user has committed something that was not handed out yet. */
+    void setCommitted(bool isCommitted);
+    /*! Returns, once, whether the user has committed something; then the last data is shown again unless a
+     * refresh answers. */
+    bool takeCommitted();
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
@@ -42,10 +48,14 @@ public slots:
     /*! Shows the last data. */
     void showAgain();
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private:
     AbstractItemEditor *m_editor;
     QLineEdit *m_lineEdit;
     AbstractItemEditor::EditorData m_data;
-    QTimer m_timer;
+    QBasicTimer m_timer; // without a connection: every editor has one
     bool m_isInFront = false;
+    bool m_isCommitted = false;
 };

@@ -3,7 +3,7 @@
 
 #include "editorfocus_p.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 #include "openeditors_p.h"
 
 #include <QAbstractItemDelegate>
@@ -129,7 +129,7 @@ void EditorFocus::abandonEditor()
 
 void EditorFocus::follow(QWidget *old, QWidget *now)
 {
-    if (now && editorAround(old) && isTypedInto(old) && EditorHelpers::isFocusForMenu()) {
+    if (now && editorAround(old) && isTypedInto(old) && EditorKeys::isFocusForMenu()) {
         old->setFocus();
         return;
     }

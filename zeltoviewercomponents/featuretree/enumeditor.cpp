@@ -4,7 +4,8 @@
 #include "enumeditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
+#include "parentfont_p.h"
 #include "parentpalette_p.h"
 
 #include <platform/core/guard.h>
@@ -42,6 +43,7 @@ public:
 EnumEditor::EnumEditor(QWidget *parent)
     : QComboBox(parent)
     , m_keeper(new EditorDataKeeper(this, this))
+    , m_parentFont(std::make_unique<ParentFont>(this))
 {
     setEditable(false);
     {
@@ -50,7 +52,7 @@ EnumEditor::EnumEditor(QWidget *parent)
             this,
             QStringLiteral(
                 "margin-left:1px; margin-right:1px; margin-top:1px; margin-bottom:1px; padding-left: 4px;"));
-        m_parentFont.update();
+        m_parentFont->update();
     }
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::NoContextMenu); // the box has none and would keep the row's from showing
@@ -69,7 +71,7 @@ void EnumEditor::setEditorData(EditorData data)
 {
     const auto headline = [&data] {
         return QStringLiteral("!! Failed to retrieve entries for enumeration %1")
-            .arg(EditorHelpers::nodeName(data.ptrParameter.data()));
+            .arg(EditorIntake::nodeName(data.ptrParameter.data()));
     };
     Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
         if (isPopupVisible()) {
@@ -82,21 +84,32 @@ void EnumEditor::setEditorData(EditorData data)
 
 void EnumEditor::showSnapshot(const EditorData &data)
 {
-    clear();
     m_keeper->keep(data);
     if (!data.ptrParameterData || data.ptrParameterData->type != ParameterType::Enumeration) {
+        list({}, {});
         Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(),
                                       QStringLiteral("%1 is called with non-enumeration node????")
                                           .arg(QLatin1String(setEditorDataName)));
         return;
     }
     const auto &snapshot = static_cast<const EnumParameterData &>(*data.ptrParameterData);
-    for (qsizetype i = 0; i < snapshot.symbolicNames.size(); ++i) {
-        const QString &name = snapshot.symbolicNames.at(i);
-        insertItem(count(), QIcon(), snapshot.displayTexts.value(i, name), name);
-    }
+    list(snapshot.symbolicNames, snapshot.displayTexts);
     setCurrentIndex(shownIndex(data));
-    setEnabled(EditorHelpers::canBeChanged(snapshot));
+    setEnabled(EditorIntake::canBeChanged(snapshot));
+}
+
+// Fills the list, unless that is what it has: a new value comes far more often than another entry.
+void EnumEditor::list(const QStringList &names, const QStringList &texts)
+{
+    if (names == m_names && texts == m_texts && count() == names.size()) {
+        return;
+    }
+    m_names = names;
+    m_texts = texts;
+    clear();
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        insertItem(count(), QIcon(), texts.value(i, names.at(i)), names.at(i));
+    }
 }
 
 int EnumEditor::shownIndex(const EditorData &data) const
@@ -110,7 +123,7 @@ int EnumEditor::shownIndex(const EditorData &data) const
         Core::Logging::createLogEntry(
             ELogLevel::Debug, logCategory(),
             QStringLiteral("%1: %2. No entry in the combo box matches the current value %3")
-                .arg(QLatin1String(setEditorDataName), EditorHelpers::nodeName(data.ptrParameter.data()),
+                .arg(QLatin1String(setEditorDataName), EditorIntake::nodeName(data.ptrParameter.data()),
                      value));
     }
     return index;
@@ -135,7 +148,7 @@ void EnumEditor::changeEvent(QEvent *event)
 {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        m_parentFont.update();
+        m_parentFont->update();
     }
 }
 

@@ -4,14 +4,17 @@
 #pragma once
 
 #include "abstractitemeditor.h"
-#include "parentfont.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QComboBox>
 #include <QPointer>
+#include <QStringList>
+
+#include <memory>
 
 class EditorDataKeeper;
+class ParentFont;
 
 /*! \brief Edits an enumeration feature; hands out the symbolic name of the chosen entry.
  *
@@ -37,9 +40,12 @@ private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool isPopupVisible() const;
     void showSnapshot(const EditorData &data);
+    void list(const QStringList &names, const QStringList &texts);
     int shownIndex(const EditorData &data) const;
 
     EditorDataKeeper *m_keeper;
     QPointer<QWidget> m_watchedPopup; //!< the list while it is open
-    ParentFont m_parentFont{this};
+    std::unique_ptr<ParentFont> m_parentFont;
+    QStringList m_names; // of the entries that are listed
+    QStringList m_texts;
 };

@@ -6,7 +6,7 @@
 #include "abstractitemeditor.h"
 #include "checkboxeditor.h"
 #include "contrast.h"
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 #include "enumeditor.h"
 #include "featuretreehighlighter.h"
 #include "featuretreeinodeitem.h"
@@ -16,6 +16,7 @@
 #include "ifeaturetreemodelextension.h"
 #include "inteditor.h"
 #include "intslidereditor.h"
+#include "representation_p.h"
 #include "toolbuttoneditor.h"
 
 #include <platform/core/guard.h>
@@ -163,7 +164,7 @@ QWidget *FeatureTreeDelegate::createIntEditor(QWidget *parent, const QStyleOptio
     if (!isUsable(parameter)) {
         return nullptr;
     }
-    if (!EditorHelpers::wantsSlider(representationOf(*parameter))) {
+    if (!isSliderRepresentation(representationOf(*parameter))) {
         return new IntEditor(parent); // commits by the delegate's own handling of its line edit
     }
     auto *const editor = new IntSliderEditor(parent);
@@ -183,7 +184,7 @@ QWidget *FeatureTreeDelegate::createFloatEditor(QWidget *parent, const QStyleOpt
     const bool hasAlias =
         collection && collection->hasParameter(parameter->fullName() + QLatin1String("/Alias"));
     QWidget *editor = nullptr;
-    if (hasAlias && EditorHelpers::wantsSlider(representation)) {
+    if (hasAlias && isSliderRepresentation(representation)) {
         editor = new FloatSliderEditor(collection, parent);
     } else {
         editor = new FloatEditor(parent, representation);
@@ -256,7 +257,7 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
     }
     // A refresh does not overwrite what is being typed, also while another window is the active one.
     const auto *const lineEdit = qobject_cast<QLineEdit *>(editor);
-    if (!editor->hasFocus() && !(lineEdit && EditorHelpers::isBeingTyped(*lineEdit, *lineEdit))) {
+    if (!editor->hasFocus() && !(lineEdit && EditorKeys::isBeingTyped(*lineEdit, *lineEdit))) {
         QStyledItemDelegate::setEditorData(editor, index);
     }
 }
@@ -345,7 +346,7 @@ bool FeatureTreeDelegate::eventFilter(QObject *object, QEvent *event)
     // Permanent editors commit by their signals and keep the focus chain's order; only the transient ones are
     // committed and closed by keys and by losing the focus.
     const bool isPermanent = dynamic_cast<AbstractItemEditor *>(object) && !qobject_cast<IntEditor *>(object);
-    return !isPermanent && !EditorHelpers::isFocusLent(*event)
+    return !isPermanent && !EditorKeys::isFocusLent(*event)
         && QStyledItemDelegate::eventFilter(object, event);
 }
 
@@ -369,6 +370,9 @@ void FeatureTreeDelegate::initStyleOption(QStyleOptionViewItem *option, const QM
 void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {
+    if (painter->hasClipping() && !painter->clipRegion().intersects(option.rect)) {
+        return;
+    }
     QStyleOptionViewItem opt = option;
     opt.state &= ~QStyle::State_HasFocus; // the view draws a frame around the whole row
     const bool isCategory =

@@ -3,10 +3,10 @@
 
 #include "featuretreeinodeitem.h"
 
-#include "editorhelpers.h"
 #include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
+#include "representation_p.h"
 #include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
@@ -14,6 +14,7 @@
 
 #include <QBrush>
 #include <QCoreApplication>
+#include <QMetaType>
 #include <QPointer>
 #include <QUuid>
 #include <QWeakPointer>
@@ -62,7 +63,7 @@ QString nodeMapKindOf(const QString &fullName)
 bool hasSlider(const QSharedPointer<IParameter> &parameter)
 {
     const QSharedPointer<NodePropertyAccess> access = parameter->propertyAccess();
-    return access && EditorHelpers::wantsSlider(access->property(QStringLiteral("Representation")));
+    return access && isSliderRepresentation(access->property(QStringLiteral("Representation")));
 }
 
 FeatureTreeItem::EditorType editorOf(const QSharedPointer<IParameter> &parameter)
@@ -472,13 +473,13 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         }
         return;
     }
-    const QString text = value.toString();
+    const QString text = value.typeId() == QMetaType::Double ? QString() : value.toString();
     if (!m_useUtf8 && !isLatin1(text)) {
         throw GenICam::InvalidArgumentException(
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")
                 .arg(m_nodeName, text));
     }
-    UnansweredWrites::write(*parameter, text);
+    UnansweredWrites::write(*parameter, value);
 }
 
 bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
@@ -493,9 +494,8 @@ bool FeatureTreeINodeItem::isCurrentValue(const QVariant &value) const
     if (!current || !current->isReadable) {
         return false; // what cannot be read is not known to be the same
     }
-    const QString text = value.toString();
     const UnansweredWrites *const writes = UnansweredWrites::find(*m_parameter);
-    return writes && writes->isWaiting() ? writes->isLast(text, *current) : isValueOf(*current, text);
+    return writes && writes->isWaiting() ? writes->isLast(value, *current) : isValueOf(*current, value);
 }
 
 void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const ParameterData> ptrParameterData)
@@ -513,13 +513,19 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         return;
     }
     const bool comesAlive = !m_data;
+    const State before = m_state;
     takeSnapshot(ptrParameterData);
+    const bool isValueAloneNew = !comesAlive && m_state == before;
     if (comesAlive) {
         m_editorType = editorType(m_parameter);
         childCount();
     }
     if (self) {
+        m_isValueAloneNew = isValueAloneNew;
         emit nodeUpdated(row(), this);
+    }
+    if (self) {
+        m_isValueAloneNew = false;
     }
 }
 

@@ -80,6 +80,9 @@ public:
     bool hasWritten() const { return m_hasWritten; }
     /*! Returns whether the user may change the value now. */
     bool isEditable() const;
+    /*! Returns, while nodeUpdated() is emitted, whether nothing but the value is new: the row's name looks as
+     * before. */
+    bool isValueAloneNew() const { return m_isValueAloneNew; }
     /*! Sets what marks search hits in the tool tip; not owned, may be null. */
     void setHighlighter(FeatureTreeHighlighter *highlighter);
     /*! Asks the parameter for a re-read that is published even when nothing changed. */
@@ -110,6 +113,8 @@ private:
         bool isImplemented = false;
         bool isReadable = false;
         bool isWritable = false;
+
+        bool operator==(const State &other) const = default;
     };
 
     void initInternal();
@@ -131,6 +136,7 @@ private:
     State m_state;
     bool m_useUtf8 = false;
     bool m_hasWritten = false;
+    bool m_isValueAloneNew = false;
     QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;
     QString m_unit;

@@ -4,7 +4,7 @@
 #include "featuretreeview.h"
 
 #include "editorfocus_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
 #include "favoritesdata.h"
 #include "featuretreedelegate.h"
 #include "featuretreeinodeitem.h"
@@ -338,6 +338,7 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         QTreeView::dataChanged(topLeft, bottomRight, roles);
         return;
     }
+    const bool isAsBefore = topLeft == bottomRight && isNameAsBefore(topLeft);
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
@@ -348,7 +349,18 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
                          });
     }
     executeDelayedItemsLayout();
-    QTreeView::dataChanged(topLeft, bottomRight, roles);
+    if (!isAsBefore) {
+        QTreeView::dataChanged(topLeft, bottomRight, roles);
+    }
+}
+
+// Values come by the thousand, and the base would paint the name of each again.
+bool FeatureTreeView::isNameAsBefore(const QModelIndex &index) const
+{
+    const auto *const item = index.column() == FeatureTreeColumns::name
+        ? qobject_cast<const FeatureTreeINodeItem *>(itemAt(index))
+        : nullptr;
+    return item && item->isValueAloneNew();
 }
 
 void FeatureTreeView::updateCell(const QModelIndex &index)
@@ -408,7 +420,7 @@ void FeatureTreeView::dropLockedEditor()
     const QModelIndex index = m_focus->editor() ? m_focus->row(currentIndex()) : QModelIndex();
     const auto *const item = qobject_cast<FeatureTreeINodeItem *>(itemAt(index));
     const auto snapshot = item ? item->getParameterData() : nullptr;
-    if (snapshot && !EditorHelpers::canBeChanged(*snapshot)) {
+    if (snapshot && !EditorIntake::canBeChanged(*snapshot)) {
         dropEditor();
     }
 }
@@ -620,7 +632,10 @@ void FeatureTreeView::setVisibility(GenApi::EVisibility level)
 
 void FeatureTreeView::paintEvent(QPaintEvent *event)
 {
-    QTreeView::paintEvent(event);
+    {
+        const QScopedValueRollback<QRegion> painted(m_painted, event->region());
+        QTreeView::paintEvent(event);
+    }
     if (model() && model()->rowCount() == 0) {
         QPainter painter(viewport());
         painter.setPen(palette().color(QPalette::Active, QPalette::Text));
@@ -633,6 +648,13 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QItemSelectionModel *const selection = selectionModel();
     const bool isSelected = selection->isSelected(index);
+    // The base has all cells of a row painted for a value that is new; the delegate leaves out what is
+    // clipped.
+    const QRegion painted = m_painted.intersected(options.rect);
+    const bool isPart = !painted.isEmpty() && painted != QRegion(options.rect);
+    if (isPart) {
+        painter->setClipRegion(painted);
+    }
     {
         const QSignalBlocker blocker(selection);
         if (isSelected) {
@@ -642,6 +664,9 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
         if (isSelected) {
             selection->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
+    }
+    if (isPart) {
+        painter->setClipping(false);
     }
     if (isSameRow(currentIndex(), index)) {
         frameRow(painter, options.rect, palette().color(QPalette::Active, QPalette::Highlight));

@@ -10,6 +10,7 @@
 
 #include <QElapsedTimer>
 #include <QPalette>
+#include <QRegion>
 #include <QStringList>
 #include <QTreeView>
 
@@ -131,6 +132,7 @@ private:
     void expandBranch(const QModelIndex &index, int depth, bool isReachable, const ExpansionRule &isExpanded);
 
     void updateRow(int row, const QModelIndex &parent);
+    bool isNameAsBefore(const QModelIndex &index) const;
     void updateCell(const QModelIndex &index);
     void showRow(int row, const QModelIndex &parent, bool isShown);
     void spanRow(const QModelIndex &index);
@@ -161,6 +163,7 @@ private:
     QPersistentModelIndex m_typingRow; // while another row is the current one for its menu
     bool m_isForwardingKey = false; // to an editor that may leave it to the view
     QElapsedTimer m_searchClock; // since the last key that searched the names
+    QRegion m_painted; // during a paint event
     mutable std::optional<QPalette> m_rowPalette; // of all rows, while the view's palette is the one below
     mutable qint64 m_rowPaletteSource = 0;
 };

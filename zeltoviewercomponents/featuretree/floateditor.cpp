@@ -4,8 +4,10 @@
 #include "floateditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
-#include "floatstep_p.h"
+#include "editorintake_p.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
+#include "floatentry_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <platform/core/guard.h>
@@ -22,15 +24,15 @@ using namespace ParameterCollection;
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatEditor")
 
 FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
-    : DoubleSpinBox(parent, representation)
-    , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
-    , m_step(new FloatStep(this))
+    : DoubleSpinBox(parent, representation, Limits::Later)
+    , m_keeper(new EditorDataKeeper(this, spinBox(), spinBox()->lineEdit()))
+    , m_entry(std::make_unique<FloatEntry>())
 {
-    connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
+    connect(spinBox()->lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
     connect(spinBox(), SIGNAL(left()), this, SLOT(onLeft()));
-    connect(m_step, SIGNAL(swallowed()), this, SLOT(takeStep()));
+    connect(&m_entry->step, SIGNAL(swallowed()), this, SLOT(takeStep()));
 }
 
 FloatEditor::~FloatEditor() = default;
@@ -39,31 +41,35 @@ void FloatEditor::setEditorData(EditorData data)
 {
     const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
-        m_step->show(data);
+        m_entry->step.show(data);
         showSnapshot(snapshot);
     };
-    EditorHelpers::takeFloatData({logCategory(), "FloatEditor::setEditorData"}, data, show);
+    EditorIntake::takeFloatData({logCategory(), "FloatEditor::setEditorData"}, data, show);
 }
 
 void FloatEditor::showSnapshot(const FloatParameterData &snapshot)
 {
-    if (!EditorHelpers::canBeChanged(snapshot)) {
+    const bool isChangeable = EditorIntake::canBeChanged(snapshot);
+    if (!isChangeable) {
         // The focus goes with the lock; it would take what is typed along.
         spinBox()->showText();
-        m_step->end();
+        m_entry->step.end();
     }
-    setEnabled(EditorHelpers::canBeChanged(snapshot));
-    m_limits = EditorHelpers::entryLimits(snapshot);
-    spinBox()->setSteppable(EditorHelpers::canStep(snapshot));
+    setEnabled(isChangeable);
+    const EditorNumbers::FloatLimits shown = EditorNumbers::usableLimits(snapshot);
+    const bool canStep = EditorNumbers::canStep(snapshot);
+    m_entry->limits = canStep ? shown : EditorNumbers::FloatLimits(); // then the parameter alone refuses
+    spinBox()->setSteppable(canStep);
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     if (hasFocus() && isUpdateExspected()) {
         spinBox()->settle();
     }
     const auto typed = spinBox()->keepTypedText();
-    spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
-    const EditorHelpers::FloatLimits shown = EditorHelpers::usableLimits(snapshot);
-    initControls(shown.minimum, shown.maximum, snapshot.value, shown.increment);
-    updateToolTip();
+    const bool isNewLook = spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
+    if (isNewLook || checkIfLimitsChanged(shown.minimum, shown.maximum, shown.increment)) {
+        setIncrement(shown.increment); // which the tool tip of the range tells
+        setRangeStepAndIncrement(shown.minimum, shown.maximum, shown.increment);
+    }
     showValue(snapshot);
 }
 
@@ -71,34 +77,34 @@ void FloatEditor::showValue(const FloatParameterData &snapshot)
 {
     const bool isFinite = std::isfinite(snapshot.value);
     if (isFinite) {
-        // A value outside the limits is shown as it is; entries are limited by commit().
-        spinBox()->setLimits(std::min(m_limits.minimum, snapshot.value),
-                             std::max(m_limits.maximum, snapshot.value));
-        spinBox()->showValue(snapshot.value);
+        setShown(snapshot.value);
     } else {
-        spinBox()->setLimits(m_limits.minimum, m_limits.maximum);
+        spinBox()->setLimits(m_entry->limits.minimum, m_entry->limits.maximum);
     }
     spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
                                  : isFinite       ? QString()
                                                   : spinBox()->locale().toString(snapshot.value));
-    m_settledValue =
-        EditorHelpers::hasNumber(snapshot) ? snapshot.value : std::numeric_limits<double>::quiet_NaN();
-    m_isChanged = false;
+    m_entry->settled =
+        EditorNumbers::hasNumber(snapshot) ? snapshot.value : std::numeric_limits<double>::quiet_NaN();
+    m_keeper->setCommitted(false);
+}
+
+// A value outside the limits is shown as it is; entries are limited by commit().
+void FloatEditor::setShown(double value)
+{
+    const EditorNumbers::FloatLimits limits = m_entry->limitsAround(value);
+    spinBox()->setLimits(limits.minimum, limits.maximum);
+    setValue(value);
 }
 
 QVariant FloatEditor::editorData()
 {
-    if (!m_isChanged) {
-        return {};
-    }
-    m_isChanged = false;
-    m_keeper->showAgainAfterCommit();
-    return QString::number(value(), 'g', QLocale::FloatingPointShortest);
+    return m_keeper->takeCommitted() ? value() : QVariant();
 }
 
 void FloatEditor::onTextEdited()
 {
-    m_step->end();
+    m_entry->step.end();
     enableUpdate(false);
 }
 
@@ -108,28 +114,29 @@ void FloatEditor::onEditingFinished()
     if (!typed) {
         return;
     }
-    m_step->end();
-    spinBox()->tellOutcome(*typed, snapped(*typed), m_limits.minimum, m_limits.maximum, m_limits.increment);
+    m_entry->step.end();
+    spinBox()->tellOutcome(*typed, m_entry->usable(*typed), m_entry->limits.minimum, m_entry->limits.maximum,
+                           m_entry->limits.increment);
     commit(*typed);
 }
 
 void FloatEditor::onStepTriggered(int steps)
 {
-    m_step->begin(value(), steps);
+    m_entry->step.begin(value(), steps);
     takeStep();
 }
 
 void FloatEditor::onLeft()
 {
-    m_stepWidth = 0.0;
-    m_step->end();
+    m_entry->stepWidth = 0.0;
+    m_entry->step.end();
 }
 
 void FloatEditor::takeStep()
 {
-    const auto target = m_step->next([this](double start, double factor) {
-        const double distance = stepDistance(m_step->steps()) * factor;
-        return snapped(EditorHelpers::sumWithoutNoise(start, distance));
+    const auto target = m_entry->step.next([this](double start, double factor) {
+        const double distance = stepDistance(m_entry->step.steps()) * factor;
+        return m_entry->usable(EditorNumbers::sumWithoutNoise(start, distance));
     });
     if (target) {
         commit(*target);
@@ -140,54 +147,47 @@ void FloatEditor::takeStep()
 
 double FloatEditor::stepDistance(int steps)
 {
-    if (m_limits.increment > 0.0) {
-        m_stepWidth = m_limits.increment;
-    } else if (m_stepWidth == 0.0) {
-        m_stepWidth = freeStepWidth();
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (limits.increment > 0.0) {
+        m_entry->stepWidth = limits.increment;
+    } else if (m_entry->stepWidth == 0.0) {
+        m_entry->stepWidth = freeStepWidth();
     }
-    if (std::abs(steps) != EditorHelpers::pageKeySteps) {
-        return m_stepWidth * steps;
+    if (std::abs(steps) != EditorKeys::pageKeySteps) {
+        return m_entry->stepWidth * steps;
     }
-    const double page = m_limits.isBounded() ? std::max(spinBox()->pageStep(), m_stepWidth)
-                                             : m_stepWidth * EditorHelpers::pageKeySteps;
+    const double page = limits.isBounded() ? std::max(spinBox()->pageStep(), m_entry->stepWidth)
+                                           : m_entry->stepWidth * EditorKeys::pageKeySteps;
     return std::copysign(page, steps);
 }
 
 double FloatEditor::freeStepWidth() const
 {
-    if (!m_limits.isBounded()) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (!limits.isBounded()) {
         return spinBox()->lastDigit(value());
     }
     // A unit in the second digit of the value; near 0, of a hundredth of the range.
     const double reference =
-        value() != 0.0 ? std::abs(value()) : (m_limits.maximum / 100.0 - m_limits.minimum / 100.0);
+        value() != 0.0 ? std::abs(value()) : (limits.maximum / 100.0 - limits.minimum / 100.0);
     return reference > 0.0 ? std::pow(10.0, std::floor(std::log10(reference)) - 1.0) : 0.0;
-}
-
-double FloatEditor::snapped(double number) const
-{
-    // What the camera holds stays as it is when it is typed again, whatever the limits are.
-    return number == m_settledValue
-        ? number
-        : EditorHelpers::snappedToGrid(number, m_limits.minimum, m_limits.maximum, m_limits.increment);
 }
 
 void FloatEditor::commit(double number)
 {
-    const double usable = snapped(number);
-    spinBox()->setLimits(std::min(m_limits.minimum, usable), std::max(m_limits.maximum, usable));
-    setValue(usable);
+    const double usable = m_entry->usable(number);
+    setShown(usable);
     enableUpdate(true);
-    if (usable == m_settledValue && m_step->isHeld(usable)) {
-        m_step->end();
+    if (usable == m_entry->settled && m_entry->step.isHeld(usable)) {
+        m_entry->step.end();
         return;
     }
-    m_settledValue = usable;
-    m_isChanged = true;
+    m_entry->settled = usable;
+    m_keeper->setCommitted(true);
     const QPointer<FloatEditor> self(this);
-    m_step->beginWrite();
+    m_entry->step.beginWrite();
     emit boxValueChanged();
     if (self) {
-        m_step->endWrite();
+        m_entry->step.endWrite();
     }
 }

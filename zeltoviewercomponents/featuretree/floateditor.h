@@ -5,12 +5,13 @@
 
 #include "abstractitemeditor.h"
 #include "doublespinbox.h"
-#include "editorhelpers.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
+#include <memory>
+
 class EditorDataKeeper;
-class FloatStep;
+struct FloatEntry;
 
 /*! \brief Edits a floating-point feature with a spin box.
  *
@@ -47,15 +48,11 @@ private slots:
 private:
     void showSnapshot(const ParameterCollection::FloatParameterData &snapshot);
     void showValue(const ParameterCollection::FloatParameterData &snapshot);
+    void setShown(double value);
     double stepDistance(int steps);
     double freeStepWidth() const;
-    double snapped(double number) const;
     void commit(double number);
 
     EditorDataKeeper *m_keeper;
-    FloatStep *m_step;
-    EditorHelpers::FloatLimits m_limits; //!< of what the user enters; the shown value may lie outside
-    double m_settledValue = 0.0; //!< what was last shown or committed
-    double m_stepWidth = 0.0; //!< since the first step in the editor; 0 before
-    bool m_isChanged = false; //!< committed, not handed out yet
+    std::unique_ptr<FloatEntry> m_entry;
 };

@@ -4,8 +4,9 @@
 #include "floatslidereditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
-#include "floatstep_p.h"
+#include "editorintake_p.h"
+#include "editornumbers_p.h"
+#include "numberstep_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <platform/core/guard.h>
@@ -31,17 +32,16 @@ struct Positions
 };
 
 // Returns the positions that the alias gives; a thousand when it gives none.
-Positions aliasPositions(const QSharedPointer<IParameterCollection> &collection, const QString &name)
+Positions aliasPositions(const IParameter *alias)
 {
-    const auto alias = collection ? collection->parameter(name + QLatin1String("/Alias")) : nullptr;
     const auto data = alias ? alias->parameterData() : nullptr;
     if (!data || data->type != ParameterType::Integer) {
         return {};
     }
     const auto &integer = static_cast<const IntegerParameterData &>(*data);
-    const Positions positions{EditorHelpers::saturated(integer.minimum),
-                              EditorHelpers::saturated(integer.maximum),
-                              EditorHelpers::saturated(integer.increment)};
+    const Positions positions{EditorNumbers::saturated(integer.minimum),
+                              EditorNumbers::saturated(integer.maximum),
+                              EditorNumbers::saturated(integer.increment)};
     return positions.minimum < positions.maximum && positions.step > 0 ? positions : Positions();
 }
 
@@ -50,7 +50,7 @@ Positions aliasPositions(const QSharedPointer<IParameterCollection> &collection,
 FloatSliderEditor::FloatSliderEditor(QSharedPointer<IParameterCollection> collection, QWidget *parent)
     : TwoModeDoubleComboSlider(parent)
     , m_collection(std::move(collection))
-    , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
+    , m_keeper(new EditorDataKeeper(this, spinBox(), spinBox()->lineEdit()))
 {
     // What came in during a drag was not shown.
     connect(slider(), SIGNAL(sliderReleased()), m_keeper, SLOT(showAgainAfterCommit()));
@@ -65,26 +65,35 @@ void FloatSliderEditor::setEditorData(EditorData data)
     const auto show = [this, &data](const FloatParameterData &snapshot) {
         m_keeper->keep(data);
         step().show(data);
-        showSnapshot(data.ptrParameter->fullName(), snapshot);
+        findAlias(data.ptrParameter);
+        showSnapshot(snapshot);
     };
-    EditorHelpers::takeFloatData({logCategory(), "FloatSliderEditor::setEditorData"}, data, show);
+    EditorIntake::takeFloatData({logCategory(), "FloatSliderEditor::setEditorData"}, data, show);
 }
 
-void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterData &snapshot)
+void FloatSliderEditor::findAlias(const QSharedPointer<IParameter> &parameter)
 {
-    if (!EditorHelpers::canBeChanged(snapshot)) {
+    if (parameter != m_parameter) {
+        m_alias =
+            m_collection ? m_collection->parameter(parameter->fullName() + QLatin1String("/Alias")) : nullptr;
+        m_parameter = parameter;
+    }
+}
+
+void FloatSliderEditor::showSnapshot(const FloatParameterData &snapshot)
+{
+    if (!EditorIntake::canBeChanged(snapshot)) {
         // The focus goes with the lock; it would take what is typed along.
         spinBox()->showText();
         dropChange();
     }
-    setEnabled(EditorHelpers::canBeChanged(snapshot));
+    setEnabled(EditorIntake::canBeChanged(snapshot));
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
     if (hasFocus() && isUpdateExspected()) {
         spinBox()->settle();
     }
     const auto typed = spinBox()->keepTypedText();
-    spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision);
-    showLimits(name, snapshot);
+    showLimits(snapshot, spinBox()->showFeatureValues(snapshot.displayNotation, snapshot.displayPrecision));
     if (isBeingMoved()) {
         return;
     }
@@ -95,36 +104,34 @@ void FloatSliderEditor::showSnapshot(const QString &name, const FloatParameterDa
     spinBox()->setSubstitute(!snapshot.isReadable ? tr("<not readable>")
                                  : isNumber       ? QString()
                                                   : spinBox()->locale().toString(snapshot.value));
-    if (!EditorHelpers::hasNumber(snapshot)) {
+    if (!EditorNumbers::hasNumber(snapshot)) {
         settle(std::numeric_limits<double>::quiet_NaN());
     }
-    m_isChanged = false;
+    m_keeper->setCommitted(false);
 }
 
-void FloatSliderEditor::showLimits(const QString &name, const FloatParameterData &snapshot)
+void FloatSliderEditor::showLimits(const FloatParameterData &snapshot, bool isNewLook)
 {
-    const EditorHelpers::FloatLimits limits = EditorHelpers::usableLimits(snapshot);
-    const Positions positions = aliasPositions(m_collection, name);
+    const EditorNumbers::FloatLimits limits = EditorNumbers::usableLimits(snapshot);
+    const Positions positions = aliasPositions(m_alias.data());
     setMode(snapshot.representation == QLatin1String("Logarithmic")
                 ? ETwoModeDoubleComboSliderMode::Logarithmic
                 : ETwoModeDoubleComboSliderMode::Linear);
     setIncrement(limits.increment);
-    setFree(!EditorHelpers::canStep(snapshot));
+    setFree(!EditorNumbers::canStep(snapshot));
     slider()->setEnabled(!(snapshot.minimum > snapshot.maximum)); // no position means anything
-    setLimits(limits.minimum, limits.maximum, positions.minimum, positions.maximum, positions.step);
+    if (isNewLook || checkIfLimitsChanged(limits.minimum, limits.maximum, positions.step)
+        || checkIfLimitsChanged(positions.minimum, positions.maximum, positions.step)) {
+        setLimits(limits.minimum, limits.maximum, positions.minimum, positions.maximum, positions.step);
+    }
 }
 
 QVariant FloatSliderEditor::editorData()
 {
-    if (!m_isChanged) {
-        return {};
-    }
-    m_isChanged = false;
-    m_keeper->showAgainAfterCommit();
-    return QString::number(value(), 'g', QLocale::FloatingPointShortest);
+    return m_keeper->takeCommitted() ? value() : QVariant();
 }
 
 void FloatSliderEditor::onBoxValueChanged()
 {
-    m_isChanged = true;
+    m_keeper->setCommitted(true);
 }

@@ -32,10 +32,12 @@ private slots:
     void onBoxValueChanged();
 
 private:
-    void showSnapshot(const QString &name, const ParameterCollection::FloatParameterData &snapshot);
-    void showLimits(const QString &name, const ParameterCollection::FloatParameterData &snapshot);
+    void findAlias(const QSharedPointer<ParameterCollection::IParameter> &parameter);
+    void showSnapshot(const ParameterCollection::FloatParameterData &snapshot);
+    void showLimits(const ParameterCollection::FloatParameterData &snapshot, bool isNewLook);
 
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
+    QSharedPointer<ParameterCollection::IParameter> m_parameter;
+    QSharedPointer<ParameterCollection::IParameter> m_alias; //!< of the parameter; null when it has none
     EditorDataKeeper *m_keeper;
-    bool m_isChanged = false; //!< committed, not handed out yet
 };

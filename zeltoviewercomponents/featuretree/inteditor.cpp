@@ -4,7 +4,9 @@
 #include "inteditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
 #include "inputhint_p.h"
 #include "integertext_p.h"
 
@@ -54,26 +56,25 @@ IntEditor::~IntEditor() = default;
 
 void IntEditor::setEditorData(EditorData data)
 {
-    const auto parameter = qSharedPointerObjectCast<IIntegerParameter>(data.ptrParameter);
-    if (!parameter || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Integer) {
-        log(QStringLiteral("%1 is called with non-integer node????"));
+    const Core::GuardSite site{logCategory(), setEditorDataName};
+    const auto *const snapshot = EditorIntake::snapshotIn<IntegerParameterData>(data, site);
+    if (!snapshot) {
         return;
     }
-    const auto headline = [&parameter] {
+    const auto headline = [&data] {
         return QStringLiteral("Failed to update the integer value editor for node %1")
-            .arg(EditorHelpers::nodeName(parameter.data()));
+            .arg(EditorIntake::nodeName(data.ptrParameter.data()));
     };
-    Core::guardedRun({logCategory(), setEditorDataName}, headline, [this, &data] {
+    Core::guardedRun(site, headline, [this, &data, snapshot] {
         m_keeper->keep(data);
-        const auto &snapshot = static_cast<const IntegerParameterData &>(*data.ptrParameterData);
-        if (snapshot.representation == QLatin1String("IPV4Address")) {
+        if (snapshot->representation == QLatin1String("IPV4Address")) {
             m_addressName = data.ptrParameter->name();
         }
-        const bool isChangeable = EditorHelpers::canBeChanged(snapshot);
+        const bool isChangeable = EditorIntake::canBeChanged(*snapshot);
         if (!isChangeable) {
             setModified(false); // the focus goes with the lock, and would take what is typed along
         }
-        showSnapshot(snapshot);
+        showSnapshot(*snapshot);
         setEnabled(isChangeable);
     });
 }
@@ -93,8 +94,8 @@ void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
     if (isHex
         || isAnyOf(representation,
                    {QLatin1String("PureNumber"), QLatin1String("Linear"), QLatin1String("Logarithmic")})) {
-        const int minimum = EditorHelpers::saturated(snapshot.minimum);
-        const int maximum = EditorHelpers::saturated(snapshot.maximum);
+        const int minimum = EditorNumbers::saturated(snapshot.minimum);
+        const int maximum = EditorNumbers::saturated(snapshot.maximum);
         m_hint->setToolTip(isHex ? tr("Range: 0x%1..0x%2").arg(minimum, 0, 16).arg(maximum, 0, 16)
                                  : tr("Range: %1..%2").arg(minimum).arg(maximum));
         showText(QStringLiteral("%1").arg(snapshot.valueString));
@@ -112,13 +113,13 @@ void IntEditor::showSnapshot(const IntegerParameterData &snapshot)
 
 void IntEditor::showText(const QString &text)
 {
-    if (EditorHelpers::isBeingTyped(*this, *this)) {
+    if (EditorKeys::isBeingTyped(*this, *this)) {
         return;
     }
     m_isRefused = false;
     m_shownText = text;
     if (this->text() != text) {
-        const EditorHelpers::SelectedText selected(this);
+        const EditorKeys::SelectedText selected(this);
         setText(text);
     }
     setModified(false);
@@ -204,7 +205,7 @@ void IntEditor::focusInEvent(QFocusEvent *event)
 
 void IntEditor::focusOutEvent(QFocusEvent *event)
 {
-    if (EditorHelpers::isFocusLent(*event)) {
+    if (EditorKeys::isFocusLent(*event)) {
         const QSignalBlocker silence(this); // the editing is not finished
         QLineEdit::focusOutEvent(event);
         return;

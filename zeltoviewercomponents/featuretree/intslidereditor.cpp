@@ -4,13 +4,16 @@
 #include "intslidereditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
+#include "numberstep_p.h"
 #include "zeltoqtspinbox.h"
 
 #include <platform/core/guard.h>
 
 #include <QLineEdit>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <QSlider>
 
 #include <optional>
@@ -23,7 +26,6 @@ ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.intSliderEditor")
 namespace {
 
 constexpr char setEditorDataName[] = "IntSliderEditor::setEditorData";
-constexpr int answerMilliseconds = 400; // less than editors wait before they show the last data again
 
 void log(const QString &text)
 {
@@ -32,15 +34,15 @@ void log(const QString &text)
 
 void logInconsistency(const IParameter &parameter, const IntegerParameterData &snapshot)
 {
-    const QString name = EditorHelpers::nodeName(&parameter);
+    const QString name = EditorIntake::nodeName(&parameter);
     if (!snapshot.isReadable) {
         log(QStringLiteral("Non-readable slider: %1??????").arg(name));
         return;
     }
     const QString function = QString::fromLatin1(setEditorDataName);
-    const int value = EditorHelpers::saturated(snapshot.value);
-    const int minimum = EditorHelpers::saturated(snapshot.minimum);
-    const int maximum = EditorHelpers::saturated(snapshot.maximum);
+    const int value = EditorNumbers::saturated(snapshot.value);
+    const int minimum = EditorNumbers::saturated(snapshot.minimum);
+    const int maximum = EditorNumbers::saturated(snapshot.maximum);
     if (minimum > maximum) {
         log(QStringLiteral("%1: Feature %2: min value %3 > max value %4???")
                 .arg(function, name)
@@ -56,17 +58,15 @@ void logInconsistency(const IParameter &parameter, const IntegerParameterData &s
     }
 }
 
-int valueOf(const ParameterDataPtr &data)
-{
-    return EditorHelpers::saturated(static_cast<const IntegerParameterData &>(*data).value);
-}
-
 } // namespace
 
 IntSliderEditor::IntSliderEditor(QWidget *parent)
     : ComboSlider(parent)
-    , m_keeper(new EditorDataKeeper(this, spinBox(), EditorHelpers::lineEditOf(*spinBox())))
+    , m_keeper(new EditorDataKeeper(this, spinBox(), spinBox()->lineEdit()))
+    , m_step(new NumberStep(this))
 {
+    connect(spinBox()->lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(endStep()));
+    connect(m_step, SIGNAL(swallowed()), this, SLOT(goOnStepping()));
     // What came in during a drag was not shown.
     connect(slider(), SIGNAL(sliderReleased()), m_keeper, SLOT(showAgainAfterCommit()));
 }
@@ -75,45 +75,37 @@ IntSliderEditor::~IntSliderEditor() = default;
 
 void IntSliderEditor::setEditorData(EditorData data)
 {
-    const auto parameter = qSharedPointerObjectCast<IIntegerParameter>(data.ptrParameter);
-    if (!parameter || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Integer) {
-        log(QStringLiteral("%1 is called with non-integer node????").arg(QLatin1String(setEditorDataName)));
+    const Core::GuardSite site{logCategory(), setEditorDataName};
+    const auto *const snapshot = EditorIntake::snapshotIn<IntegerParameterData>(data, site);
+    if (!snapshot) {
         return;
     }
-    if (m_isWriting && m_shown.ptrParameterData == data.ptrParameterData) {
-        m_step.reset(); // what was there is shown again: the step was refused
-    }
-    m_shown = data;
+    m_step->show(data);
     m_keeper->keep(data);
-    const bool isReadable = data.ptrParameterData->isReadable;
-    Core::guardedRun({logCategory(), setEditorDataName},
-                     isReadable ? QStringLiteral("Failed to update the integer value editor")
-                                : QStringLiteral("Failed to retrieve a node's name"),
-                     [this, &data] { showSnapshot(data); });
-    if (m_step) {
-        m_keeper->showAgainAfterCommit(); // the answer may have been there before
-        // Not from within the refresh, whose sender is not done yet.
-        QMetaObject::invokeMethod(this, "goOnStepping", Qt::QueuedConnection);
-    }
+    const auto headline = [snapshot] {
+        return snapshot->isReadable ? QStringLiteral("Failed to update the integer value editor")
+                                    : QStringLiteral("Failed to retrieve a node's name");
+    };
+    Core::guardedRun(site, headline, [this, &data] { showSnapshot(data); });
 }
 
 void IntSliderEditor::showSnapshot(const EditorData &data)
 {
     const auto &snapshot = static_cast<const IntegerParameterData &>(*data.ptrParameterData);
     logInconsistency(*data.ptrParameter, snapshot);
-    const bool isChangeable = EditorHelpers::canBeChanged(snapshot);
-    QLineEdit *const lineEdit = EditorHelpers::lineEditOf(*spinBox());
+    const bool isChangeable = EditorIntake::canBeChanged(snapshot);
+    QLineEdit *const lineEdit = spinBox()->lineEdit();
     if (!isChangeable) {
         lineEdit->setModified(false); // the focus goes with the lock, and would take what is typed along
     }
     // The value below a typed text is the camera's too: the text is compared with it when it is entered.
-    std::optional<EditorHelpers::TypedText> typed;
-    if (EditorHelpers::isBeingTyped(*spinBox(), *lineEdit)) {
+    std::optional<EditorKeys::TypedText> typed;
+    if (EditorKeys::isBeingTyped(*spinBox(), *lineEdit)) {
         typed.emplace(lineEdit);
     }
     showLimits(snapshot);
     spinBox()->setSubstitute(snapshot.isReadable ? QString() : tr("<not readable>"));
-    const int value = EditorHelpers::saturated(snapshot.value);
+    const int value = EditorNumbers::saturated(snapshot.value);
     if (!snapshot.isReadable) {
         lineEdit->setModified(false);
     } else if (!slider()->isSliderDown() && (!typed || this->value() != trimValue(value))) {
@@ -127,14 +119,17 @@ void IntSliderEditor::showSnapshot(const EditorData &data)
 
 void IntSliderEditor::showLimits(const IntegerParameterData &snapshot)
 {
-    const int minimum = EditorHelpers::saturated(snapshot.minimum);
-    const int maximum = EditorHelpers::saturated(snapshot.maximum);
-    const int increment = EditorHelpers::saturated(snapshot.increment);
+    const int minimum = EditorNumbers::saturated(snapshot.minimum);
+    const int maximum = EditorNumbers::saturated(snapshot.maximum);
+    const int increment = EditorNumbers::saturated(snapshot.increment);
+    const int pageStep = EditorNumbers::pageStep(minimum, maximum, increment);
     if (minimum != this->minimum() || maximum != this->maximum() || increment != singleStep()) {
         setRangeAndStep(minimum, maximum, increment);
+        setPageStep(pageStep); // counted in single steps
+    } else if (pageStep != this->pageStep()) {
+        setPageStep(pageStep);
     }
     spinBox()->setHasLimits(minimum <= maximum);
-    setPageStep(EditorHelpers::pageStep(minimum, maximum, increment));
 }
 
 QVariant IntSliderEditor::editorData()
@@ -148,56 +143,38 @@ void IntSliderEditor::tellUser(int value)
     if (!isUpdateEnabled()) {
         return;
     }
-    m_step.reset();
-    const std::optional<int> start = stepStart();
-    if (const ParameterDataPtr before = start ? currentValue() : nullptr) {
-        m_step = Step{before, *start, qint64(value) - *start, value, {}};
+    m_step->end();
+    if (const std::optional<int> start = stepStart()) {
+        m_stepWidth = EditorNumbers::wrappingDifference(value, *start);
+        m_step->beginAt(*start, value);
     }
     write(value);
 }
 
 void IntSliderEditor::write(int value)
 {
-    if (m_step) {
-        m_step->answerTime.setRemainingTime(answerMilliseconds);
+    const QPointer<IntSliderEditor> self(this); // the write may take the row away
+    m_step->beginWrite();
+    ComboSlider::tellUser(value);
+    if (self) {
+        m_step->endWrite();
+        m_step->judge();
     }
-    {
-        const QScopedValueRollback<bool> writing(m_isWriting, true);
-        ComboSlider::tellUser(value);
-    }
-    goOnStepping();
 }
 
-// The answer may have come within the write, or comes with a later snapshot.
+void IntSliderEditor::endStep()
+{
+    m_step->end();
+}
+
 void IntSliderEditor::goOnStepping()
 {
-    const ParameterDataPtr answer = m_step ? currentValue() : nullptr;
-    if (!answer || (answer == m_step->before && !m_step->answerTime.hasExpired())) {
-        return;
+    const auto target = m_step->next([this](double start, double factor) {
+        return trimValue(EditorNumbers::saturated(start + m_stepWidth * factor));
+    });
+    if (target) {
+        const auto next = static_cast<int>(*target);
+        setValue(next);
+        write(next);
     }
-    m_step->distance *= 10;
-    const int next = trimValue(EditorHelpers::saturated(m_step->start + m_step->distance));
-    const bool isSwallowed = valueOf(answer) == valueOf(m_step->before);
-    if (!isSwallowed || next == m_step->last
-        || EditorHelpers::isBeingTyped(*spinBox(), *EditorHelpers::lineEditOf(*spinBox()))) {
-        m_step.reset();
-        return;
-    }
-    m_step->before = answer;
-    m_step->last = next;
-    setValue(next);
-    write(next);
-}
-
-// Returns the snapshot that the parameter has now, null without a value.
-ParameterDataPtr IntSliderEditor::currentValue() const
-{
-    if (!m_shown.ptrParameter) {
-        return nullptr;
-    }
-    const Core::GuardSite site{logCategory(), "IntSliderEditor::currentValue"};
-    const ParameterDataPtr data =
-        Core::guarded(site, QStringLiteral("Failed to look for the answer to a step"), ParameterDataPtr(),
-                      [this] { return m_shown.ptrParameter->parameterData(); });
-    return data && data->isReadable && data->type == ParameterType::Integer ? data : nullptr;
 }

@@ -8,11 +8,8 @@
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <QDeadlineTimer>
-
-#include <optional>
-
 class EditorDataKeeper;
+class NumberStep;
 
 /*! \brief Edits an integer feature with a spin box and a slider; 64-bit values are limited to 32 bits.
  *
@@ -34,26 +31,15 @@ protected:
     void tellUser(int value) override;
 
 private slots:
+    void endStep();
     void goOnStepping();
 
 private:
-    /*! \brief A step that has not moved the camera's value yet. */
-    struct Step
-    {
-        ParameterCollection::ParameterDataPtr before; //!< the camera's answer is a newer one
-        int start;
-        qint64 distance;
-        int last; //!< the value that was written last
-        QDeadlineTimer answerTime; //!< after it, an old answer counts, too
-    };
-
     void showSnapshot(const EditorData &data);
-    void write(int value);
     void showLimits(const ParameterCollection::IntegerParameterData &snapshot);
-    ParameterCollection::ParameterDataPtr currentValue() const;
+    void write(int value);
 
     EditorDataKeeper *m_keeper;
-    EditorData m_shown;
-    std::optional<Step> m_step;
-    bool m_isWriting = false;
+    NumberStep *m_step;
+    int m_stepWidth = 0; //!< of the step under way
 };

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "parentfont.h"
+#include "parentfont_p.h"
 
 #include <QWidget>
 

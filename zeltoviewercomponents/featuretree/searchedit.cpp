@@ -3,6 +3,7 @@
 
 #include "searchedit.h"
 
+#include "parentfont_p.h"
 #include "parentpalette_p.h"
 
 #include <QAction>
@@ -28,6 +29,7 @@ QFont placeholderFont()
 
 SearchEdit::SearchEdit(QWidget *parent)
     : QLineEdit(parent)
+    , m_parentFont(std::make_unique<ParentFont>(this))
 {
     connect(this, SIGNAL(textChanged(const QString &)), this, SLOT(onTextChanged(const QString &)));
 
@@ -43,7 +45,7 @@ SearchEdit::SearchEdit(QWidget *parent)
 
     new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
                       QStringLiteral(" QLineEdit { background: %1; }"));
-    m_parentFont.update();
+    m_parentFont->update();
 }
 
 SearchEdit::~SearchEdit() = default;
@@ -74,7 +76,7 @@ void SearchEdit::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        m_parentFont.update();
+        m_parentFont->update();
     }
 }
 

@@ -3,13 +3,14 @@
 
 #pragma once
 
-#include "parentfont.h"
-
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QLineEdit>
 #include <QString>
 
+#include <memory>
+
+class ParentFont;
 class QAction;
 
 /*! \brief A search box: a magnifier while it is empty, a cross that empties it while it is not.
@@ -51,5 +52,5 @@ private:
     QAction *m_clearAction = nullptr;
     QString m_placeholder;
     bool m_placeholderEnabled = true;
-    ParentFont m_parentFont{this};
+    std::unique_ptr<ParentFont> m_parentFont;
 };

@@ -4,12 +4,11 @@
 #include "toolbuttoneditor.h"
 
 #include "editordatakeeper_p.h"
-#include "editorhelpers.h"
+#include "editorintake_p.h"
 
 #include <platform/core/guard.h>
 
 using namespace ParameterCollection;
-using Core::Logging::ELogLevel;
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.toolButtonEditor")
 
@@ -39,22 +38,19 @@ ToolButtonEditor::~ToolButtonEditor() = default;
 
 void ToolButtonEditor::setEditorData(EditorData data)
 {
-    const auto command = qSharedPointerObjectCast<ICommandParameter>(data.ptrParameter);
-    if (!command || !data.ptrParameterData || data.ptrParameterData->type != ParameterType::Command) {
-        Core::Logging::createLogEntry(ELogLevel::Debug, logCategory(),
-                                      QStringLiteral("%1 is called with non-command node????")
-                                          .arg(QLatin1String("ToolButtonEditor::setEditorData")));
+    const Core::GuardSite site{logCategory(), "ToolButtonEditor::setEditorData"};
+    const auto *const snapshot = EditorIntake::snapshotIn<CommandParameterData>(data, site);
+    if (!snapshot) {
         return;
     }
-    m_command = command;
+    m_command = qSharedPointerObjectCast<ICommandParameter>(data.ptrParameter);
     // The headline never names the node: nothing replaces its "%s".
     const QString headline = QStringLiteral("!! Failed to initialize button data for node %s");
-    Core::guardedRun({logCategory(), "ToolButtonEditor::setEditorData"}, headline, [this, &data] {
-        const auto &snapshot = static_cast<const CommandParameterData &>(*data.ptrParameterData);
+    Core::guardedRun(site, headline, [this, &data, snapshot] {
         m_keeper->keep(data);
-        setChecked(!snapshot.isDone);
-        showProgress(!snapshot.isDone);
-        setEnabled(EditorHelpers::canBeChanged(snapshot));
+        setChecked(!snapshot->isDone);
+        showProgress(!snapshot->isDone);
+        setEnabled(EditorIntake::canBeChanged(*snapshot));
         // Unlike other widgets, a disabled button keeps clicks from the row.
         setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
     });

@@ -3,8 +3,9 @@
 
 #include "twomodedoublecomboslider.h"
 
-#include "editorhelpers.h"
-#include "floatstep_p.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
+#include "floatentry_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <QElapsedTimer>
@@ -24,17 +25,18 @@ constexpr int shortestPauseMilliseconds = 30;
 
 TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     : DoubleComboSlider(parent)
-    , m_step(new FloatStep(this))
+    , m_entry(std::make_unique<FloatEntry>())
 {
+    m_entry->limits = {0.0, 0.0, 0.0};
     m_pause.setSingleShot(true);
     connect(&m_pause, SIGNAL(timeout()), this, SLOT(announceNow()));
-    connect(EditorHelpers::lineEditOf(*spinBox()), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
+    connect(spinBox()->lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(spinBox(), SIGNAL(left()), this, SLOT(onLeft()));
     // A value may lie between the positions that the base steps to.
     disconnect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
-    connect(m_step, SIGNAL(swallowed()), this, SLOT(takeStep()));
+    connect(&m_entry->step, SIGNAL(swallowed()), this, SLOT(takeStep()));
     connect(slider(), SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(slider(), SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved(int)));
     connect(slider(), SIGNAL(sliderReleased()), this, SLOT(announceNow()));
@@ -54,12 +56,12 @@ ETwoModeDoubleComboSliderMode TwoModeDoubleComboSlider::mode() const
 
 void TwoModeDoubleComboSlider::setIncrement(double increment)
 {
-    m_increment = increment;
+    m_entry->limits.increment = increment;
 }
 
 void TwoModeDoubleComboSlider::setFree(bool isFree)
 {
-    m_isFree = isFree;
+    m_entry->isFree = isFree;
     spinBox()->setSteppable(!isFree);
 }
 
@@ -67,75 +69,81 @@ void TwoModeDoubleComboSlider::setLimits(double minimum, double maximum, int min
                                          int maximumPosition, int positionStep)
 {
     const QScopedValueRollback<bool> showing(m_isShowing, true);
-    m_limits.minimum = minimum;
-    m_limits.maximum = maximum;
+    m_entry->limits.minimum = minimum;
+    m_entry->limits.maximum = maximum;
     const int position = qBound(minimumPosition, intValue(), maximumPosition);
     initControls(minimum, maximum, position, minimumPosition, maximumPosition, positionStep);
 }
 
 void TwoModeDoubleComboSlider::showValue(double value)
 {
-    // A value outside the limits is shown as it is; entries are limited by enter().
-    const auto limits = m_isFree ? EditorHelpers::FloatLimits() : m_limits;
-    spinBox()->setLimits(std::min(limits.minimum, value), std::max(limits.maximum, value));
-    setValue(value);
-    showPosition(positionFromValue(value));
+    setShown(value);
     m_isUnannounced = false;
     settle(value);
 }
 
+// A value outside the limits is shown as it is; entries are limited by enter().
+void TwoModeDoubleComboSlider::setShown(double value)
+{
+    const EditorNumbers::FloatLimits limits = m_entry->limitsAround(value);
+    spinBox()->setLimits(limits.minimum, limits.maximum);
+    setValue(value);
+    showPosition(positionFromValue(value));
+}
+
 void TwoModeDoubleComboSlider::settle(double value)
 {
-    m_settledValue = value;
+    m_entry->settled = value;
     spinBox()->settle();
 }
 
 void TwoModeDoubleComboSlider::dropChange()
 {
-    m_step->end();
+    m_entry->step.end();
     m_isUnannounced = false;
 }
 
-FloatStep &TwoModeDoubleComboSlider::step() const
+NumberStep &TwoModeDoubleComboSlider::step() const
 {
-    return *m_step;
+    return m_entry->step;
 }
 
 bool TwoModeDoubleComboSlider::isLogarithmic() const
 {
-    return m_mode == ETwoModeDoubleComboSliderMode::Logarithmic && m_limits.minimum > 0.0;
+    return m_mode == ETwoModeDoubleComboSliderMode::Logarithmic && m_entry->limits.minimum > 0.0;
 }
 
 double TwoModeDoubleComboSlider::valueFromPosition(int position) const
 {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
     const double distance = double(intMaximum()) - intMinimum();
     if (position <= intMinimum() || distance == 0.0) {
-        return m_limits.minimum;
+        return limits.minimum;
     }
     if (position >= intMaximum()) {
-        return m_limits.maximum;
+        return limits.maximum;
     }
     const double part = (double(position) - intMinimum()) / distance;
     // In this form no step in between is larger than the result.
     return isLogarithmic()
-        ? std::exp(std::log(m_limits.minimum) * (1.0 - part) + std::log(m_limits.maximum) * part)
-        : EditorHelpers::sumWithoutNoise(m_limits.minimum * (1.0 - part), m_limits.maximum * part);
+        ? std::exp(std::log(limits.minimum) * (1.0 - part) + std::log(limits.maximum) * part)
+        : EditorNumbers::sumWithoutNoise(limits.minimum * (1.0 - part), limits.maximum * part);
 }
 
 int TwoModeDoubleComboSlider::positionFromValue(double value) const
 {
-    if (!(value > m_limits.minimum)) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (!(value > limits.minimum)) {
         return intMinimum();
     }
-    if (value >= m_limits.maximum) {
+    if (value >= limits.maximum) {
         return intMaximum();
     }
     // Halves, since the full range of doubles has no difference that is a double.
     const double part = isLogarithmic()
-        ? (std::log(value) - std::log(m_limits.minimum))
-            / (std::log(m_limits.maximum) - std::log(m_limits.minimum))
-        : (value / 2.0 - m_limits.minimum / 2.0) / (m_limits.maximum / 2.0 - m_limits.minimum / 2.0);
-    return EditorHelpers::saturated(intMinimum()
+        ? (std::log(value) - std::log(limits.minimum)) / (std::log(limits.maximum) - std::log(limits.minimum))
+        : (value / 2.0 - limits.minimum / 2.0) / (limits.maximum / 2.0 - limits.minimum / 2.0);
+    return EditorNumbers::saturated(intMinimum()
                                     + std::llround(part * (double(intMaximum()) - intMinimum())));
 }
 
@@ -152,7 +160,7 @@ void TwoModeDoubleComboSlider::showPosition(int position)
 
 void TwoModeDoubleComboSlider::onTextEdited()
 {
-    m_step->end();
+    m_entry->step.end();
     enableUpdate(false);
 }
 
@@ -160,9 +168,10 @@ void TwoModeDoubleComboSlider::onEditingFinished()
 {
     const QPointer<TwoModeDoubleComboSlider> self(this);
     if (const auto typed = spinBox()->entry()) {
-        m_step->end();
-        if (!m_isFree) {
-            spinBox()->tellOutcome(*typed, usable(*typed), m_limits.minimum, m_limits.maximum, m_increment);
+        m_entry->step.end();
+        if (!m_entry->isFree) {
+            spinBox()->tellOutcome(*typed, m_entry->usable(*typed), m_entry->limits.minimum,
+                                   m_entry->limits.maximum, m_entry->limits.increment);
         }
         enter(*typed);
     }
@@ -176,8 +185,8 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
     if (m_isShowing) {
         return;
     }
-    m_step->end();
-    if (!m_limits.isBounded()) {
+    m_entry->step.end();
+    if (!m_entry->limits.isBounded()) {
         showPosition(positionFromValue(value())); // nobody means what lies a position farther
         return;
     }
@@ -185,8 +194,8 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
     // The end of the slider is the limit, although the last step may fall short of it.
     const double reached = valueFromPosition(position == intMaximum() ? position : trimmed);
     spinBox()->setSubstitute(QString());
-    enter(EditorHelpers::snappedToGrid(EditorHelpers::withoutNoise(reached), m_limits.minimum,
-                                       m_limits.maximum, m_increment));
+    enter(EditorNumbers::snappedToGrid(EditorNumbers::withoutNoise(reached), m_entry->limits.minimum,
+                                       m_entry->limits.maximum, m_entry->limits.increment));
 }
 
 // Keys and the wheel on the slider step as those in the spin box do.
@@ -209,35 +218,36 @@ void TwoModeDoubleComboSlider::onSliderAction(int action)
         ? distance > 0
         : action == QAbstractSlider::SliderPageStepAdd || action == QAbstractSlider::SliderSingleStepAdd;
     const auto width = std::max(1, intIncrement());
-    const int steps = isWheel ? EditorHelpers::saturated(std::max<qint64>(1, std::abs(distance) / width)) : 1;
+    const int steps = isWheel ? EditorNumbers::saturated(std::max<qint64>(1, std::abs(distance) / width)) : 1;
     takeSteps(isUp ? steps : -steps, isPage);
 }
 
 void TwoModeDoubleComboSlider::onStepTriggered(int steps)
 {
-    takeSteps(steps, std::abs(steps) == EditorHelpers::pageKeySteps);
+    takeSteps(steps, std::abs(steps) == EditorKeys::pageKeySteps);
 }
 
 void TwoModeDoubleComboSlider::onLeft()
 {
-    m_digit = 0.0;
-    m_step->end();
+    m_entry->stepWidth = 0.0;
+    m_entry->step.end();
 }
 
 void TwoModeDoubleComboSlider::takeSteps(int steps, bool isPage)
 {
-    if (m_isFree || spinBox()->hasSubstitute()) {
+    if (m_entry->isFree || spinBox()->hasSubstitute()) {
         return;
     }
     m_isPage = isPage;
-    m_step->begin(value(), steps);
+    m_entry->step.begin(value(), steps);
     takeStep();
 }
 
 void TwoModeDoubleComboSlider::takeStep()
 {
-    const auto target = m_step->next([this](double start, double factor) {
-        return usable(EditorHelpers::sumWithoutNoise(start, stepDistance(start, m_step->steps()) * factor));
+    const auto target = m_entry->step.next([this](double start, double factor) {
+        return m_entry->usable(
+            EditorNumbers::sumWithoutNoise(start, stepDistance(start, m_entry->step.steps()) * factor));
     });
     if (target) {
         enter(*target);
@@ -248,46 +258,37 @@ void TwoModeDoubleComboSlider::takeStep()
 
 double TwoModeDoubleComboSlider::stepDistance(double start, int steps)
 {
-    if (m_limits.isBounded()) {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    if (limits.isBounded()) {
         const double positions = m_isPage
             ? std::copysign(std::max(slider()->pageStep(), intIncrement()), steps)
             : double(steps) * std::max(1, intIncrement());
-        const double least = m_increment > 0.0 ? m_increment : spinBox()->finestDigit(start);
+        const double least = limits.increment > 0.0 ? limits.increment : spinBox()->finestDigit(start);
         return std::copysign(std::max(std::abs(slidersDistance(start, positions)), least), steps);
     }
-    if (m_digit == 0.0) {
-        m_digit = spinBox()->lastDigit(start);
+    if (m_entry->stepWidth == 0.0) {
+        m_entry->stepWidth = spinBox()->lastDigit(start);
     }
-    const double width = m_increment > 0.0 ? m_increment : m_digit;
-    return m_isPage ? std::copysign(EditorHelpers::pageKeySteps * width, steps) : steps * width;
+    const double width = limits.increment > 0.0 ? limits.increment : m_entry->stepWidth;
+    return m_isPage ? std::copysign(EditorKeys::pageKeySteps * width, steps) : steps * width;
 }
 
 // Returns how far the number of positions leads from the start, which may lie between two of them.
 double TwoModeDoubleComboSlider::slidersDistance(double start, double positions) const
 {
+    const EditorNumbers::FloatLimits &limits = m_entry->limits;
     const double part = positions / (double(intMaximum()) - intMinimum());
-    return isLogarithmic() ? std::max(start, m_limits.minimum)
-            * std::expm1(part * (std::log(m_limits.maximum) - std::log(m_limits.minimum)))
-                           : part * (m_limits.maximum - m_limits.minimum);
-}
-
-double TwoModeDoubleComboSlider::usable(double value) const
-{
-    // What the camera holds stays as it is when it is typed again, whatever the limits are.
-    return m_isFree || value == m_settledValue
-        ? value
-        : EditorHelpers::snappedToGrid(value, m_limits.minimum, m_limits.maximum, m_increment);
+    return isLogarithmic() ? std::max(start, limits.minimum)
+            * std::expm1(part * (std::log(limits.maximum) - std::log(limits.minimum)))
+                           : part * (limits.maximum - limits.minimum);
 }
 
 void TwoModeDoubleComboSlider::enter(double value)
 {
-    const double entered = usable(value);
-    const auto limits = m_isFree ? EditorHelpers::FloatLimits() : m_limits;
-    spinBox()->setLimits(std::min(limits.minimum, entered), std::max(limits.maximum, entered));
-    setValue(entered);
-    showPosition(positionFromValue(entered));
+    const double entered = m_entry->usable(value);
+    setShown(entered);
     enableUpdate(true);
-    if (entered != m_settledValue || !m_step->isHeld(entered)) {
+    if (entered != m_entry->settled || !m_entry->step.isHeld(entered)) {
         m_isUnannounced = true;
     }
     settle(entered);
@@ -306,10 +307,10 @@ void TwoModeDoubleComboSlider::announceNow()
     QElapsedTimer duration;
     duration.start();
     const QPointer<TwoModeDoubleComboSlider> self(this);
-    m_step->beginWrite();
+    m_entry->step.beginWrite();
     emit boxValueChanged();
     if (self) {
-        m_step->endWrite();
         m_pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
+        m_entry->step.endWrite();
     }
 }

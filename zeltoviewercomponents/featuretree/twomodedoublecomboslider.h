@@ -4,13 +4,15 @@
 #pragma once
 
 #include "doublecomboslider.h"
-#include "editorhelpers.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QTimer>
 
-class FloatStep;
+#include <memory>
+
+class NumberStep;
+struct FloatEntry;
 
 /*! \brief How the positions of a slider divide the range of values. */
 enum class ETwoModeDoubleComboSliderMode {
@@ -68,7 +70,7 @@ protected:
     void settle(double value);
     /*! Drops a change that is not announced yet. */
     void dropChange();
-    FloatStep &step() const;
+    NumberStep &step() const;
 
 private slots:
     void onTextEdited();
@@ -82,7 +84,7 @@ private slots:
 
 private:
     bool isLogarithmic() const;
-    double usable(double value) const;
+    void setShown(double value);
     void enter(double value);
     void showPosition(int position);
     void takeSteps(int steps, bool isPage);
@@ -90,13 +92,8 @@ private:
     double slidersDistance(double start, double positions) const;
 
     ETwoModeDoubleComboSliderMode m_mode = ETwoModeDoubleComboSliderMode::Linear;
-    double m_increment = 0.0;
-    EditorHelpers::FloatLimits m_limits{0.0, 0.0, 0.0};
-    double m_settledValue = 0.0; //!< what was last shown or entered
-    double m_digit = 0.0; //!< that steps change where a limit is missing, since the first one; 0 before
-    FloatStep *m_step;
+    std::unique_ptr<FloatEntry> m_entry; //!< its limits are those of the slider, too
     bool m_isPage = false; //!< the step under way
-    bool m_isFree = false;
     bool m_isShowing = false; //!< the slider moves because of the program
     bool m_isUnannounced = false; //!< entered, but not announced yet
     QTimer m_pause;

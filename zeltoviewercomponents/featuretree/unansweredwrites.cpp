@@ -3,6 +3,8 @@
 
 #include "unansweredwrites_p.h"
 
+#include <QMetaType>
+
 #include <optional>
 
 using namespace ParameterCollection;
@@ -28,8 +30,13 @@ QString valueOf(const IParameter &parameter)
 
 } // namespace
 
-bool isValueOf(const ParameterData &snapshot, const QString &text)
+bool isValueOf(const ParameterData &snapshot, const QVariant &value)
 {
+    const auto *const number = dynamic_cast<const FloatParameterData *>(&snapshot);
+    if (number && value.typeId() == QMetaType::Double) {
+        return value.toDouble() == number->value;
+    }
+    const QString text = value.toString();
     if (const auto *const boolean = dynamic_cast<const BooleanParameterData *>(&snapshot)) {
         return booleanFrom(text) == boolean->value;
     }
@@ -41,7 +48,6 @@ bool isValueOf(const ParameterData &snapshot, const QString &text)
         const bool isHex = text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
         return text.toLongLong(&isNumber, isHex ? 16 : 10) == integer->value && isNumber;
     }
-    const auto *const number = dynamic_cast<const FloatParameterData *>(&snapshot);
     return number && text.toDouble(&isNumber) == number->value && isNumber;
 }
 
@@ -58,7 +64,7 @@ UnansweredWrites *UnansweredWrites::find(const IParameter &parameter)
     return parameter.findChild<UnansweredWrites *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-void UnansweredWrites::write(IParameter &parameter, const QString &text)
+void UnansweredWrites::write(IParameter &parameter, const QVariant &value)
 {
     UnansweredWrites *writes = find(parameter);
     if (!writes) {
@@ -66,16 +72,16 @@ void UnansweredWrites::write(IParameter &parameter, const QString &text)
     }
     const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
     writes->m_isCertain = false; // should it fail: the camera may have taken it
-    parameter.setValueFromString(text);
+    parameter.setValueFromString(value.toString());
     writes->m_before = before;
-    writes->m_text = text;
+    writes->m_value = value;
     ++writes->m_count;
     writes->m_isCertain = true;
 }
 
-bool UnansweredWrites::isLast(const QString &text, const ParameterData &current) const
+bool UnansweredWrites::isLast(const QVariant &value, const ParameterData &current) const
 {
-    return m_isCertain && text == m_text && (isValueOf(current, m_text) || isValueOf(current, m_before));
+    return m_isCertain && value == m_value && (isValueOf(current, m_value) || isValueOf(current, m_before));
 }
 
 // Answers do not say what they answer: cameras round values, and drop an answer that another one follows.
@@ -85,7 +91,7 @@ void UnansweredWrites::onParameterDataChanged(QSharedPointer<const ParameterData
         return;
     }
     m_isCertain = false;
-    if (!data->isReadable || isValueOf(*data, m_text)) {
+    if (!data->isReadable || isValueOf(*data, m_value)) {
         m_count = 0;
     } else if (!isValueOf(*data, m_before)) {
         --m_count;

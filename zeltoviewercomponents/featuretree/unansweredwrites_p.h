@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QVariant>
 
 /*! \brief What was written to a parameter whose snapshot does not tell of it yet.
  *
@@ -21,14 +22,14 @@ class UnansweredWrites : public QObject
 public:
     /*! Returns what is known of \a parameter, null when nothing was written to it. */
     static UnansweredWrites *find(const ParameterCollection::IParameter &parameter);
-    /*! Writes \a text to \a parameter and remembers that. Throws what the parameter throws. */
-    static void write(ParameterCollection::IParameter &parameter, const QString &text);
+    /*! Writes \a value to \a parameter, as text, and remembers that. Throws what the parameter throws. */
+    static void write(ParameterCollection::IParameter &parameter, const QVariant &value);
 
     /*! Returns whether a write waits for its answer. */
     bool isWaiting() const { return m_count > 0; }
-    /*! Returns whether \a text was written last and nothing has come since that tells otherwise; \a current
+    /*! Returns whether \a value was written last and nothing has come since that tells otherwise; \a current
      * is the parameter's snapshot. */
-    bool isLast(const QString &text, const ParameterCollection::ParameterData &current) const;
+    bool isLast(const QVariant &value, const ParameterCollection::ParameterData &current) const;
 
 private slots:
     void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> data);
@@ -36,12 +37,12 @@ private slots:
 private:
     explicit UnansweredWrites(ParameterCollection::IParameter &parameter);
 
-    QString m_text; // written last
+    QVariant m_value; // written last
     QString m_before; // the value before the first of the writes that wait
     int m_count = 0;
     bool m_isCertain = false;
 };
 
-/*! Returns whether \a text stands for the value of \a snapshot, which has one: numbers can be written in
- * several ways, and addresses as numbers; booleans have two names for each of theirs. */
-bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QString &text);
+/*! Returns whether \a value, a number or a text, stands for that of \a snapshot, which has one: numbers can
+ * be written in several ways, and addresses as numbers; booleans have two names for each of theirs. */
+bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QVariant &value);

@@ -3,7 +3,7 @@
 
 #include "wheelguard_p.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 
 #include <QFocusEvent>
 #include <QList>
@@ -50,6 +50,6 @@ void WheelGuard::noteFocus(QObject *watched, const QEvent *event)
         m_isEntered = m_isEntered || reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason
             || reason == Qt::BacktabFocusReason;
     } else if (watched == m_control && event->type() == QEvent::FocusOut) {
-        m_isEntered = m_isEntered && EditorHelpers::isFocusLent(*event);
+        m_isEntered = m_isEntered && EditorKeys::isFocusLent(*event);
     }
 }

@@ -3,7 +3,7 @@
 
 #include "zeltoqtdoublespinbox.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
 #include "inputhint_p.h"
 #include "numbertext_p.h"
 
@@ -64,20 +64,28 @@ void ZeltoQtDoubleSpinBox::setPageStep(double pageStep)
     m_pageStep = pageStep;
 }
 
-void ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation, int precision)
+bool ZeltoQtDoubleSpinBox::showFeatureValues(GenApi::EDisplayNotation notation, int precision)
 {
     if (notation == GenApi::UndefinedDisplayNotation) {
         notation = GenApi::fnAutomatic;
     }
-    if (m_notation != notation || m_precision != precision) {
-        m_notation = notation;
-        m_precision = precision;
-        showText();
+    if (m_notation == notation && m_precision == precision && m_language == locale()) {
+        return false;
     }
+    m_language = locale();
+    m_notation = notation;
+    m_precision = precision;
+    showText();
+    return true;
 }
 
 void ZeltoQtDoubleSpinBox::setLimits(double minimum, double maximum)
 {
+    if (m_notation != GenApi::UndefinedDisplayNotation) {
+        // The base prints and reads all digits of its limits, hundreds of those that mean none.
+        minimum = minimum == Doubles::lowest() ? -Doubles::infinity() : minimum;
+        maximum = maximum == Doubles::max() ? Doubles::infinity() : maximum;
+    }
     makeRoomFor(minimum);
     makeRoomFor(maximum);
     if (minimum != this->minimum() || maximum != this->maximum()) {
@@ -85,19 +93,31 @@ void ZeltoQtDoubleSpinBox::setLimits(double minimum, double maximum)
     }
 }
 
+double ZeltoQtDoubleSpinBox::lowestValue() const
+{
+    return std::max(minimum(), Doubles::lowest());
+}
+
+double ZeltoQtDoubleSpinBox::highestValue() const
+{
+    return std::min(maximum(), Doubles::max());
+}
+
 void ZeltoQtDoubleSpinBox::setValue(double value)
 {
-    const EditorHelpers::SelectedText selected(lineEdit());
+    const EditorKeys::SelectedText selected(lineEdit());
     QDoubleSpinBox::setValue(value);
 }
 
 void ZeltoQtDoubleSpinBox::showValue(double value)
 {
     makeRoomFor(value);
-    if (value != this->value()) {
+    if (value == this->value()) {
+        showText();
+    } else {
         setValue(value);
+        settle();
     }
-    showText();
 }
 
 // Keeps as many decimals of feature values as the number has.
@@ -110,12 +130,17 @@ void ZeltoQtDoubleSpinBox::makeRoomFor(double number)
 
 void ZeltoQtDoubleSpinBox::setSteppable(bool isSteppable)
 {
-    m_isSteppable = isSteppable;
-    update(); // the buttons
+    if (isSteppable != m_isSteppable) {
+        m_isSteppable = isSteppable;
+        update(); // the buttons
+    }
 }
 
 void ZeltoQtDoubleSpinBox::setSubstitute(const QString &text)
 {
+    if (text.isEmpty() && !hasSubstitute()) {
+        return; // the value, or what is typed, stands there
+    }
     m_substitute = text;
     showText();
     if (hasSubstitute() && hasFocus()) {
@@ -219,8 +244,8 @@ QString ZeltoQtDoubleSpinBox::shownText(double value) const
 
 double ZeltoQtDoubleSpinBox::valueFromText(const QString &text) const
 {
-    const auto number = NumberText(text, locale()).number();
-    if (!number || isAsShown(text)) {
+    const auto number = isAsShown(text) ? std::nullopt : NumberText(text, locale()).number();
+    if (!number) {
         return value(); // what is shown may be rounded; the value is not
     }
     return m_notation == GenApi::UndefinedDisplayNotation
@@ -246,10 +271,12 @@ QValidator::State ZeltoQtDoubleSpinBox::validate(QString &text, int &) const
     if (m_isTextKept) {
         return QValidator::Intermediate;
     }
+    if (isAsShown(text)) {
+        return QValidator::Acceptable;
+    }
     const auto number = NumberText(text, locale()).number();
-    return isAsShown(text) || (number && *number >= minimum() && *number <= maximum())
-        ? QValidator::Acceptable
-        : QValidator::Intermediate;
+    return number && *number >= minimum() && *number <= maximum() ? QValidator::Acceptable
+                                                                  : QValidator::Intermediate;
 }
 
 void ZeltoQtDoubleSpinBox::fixup(QString &text) const
@@ -281,7 +308,9 @@ bool ZeltoQtDoubleSpinBox::takeTyped()
         return false;
     }
     m_substitute.clear();
-    interpretText();
+    const double limited = qBound(minimum(), *m_entry, maximum());
+    makeRoomFor(limited);
+    QDoubleSpinBox::setValue(limited);
     settle();
     tellOutcome(*m_entry, value(), minimum(), maximum(), 0.0);
     return true;
@@ -298,8 +327,8 @@ void ZeltoQtDoubleSpinBox::keyPressEvent(QKeyEvent *event)
         }
         m_entry.reset();
     }
-    EditorHelpers::finishKeyPress(event, *lineEdit(),
-                                  [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
+    EditorKeys::finishKeyPress(event, *lineEdit(),
+                               [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
 }
 
 void ZeltoQtDoubleSpinBox::focusInEvent(QFocusEvent *event)
@@ -315,7 +344,7 @@ void ZeltoQtDoubleSpinBox::focusInEvent(QFocusEvent *event)
 
 void ZeltoQtDoubleSpinBox::focusOutEvent(QFocusEvent *event)
 {
-    if (EditorHelpers::isFocusLent(*event)) {
+    if (EditorKeys::isFocusLent(*event)) {
         const auto kept = keepTypedText();
         const QSignalBlocker blocker(this); // the editing goes on
         QDoubleSpinBox::focusOutEvent(event);
@@ -373,7 +402,7 @@ void ZeltoQtDoubleSpinBox::showText()
     }
     const QString shown = shownText(value());
     if (lineEdit()->text() != shown) {
-        const EditorHelpers::SelectedText selected(lineEdit());
+        const EditorKeys::SelectedText selected(lineEdit());
         const QSignalBlocker blocker(lineEdit());
         lineEdit()->setText(shown);
     }

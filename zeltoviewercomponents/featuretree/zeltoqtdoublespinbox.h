@@ -7,6 +7,7 @@
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QDoubleSpinBox>
+#include <QLocale>
 #include <QScopedValueRollback>
 
 #include <optional>
@@ -35,11 +36,18 @@ public:
     /*! Sets the page step. */
     void setPageStep(double pageStep);
 
-    /*! Shows values as formatFeatureValue() does with \a notation and \a precision. */
-    void showFeatureValues(GenApi::EDisplayNotation notation, int precision);
+    using QDoubleSpinBox::lineEdit;
+
+    /*! Shows values as formatFeatureValue() does with \a notation and \a precision. Returns whether they
+     * were shown otherwise before. */
+    bool showFeatureValues(GenApi::EDisplayNotation notation, int precision);
 
     /*! Sets both limits, with all their digits when feature values are shown. */
     void setLimits(double minimum, double maximum);
+    /*! Returns the lowest value, the lowest double where there is no limit. */
+    double lowestValue() const;
+    /*! Returns the highest value, the highest double where there is no limit. */
+    double highestValue() const;
     /*! Sets the value to \a value, limited to the range. */
     void setValue(double value);
     /*! Shows \a value, limited to the range, with all its digits kept when feature values are shown. */
@@ -115,6 +123,7 @@ private:
     double m_pageStep = 0.0;
     GenApi::EDisplayNotation m_notation = GenApi::UndefinedDisplayNotation;
     int m_precision = 0;
+    QLocale m_language; //!< of feature values
     bool m_hasAllDigits = false; //!< shown, as long as the user is here
     bool m_isSteppable = true;
     bool m_isTextKept = false;

@@ -3,7 +3,8 @@
 
 #include "zeltoqtspinbox.h"
 
-#include "editorhelpers.h"
+#include "editorkeys_p.h"
+#include "editornumbers_p.h"
 #include "integertext_p.h"
 #include "numbertext_p.h"
 
@@ -29,7 +30,10 @@ void ZeltoQtSpinBox::setPageStep(int pageStep)
 
 void ZeltoQtSpinBox::setValue(int value)
 {
-    const EditorHelpers::SelectedText selected(lineEdit());
+    if (value == this->value() && cleanText() == textFromValue(value)) {
+        return; // the base would paint it again
+    }
+    const EditorKeys::SelectedText selected(lineEdit());
     QSpinBox::setValue(value);
 }
 
@@ -37,7 +41,7 @@ void ZeltoQtSpinBox::stepBy(int steps)
 {
     if (m_pageKeyPressed) {
         m_pageKeyPressed = false;
-        steps = steps < 0 ? EditorHelpers::wrappingDifference(0, m_pageStep) : m_pageStep;
+        steps = steps < 0 ? EditorNumbers::wrappingDifference(0, m_pageStep) : m_pageStep;
     }
     if (!canStep() || !problem().isEmpty()) {
         return;
@@ -48,7 +52,7 @@ void ZeltoQtSpinBox::stepBy(int steps)
     QAbstractSpinBox::stepBy(steps);
     if (singleStep() == 0) {
         // The grid has no distance, and the base made no step.
-        setValue(EditorHelpers::saturated(qint64(value()) + steps));
+        setValue(EditorNumbers::saturated(qint64(value()) + steps));
     }
     emit editingFinished();
 }
@@ -66,7 +70,7 @@ void ZeltoQtSpinBox::setSubstitute(const QString &text)
     m_substitute = text;
     const QString shown = textFromValue(value());
     if (lineEdit()->text() != shown) {
-        const EditorHelpers::SelectedText selected(lineEdit());
+        const EditorKeys::SelectedText selected(lineEdit());
         lineEdit()->setText(shown);
     }
 }
@@ -100,8 +104,8 @@ QString ZeltoQtSpinBox::problem() const
 
 QString ZeltoQtSpinBox::outcomeOf(qint64 number) const
 {
-    const int limited = qBound(minimum(), EditorHelpers::saturated(number), maximum());
-    const int value = EditorHelpers::trimmedToGrid(limited, minimum(), singleStep());
+    const int limited = qBound(minimum(), EditorNumbers::saturated(number), maximum());
+    const int value = EditorNumbers::trimmedToGrid(limited, minimum(), singleStep());
     if (number == value) {
         return {};
     }
@@ -130,7 +134,7 @@ void ZeltoQtSpinBox::fixup(QString &text) const
 {
     const auto number = numberIn(text);
     if (number && m_hasLimits && !m_isPausing) {
-        const int limited = qBound(minimum(), EditorHelpers::saturated(*number), maximum());
+        const int limited = qBound(minimum(), EditorNumbers::saturated(*number), maximum());
         text = prefix() + QSpinBox::textFromValue(limited) + suffix();
     }
 }
@@ -143,7 +147,7 @@ QString ZeltoQtSpinBox::textFromValue(int value) const
 int ZeltoQtSpinBox::valueFromText(const QString &text) const
 {
     const auto number = numberIn(text);
-    return number ? EditorHelpers::saturated(*number) : value();
+    return number ? EditorNumbers::saturated(*number) : value();
 }
 
 QAbstractSpinBox::StepEnabled ZeltoQtSpinBox::stepEnabled() const
@@ -173,8 +177,8 @@ void ZeltoQtSpinBox::keyPressEvent(QKeyEvent *event)
     QAbstractSpinBox::keyPressEvent(event);
     // At a limit the page key makes no step, and the next arrow key must not make its page step.
     m_pageKeyPressed = false;
-    EditorHelpers::finishKeyPress(event, *lineEdit(),
-                                  [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
+    EditorKeys::finishKeyPress(event, *lineEdit(),
+                               [this](QKeyEvent *press) { QAbstractSpinBox::keyPressEvent(press); });
 }
 
 void ZeltoQtSpinBox::focusInEvent(QFocusEvent *event)
@@ -188,7 +192,7 @@ void ZeltoQtSpinBox::focusInEvent(QFocusEvent *event)
 
 void ZeltoQtSpinBox::focusOutEvent(QFocusEvent *event)
 {
-    if (EditorHelpers::isFocusLent(*event)) {
+    if (EditorKeys::isFocusLent(*event)) {
         pause(event);
         return;
     }

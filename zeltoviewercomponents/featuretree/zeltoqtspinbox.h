@@ -22,6 +22,8 @@ public:
     explicit ZeltoQtSpinBox(QWidget *parent = nullptr);
     ~ZeltoQtSpinBox() override;
 
+    using QSpinBox::lineEdit;
+
     /*! Sets by how much Page Up and Page Down change the value, in single steps. */
     void setPageStep(int pageStep);
     /*! Sets the value to \a value, limited to the range. */

@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "floatstep_p.h"
+#include "numberstep_p.h"
 
 #include <platform/core/guard.h>
 
+#include <QTimerEvent>
+
+#include <utility>
+
 using namespace ParameterCollection;
 
-ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.floatStep")
+ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.numberStep")
 
 namespace {
 
@@ -17,43 +21,44 @@ constexpr int mostTries = 10; // a register that swallows a billion steps does n
 
 std::optional<double> valueOf(const ParameterDataPtr &data)
 {
-    return data && data->type == ParameterType::Float && data->isReadable
-        ? std::optional(static_cast<const FloatParameterData &>(*data).value)
-        : std::nullopt;
+    if (!data || !data->isReadable) {
+        return std::nullopt;
+    }
+    switch (data->type) {
+    case ParameterType::Float:
+        return static_cast<const FloatParameterData &>(*data).value;
+    case ParameterType::Integer:
+        return static_cast<double>(static_cast<const IntegerParameterData &>(*data).value);
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
 
-FloatStep::FloatStep(QObject *parent)
+NumberStep::NumberStep(QObject *parent)
     : QObject(parent)
 {
-    m_answerTimer.setSingleShot(true);
-    m_answerTimer.setInterval(answerMilliseconds);
-    connect(&m_answerTimer, SIGNAL(timeout()), this, SLOT(ask()));
 }
 
-FloatStep::~FloatStep() = default;
+NumberStep::~NumberStep() = default;
 
-void FloatStep::show(const AbstractItemEditor::EditorData &data)
+void NumberStep::show(const AbstractItemEditor::EditorData &data)
 {
     if (m_isWriting && data.ptrParameterData == m_shown.ptrParameterData) {
         end();
     }
     if (data.ptrParameter != m_shown.ptrParameter) {
         end();
-        if (m_shown.ptrParameter) {
+        if (m_isFollowing) {
             disconnect(m_shown.ptrParameter.data(), nullptr, this, nullptr);
         }
-        // Not by way of what is shown: the tree may leave snapshots out.
-        connect(
-            data.ptrParameter.data(),
-            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)),
-            this, SLOT(onPublished()));
+        m_isFollowing = false;
     }
     m_shown = data;
 }
 
-void FloatStep::begin(double start, int steps)
+void NumberStep::begin(double start, int steps)
 {
     end();
     m_start = m_last = start;
@@ -62,24 +67,32 @@ void FloatStep::begin(double start, int steps)
     m_tries = 0;
 }
 
-void FloatStep::end()
+void NumberStep::beginAt(double start, double first)
+{
+    begin(start, first > start ? 1 : -1);
+    m_last = first;
+    m_factor = 10.0;
+    m_tries = 1;
+}
+
+void NumberStep::end()
 {
     m_steps = 0;
     m_isAsked = false;
     m_answerTimer.stop();
 }
 
-bool FloatStep::isWaiting() const
+bool NumberStep::isWaiting() const
 {
     return m_answerTimer.isActive() || m_isAsked;
 }
 
-int FloatStep::steps() const
+int NumberStep::steps() const
 {
     return m_steps;
 }
 
-std::optional<double> FloatStep::next(const std::function<double(double, double)> &reached)
+std::optional<double> NumberStep::next(const std::function<double(double, double)> &reached)
 {
     m_tries += 1;
     while (m_steps != 0 && m_factor <= widest && m_tries <= mostTries) {
@@ -94,27 +107,39 @@ std::optional<double> FloatStep::next(const std::function<double(double, double)
     return std::nullopt;
 }
 
-void FloatStep::beginWrite()
+void NumberStep::beginWrite()
 {
     m_isWriting = true;
     m_isAsked = false;
     m_before = current();
     if (m_steps != 0) {
-        m_answerTimer.start();
+        follow();
+        m_answerTimer.start(answerMilliseconds, this);
     }
 }
 
-void FloatStep::endWrite()
+// Not by way of what is shown: the tree may leave snapshots out. Most editors never make a step.
+void NumberStep::follow()
+{
+    if (m_shown.ptrParameter && !std::exchange(m_isFollowing, true)) {
+        connect(
+            m_shown.ptrParameter.data(),
+            SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData>)),
+            this, SLOT(onPublished()));
+    }
+}
+
+void NumberStep::endWrite()
 {
     m_isWriting = false;
 }
 
-bool FloatStep::isHeld(double value) const
+bool NumberStep::isHeld(double value) const
 {
     return valueOf(current()).value_or(value) == value;
 }
 
-void FloatStep::onPublished()
+void NumberStep::onPublished()
 {
     if (isWaiting()) {
         // Not from within the refresh, or even the write, whose sender is not done yet.
@@ -122,12 +147,14 @@ void FloatStep::onPublished()
     }
 }
 
-void FloatStep::judge()
+void NumberStep::judge()
 {
-    const ParameterDataPtr answer = current();
-    const bool isOld = answer == m_before && !m_isAsked; // from before the write
-    if (!isWaiting() || m_isWriting || isOld) {
+    if (!isWaiting() || m_isWriting) {
         return;
+    }
+    const ParameterDataPtr answer = current();
+    if (answer == m_before && !m_isAsked) {
+        return; // from before the write
     }
     m_isAsked = false;
     m_answerTimer.stop();
@@ -139,7 +166,17 @@ void FloatStep::judge()
     }
 }
 
-void FloatStep::ask()
+void NumberStep::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_answerTimer.timerId()) {
+        QObject::timerEvent(event);
+        return;
+    }
+    m_answerTimer.stop();
+    ask();
+}
+
+void NumberStep::ask()
 {
     const auto parameter = m_shown.ptrParameter;
     if (m_isWriting || !parameter) {
@@ -151,15 +188,15 @@ void FloatStep::ask()
         judge();
         return;
     }
-    Core::guardedRun({logCategory(), "FloatStep::ask"}, QStringLiteral("Failed to ask for a value"),
+    Core::guardedRun({logCategory(), "NumberStep::ask"}, QStringLiteral("Failed to ask for a value"),
                      [&parameter] { parameter->scheduleParameterDataChangedCheck(true); });
 }
 
-ParameterDataPtr FloatStep::current() const
+ParameterDataPtr NumberStep::current() const
 {
     const auto parameter = m_shown.ptrParameter;
     return !parameter
         ? nullptr
-        : Core::guarded({logCategory(), "FloatStep::current"}, QStringLiteral("Failed to read a value"),
+        : Core::guarded({logCategory(), "NumberStep::current"}, QStringLiteral("Failed to read a value"),
                         ParameterDataPtr(), [&parameter] { return parameter->parameterData(); });
 }
