@@ -113,7 +113,7 @@ Session::Source embeddedSource()
     return source;
 }
 
-Session::Source describedSource(const QString &fileName)
+Session::Source describedSource(const QString &fileName, Start, const QString &)
 {
     const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
@@ -237,10 +237,12 @@ std::unique_ptr<Camera> Camera::openEmbedded()
         new Camera(started(tr("the embedded camera"), std::make_shared<Session>(), embeddedSource)));
 }
 
-std::unique_ptr<Camera> Camera::openDescription(const QString &fileName)
+std::unique_ptr<Camera> Camera::openDescription(const QString &fileName, Start start,
+                                                const QString &registers)
 {
-    return std::unique_ptr<Camera>(new Camera(
-        started(fileName, std::make_shared<Session>(), [fileName] { return describedSource(fileName); })));
+    return std::unique_ptr<Camera>(new Camera(started(
+        fileName, std::make_shared<Session>(),
+        [fileName, start, registers] { return describedSource(fileName, start, registers); })));
 }
 
 std::unique_ptr<Camera> Camera::openLive(const QString &id)

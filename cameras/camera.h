@@ -29,6 +29,12 @@ struct NodeMap
     bool usesUtf8 = true; //!< texts of the node map are UTF-8, else Latin-1
 };
 
+/*! \brief How the registers of a description start. */
+enum class Start {
+    Alive, //!< so that as much as can be is implemented, available, not locked, and has values and limits
+    Zeroed, //!< all zero
+};
+
 /*! \brief An open camera: live, or a camera description on simulated registers.
  *
  * Register traffic runs on a worker thread of the camera's own; writes are waited for, about a second at
@@ -56,8 +62,13 @@ public:
 
     /*! Opens the simulated camera that comes with the library. */
     static std::unique_ptr<Camera> openEmbedded();
-    /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers. */
-    static std::unique_ptr<Camera> openDescription(const QString &fileName);
+    /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers.
+     *
+     * \param registers a register image, a file as registerImage() has it, that is laid over the start; none
+     * when empty
+     */
+    static std::unique_ptr<Camera> openDescription(const QString &fileName, Start start = Start::Alive,
+                                                   const QString &registers = QString());
     /*! Opens the live camera called \a id, as list() names it. */
     static std::unique_ptr<Camera> openLive(const QString &id);
 
