@@ -4,6 +4,7 @@
 #include "camera.h"
 
 #include "aravis_p.h"
+#include "awakening_p.h"
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
 #include "livecamera_p.h"
@@ -113,12 +114,16 @@ Session::Source embeddedSource()
     return source;
 }
 
-Session::Source describedSource(const QString &fileName, Start, const QString &)
+Session::Source describedSource(const QString &fileName, Start start, const QString &)
 {
     const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
     source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
-    const Description &description = *source.maps.front().description;
+    const NodeMapSource &map = source.maps.front();
+    const Description &description = *map.description;
+    if (start == Start::Alive) {
+        awaken(map.device.get(), description, *map.registers);
+    }
     source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
                                                   QString(), description.standardNameSpace()}));
     return source;

@@ -149,9 +149,7 @@ Engine::Engine(DevicePtr device, std::shared_ptr<const Description> description,
     if (!genicam || !arv_gc_get_node(genicam, "Root")) {
         throw Core::Exception::BaseException(tr("the engine cannot read the description"));
     }
-    for (const int node : m_description->dividing()) {
-        guardFormulas(engineNode(node));
-    }
+    guardFormulas(genicam, *m_description);
     for (const int node : m_description->published()) {
         ArvGcNode *found = engineNode(node);
         if (ARV_IS_GC_FEATURE_NODE(found)) {

@@ -253,6 +253,21 @@ bool Formula::uses(int index) const
                        [index](const Step &step) { return step.variable == index; });
 }
 
+QList<qint64> Formula::neighbours(int index) const
+{
+    QList<qint64> found;
+    for (size_t i = 1; i < m_steps.size(); ++i) {
+        const bool isRight = m_steps[i].variable == index;
+        const Step &other = isRight ? m_steps[i - 1] : m_steps[i];
+        const bool isNeighbour = isRight || m_steps[i - 1].variable == index;
+        const auto *literal = std::get_if<qint64>(&other.literal);
+        if (isNeighbour && other.operation == Operation::Literal && literal) {
+            found.append(*literal);
+        }
+    }
+    return found;
+}
+
 std::optional<qint64> Formula::integer(const std::vector<Number> &values) const
 {
     return evaluated<qint64>(values);

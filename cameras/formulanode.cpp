@@ -4,6 +4,7 @@
 #include "formulanode_p.h"
 
 #include "aravis_p.h"
+#include "description_p.h"
 #include "formula_p.h"
 
 #include <QByteArray>
@@ -415,8 +416,6 @@ void copyConditions(ArvGcNode *from, ArvGcNode *to)
     }
 }
 
-} // namespace
-
 void guardFormulas(ArvGcNode *node)
 {
     const bool isConverter = ARV_IS_GC_CONVERTER(node);
@@ -446,6 +445,28 @@ void guardFormulas(ArvGcNode *node)
     arv_dom_element_set_attribute(ARV_DOM_ELEMENT(guarded), "Name",
                                   arv_gc_feature_node_get_name(state.replaced));
     arv_gc_register_feature_node(arv_gc_node_get_genicam(guarded), ARV_GC_FEATURE_NODE(guarded));
+}
+
+} // namespace
+
+void guardFormulas(ArvGc *genicam, const Description &description)
+{
+    for (const int node : description.formulas()) {
+        guardFormulas(arv_gc_get_node(genicam, description.name(node).toUtf8().constData()));
+    }
+}
+
+QHash<QByteArray, QList<qint64>> formulaHints(ArvGcNode *node)
+{
+    QHash<QByteArray, QList<qint64>> hints;
+    if (!node || !G_TYPE_CHECK_INSTANCE_TYPE(node, zelto_formula_node_get_type())) {
+        return hints;
+    }
+    const FormulaState &state = stateOf(node);
+    for (int i = 0; i < state.variableNodes.size(); ++i) {
+        hints[state.variableNodes[i]] += state.from.neighbours(i);
+    }
+    return hints;
 }
 
 } // namespace Cameras

@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <optional>
+#include <utility>
 
 namespace Cameras {
 
@@ -116,20 +116,39 @@ bool SimulatedRegisters::read(quint64 address, quint32 size, void *buffer)
     }
     const std::lock_guard lock(m_mutex);
     refreshLiving(address, size);
-    char *to = static_cast<char *>(buffer);
-    for (quint32 done = 0; done < size;) {
-        const quint64 at = address + done;
-        const quint32 offset = quint32(at % pageSize);
-        const quint32 count = std::min<quint32>(size - done, pageSize - offset);
+    copy(address, size, static_cast<char *>(buffer));
+    return true;
+}
+
+void SimulatedRegisters::copy(quint64 address, qsizetype size, char *to) const
+{
+    for (qsizetype done = 0; done < size;) {
+        const quint64 at = address + quint64(done);
+        const qsizetype offset = qsizetype(at % pageSize);
+        const qsizetype count = std::min<qsizetype>(size - done, qsizetype(pageSize) - offset);
         const auto page = m_pages.constFind(at / pageSize);
         if (page == m_pages.constEnd()) {
-            std::memset(to + done, 0, count);
+            std::memset(to + done, 0, size_t(count));
         } else {
-            std::memcpy(to + done, page->constData() + offset, count);
+            std::memcpy(to + done, page->constData() + offset, size_t(count));
         }
         done += count;
     }
-    return true;
+}
+
+void SimulatedRegisters::beginTrial()
+{
+    const std::lock_guard lock(m_mutex);
+    m_overwritten.emplace();
+}
+
+void SimulatedRegisters::endTrial(bool keep)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto overwritten = std::exchange(m_overwritten, std::nullopt);
+    for (auto part = overwritten->crbegin(); !keep && part != overwritten->crend(); ++part) {
+        store(part->first, part->second);
+    }
 }
 
 bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer)
@@ -153,6 +172,11 @@ bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer
 
 void SimulatedRegisters::store(quint64 address, const QByteArray &bytes)
 {
+    if (m_overwritten) {
+        QByteArray before(bytes.size(), Qt::Uninitialized);
+        copy(address, before.size(), before.data());
+        m_overwritten->emplace_back(address, before);
+    }
     for (qsizetype done = 0; done < bytes.size();) {
         const quint64 at = address + quint64(done);
         const qsizetype offset = qsizetype(at % pageSize);

@@ -11,6 +11,9 @@
 
 #include <atomic>
 #include <mutex>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace Cameras {
 
@@ -37,6 +40,11 @@ public:
     /*! Copies \a buffer to registers. Returns false as read() does. */
     bool write(quint64 address, quint32 size, const void *buffer);
 
+    /*! Begins to remember what is overwritten from now on. */
+    void beginTrial();
+    /*! Ends what beginTrial() began. With \a keep what was written stays, else it is taken back. */
+    void endTrial(bool keep);
+
     /*! Returns whether the register at \a address lives on its own. */
     bool isLiving(quint64 address);
 
@@ -58,6 +66,7 @@ private:
     };
 
     void loadLine(const QByteArray &line);
+    void copy(quint64 address, qsizetype size, char *to) const;
     void store(quint64 address, const QByteArray &bytes);
     void refreshLiving(quint64 address, quint32 size);
     void wait() const;
@@ -66,6 +75,7 @@ private:
     QHash<quint64, QByteArray> m_pages;
     QHash<quint64, QByteArray> m_loadedPages;
     QHash<quint64, Living> m_living;
+    std::optional<std::vector<std::pair<quint64, QByteArray>>> m_overwritten; //!< in a trial
     QElapsedTimer m_clock;
     std::atomic_int m_delay{0};
     std::atomic_int m_reads{0};

@@ -1,0 +1,464 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "wishsearch_p.h"
+
+#include "aravis_p.h"
+#include "formulanode_p.h"
+#include "simulatedregisters_p.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace Cameras {
+
+namespace {
+
+using LinkKind = Description::LinkKind;
+
+constexpr auto searchTime = std::chrono::seconds(1);
+constexpr int evaluationsPerFeature = 100; // of all searches together
+constexpr int mostEvaluationsPerWish = 500;
+constexpr int mostNodesPerWish = 2000;
+constexpr int mostKnobs = 24;
+constexpr int mostPairedKnobs = 10;
+constexpr int mostChoices = 24;
+constexpr int mostPairedChoices = 5;
+constexpr quint64 blockSize = 8;
+constexpr quint64 mostBlocks = 16; // longer registers hold no conditions
+
+/*! The engine's errors are of no interest here, only whether there was one. */
+class Failure
+{
+public:
+    Failure() = default;
+    ~Failure() { g_clear_error(&m_error); }
+    Q_DISABLE_COPY_MOVE(Failure)
+
+    operator GError **() { return &m_error; }
+    bool isSet() const { return m_error != nullptr; }
+
+private:
+    GError *m_error = nullptr;
+};
+
+std::optional<qint64> integerValue(ArvGcNode *node)
+{
+    Failure failure;
+    std::optional<qint64> value;
+    if (ARV_IS_GC_BOOLEAN(node)) {
+        value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(node), failure);
+    } else if (ARV_IS_GC_INTEGER(node)) {
+        value = arv_gc_integer_get_value(ARV_GC_INTEGER(node), failure);
+    } else if (ARV_IS_GC_FLOAT(node)) {
+        value = qint64(std::clamp(arv_gc_float_get_value(ARV_GC_FLOAT(node), failure), -9e18, 9e18));
+    }
+    return failure.isSet() ? std::nullopt : value;
+}
+
+// Registers may overlap in part.
+QList<quint64> blocksOf(ArvGcNode *node)
+{
+    auto *register_ = ARV_IS_GC_REGISTER(node) ? node : ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(node)));
+    if (!ARV_IS_GC_REGISTER(register_)) {
+        return {};
+    }
+    Failure failure;
+    const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(register_), failure);
+    const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(register_), failure);
+    QList<quint64> blocks;
+    const quint64 first = address / blockSize;
+    for (quint64 i = 0; !failure.isSet() && length > 0 && i <= (address % blockSize + length - 1) / blockSize
+         && i < mostBlocks;
+         ++i) {
+        blocks.append(first + i);
+    }
+    return blocks;
+}
+
+} // namespace
+
+/*! \brief Walks from the nodes of a wish to the leaves. */
+class WishSearch::Collector
+{
+public:
+    explicit Collector(WishSearch &search)
+        : m_search(search)
+    {
+    }
+
+    Sources collected(const QList<int> &nodes)
+    {
+        for (const int node : nodes) {
+            visit(node, {}, true);
+        }
+        return std::move(m_sources);
+    }
+
+private:
+    void visit(int node, const QList<qint64> &hints, bool mayTurn)
+    {
+        ArvGcNode *engine = m_search.engineNode(node);
+        if (!engine || m_visited.size() > mostNodesPerWish) {
+            return;
+        }
+        const bool isRegister = ARV_IS_GC_REGISTER(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine);
+        if (isRegister || m_search.isState(node)) {
+            visitLeaf(node, hints, mayTurn);
+        }
+        if (m_visited.contains(node)) {
+            return;
+        }
+        m_visited.insert(node);
+        const auto formulaNumbers = formulaHints(engine);
+        for (const LinkKind kind : {LinkKind::Value, LinkKind::Evaluated}) {
+            for (const int next : m_search.m_description.linked(node, kind)) {
+                // What gives a register its address is better left alone.
+                const auto numbers = formulaNumbers.value(m_search.m_description.name(next).toUtf8());
+                visit(next, kind == LinkKind::Value ? hints + numbers : numbers, mayTurn && !isRegister);
+            }
+        }
+    }
+
+    void visitLeaf(int node, const QList<qint64> &hints, bool mayTurn)
+    {
+        if (!m_sources.leaves.contains(node)) {
+            m_sources.leaves.append(node);
+            if (mayTurn && int(m_sources.knobs.size()) < mostKnobs && integerValue(m_search.engineNode(node))) {
+                m_knobs.insert(node, m_sources.knobs.size());
+                m_sources.knobs.push_back({node, {}});
+            }
+        }
+        const auto knob = m_knobs.constFind(node);
+        if (knob != m_knobs.constEnd()) {
+            m_sources.knobs[*knob].hints += hints;
+        }
+    }
+
+    WishSearch &m_search;
+    Sources m_sources;
+    QHash<int, size_t> m_knobs;
+    QSet<int> m_visited;
+};
+
+/*! \brief Takes back what is done to some leaves, unless it is kept. */
+class WishSearch::Trial
+{
+public:
+    Trial(WishSearch &search, const QList<int> &leaves)
+        : m_search(search)
+    {
+        for (const int node : leaves) {
+            if (!search.leaf(node).isRegister) {
+                m_before.append({node, integerValue(search.leaf(node).engine).value_or(0)});
+            }
+        }
+        search.m_registers.beginTrial();
+    }
+    ~Trial()
+    {
+        m_search.m_registers.endTrial(m_isKept);
+        for (const Setting &before : std::as_const(m_before)) {
+            if (!m_isKept) {
+                m_search.set(before.leaf, before.value);
+            }
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Trial)
+
+    void keep()
+    {
+        m_isKept = true;
+        ++m_search.m_changes;
+    }
+
+private:
+    WishSearch &m_search;
+    QList<Setting> m_before; // the engine itself holds these
+    bool m_isKept = false;
+};
+
+WishSearch::WishSearch(ArvDevice *device, const Description &description, SimulatedRegisters &registers)
+    : m_device(device)
+    , m_description(description)
+    , m_registers(registers)
+    , m_engineNodes(size_t(description.nodeCount()))
+    , m_end(std::chrono::steady_clock::now() + searchTime)
+    , m_evaluations(int(description.published().size()) * evaluationsPerFeature)
+{
+    for (const int published : description.published()) {
+        ArvGcNode *engine = engineNode(published);
+        if (!engine || ARV_IS_GC_CATEGORY(engine) || ARV_IS_GC_COMMAND(engine)
+            || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(engine))
+                == ARV_GC_ACCESS_MODE_RO) {
+            continue;
+        }
+        int last = published;
+        for (int next = last; next >= 0 && engineNode(next); next = m_description.valueNode(next)) {
+            last = next;
+        }
+        m_states.insert(last);
+    }
+    collectEntryValues();
+}
+
+WishSearch::~WishSearch() = default;
+
+// A register behind an enumeration should hold nothing else.
+void WishSearch::collectEntryValues()
+{
+    for (const int published : m_description.published()) {
+        ArvGcNode *engine = engineNode(published);
+        if (!ARV_IS_GC_ENUMERATION(engine)) {
+            continue;
+        }
+        int last = published;
+        for (int next = last; next >= 0 && engineNode(next); next = m_description.valueNode(next)) {
+            last = next;
+        }
+        QList<qint64> values;
+        for (const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(engine)); entry;
+             entry = entry->next) {
+            Failure failure;
+            const qint64 value = arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry->data), failure);
+            if (!failure.isSet()) {
+                values.prepend(value);
+            }
+        }
+        m_entryValues[last] += values;
+    }
+}
+
+ArvGcNode *WishSearch::engineNode(int node) const
+{
+    auto &found = m_engineNodes[size_t(node)];
+    if (!found) {
+        const bool isEvaluable =
+            !m_description.isBroken(node) && m_description.sizedRegisters(node).isEmpty();
+        ArvGcNode *engine = isEvaluable ? arv_gc_get_node(arv_device_get_genicam(m_device),
+                                                          m_description.name(node).toUtf8().constData())
+                                        : nullptr;
+        found = ARV_IS_GC_FEATURE_NODE(engine) ? engine : nullptr;
+    }
+    return *found;
+}
+
+bool WishSearch::isState(int node) const
+{
+    return m_states.contains(node) && m_description.valueNode(node) < 0;
+}
+
+const WishSearch::Leaf &WishSearch::leaf(int node)
+{
+    auto found = m_leaves.find(node);
+    if (found != m_leaves.end()) {
+        return *found;
+    }
+    Leaf leaf;
+    leaf.engine = engineNode(node);
+    leaf.isRegister = ARV_IS_GC_REGISTER(leaf.engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(leaf.engine);
+    leaf.blocks = leaf.isRegister ? blocksOf(leaf.engine)
+                                  : QList<quint64>{std::numeric_limits<quint64>::max() - quint64(node)};
+    Failure failure;
+    if (ARV_IS_GC_INTEGER(leaf.engine)) {
+        leaf.largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
+    } else if (ARV_IS_GC_FLOAT(leaf.engine)) {
+        leaf.largest = std::numeric_limits<qint32>::max();
+    }
+    return *m_leaves.insert(node, leaf);
+}
+
+int WishSearch::changeCount() const
+{
+    return m_changes;
+}
+
+bool WishSearch::mayGoOn() const
+{
+    return m_evaluations > 0 && m_wishEvaluations > 0 && std::chrono::steady_clock::now() < m_end;
+}
+
+bool WishSearch::grant(const Wish &wish)
+{
+    const bool isTrue = wish.isTrue();
+    if (std::chrono::steady_clock::now() >= m_end) {
+        return isTrue;
+    }
+    const Sources sources = Collector(*this).collected(wish.nodes);
+    m_wishEvaluations = mostEvaluationsPerWish;
+    if (!isTrue && !search(wish, sources)) {
+        return false;
+    }
+    keep(wish, sources);
+    return true;
+}
+
+void WishSearch::keep(const Wish &wish, const Sources &sources)
+{
+    const int granted = int(m_granted.size());
+    m_granted.push_back(wish.isTrue);
+    for (const int node : sources.leaves) {
+        for (const quint64 block : leaf(node).blocks) {
+            m_grantedAt[block].insert(granted);
+        }
+    }
+}
+
+bool WishSearch::search(const Wish &wish, const Sources &sources)
+{
+    std::vector<QList<qint64>> choices;
+    for (const Knob &knob : sources.knobs) {
+        choices.push_back(candidates(knob, wish));
+    }
+    return trySingles(wish, sources.knobs, choices) || tryAllAlike(wish, sources.knobs, choices)
+        || tryPairs(wish, sources.knobs, choices);
+}
+
+QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
+{
+    const Leaf &place = leaf(knob.leaf);
+    QList<qint64> wanted = wish.values + knob.hints;
+    for (const qint64 hint : knob.hints) {
+        wanted += {qint64(quint64(hint) + 1), qint64(quint64(hint) - 1)};
+    }
+    wanted += {1, 0, place.largest, 2, 3, 4};
+    for (int bit = 3; bit < 16; ++bit) {
+        wanted.append(qint64(1) << bit);
+    }
+    const auto entries = m_entryValues.constFind(knob.leaf);
+    if (entries != m_entryValues.constEnd()) {
+        wanted += *entries;
+    }
+    QList<qint64> chosen;
+    const auto now = integerValue(place.engine);
+    for (const qint64 value : std::as_const(wanted)) {
+        const bool isPossible =
+            entries != m_entryValues.constEnd() ? entries->contains(value) : value <= place.largest;
+        if (isPossible && value != now && !chosen.contains(value) && chosen.size() < mostChoices) {
+            chosen.append(value);
+        }
+    }
+    return chosen;
+}
+
+bool WishSearch::trySingles(const Wish &wish, const std::vector<Knob> &knobs,
+                            const std::vector<QList<qint64>> &choices)
+{
+    for (size_t i = 0; i < knobs.size(); ++i) {
+        for (const qint64 value : choices[i]) {
+            if (trySettings(wish, {{knobs[i].leaf, value}})) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool WishSearch::tryAllAlike(const Wish &wish, const std::vector<Knob> &knobs,
+                             const std::vector<QList<qint64>> &choices)
+{
+    for (int choice = 0; choice < mostPairedChoices; ++choice) {
+        std::vector<Setting> settings;
+        for (size_t i = 0; i < knobs.size(); ++i) {
+            if (choice < choices[i].size()) {
+                settings.push_back({knobs[i].leaf, choices[i][choice]});
+            }
+        }
+        if (settings.size() < 2 || !trySettings(wish, settings)) {
+            continue;
+        }
+        return true;
+    }
+    return false;
+}
+
+bool WishSearch::tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
+                          const std::vector<QList<qint64>> &choices)
+{
+    const size_t count = std::min<size_t>(knobs.size(), mostPairedKnobs);
+    for (size_t one = 0; one < count; ++one) {
+        for (size_t other = one + 1; other < count; ++other) {
+            for (const qint64 first : choices[one].first(std::min<qsizetype>(choices[one].size(), mostPairedChoices))) {
+                for (const qint64 second : choices[other].first(std::min<qsizetype>(choices[other].size(), mostPairedChoices))) {
+                    if (trySettings(wish, {{knobs[one].leaf, first}, {knobs[other].leaf, second}})) {
+                        return true;
+                    }
+                }
+            }
+        }
+    }
+    return false;
+}
+
+bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &settings)
+{
+    if (!mayGoOn()) {
+        return false;
+    }
+    --m_evaluations;
+    --m_wishEvaluations;
+    QList<int> leaves;
+    for (const Setting &setting : settings) {
+        leaves.append(setting.leaf);
+    }
+    Trial trial(*this, leaves);
+    for (const Setting &setting : settings) {
+        if (!set(setting.leaf, setting.value)) {
+            return false;
+        }
+    }
+    if (!wish.isTrue() || !areGrantedTrue(leaves)) {
+        return false;
+    }
+    trial.keep();
+    return true;
+}
+
+bool WishSearch::tryWrite(int node, const std::function<void()> &write,
+                          const std::function<bool()> &isWanted)
+{
+    if (std::chrono::steady_clock::now() >= m_end) {
+        return false;
+    }
+    const Sources sources = Collector(*this).collected({node});
+    Trial trial(*this, sources.leaves);
+    write();
+    if (!isWanted() || !areGrantedTrue(sources.leaves)) {
+        return false;
+    }
+    trial.keep();
+    return true;
+}
+
+bool WishSearch::set(int node, qint64 value)
+{
+    ArvGcNode *engine = leaf(node).engine;
+    Failure failure;
+    if (ARV_IS_GC_BOOLEAN(engine)) {
+        arv_gc_boolean_set_value(ARV_GC_BOOLEAN(engine), value != 0, failure);
+    } else if (ARV_IS_GC_INTEGER(engine)) {
+        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), value, failure);
+    } else if (ARV_IS_GC_FLOAT(engine)) {
+        arv_gc_float_set_value(ARV_GC_FLOAT(engine), double(value), failure);
+    } else {
+        return false;
+    }
+    return !failure.isSet();
+}
+
+bool WishSearch::areGrantedTrue(const QList<int> &changedLeaves)
+{
+    QSet<int> affected;
+    for (const int node : changedLeaves) {
+        for (const quint64 block : leaf(node).blocks) {
+            affected += m_grantedAt.value(block);
+        }
+    }
+    return std::all_of(affected.cbegin(), affected.cend(), [this](int granted) {
+        --m_evaluations;
+        return m_granted[size_t(granted)]();
+    });
+}
+
+} // namespace Cameras
