@@ -102,6 +102,7 @@ public:
     {
         for (int round = 0, changes = -1; round < mostRounds && m_search.changeCount() != changes; ++round) {
             changes = m_search.changeCount();
+            m_refused.clear();
             forEach([this](int node, ArvGcNode *) { wishForConditions(node); });
             forEach([this](int node, ArvGcNode *engine) { wishForEntries(node, engine); });
             forEach([this](int node, ArvGcNode *engine) { chooseEntry(node, engine); });
@@ -120,17 +121,15 @@ private:
         }
     }
 
-    /*! As WishSearch::grant(), but for what was granted before under the same \a key. */
-    bool grant(const std::pair<int, LinkKind> &key, const Wish &wish)
+    /*! As WishSearch::grant(), but for what was granted before, or refused in this round, under the same
+     * \a key. */
+    void grant(const std::pair<int, LinkKind> &key, const Wish &wish)
     {
-        if (m_granted.contains(key)) {
-            return true;
+        if (m_granted.contains(key) || m_refused.contains(key)) {
+            return;
         }
         const bool isGranted = m_search.grant(wish);
-        if (isGranted) {
-            m_granted.insert(key);
-        }
-        return isGranted;
+        (isGranted ? m_granted : m_refused).insert(key);
     }
 
     // A node and those that hold its value.
@@ -304,15 +303,21 @@ private:
         if (isWithinLimits(engine) && !(isExtent && asked(arv_gc_integer_get_value, engine) == *minimum)) {
             return;
         }
+        const quint64 increment = quint64(std::max<qint64>(asked(arv_gc_integer_get_inc, engine).value_or(1), 1));
+        const quint64 steps = (quint64(*maximum) - quint64(*minimum)) / increment;
+        const auto at = [minimum, increment](quint64 step) { return qint64(quint64(*minimum) + step * increment); };
         // The offsets of an image need room as well.
-        const qint64 increment = std::max<qint64>(asked(arv_gc_integer_get_inc, engine).value_or(1), 1);
-        const quint64 steps = (quint64(*maximum) - quint64(*minimum)) / quint64(increment) / 2;
-        const qint64 value = isExtent ? qint64(quint64(*minimum) + steps * quint64(increment)) : *minimum;
-        const auto put = [engine, value] {
-            Failure failure;
-            arv_gc_integer_set_value(engine, value, failure);
-        };
-        m_search.tryWrite(node, put, [engine] { return isWithinLimits(engine); });
+        const QList<qint64> values =
+            isExtent ? QList<qint64>{at(steps / 2)} : QList<qint64>{at(0), at(steps), at(steps / 2)};
+        for (const qint64 value : values) {
+            const auto put = [engine, value] {
+                Failure failure;
+                arv_gc_integer_set_value(engine, value, failure);
+            };
+            if (m_search.tryWrite(node, put, [engine] { return isWithinLimits(engine); })) {
+                return;
+            }
+        }
     }
 
     void wishForFloat(int node, ArvGcFloat *engine)
@@ -340,6 +345,7 @@ private:
     const Description &m_description;
     WishSearch m_search;
     std::set<std::pair<int, LinkKind>> m_granted;
+    std::set<std::pair<int, LinkKind>> m_refused;
 };
 
 } // namespace

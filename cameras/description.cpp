@@ -802,6 +802,11 @@ bool Description::isBroken(int node) const
     return m_isBroken[node];
 }
 
+int Description::evaluations(int node) const
+{
+    return m_nodes[node].evaluations;
+}
+
 qint64 Description::registerBytes() const
 {
     return m_registerBytes;

@@ -95,6 +95,8 @@ public:
     /*! Returns whether evaluating \a node leads into a circle of links, to a node that is missing or to a
      * register of an impossible length, or takes far too many steps. */
     bool isBroken(int node) const;
+    /*! Returns how many evaluations reading the value of \a node takes, counted up to a bound. */
+    int evaluations(int node) const;
     /*! Returns whether the register \a node can be \a length bytes long at some time. */
     bool isPossibleLength(int node, qint64 length) const;
     /*! Returns the bytes of all registers that are read and have their length stated. */

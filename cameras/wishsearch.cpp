@@ -17,9 +17,10 @@ namespace {
 
 using LinkKind = Description::LinkKind;
 
-constexpr auto searchTime = std::chrono::seconds(1);
-constexpr int evaluationsPerFeature = 100; // of all searches together
-constexpr int mostEvaluationsPerWish = 500;
+// What is found must not depend on how busy the machine is: the time is for what nobody foresaw.
+constexpr auto searchTime = std::chrono::seconds(3);
+constexpr int mostEvaluationsInAll = 300000;
+constexpr int mostEvaluationsPerWish = 5000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
 constexpr int mostPairedKnobs = 10;
@@ -88,11 +89,9 @@ public:
     {
     }
 
-    Sources collected(const QList<int> &nodes)
+    Sources collected(int node)
     {
-        for (const int node : nodes) {
-            visit(node, {}, true);
-        }
+        visit(node, {}, true);
         return std::move(m_sources);
     }
 
@@ -185,25 +184,35 @@ WishSearch::WishSearch(ArvDevice *device, const Description &description, Simula
     , m_registers(registers)
     , m_engineNodes(size_t(description.nodeCount()))
     , m_end(std::chrono::steady_clock::now() + searchTime)
-    , m_evaluations(int(description.published().size()) * evaluationsPerFeature)
+    , m_evaluations(mostEvaluationsInAll)
 {
-    for (const int published : description.published()) {
+    collectStates();
+    collectEntryValues();
+}
+
+WishSearch::~WishSearch() = default;
+
+// Returns the node that holds the value of the node in the end.
+int WishSearch::lastOf(int node) const
+{
+    for (int next = node; next >= 0 && engineNode(next); next = m_description.valueNode(next)) {
+        node = next;
+    }
+    return node;
+}
+
+void WishSearch::collectStates()
+{
+    for (const int published : m_description.published()) {
         ArvGcNode *engine = engineNode(published);
         if (!engine || ARV_IS_GC_CATEGORY(engine) || ARV_IS_GC_COMMAND(engine)
             || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(engine))
                 == ARV_GC_ACCESS_MODE_RO) {
             continue;
         }
-        int last = published;
-        for (int next = last; next >= 0 && engineNode(next); next = m_description.valueNode(next)) {
-            last = next;
-        }
-        m_states.insert(last);
+        m_states.insert(lastOf(published));
     }
-    collectEntryValues();
 }
-
-WishSearch::~WishSearch() = default;
 
 // A register behind an enumeration should hold nothing else.
 void WishSearch::collectEntryValues()
@@ -212,10 +221,6 @@ void WishSearch::collectEntryValues()
         ArvGcNode *engine = engineNode(published);
         if (!ARV_IS_GC_ENUMERATION(engine)) {
             continue;
-        }
-        int last = published;
-        for (int next = last; next >= 0 && engineNode(next); next = m_description.valueNode(next)) {
-            last = next;
         }
         QList<qint64> values;
         for (const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(engine)); entry;
@@ -226,7 +231,7 @@ void WishSearch::collectEntryValues()
                 values.prepend(value);
             }
         }
-        m_entryValues[last] += values;
+        m_entryValues[lastOf(published)] += values;
     }
 }
 
@@ -274,30 +279,70 @@ int WishSearch::changeCount() const
     return m_changes;
 }
 
-bool WishSearch::mayGoOn() const
+const WishSearch::Sources &WishSearch::sources(int node)
 {
+    auto found = m_sources.find(node);
+    if (found == m_sources.end()) {
+        found = m_sources.insert(node, Collector(*this).collected(node));
+    }
+    return *found;
+}
+
+WishSearch::Sources WishSearch::sources(const QList<int> &nodes)
+{
+    Sources all;
+    for (const int node : nodes) {
+        const Sources &some = sources(node);
+        for (const int leaf : some.leaves) {
+            if (!all.leaves.contains(leaf)) {
+                all.leaves.append(leaf);
+            }
+        }
+        for (const Knob &knob : some.knobs) {
+            const bool isNew = std::none_of(all.knobs.begin(), all.knobs.end(),
+                                            [&knob](const Knob &other) { return other.leaf == knob.leaf; });
+            if (isNew && all.knobs.size() < mostKnobs) {
+                all.knobs.push_back(knob);
+            }
+        }
+    }
+    return all;
+}
+
+int WishSearch::cost(const QList<int> &nodes) const
+{
+    int cost = 1;
+    for (const int node : nodes) {
+        cost += m_description.evaluations(node);
+    }
+    return cost;
+}
+
+bool WishSearch::spend(int cost)
+{
+    m_evaluations -= cost;
+    m_wishEvaluations -= cost;
     return m_evaluations > 0 && m_wishEvaluations > 0 && std::chrono::steady_clock::now() < m_end;
 }
 
 bool WishSearch::grant(const Wish &wish)
 {
-    const bool isTrue = wish.isTrue();
-    if (std::chrono::steady_clock::now() >= m_end) {
-        return isTrue;
-    }
-    const Sources sources = Collector(*this).collected(wish.nodes);
     m_wishEvaluations = mostEvaluationsPerWish;
-    if (!isTrue && !search(wish, sources)) {
+    if (!spend(cost(wish.nodes))) {
         return false;
     }
-    keep(wish, sources);
+    const Sources found = sources(wish.nodes);
+    if (!wish.isTrue() && !search(wish, found)) {
+        return false;
+    }
+    keep(wish, found);
     return true;
 }
 
 void WishSearch::keep(const Wish &wish, const Sources &sources)
 {
     const int granted = int(m_granted.size());
-    m_granted.push_back(wish.isTrue);
+    m_granted.push_back({wish.isTrue, cost(wish.nodes)});
     for (const int node : sources.leaves) {
         for (const quint64 block : leaf(node).blocks) {
             m_grantedAt[block].insert(granted);
@@ -393,11 +438,9 @@ bool WishSearch::tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
 
 bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &settings)
 {
-    if (!mayGoOn()) {
+    if (!spend(cost(wish.nodes))) {
         return false;
     }
-    --m_evaluations;
-    --m_wishEvaluations;
     QList<int> leaves;
     for (const Setting &setting : settings) {
         leaves.append(setting.leaf);
@@ -418,13 +461,14 @@ bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &setti
 bool WishSearch::tryWrite(int node, const std::function<void()> &write,
                           const std::function<bool()> &isWanted)
 {
-    if (std::chrono::steady_clock::now() >= m_end) {
+    m_wishEvaluations = mostEvaluationsPerWish;
+    if (!spend(cost({node}))) {
         return false;
     }
-    const Sources sources = Collector(*this).collected({node});
-    Trial trial(*this, sources.leaves);
+    const QList<int> leaves = sources(node).leaves;
+    Trial trial(*this, leaves);
     write();
-    if (!isWanted() || !areGrantedTrue(sources.leaves)) {
+    if (!isWanted() || !areGrantedTrue(leaves)) {
         return false;
     }
     trial.keep();
@@ -447,17 +491,17 @@ bool WishSearch::set(int node, qint64 value)
     return !failure.isSet();
 }
 
-bool WishSearch::areGrantedTrue(const QList<int> &changedLeaves)
+bool WishSearch::areGrantedTrue(const QList<int> &leaves)
 {
     QSet<int> affected;
-    for (const int node : changedLeaves) {
+    for (const int node : leaves) {
         for (const quint64 block : leaf(node).blocks) {
             affected += m_grantedAt.value(block);
         }
     }
     return std::all_of(affected.cbegin(), affected.cend(), [this](int granted) {
-        --m_evaluations;
-        return m_granted[size_t(granted)]();
+        const Granted &wish = m_granted[size_t(granted)];
+        return spend(wish.cost) && wish.isTrue();
     });
 }
 

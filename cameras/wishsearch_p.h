@@ -76,6 +76,12 @@ private:
         QList<int> leaves; //!< all
     };
 
+    struct Granted
+    {
+        std::function<bool()> isTrue;
+        int cost;
+    };
+
     class Collector;
     class Trial;
     struct Setting
@@ -84,7 +90,11 @@ private:
         qint64 value;
     };
 
+    void collectStates();
     void collectEntryValues();
+    const Sources &sources(int node);
+    Sources sources(const QList<int> &nodes);
+    int lastOf(int node) const;
     bool isState(int node) const;
     const Leaf &leaf(int node);
     QList<qint64> candidates(const Knob &knob, const Wish &wish);
@@ -97,8 +107,9 @@ private:
     bool tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
                   const std::vector<QList<qint64>> &choices);
     bool set(int leaf, qint64 value);
-    bool areGrantedTrue(const QList<int> &changedLeaves);
-    bool mayGoOn() const;
+    bool areGrantedTrue(const QList<int> &leaves);
+    int cost(const QList<int> &nodes) const;
+    bool spend(int cost);
     void keep(const Wish &wish, const Sources &sources);
 
     ArvDevice *m_device;
@@ -108,11 +119,12 @@ private:
     QHash<int, Leaf> m_leaves;
     QHash<int, QList<qint64>> m_entryValues; //!< of enumerations, by the leaf that holds them
     QSet<int> m_states; //!< nodes whose value in the description is no constant
-    std::vector<std::function<bool()>> m_granted;
+    std::vector<Granted> m_granted;
+    QHash<int, Sources> m_sources;
     QHash<quint64, QSet<int>> m_grantedAt; //!< by the block that they depend on
     std::chrono::steady_clock::time_point m_end;
-    int m_evaluations = 0;
-    int m_wishEvaluations = 0;
+    int m_evaluations; //!< that all searches may still take
+    int m_wishEvaluations = 0; //!< that the present search may
     int m_changes = 0;
 };
 
