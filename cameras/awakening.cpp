@@ -14,6 +14,7 @@
 #include <cmath>
 #include <functional>
 #include <optional>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -25,6 +26,9 @@ using LinkKind = Description::LinkKind;
 
 constexpr int mostRounds = 3; // what comes later may give what came before a second chance
 constexpr int longestChain = 20;
+constexpr int featureEffort = 300;
+constexpr int entryEffort = 60;
+constexpr int mostEntriesTried = 12;
 
 /*! \brief Receives the engine's error of one question. */
 class Failure
@@ -102,7 +106,6 @@ public:
     {
         for (int round = 0, changes = -1; round < mostRounds && m_search.changeCount() != changes; ++round) {
             changes = m_search.changeCount();
-            m_refused.clear();
             forEach([this](int node, ArvGcNode *) { wishForConditions(node); });
             forEach([this](int node, ArvGcNode *engine) { wishForEntries(node, engine); });
             forEach([this](int node, ArvGcNode *engine) { chooseEntry(node, engine); });
@@ -111,6 +114,8 @@ public:
     }
 
 private:
+    using Key = std::pair<int, LinkKind>;
+
     template <typename Function>
     void forEach(Function function)
     {
@@ -121,15 +126,25 @@ private:
         }
     }
 
-    /*! As WishSearch::grant(), but for what was granted before, or refused in this round, under the same
-     * \a key. */
-    void grant(const std::pair<int, LinkKind> &key, const Wish &wish)
+    /*! As WishSearch::grant(), but for what was granted before under the same \a key, or was refused and would
+     * be so again. */
+    void grant(const Key &key, const Wish &wish)
     {
-        if (m_granted.contains(key) || m_refused.contains(key)) {
+        if (!isWorthwhile(key, wish.nodes)) {
             return;
         }
-        const bool isGranted = m_search.grant(wish);
-        (isGranted ? m_granted : m_refused).insert(key);
+        if (m_search.grant(wish)) {
+            m_granted.insert(key);
+        } else {
+            m_refused[key] = m_search.changeCount();
+        }
+    }
+
+    bool isWorthwhile(const Key &key, const QList<int> &nodes)
+    {
+        const auto refused = m_refused.find(key);
+        return !m_granted.contains(key)
+            && (refused == m_refused.end() || m_search.isChangedSince(refused->second, nodes));
     }
 
     // A node and those that hold its value.
@@ -146,28 +161,28 @@ private:
     {
         for (const int part : chain(node)) {
             if (ArvGcNode *engine = m_search.engineNode(part)) {
-                wishForConditions(part, engine);
+                wishForConditions(part, engine, featureEffort);
             }
         }
     }
 
-    void wishForConditions(int node, ArvGcNode *engine)
+    void wishForConditions(int node, ArvGcNode *engine, int effort)
     {
         ArvGcFeatureNode *feature = ARV_GC_FEATURE_NODE(engine);
         wishForCondition(node, LinkKind::Implemented,
-                         [feature] { return asked(arv_gc_feature_node_is_implemented, feature) == TRUE; });
+                         [feature] { return asked(arv_gc_feature_node_is_implemented, feature) == TRUE; }, effort);
         wishForCondition(node, LinkKind::Available,
-                         [feature] { return asked(arv_gc_feature_node_is_available, feature) == TRUE; });
+                         [feature] { return asked(arv_gc_feature_node_is_available, feature) == TRUE; }, effort);
         wishForCondition(node, LinkKind::Locked,
-                         [feature] { return asked(arv_gc_feature_node_is_locked, feature) == FALSE; });
+                         [feature] { return asked(arv_gc_feature_node_is_locked, feature) == FALSE; }, effort);
     }
 
-    void wishForCondition(int node, LinkKind kind, const std::function<bool()> &isTrue)
+    void wishForCondition(int node, LinkKind kind, const std::function<bool()> &isTrue, int effort)
     {
         for (const int condition : m_description.linked(node, kind)) {
             const bool isLock = kind == LinkKind::Locked;
             grant({condition, isLock ? kind : LinkKind::Available},
-                  {isTrue, {condition}, {isLock ? 0 : 1}});
+                  {isTrue, {condition}, {isLock ? 0 : 1}, effort});
         }
     }
 
@@ -190,7 +205,7 @@ private:
         const auto entries = entriesOf(engine);
         const QList<int> nodes = m_description.linked(node, LinkKind::Entry);
         for (qsizetype i = 0; i < std::min(entries.size(), nodes.size()); ++i) {
-            wishForConditions(nodes[i], entries[i]);
+            wishForConditions(nodes[i], entries[i], entryEffort);
         }
     }
 
@@ -209,14 +224,19 @@ private:
 
     void chooseEntry(int node, ArvGcNode *engine)
     {
-        if (!ARV_IS_GC_ENUMERATION(engine) || !isAvailable(engine)) {
+        const Key key{node, LinkKind::Entry};
+        if (!ARV_IS_GC_ENUMERATION(engine) || !isAvailable(engine) || !isWorthwhile(key, {node})) {
             return;
         }
+        int tried = 0;
         ArvGcEnumeration *enumeration = ARV_GC_ENUMERATION(engine);
         for (ArvGcNode *entry : entriesOf(engine)) {
             const auto value = asked(arv_gc_enum_entry_get_value, ARV_GC_ENUM_ENTRY(entry));
             if (!value || !isAvailable(entry)) {
                 continue;
+            }
+            if (++tried > mostEntriesTried) {
+                break;
             }
             const auto isChosen = [enumeration, value] {
                 return asked(arv_gc_enumeration_get_int_value, enumeration) == value;
@@ -229,6 +249,7 @@ private:
                 return;
             }
         }
+        m_refused[key] = m_search.changeCount();
     }
 
     QList<int> limits(int node, std::initializer_list<LinkKind> kinds) const
@@ -344,8 +365,8 @@ private:
 
     const Description &m_description;
     WishSearch m_search;
-    std::set<std::pair<int, LinkKind>> m_granted;
-    std::set<std::pair<int, LinkKind>> m_refused;
+    std::set<Key> m_granted;
+    std::map<Key, int> m_refused; //!< with the changes that there had been
 };
 
 } // namespace

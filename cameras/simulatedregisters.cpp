@@ -142,6 +142,22 @@ void SimulatedRegisters::beginTrial()
     m_overwritten.emplace();
 }
 
+QList<quint64> SimulatedRegisters::changedInTrial()
+{
+    const std::lock_guard lock(m_mutex);
+    QList<quint64> changed;
+    for (const auto &[address, before] : *m_overwritten) {
+        QByteArray now(before.size(), Qt::Uninitialized);
+        copy(address, now.size(), now.data());
+        for (qsizetype i = 0; i < now.size(); ++i) {
+            if (now[i] != before[i]) {
+                changed.append(address + quint64(i));
+            }
+        }
+    }
+    return changed;
+}
+
 void SimulatedRegisters::endTrial(bool keep)
 {
     const std::lock_guard lock(m_mutex);

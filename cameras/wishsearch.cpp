@@ -20,14 +20,12 @@ using LinkKind = Description::LinkKind;
 // What is found must not depend on how busy the machine is: the time is for what nobody foresaw.
 constexpr auto searchTime = std::chrono::seconds(3);
 constexpr int mostEvaluationsInAll = 300000;
-constexpr int mostEvaluationsPerWish = 5000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
 constexpr int mostPairedKnobs = 10;
 constexpr int mostChoices = 24;
 constexpr int mostPairedChoices = 5;
-constexpr quint64 blockSize = 8;
-constexpr quint64 mostBlocks = 16; // longer registers hold no conditions
+constexpr quint64 longestLeaf = 16; // in bytes; longer registers hold no conditions
 
 /*! The engine's errors are of no interest here, only whether there was one. */
 class Failure
@@ -58,24 +56,28 @@ std::optional<qint64> integerValue(ArvGcNode *node)
     return failure.isSet() ? std::nullopt : value;
 }
 
-// Registers may overlap in part.
-QList<quint64> blocksOf(ArvGcNode *node)
+// Of a value that the engine holds; no register is there.
+quint64 ownPlace(int node)
 {
-    auto *register_ = ARV_IS_GC_REGISTER(node) ? node : ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(node)));
-    if (!ARV_IS_GC_REGISTER(register_)) {
+    return std::numeric_limits<quint64>::max() - quint64(node);
+}
+
+// Registers may overlap in part.
+QList<quint64> bytesOf(ArvGcNode *node)
+{
+    ArvGcNode *place =
+        ARV_IS_GC_REGISTER(node) ? node : ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(node)));
+    if (!ARV_IS_GC_REGISTER(place)) {
         return {};
     }
     Failure failure;
-    const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(register_), failure);
-    const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(register_), failure);
-    QList<quint64> blocks;
-    const quint64 first = address / blockSize;
-    for (quint64 i = 0; !failure.isSet() && length > 0 && i <= (address % blockSize + length - 1) / blockSize
-         && i < mostBlocks;
-         ++i) {
-        blocks.append(first + i);
+    const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(place), failure);
+    const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(place), failure);
+    QList<quint64> bytes;
+    for (quint64 i = 0; !failure.isSet() && i < std::min(length, longestLeaf); ++i) {
+        bytes.append(address + i);
     }
-    return blocks;
+    return bytes;
 }
 
 } // namespace
@@ -170,11 +172,27 @@ public:
     {
         m_isKept = true;
         ++m_search.m_changes;
+        for (const quint64 byte : m_changed) {
+            m_search.m_changedAt[byte] = m_search.m_changes;
+        }
+    }
+
+    /*! Returns whether all that was granted before is still true. */
+    bool isHarmless()
+    {
+        m_changed = m_search.m_registers.changedInTrial();
+        for (const Setting &before : std::as_const(m_before)) {
+            if (integerValue(m_search.leaf(before.leaf).engine) != before.value) {
+                m_changed.append(ownPlace(before.leaf));
+            }
+        }
+        return m_search.areGrantedTrue(m_changed);
     }
 
 private:
     WishSearch &m_search;
     QList<Setting> m_before; // the engine itself holds these
+    QList<quint64> m_changed;
     bool m_isKept = false;
 };
 
@@ -263,8 +281,7 @@ const WishSearch::Leaf &WishSearch::leaf(int node)
     Leaf leaf;
     leaf.engine = engineNode(node);
     leaf.isRegister = ARV_IS_GC_REGISTER(leaf.engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(leaf.engine);
-    leaf.blocks = leaf.isRegister ? blocksOf(leaf.engine)
-                                  : QList<quint64>{std::numeric_limits<quint64>::max() - quint64(node)};
+    leaf.bytes = leaf.isRegister ? bytesOf(leaf.engine) : QList<quint64>{ownPlace(node)};
     Failure failure;
     if (ARV_IS_GC_INTEGER(leaf.engine)) {
         leaf.largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
@@ -321,13 +338,23 @@ int WishSearch::cost(const QList<int> &nodes) const
 bool WishSearch::spend(int cost)
 {
     m_evaluations -= cost;
-    m_wishEvaluations -= cost;
-    return m_evaluations > 0 && m_wishEvaluations > 0 && std::chrono::steady_clock::now() < m_end;
+    return m_evaluations > 0 && std::chrono::steady_clock::now() < m_end;
+}
+
+bool WishSearch::isChangedSince(int changeCount, const QList<int> &nodes)
+{
+    const QList<int> leaves = sources(nodes).leaves;
+    return std::any_of(leaves.cbegin(), leaves.cend(), [this, changeCount](int node) {
+        const QList<quint64> &bytes = leaf(node).bytes;
+        return std::any_of(bytes.cbegin(), bytes.cend(), [this, changeCount](quint64 byte) {
+            return m_changedAt.value(byte) > changeCount;
+        });
+    });
 }
 
 bool WishSearch::grant(const Wish &wish)
 {
-    m_wishEvaluations = mostEvaluationsPerWish;
+    m_tries = wish.effort;
     if (!spend(cost(wish.nodes))) {
         return false;
     }
@@ -344,8 +371,8 @@ void WishSearch::keep(const Wish &wish, const Sources &sources)
     const int granted = int(m_granted.size());
     m_granted.push_back({wish.isTrue, cost(wish.nodes)});
     for (const int node : sources.leaves) {
-        for (const quint64 block : leaf(node).blocks) {
-            m_grantedAt[block].insert(granted);
+        for (const quint64 byte : leaf(node).bytes) {
+            m_grantedAt[byte].insert(granted);
         }
     }
 }
@@ -438,7 +465,7 @@ bool WishSearch::tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
 
 bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &settings)
 {
-    if (!spend(cost(wish.nodes))) {
+    if (--m_tries < 0 || !spend(cost(wish.nodes))) {
         return false;
     }
     QList<int> leaves;
@@ -451,7 +478,7 @@ bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &setti
             return false;
         }
     }
-    if (!wish.isTrue() || !areGrantedTrue(leaves)) {
+    if (!wish.isTrue() || !trial.isHarmless()) {
         return false;
     }
     trial.keep();
@@ -461,14 +488,12 @@ bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &setti
 bool WishSearch::tryWrite(int node, const std::function<void()> &write,
                           const std::function<bool()> &isWanted)
 {
-    m_wishEvaluations = mostEvaluationsPerWish;
     if (!spend(cost({node}))) {
         return false;
     }
-    const QList<int> leaves = sources(node).leaves;
-    Trial trial(*this, leaves);
+    Trial trial(*this, sources(node).leaves);
     write();
-    if (!isWanted() || !areGrantedTrue(leaves)) {
+    if (!isWanted() || !trial.isHarmless()) {
         return false;
     }
     trial.keep();
@@ -491,13 +516,11 @@ bool WishSearch::set(int node, qint64 value)
     return !failure.isSet();
 }
 
-bool WishSearch::areGrantedTrue(const QList<int> &leaves)
+bool WishSearch::areGrantedTrue(const QList<quint64> &changed)
 {
     QSet<int> affected;
-    for (const int node : leaves) {
-        for (const quint64 block : leaf(node).blocks) {
-            affected += m_grantedAt.value(block);
-        }
+    for (const quint64 byte : changed) {
+        affected += m_grantedAt.value(byte);
     }
     return std::all_of(affected.cbegin(), affected.cend(), [this](int granted) {
         const Granted &wish = m_granted[size_t(granted)];

@@ -27,6 +27,7 @@ struct Wish
     std::function<bool()> isTrue; //!< asks the engine
     QList<int> nodes; //!< on whose values it depends
     QList<qint64> values; //!< that are tried first
+    int effort = 300; //!< how many tries it is worth
 };
 
 /*! \brief Makes wishes true by trying what simulated registers might hold.
@@ -52,13 +53,15 @@ public:
 
     /*! Returns how often something was changed for good. */
     int changeCount() const;
+    /*! Returns whether something that \a nodes depend on was changed after \a changeCount changes. */
+    bool isChangedSince(int changeCount, const QList<int> &nodes);
 
 private:
     /*! A place that holds a value. */
     struct Leaf
     {
         ArvGcNode *engine = nullptr;
-        QList<quint64> blocks; //!< of the register space
+        QList<quint64> bytes; //!< its addresses
         qint64 largest = 1;
         bool isRegister = false;
     };
@@ -107,7 +110,7 @@ private:
     bool tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
                   const std::vector<QList<qint64>> &choices);
     bool set(int leaf, qint64 value);
-    bool areGrantedTrue(const QList<int> &leaves);
+    bool areGrantedTrue(const QList<quint64> &changed);
     int cost(const QList<int> &nodes) const;
     bool spend(int cost);
     void keep(const Wish &wish, const Sources &sources);
@@ -121,10 +124,11 @@ private:
     QSet<int> m_states; //!< nodes whose value in the description is no constant
     std::vector<Granted> m_granted;
     QHash<int, Sources> m_sources;
-    QHash<quint64, QSet<int>> m_grantedAt; //!< by the block that they depend on
+    QHash<quint64, QSet<int>> m_grantedAt; //!< by the bytes that they depend on
+    QHash<quint64, int> m_changedAt; //!< number of the last change of a byte
     std::chrono::steady_clock::time_point m_end;
     int m_evaluations; //!< that all searches may still take
-    int m_wishEvaluations = 0; //!< that the present search may
+    int m_tries = 0; //!< that the present search may make
     int m_changes = 0;
 };
 
