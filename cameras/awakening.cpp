@@ -27,7 +27,7 @@ using LinkKind = Description::LinkKind;
 constexpr int mostRounds = 3; // what comes later may give what came before a second chance
 constexpr int longestChain = 20;
 constexpr int featureEffort = 300;
-constexpr int entryEffort = 60;
+constexpr int entryEffort = 40;
 constexpr int mostEntriesTried = 12;
 
 /*! \brief Receives the engine's error of one question. */

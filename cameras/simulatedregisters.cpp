@@ -142,17 +142,17 @@ void SimulatedRegisters::beginTrial()
     m_overwritten.emplace();
 }
 
-QList<quint64> SimulatedRegisters::changedInTrial()
+QHash<quint64, quint8> SimulatedRegisters::changedInTrial()
 {
     const std::lock_guard lock(m_mutex);
-    QList<quint64> changed;
-    for (const auto &[address, before] : *m_overwritten) {
+    QHash<quint64, quint8> changed;
+    // What was there first counts.
+    for (auto part = m_overwritten->crbegin(); part != m_overwritten->crend(); ++part) {
+        const auto &[address, before] = *part;
         QByteArray now(before.size(), Qt::Uninitialized);
         copy(address, now.size(), now.data());
         for (qsizetype i = 0; i < now.size(); ++i) {
-            if (now[i] != before[i]) {
-                changed.append(address + quint64(i));
-            }
+            changed[address + quint64(i)] = quint8(now[i] ^ before[i]);
         }
     }
     return changed;

@@ -8,7 +8,6 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QHash>
-#include <QList>
 
 #include <atomic>
 #include <mutex>
@@ -43,8 +42,8 @@ public:
 
     /*! Begins to remember what is overwritten from now on. */
     void beginTrial();
-    /*! Returns the addresses of the bytes that are others than when the trial began. */
-    QList<quint64> changedInTrial();
+    /*! Returns the bits that are others than when the trial began, by the addresses of their bytes. */
+    QHash<quint64, quint8> changedInTrial();
     /*! Ends what beginTrial() began. With \a keep what was written stays, else it is taken back. */
     void endTrial(bool keep);
 

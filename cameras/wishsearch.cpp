@@ -62,24 +62,6 @@ quint64 ownPlace(int node)
     return std::numeric_limits<quint64>::max() - quint64(node);
 }
 
-// Registers may overlap in part.
-QList<quint64> bytesOf(ArvGcNode *node)
-{
-    ArvGcNode *place =
-        ARV_IS_GC_REGISTER(node) ? node : ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(node)));
-    if (!ARV_IS_GC_REGISTER(place)) {
-        return {};
-    }
-    Failure failure;
-    const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(place), failure);
-    const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(place), failure);
-    QList<quint64> bytes;
-    for (quint64 i = 0; !failure.isSet() && i < std::min(length, longestLeaf); ++i) {
-        bytes.append(address + i);
-    }
-    return bytes;
-}
-
 } // namespace
 
 /*! \brief Walks from the nodes of a wish to the leaves. */
@@ -172,8 +154,10 @@ public:
     {
         m_isKept = true;
         ++m_search.m_changes;
-        for (const quint64 byte : m_changed) {
-            m_search.m_changedAt[byte] = m_search.m_changes;
+        for (const auto &[byte, bits] : m_changed.asKeyValueRange()) {
+            if (bits != 0) {
+                m_search.m_changedAt[byte] = m_search.m_changes;
+            }
         }
     }
 
@@ -183,7 +167,7 @@ public:
         m_changed = m_search.m_registers.changedInTrial();
         for (const Setting &before : std::as_const(m_before)) {
             if (integerValue(m_search.leaf(before.leaf).engine) != before.value) {
-                m_changed.append(ownPlace(before.leaf));
+                m_changed[ownPlace(before.leaf)] = 0xff;
             }
         }
         return m_search.areGrantedTrue(m_changed);
@@ -192,7 +176,7 @@ public:
 private:
     WishSearch &m_search;
     QList<Setting> m_before; // the engine itself holds these
-    QList<quint64> m_changed;
+    Bits m_changed;
     bool m_isKept = false;
 };
 
@@ -272,6 +256,32 @@ bool WishSearch::isState(int node) const
     return m_states.contains(node) && m_description.valueNode(node) < 0;
 }
 
+// Registers may overlap in part, and share their bytes.
+WishSearch::Bits WishSearch::bitsOf(int node)
+{
+    ArvGcNode *engine = engineNode(node);
+    if (ARV_IS_GC_MASKED_INT_REG_NODE(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine)) {
+        m_registers.beginTrial();
+        Failure failure;
+        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), -1, failure);
+        Bits bits = m_registers.changedInTrial();
+        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), 0, Failure());
+        for (const auto &[address, changed] : m_registers.changedInTrial().asKeyValueRange()) {
+            bits[address] |= changed;
+        }
+        m_registers.endTrial(false);
+        return bits;
+    }
+    Failure failure;
+    const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(engine), failure);
+    const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(engine), failure);
+    Bits bits;
+    for (quint64 i = 0; !failure.isSet() && i < std::min(length, longestLeaf); ++i) {
+        bits[address + i] = 0xff;
+    }
+    return bits;
+}
+
 const WishSearch::Leaf &WishSearch::leaf(int node)
 {
     auto found = m_leaves.find(node);
@@ -281,7 +291,7 @@ const WishSearch::Leaf &WishSearch::leaf(int node)
     Leaf leaf;
     leaf.engine = engineNode(node);
     leaf.isRegister = ARV_IS_GC_REGISTER(leaf.engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(leaf.engine);
-    leaf.bytes = leaf.isRegister ? bytesOf(leaf.engine) : QList<quint64>{ownPlace(node)};
+    leaf.bits = leaf.isRegister ? bitsOf(node) : Bits{{ownPlace(node), 0xff}};
     Failure failure;
     if (ARV_IS_GC_INTEGER(leaf.engine)) {
         leaf.largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
@@ -345,8 +355,8 @@ bool WishSearch::isChangedSince(int changeCount, const QList<int> &nodes)
 {
     const QList<int> leaves = sources(nodes).leaves;
     return std::any_of(leaves.cbegin(), leaves.cend(), [this, changeCount](int node) {
-        const QList<quint64> &bytes = leaf(node).bytes;
-        return std::any_of(bytes.cbegin(), bytes.cend(), [this, changeCount](quint64 byte) {
+        const Bits &bits = leaf(node).bits;
+        return std::any_of(bits.keyBegin(), bits.keyEnd(), [this, changeCount](quint64 byte) {
             return m_changedAt.value(byte) > changeCount;
         });
     });
@@ -371,8 +381,8 @@ void WishSearch::keep(const Wish &wish, const Sources &sources)
     const int granted = int(m_granted.size());
     m_granted.push_back({wish.isTrue, cost(wish.nodes)});
     for (const int node : sources.leaves) {
-        for (const quint64 byte : leaf(node).bytes) {
-            m_grantedAt[byte].insert(granted);
+        for (const auto &[byte, bits] : leaf(node).bits.asKeyValueRange()) {
+            m_grantedAt[byte].push_back({granted, bits});
         }
     }
 }
@@ -417,9 +427,10 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
 bool WishSearch::trySingles(const Wish &wish, const std::vector<Knob> &knobs,
                             const std::vector<QList<qint64>> &choices)
 {
-    for (size_t i = 0; i < knobs.size(); ++i) {
-        for (const qint64 value : choices[i]) {
-            if (trySettings(wish, {{knobs[i].leaf, value}})) {
+    // What is likely comes first, at each of them.
+    for (int choice = 0; choice < mostChoices; ++choice) {
+        for (size_t i = 0; i < knobs.size(); ++i) {
+            if (choice < choices[i].size() && trySettings(wish, {{knobs[i].leaf, choices[i][choice]}})) {
                 return true;
             }
         }
@@ -516,11 +527,16 @@ bool WishSearch::set(int node, qint64 value)
     return !failure.isSet();
 }
 
-bool WishSearch::areGrantedTrue(const QList<quint64> &changed)
+bool WishSearch::areGrantedTrue(const Bits &changed)
 {
     QSet<int> affected;
-    for (const quint64 byte : changed) {
-        affected += m_grantedAt.value(byte);
+    for (const auto &[byte, bits] : changed.asKeyValueRange()) {
+        const auto readers = m_grantedAt.constFind(byte);
+        for (size_t i = 0; readers != m_grantedAt.constEnd() && i < readers->size(); ++i) {
+            if (((*readers)[i].bits & bits) != 0) {
+                affected.insert((*readers)[i].granted);
+            }
+        }
     }
     return std::all_of(affected.cbegin(), affected.cend(), [this](int granted) {
         const Granted &wish = m_granted[size_t(granted)];

@@ -57,11 +57,14 @@ public:
     bool isChangedSince(int changeCount, const QList<int> &nodes);
 
 private:
+    /*! Bits of the register space, by the addresses of their bytes. */
+    using Bits = QHash<quint64, quint8>;
+
     /*! A place that holds a value. */
     struct Leaf
     {
         ArvGcNode *engine = nullptr;
-        QList<quint64> bytes; //!< its addresses
+        Bits bits;
         qint64 largest = 1;
         bool isRegister = false;
     };
@@ -83,6 +86,13 @@ private:
     {
         std::function<bool()> isTrue;
         int cost;
+    };
+
+    /*! Which bits of a byte a granted wish depends on. */
+    struct Reader
+    {
+        int granted;
+        quint8 bits;
     };
 
     class Collector;
@@ -110,7 +120,8 @@ private:
     bool tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
                   const std::vector<QList<qint64>> &choices);
     bool set(int leaf, qint64 value);
-    bool areGrantedTrue(const QList<quint64> &changed);
+    bool areGrantedTrue(const Bits &changed);
+    Bits bitsOf(int node);
     int cost(const QList<int> &nodes) const;
     bool spend(int cost);
     void keep(const Wish &wish, const Sources &sources);
@@ -124,7 +135,7 @@ private:
     QSet<int> m_states; //!< nodes whose value in the description is no constant
     std::vector<Granted> m_granted;
     QHash<int, Sources> m_sources;
-    QHash<quint64, QSet<int>> m_grantedAt; //!< by the bytes that they depend on
+    QHash<quint64, std::vector<Reader>> m_grantedAt; //!< by the bytes that they depend on
     QHash<quint64, int> m_changedAt; //!< number of the last change of a byte
     std::chrono::steady_clock::time_point m_end;
     int m_evaluations; //!< that all searches may still take
