@@ -17,6 +17,7 @@
 #include <QSet>
 #include <QStringList>
 #include <QTextStream>
+#include <QThread>
 #include <QXmlStreamReader>
 
 #include <ctime>
@@ -161,6 +162,8 @@ private:
     QSet<QString> m_dataPorts;
 };
 
+constexpr unsigned long settlingTime = 3; // milliseconds
+
 QString number(double value)
 {
     return QString::number(value, 'g', 17);
@@ -268,28 +271,30 @@ void survey(const QString &fileName, Cameras::Start start, bool isTalkative, QTe
     }
     QStringList sorted(names.begin(), names.end());
     sorted.sort();
+    const auto isLeftOut = [&sheet, &collection](const QString &name) {
+        return collection->parameter(name)->type() == ParameterType::Category || sheet.hasNoRegisters(name)
+            || !sheet.isReadable(name);
+    };
+    sorted.removeIf(isLeftOut);
     Count values;
+    for (const QString &name : std::as_const(sorted)) {
+        const bool hasValue = collection->parameter(name)->parameterData()->isReadable;
+        values.add(hasValue);
+        if (isTalkative && !hasValue) {
+            out << "  no value: " << name << '\n';
+        }
+    }
     Count writes;
-    for (const QString &name : sorted) {
-        const auto parameter = collection->parameter(name);
-        if (parameter->type() == ParameterType::Category || sheet.hasNoRegisters(name)) {
+    for (const QString &name : std::as_const(sorted)) {
+        if (!sheet.isWritable(name)) {
             continue;
         }
-        const bool hasValue = parameter->parameterData()->isReadable;
-        if (qEnvironmentVariableIsSet("DUMPIT")) { const auto d = parameter->parameterData(); out << "D " << name << '\t' << d->isReadable << d->isWritable << d->isImplemented << '\t' << d->valueString; if (auto i = d.dynamicCast<const IntegerParameterData>()) out << '\t' << i->minimum << ' ' << i->maximum << ' ' << i->increment; if (auto i = d.dynamicCast<const FloatParameterData>()) out << '\t' << i->minimum << ' ' << i->maximum << ' ' << i->increment; out << '\n'; }
-        if (sheet.isReadable(name)) {
-            values.add(hasValue);
-            if (isTalkative && !hasValue) {
-                out << "  no value: " << name << '\n';
-            }
+        const QString failure = failureOf(*collection->parameter(name));
+        writes.add(failure.isEmpty());
+        if (isTalkative && !failure.isEmpty()) {
+            out << "  not changed: " << name << ": " << failure << '\n';
         }
-        if (sheet.isReadable(name) && sheet.isWritable(name)) {
-            const QString failure = failureOf(*parameter);
-            writes.add(failure.isEmpty());
-            if (isTalkative && !failure.isEmpty()) {
-                out << "  not changed: " << name << ": " << failure << '\n';
-            }
-        }
+        QThread::msleep(settlingTime); // what depends on it is read again
     }
     out << QFileInfo(fileName).fileName() << (start == Cameras::Start::Alive ? " alive" : " zeroed")
         << "\tvalue " << values.text() << "\tchanged " << writes.text() << '\t' << qRound(seconds * 1000.0)

@@ -24,6 +24,7 @@ struct FormulaState
     ArvGcFeatureNode *replaced = nullptr; // stays in the document
     QList<QByteArray> variables; // TO or FROM come last
     QList<QByteArray> variableNodes;
+    std::vector<ArvGcNode *> foundNodes; // of these, as soon as they were needed
     QByteArray valueNode; // what a converter converts
     Formula from;
     Formula to;
@@ -108,13 +109,16 @@ std::optional<Formula::Number> numberOf(ArvGcNode *node, Which which, GError **e
 std::optional<std::vector<Formula::Number>> valuesFor(void *node, const Formula &formula,
                                                       const Formula::Number &last, GError **error)
 {
-    const FormulaState &state = stateOf(node);
+    FormulaState &state = stateOf(node);
     std::vector<Formula::Number> values(size_t(state.variables.size()), last);
+    state.foundNodes.resize(size_t(state.variableNodes.size()), nullptr);
     for (int i = 0; i < state.variableNodes.size(); ++i) {
         if (!formula.uses(i)) {
             continue;
         }
-        const auto number = numberOf(otherNode(node, state.variableNodes[i]), Which::Value, error);
+        ArvGcNode *&found = state.foundNodes[size_t(i)];
+        found = found ? found : otherNode(node, state.variableNodes[i]);
+        const auto number = numberOf(found, Which::Value, error);
         if (!number) {
             return std::nullopt;
         }

@@ -22,6 +22,7 @@ constexpr auto searchTime = std::chrono::seconds(3);
 constexpr int mostEvaluationsInAll = 300000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
+constexpr int mostEntryChoices = 12; // the engine looks at all entries whenever one is chosen
 constexpr int mostPairedKnobs = 10;
 constexpr int mostChoices = 24;
 constexpr int mostPairedChoices = 5;
@@ -414,10 +415,11 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
     }
     QList<qint64> chosen;
     const auto now = integerValue(place.engine);
+    const int most = entries != m_entryValues.constEnd() ? mostEntryChoices : mostChoices;
     for (const qint64 value : std::as_const(wanted)) {
         const bool isPossible =
             entries != m_entryValues.constEnd() ? entries->contains(value) : value <= place.largest;
-        if (isPossible && value != now && !chosen.contains(value) && chosen.size() < mostChoices) {
+        if (isPossible && value != now && !chosen.contains(value) && chosen.size() < most) {
             chosen.append(value);
         }
     }
