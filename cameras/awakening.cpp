@@ -182,7 +182,7 @@ private:
         for (const int condition : m_description.linked(node, kind)) {
             const bool isLock = kind == LinkKind::Locked;
             grant({condition, isLock ? kind : LinkKind::Available},
-                  {isTrue, {condition}, {isLock ? 0 : 1}, effort});
+                  {isTrue, {condition}, {isLock ? 0 : 1}, effort, true});
         }
     }
 

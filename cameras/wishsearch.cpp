@@ -76,6 +76,8 @@ public:
 
     Sources collected(int node)
     {
+        const int last = m_search.lastOf(node);
+        m_constant = m_search.isConstant(last) ? last : -1;
         visit(node, {}, true);
         return std::move(m_sources);
     }
@@ -88,7 +90,7 @@ private:
             return;
         }
         const bool isRegister = ARV_IS_GC_REGISTER(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine);
-        if (isRegister || m_search.isState(node)) {
+        if (isRegister || m_search.isState(node) || node == m_constant) {
             visitLeaf(node, hints, mayTurn);
         }
         if (m_visited.contains(node)) {
@@ -111,7 +113,7 @@ private:
             m_sources.leaves.append(node);
             if (mayTurn && int(m_sources.knobs.size()) < mostKnobs && integerValue(m_search.engineNode(node))) {
                 m_knobs.insert(node, m_sources.knobs.size());
-                m_sources.knobs.push_back({node, {}});
+                m_sources.knobs.push_back({node, node == m_constant, {}});
             }
         }
         const auto knob = m_knobs.constFind(node);
@@ -124,6 +126,7 @@ private:
     Sources m_sources;
     QHash<int, size_t> m_knobs;
     QSet<int> m_visited;
+    int m_constant = -1;
 };
 
 /*! \brief Takes back what is done to some leaves, unless it is kept. */
@@ -283,6 +286,13 @@ WishSearch::Bits WishSearch::bitsOf(int node)
     return bits;
 }
 
+bool WishSearch::isConstant(int node) const
+{
+    ArvGcNode *engine = engineNode(node);
+    return m_description.valueNode(node) < 0 && !isState(node)
+        && (ARV_IS_GC_INTEGER_NODE(engine) || ARV_IS_GC_BOOLEAN(engine));
+}
+
 const WishSearch::Leaf &WishSearch::leaf(int node)
 {
     auto found = m_leaves.find(node);
@@ -417,8 +427,8 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
     const auto now = integerValue(place.engine);
     const int most = entries != m_entryValues.constEnd() ? mostEntryChoices : mostChoices;
     for (const qint64 value : std::as_const(wanted)) {
-        const bool isPossible =
-            entries != m_entryValues.constEnd() ? entries->contains(value) : value <= place.largest;
+        const bool isPossible = knob.isConstant && !wish.mayTurnConstants ? false
+            : entries != m_entryValues.constEnd() ? entries->contains(value) : value <= place.largest;
         if (isPossible && value != now && !chosen.contains(value) && chosen.size() < most) {
             chosen.append(value);
         }

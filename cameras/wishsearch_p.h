@@ -28,6 +28,7 @@ struct Wish
     QList<int> nodes; //!< on whose values it depends
     QList<qint64> values; //!< that are tried first
     int effort = 300; //!< how many tries it is worth
+    bool mayTurnConstants = false; //!< the description's own, where one of the nodes is one
 };
 
 /*! \brief Makes wishes true by trying what simulated registers might hold.
@@ -72,6 +73,7 @@ private:
     struct Knob
     {
         int leaf;
+        bool isConstant;
         QList<qint64> hints;
     };
 
@@ -109,6 +111,7 @@ private:
     Sources sources(const QList<int> &nodes);
     int lastOf(int node) const;
     bool isState(int node) const;
+    bool isConstant(int node) const;
     const Leaf &leaf(int node);
     QList<qint64> candidates(const Knob &knob, const Wish &wish);
     bool search(const Wish &wish, const Sources &sources);
