@@ -80,9 +80,8 @@ private:
     {
         const QString tag = xml.name().toString();
         const QString name = xml.attributes().value(QLatin1String("Name")).toString();
-        static const QSet<QString> values{
-            QStringLiteral("pValue"), QStringLiteral("pVariable"), QStringLiteral("pValueIndexed"),
-            QStringLiteral("pValueDefault")};
+        static const QSet<QString> values{QStringLiteral("pValue"), QStringLiteral("pVariable"),
+                                          QStringLiteral("pValueIndexed"), QStringLiteral("pValueDefault")};
         const bool isNode = !name.isEmpty() && tag != QLatin1String("EnumEntry")
             && tag != QLatin1String("Constant") && tag != QLatin1String("Expression")
             && tag != QLatin1String("pVariable") && tag != QLatin1String("Group");
@@ -187,7 +186,7 @@ QString otherValue(const IParameter &parameter)
             : middle != real->value              ? middle
                                                  : real->minimum;
         return other >= real->minimum && other <= real->maximum && other != real->value ? number(other)
-                                                                                         : QString();
+                                                                                        : QString();
     }
     if (const auto *boolean = dynamic_cast<const BooleanParameterData *>(data.get())) {
         return boolean->value ? QStringLiteral("false") : QStringLiteral("true");
@@ -233,7 +232,10 @@ struct Count
     }
     QString text() const
     {
-        return QStringLiteral("%1/%2 %3%").arg(good).arg(all).arg(all ? 100.0 * good / all : 100.0, 0, 'f', 1);
+        return QStringLiteral("%1/%2 %3%")
+            .arg(good)
+            .arg(all)
+            .arg(all ? 100.0 * good / all : 100.0, 0, 'f', 1);
     }
 };
 

@@ -8,13 +8,12 @@
 #include "formulanode_p.h"
 #include "wishsearch_p.h"
 
-
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <functional>
-#include <optional>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -126,8 +125,8 @@ private:
         }
     }
 
-    /*! As WishSearch::grant(), but for what was granted before under the same \a key, or was refused and would
-     * be so again. */
+    /*! As WishSearch::grant(), but for what was granted before under the same \a key, or was refused and
+     * would be so again. */
     void grant(const Key &key, const Wish &wish)
     {
         if (!isWorthwhile(key, wish.nodes)) {
@@ -169,12 +168,15 @@ private:
     void wishForConditions(int node, ArvGcNode *engine, int effort)
     {
         ArvGcFeatureNode *feature = ARV_GC_FEATURE_NODE(engine);
-        wishForCondition(node, LinkKind::Implemented,
-                         [feature] { return asked(arv_gc_feature_node_is_implemented, feature) == TRUE; }, effort);
-        wishForCondition(node, LinkKind::Available,
-                         [feature] { return asked(arv_gc_feature_node_is_available, feature) == TRUE; }, effort);
-        wishForCondition(node, LinkKind::Locked,
-                         [feature] { return asked(arv_gc_feature_node_is_locked, feature) == FALSE; }, effort);
+        wishForCondition(
+            node, LinkKind::Implemented,
+            [feature] { return asked(arv_gc_feature_node_is_implemented, feature) == TRUE; }, effort);
+        wishForCondition(
+            node, LinkKind::Available,
+            [feature] { return asked(arv_gc_feature_node_is_available, feature) == TRUE; }, effort);
+        wishForCondition(
+            node, LinkKind::Locked,
+            [feature] { return asked(arv_gc_feature_node_is_locked, feature) == FALSE; }, effort);
     }
 
     void wishForCondition(int node, LinkKind kind, const std::function<bool()> &isTrue, int effort)
@@ -270,8 +272,9 @@ private:
         if (name == QLatin1String("SensorWidth") || name == QLatin1String("WidthMax")) {
             return 4096;
         }
-        return name == QLatin1String("SensorHeight") || name == QLatin1String("HeightMax") ? std::optional(3072)
-                                                                                         : std::nullopt;
+        return name == QLatin1String("SensorHeight") || name == QLatin1String("HeightMax")
+            ? std::optional(3072)
+            : std::nullopt;
     }
 
     void wishForNumber(int node, ArvGcNode *engine)
@@ -324,9 +327,12 @@ private:
         if (isWithinLimits(engine) && !(isExtent && asked(arv_gc_integer_get_value, engine) == *minimum)) {
             return;
         }
-        const quint64 increment = quint64(std::max<qint64>(asked(arv_gc_integer_get_inc, engine).value_or(1), 1));
+        const quint64 increment =
+            quint64(std::max<qint64>(asked(arv_gc_integer_get_inc, engine).value_or(1), 1));
         const quint64 steps = (quint64(*maximum) - quint64(*minimum)) / increment;
-        const auto at = [minimum, increment](quint64 step) { return qint64(quint64(*minimum) + step * increment); };
+        const auto at = [minimum, increment](quint64 step) {
+            return qint64(quint64(*minimum) + step * increment);
+        };
         // The offsets of an image need room as well.
         const QList<qint64> values =
             isExtent ? QList<qint64>{at(steps / 2)} : QList<qint64>{at(0), at(steps), at(steps / 2)};

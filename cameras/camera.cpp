@@ -9,6 +9,7 @@
 #include "descriptionarchive_p.h"
 #include "livecamera_p.h"
 #include "nodecollection_p.h"
+#include "registerimage_p.h"
 #include "session_p.h"
 #include "simulateddevice_p.h"
 #include "simulatedregisters_p.h"
@@ -16,6 +17,7 @@
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -114,7 +116,7 @@ Session::Source embeddedSource()
     return source;
 }
 
-Session::Source describedSource(const QString &fileName, Start start, const QString &)
+Session::Source describedSource(const QString &fileName, Start start, const QString &registers)
 {
     const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
@@ -123,6 +125,13 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
     const Description &description = *map.description;
     if (start == Start::Alive) {
         awaken(map.device.get(), description, *map.registers);
+    }
+    if (!registers.isEmpty()) {
+        try {
+            map.registers->load(RegisterImage::fromText(fileContents(registers)));
+        } catch (const BaseException &exception) {
+            throw BaseException(Camera::tr("%1: %2").arg(registers, exception.getMessage()));
+        }
     }
     source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
                                                   QString(), description.standardNameSpace()}));
@@ -245,9 +254,10 @@ std::unique_ptr<Camera> Camera::openEmbedded()
 std::unique_ptr<Camera> Camera::openDescription(const QString &fileName, Start start,
                                                 const QString &registers)
 {
-    return std::unique_ptr<Camera>(new Camera(started(
-        fileName, std::make_shared<Session>(),
-        [fileName, start, registers] { return describedSource(fileName, start, registers); })));
+    return std::unique_ptr<Camera>(
+        new Camera(started(fileName, std::make_shared<Session>(), [fileName, start, registers] {
+            return describedSource(fileName, start, registers);
+        })));
 }
 
 std::unique_ptr<Camera> Camera::openLive(const QString &id)
@@ -266,6 +276,16 @@ CameraInfoPtr Camera::info() const
 QList<NodeMap> Camera::nodeMaps() const
 {
     return m_nodeMaps;
+}
+
+QByteArray Camera::registerImage() const
+{
+    RegisterImage::Contents contents;
+    m_session->carryOut(0, [&contents](Engine &engine) { contents = engine.registerContents(); });
+    return "# " + m_session->info()->vendorName().toUtf8().simplified() + ' '
+        + m_session->info()->modelName().toUtf8().simplified() + ", registers at "
+        + QDateTime::currentDateTime().toString(Qt::ISODate).toLatin1() + '\n'
+        + RegisterImage::toText(contents);
 }
 
 bool Camera::isLost() const

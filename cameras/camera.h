@@ -9,6 +9,7 @@
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/iparametercollection.h>
 
+#include <QByteArray>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
@@ -76,6 +77,10 @@ public:
     Core::CameraPoolComponents::CameraInfoPtr info() const;
     /*! Returns the node maps, in the order in which they are to be shown. */
     QList<NodeMap> nodeMaps() const;
+
+    /*! Returns the registers that the features of the first node map are read from, as a text for
+     * openDescription(). Waits for the camera, and throws when it is lost. */
+    QByteArray registerImage() const;
 
     /*! Returns whether the camera has stopped answering; it has to be opened again then. */
     bool isLost() const;

@@ -82,6 +82,19 @@ void SimulatedRegisters::load(const QByteArray &lines)
     m_loadedPages = m_pages;
 }
 
+void SimulatedRegisters::load(const RegisterImage::Contents &image)
+{
+    const std::lock_guard lock(m_mutex);
+    for (auto part = image.cbegin(); part != image.cend(); ++part) {
+        store(part.key(), *part);
+        if (m_pages.size() * qint64(pageSize) > mostRegisterBytes) {
+            throw Core::Exception::BaseException(RegisterImage::tr("the registers take more than %1 MiB")
+                                                     .arg(mostRegisterBytes / 1024 / 1024));
+        }
+    }
+    m_loadedPages = m_pages;
+}
+
 void SimulatedRegisters::loadLine(const QByteArray &line)
 {
     QList<QByteArray> words = line.simplified().split(' ');

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "registerimage_p.h"
+
 #include <cameras/cameras_export.h>
 
 #include <QByteArray>
@@ -34,6 +36,10 @@ public:
      * Throws Core::Exception::BaseException naming a line that is wrong.
      */
     void load(const QByteArray &lines);
+
+    /*! Sets registers from \a image. Throws Core::Exception::BaseException when that would take too much
+     * memory. */
+    void load(const RegisterImage::Contents &image);
 
     /*! Copies registers to \a buffer. Returns false when the request is larger than a register can be. */
     bool read(quint64 address, quint32 size, void *buffer);

@@ -111,7 +111,8 @@ private:
     {
         if (!m_sources.leaves.contains(node)) {
             m_sources.leaves.append(node);
-            if (mayTurn && int(m_sources.knobs.size()) < mostKnobs && integerValue(m_search.engineNode(node))) {
+            if (mayTurn && int(m_sources.knobs.size()) < mostKnobs
+                && integerValue(m_search.engineNode(node))) {
                 m_knobs.insert(node, m_sources.knobs.size());
                 m_sources.knobs.push_back({node, node == m_constant, {}});
             }
@@ -247,9 +248,9 @@ ArvGcNode *WishSearch::engineNode(int node) const
     if (!found) {
         const bool isEvaluable =
             !m_description.isBroken(node) && m_description.sizedRegisters(node).isEmpty();
-        ArvGcNode *engine = isEvaluable ? arv_gc_get_node(arv_device_get_genicam(m_device),
-                                                          m_description.name(node).toUtf8().constData())
-                                        : nullptr;
+        ArvGcNode *engine = isEvaluable
+            ? arv_gc_get_node(arv_device_get_genicam(m_device), m_description.name(node).toUtf8().constData())
+            : nullptr;
         found = ARV_IS_GC_FEATURE_NODE(engine) ? engine : nullptr;
     }
     return *found;
@@ -428,7 +429,8 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
     const int most = entries != m_entryValues.constEnd() ? mostEntryChoices : mostChoices;
     for (const qint64 value : std::as_const(wanted)) {
         const bool isPossible = knob.isConstant && !wish.mayTurnConstants ? false
-            : entries != m_entryValues.constEnd() ? entries->contains(value) : value <= place.largest;
+            : entries != m_entryValues.constEnd()                         ? entries->contains(value)
+                                                                          : value <= place.largest;
         if (isPossible && value != now && !chosen.contains(value) && chosen.size() < most) {
             chosen.append(value);
         }
@@ -474,8 +476,10 @@ bool WishSearch::tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
     const size_t count = std::min<size_t>(knobs.size(), mostPairedKnobs);
     for (size_t one = 0; one < count; ++one) {
         for (size_t other = one + 1; other < count; ++other) {
-            for (const qint64 first : choices[one].first(std::min<qsizetype>(choices[one].size(), mostPairedChoices))) {
-                for (const qint64 second : choices[other].first(std::min<qsizetype>(choices[other].size(), mostPairedChoices))) {
+            for (const qint64 first :
+                 choices[one].first(std::min<qsizetype>(choices[one].size(), mostPairedChoices))) {
+                for (const qint64 second :
+                     choices[other].first(std::min<qsizetype>(choices[other].size(), mostPairedChoices))) {
                     if (trySettings(wish, {{knobs[one].leaf, first}, {knobs[other].leaf, second}})) {
                         return true;
                     }
@@ -508,8 +512,7 @@ bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &setti
     return true;
 }
 
-bool WishSearch::tryWrite(int node, const std::function<void()> &write,
-                          const std::function<bool()> &isWanted)
+bool WishSearch::tryWrite(int node, const std::function<void()> &write, const std::function<bool()> &isWanted)
 {
     if (!spend(cost({node}))) {
         return false;

@@ -48,8 +48,8 @@ public:
 
     /*! Makes \a wish true if that can be, and keeps it so. Returns whether it is true. */
     bool grant(const Wish &wish);
-    /*! Lets \a write change the value of \a node and takes that back when \a isWanted is not true afterwards or a
-     * granted wish is not any more. */
+    /*! Lets \a write change the value of \a node and takes that back when \a isWanted is not true afterwards
+     * or a granted wish is not any more. */
     bool tryWrite(int node, const std::function<void()> &write, const std::function<bool()> &isWanted);
 
     /*! Returns how often something was changed for good. */
