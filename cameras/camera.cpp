@@ -130,7 +130,7 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
         try {
             map.registers->load(RegisterImage::fromText(fileContents(registers)));
         } catch (const BaseException &exception) {
-            throw BaseException(Camera::tr("%1: %2").arg(registers, exception.getMessage()));
+            throw BaseException(QStringLiteral("%1: %2").arg(registers, exception.getMessage()));
         }
     }
     source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),

@@ -516,6 +516,9 @@ RegisterImage::Contents Engine::registerContents()
     RegisterImage::Contents contents;
     for (const int node : touchedNodes()) {
         ArvGcNode *found = engineNode(node);
+        if (ARV_IS_GC_STRUCT_ENTRY_NODE(found)) {
+            found = ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(found)));
+        }
         if (!ARV_IS_GC_REGISTER(found) || !isEvaluable(node) || !m_lossReason.isEmpty()) {
             continue;
         }

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int deepestNesting = 100;
 constexpr size_t mostSteps = 10000;
+constexpr qsizetype mostNeighbours = 20;
 
 template <typename Value>
 std::optional<Value> as(double number)
@@ -261,7 +262,8 @@ QList<qint64> Formula::neighbours(int index) const
         const Step &other = isRight ? m_steps[i - 1] : m_steps[i];
         const bool isNeighbour = isRight || m_steps[i - 1].variable == index;
         const auto *literal = std::get_if<qint64>(&other.literal);
-        if (isNeighbour && other.operation == Operation::Literal && literal) {
+        if (isNeighbour && other.operation == Operation::Literal && literal
+            && found.size() < mostNeighbours) {
             found.append(*literal);
         }
     }

@@ -49,7 +49,7 @@ RegisterImage::Contents RegisterImage::fromText(const QByteArray &text)
         QByteArray line = text.mid(begin, end - begin);
         begin = end + 1;
         ++number;
-        line = line.left(line.indexOf('#')).trimmed();
+        line = line.split('#').constFirst().trimmed();
         if (line.isEmpty()) {
             continue;
         }

@@ -74,7 +74,7 @@ void SimulatedRegisters::load(const QByteArray &lines)
 {
     const std::lock_guard lock(m_mutex);
     for (const QByteArray &line : lines.split('\n')) {
-        const QByteArray text = line.left(line.indexOf('#')).trimmed();
+        const QByteArray text = line.split('#').constFirst().trimmed();
         if (!text.isEmpty()) {
             loadLine(text);
         }

@@ -18,7 +18,9 @@ namespace {
 using LinkKind = Description::LinkKind;
 
 // What is found must not depend on how busy the machine is: the time is for what nobody foresaw.
-constexpr auto searchTime = std::chrono::seconds(3);
+constexpr auto searchTime = std::chrono::seconds(2);
+constexpr int evaluationsForAll = 20000;
+constexpr int evaluationsPerNode = 30;
 constexpr int mostEvaluationsInAll = 300000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
@@ -101,10 +103,26 @@ private:
         for (const LinkKind kind : {LinkKind::Value, LinkKind::Evaluated}) {
             for (const int next : m_search.m_description.linked(node, kind)) {
                 // What gives a register its address is better left alone.
-                const auto numbers = formulaNumbers.value(m_search.m_description.name(next).toUtf8());
-                visit(next, kind == LinkKind::Value ? hints + numbers : numbers, mayTurn && !isRegister);
+                QList<qint64> numbers = formulaNumbers.value(m_search.m_description.name(next).toUtf8());
+                if (kind == LinkKind::Value && hints.size() < mostChoices) {
+                    numbers = hints + booleanNumbers(node) + numbers;
+                }
+                visit(next, numbers, mayTurn && !isRegister);
             }
         }
+    }
+
+    QList<qint64> booleanNumbers(int node) const
+    {
+        QList<qint64> numbers;
+        for (const QString &element : {QStringLiteral("OnValue"), QStringLiteral("OffValue")}) {
+            bool ok = false;
+            const qint64 number = m_search.m_description.property(node, element).toLongLong(&ok, 0);
+            if (ok) {
+                numbers.append(number);
+            }
+        }
+        return numbers;
     }
 
     void visitLeaf(int node, const QList<qint64> &hints, bool mayTurn)
@@ -191,7 +209,8 @@ WishSearch::WishSearch(ArvDevice *device, const Description &description, Simula
     , m_registers(registers)
     , m_engineNodes(size_t(description.nodeCount()))
     , m_end(std::chrono::steady_clock::now() + searchTime)
-    , m_evaluations(mostEvaluationsInAll)
+    , m_evaluations(
+          std::min(evaluationsForAll + evaluationsPerNode * description.nodeCount(), mostEvaluationsInAll))
 {
     collectStates();
     collectEntryValues();
