@@ -227,17 +227,23 @@ private:
     void chooseEntry(int node, ArvGcNode *engine)
     {
         const Key key{node, LinkKind::Entry};
-        if (!ARV_IS_GC_ENUMERATION(engine) || !isAvailable(engine) || !isWorthwhile(key, {node})) {
-            return;
+        if (ARV_IS_GC_ENUMERATION(engine) && isAvailable(engine) && isWorthwhile(key, {node})
+            && !hasChosenEntry(node, engine)) {
+            m_refused[key] = m_search.changeCount();
         }
-        int tried = 0;
+    }
+
+    bool hasChosenEntry(int node, ArvGcNode *engine)
+    {
         ArvGcEnumeration *enumeration = ARV_GC_ENUMERATION(engine);
+        QList<qint64> values;
         for (ArvGcNode *entry : entriesOf(engine)) {
             const auto value = asked(arv_gc_enum_entry_get_value, ARV_GC_ENUM_ENTRY(entry));
             if (!value || !isAvailable(entry)) {
                 continue;
             }
-            if (++tried > mostEntriesTried) {
+            values.append(*value);
+            if (values.size() > mostEntriesTried) {
                 break;
             }
             const auto isChosen = [enumeration, value] {
@@ -248,10 +254,14 @@ private:
                 arv_gc_enumeration_set_int_value(enumeration, *value, failure);
             };
             if (isChosen() || m_search.tryWrite(node, choose, isChosen)) {
-                return;
+                return true;
             }
         }
-        m_refused[key] = m_search.changeCount();
+        // What cannot be written is made up of something else.
+        const auto isAnyChosen = [enumeration] {
+            return asked(arv_gc_enumeration_get_string_value, enumeration).value_or(nullptr) != nullptr;
+        };
+        return m_search.grant({isAnyChosen, {node}, values});
     }
 
     QList<int> limits(int node, std::initializer_list<LinkKind> kinds) const

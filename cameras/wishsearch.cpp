@@ -22,6 +22,7 @@ constexpr auto searchTime = std::chrono::seconds(2);
 constexpr int evaluationsForAll = 20000;
 constexpr int evaluationsPerNode = 30;
 constexpr int mostEvaluationsInAll = 300000;
+constexpr int mostEvaluationsPerWish = 5000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
 constexpr int mostEntryChoices = 12; // the engine looks at all entries whenever one is chosen
@@ -325,7 +326,9 @@ const WishSearch::Leaf &WishSearch::leaf(int node)
     leaf.bits = leaf.isRegister ? bitsOf(node) : Bits{{ownPlace(node), 0xff}};
     Failure failure;
     if (ARV_IS_GC_INTEGER(leaf.engine)) {
-        leaf.largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
+        // Of eight bytes without a sign it may be no number any more.
+        const qint64 largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
+        leaf.largest = largest > 0 ? largest : std::numeric_limits<qint64>::max();
     } else if (ARV_IS_GC_FLOAT(leaf.engine)) {
         leaf.largest = std::numeric_limits<qint32>::max();
     }
@@ -395,7 +398,7 @@ bool WishSearch::isChangedSince(int changeCount, const QList<int> &nodes)
 
 bool WishSearch::grant(const Wish &wish)
 {
-    m_tries = wish.effort;
+    m_tries = std::min(wish.effort, mostEvaluationsPerWish / cost(wish.nodes));
     if (!spend(cost(wish.nodes))) {
         return false;
     }

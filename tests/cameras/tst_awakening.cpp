@@ -67,6 +67,7 @@ private slots:
     void theFirstInTheTreeWins();
     void enumerationsStartAtTheirFirstEntry_data();
     void enumerationsStartAtTheirFirstEntry();
+    void enumerationsOfFormulasHaveAnEntry();
     void numbersHaveRoom_data();
     void numbersHaveRoom();
     void imagesFitTheirSensor();
@@ -203,6 +204,14 @@ void TestAwakening::enumerationsStartAtTheirFirstEntry()
     const auto entriesNow = data(*camera, "Mode").dynamicCast<const EnumParameterData>()->symbolicNames;
     QCOMPARE(entriesNow.contains("One"), value == "One");
     QVERIFY(entriesNow.contains("Two"));
+}
+
+void TestAwakening::enumerationsOfFormulasHaveAnEntry()
+{
+    const auto camera = opened(root("Mode") + "<Enumeration Name=\"Mode\">" + entry("One", 5)
+                               + entry("Two", 9) + "<pValue>Knife</pValue></Enumeration>"
+                               + formula("Knife", "R", "R + 2") + integerRegister("R", "0x10"));
+    QVERIFY(QStringList({"One", "Two"}).contains(text(*camera, "Mode")));
 }
 
 void TestAwakening::numbersHaveRoom_data()
