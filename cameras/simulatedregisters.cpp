@@ -153,6 +153,7 @@ void SimulatedRegisters::beginTrial()
 {
     const std::lock_guard lock(m_mutex);
     m_overwritten.emplace();
+    m_newPages.clear();
 }
 
 QHash<quint64, quint8> SimulatedRegisters::changedInTrial()
@@ -178,6 +179,13 @@ void SimulatedRegisters::endTrial(bool keep)
     for (auto part = overwritten->crbegin(); !keep && part != overwritten->crend(); ++part) {
         store(part->first, part->second);
     }
+    // Thousands of trials must leave nothing behind.
+    for (const quint64 page : m_newPages) {
+        if (!keep) {
+            m_pages.remove(page);
+        }
+    }
+    m_newPages.clear();
 }
 
 bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer)
@@ -213,6 +221,9 @@ void SimulatedRegisters::store(quint64 address, const QByteArray &bytes)
         QByteArray &page = m_pages[at / pageSize];
         if (page.isEmpty()) {
             page = QByteArray(qsizetype(pageSize), '\0');
+            if (m_overwritten) {
+                m_newPages.push_back(at / pageSize);
+            }
         }
         std::memcpy(page.data() + offset, bytes.constData() + done, size_t(count));
         done += count;

@@ -82,6 +82,7 @@ private:
     std::mutex m_mutex;
     QHash<quint64, QByteArray> m_pages;
     QHash<quint64, QByteArray> m_loadedPages;
+    std::vector<quint64> m_newPages; //!< of a trial
     QHash<quint64, Living> m_living;
     std::optional<std::vector<std::pair<quint64, QByteArray>>> m_overwritten; //!< in a trial
     QElapsedTimer m_clock;
