@@ -5,6 +5,7 @@
 
 #include "aravis_p.h"
 #include "description_p.h"
+#include "engineanswer_p.h"
 #include "formulanode_p.h"
 #include "wishsearch_p.h"
 
@@ -28,29 +29,6 @@ constexpr int longestChain = 20;
 constexpr int featureEffort = 300;
 constexpr int entryEffort = 40;
 constexpr int mostEntriesTried = 12;
-
-/*! \brief Receives the engine's error of one question. */
-class Failure
-{
-public:
-    Failure() = default;
-    ~Failure() { g_clear_error(&m_error); }
-    Q_DISABLE_COPY_MOVE(Failure)
-
-    operator GError **() { return &m_error; }
-    bool isSet() const { return m_error != nullptr; }
-
-private:
-    GError *m_error = nullptr;
-};
-
-template <typename Result, typename Node>
-std::optional<Result> asked(Result (*question)(Node *, GError **), Node *node)
-{
-    Failure failure;
-    const Result result = question(node, failure);
-    return failure.isSet() ? std::nullopt : std::optional(result);
-}
 
 bool hasRoom(ArvGcInteger *node)
 {
@@ -250,7 +228,7 @@ private:
                 return asked(arv_gc_enumeration_get_int_value, enumeration) == value;
             };
             const auto choose = [enumeration, value] {
-                Failure failure;
+                Unanswered failure;
                 arv_gc_enumeration_set_int_value(enumeration, *value, failure);
             };
             if (isChosen() || m_search.tryWrite(node, choose, isChosen)) {
@@ -348,7 +326,7 @@ private:
             isExtent ? QList<qint64>{at(steps / 2)} : QList<qint64>{at(0), at(steps), at(steps / 2)};
         for (const qint64 value : values) {
             const auto put = [engine, value] {
-                Failure failure;
+                Unanswered failure;
                 arv_gc_integer_set_value(engine, value, failure);
             };
             if (m_search.tryWrite(node, put, [engine] { return isWithinLimits(engine); })) {
@@ -373,7 +351,7 @@ private:
             return;
         }
         const auto put = [engine, minimum] {
-            Failure failure;
+            Unanswered failure;
             arv_gc_float_set_value(engine, *minimum, failure);
         };
         m_search.tryWrite(node, put, [engine] { return isWithinLimits(engine); });

@@ -4,6 +4,8 @@
 #include "wishsearch_p.h"
 
 #include "aravis_p.h"
+#include "engineanswer_p.h"
+#include "formula_p.h"
 #include "formulanode_p.h"
 #include "simulatedregisters_p.h"
 
@@ -31,33 +33,17 @@ constexpr int mostChoices = 24;
 constexpr int mostPairedChoices = 5;
 constexpr quint64 longestLeaf = 16; // in bytes; longer registers hold no conditions
 
-/*! The engine's errors are of no interest here, only whether there was one. */
-class Failure
-{
-public:
-    Failure() = default;
-    ~Failure() { g_clear_error(&m_error); }
-    Q_DISABLE_COPY_MOVE(Failure)
-
-    operator GError **() { return &m_error; }
-    bool isSet() const { return m_error != nullptr; }
-
-private:
-    GError *m_error = nullptr;
-};
-
 std::optional<qint64> integerValue(ArvGcNode *node)
 {
-    Failure failure;
-    std::optional<qint64> value;
     if (ARV_IS_GC_BOOLEAN(node)) {
-        value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(node), failure);
-    } else if (ARV_IS_GC_INTEGER(node)) {
-        value = arv_gc_integer_get_value(ARV_GC_INTEGER(node), failure);
-    } else if (ARV_IS_GC_FLOAT(node)) {
-        value = qint64(std::clamp(arv_gc_float_get_value(ARV_GC_FLOAT(node), failure), -9e18, 9e18));
+        return asked(arv_gc_boolean_get_value, ARV_GC_BOOLEAN(node));
     }
-    return failure.isSet() ? std::nullopt : value;
+    if (ARV_IS_GC_INTEGER(node)) {
+        return asked(arv_gc_integer_get_value, ARV_GC_INTEGER(node));
+    }
+    const auto number =
+        ARV_IS_GC_FLOAT(node) ? asked(arv_gc_float_get_value, ARV_GC_FLOAT(node)) : std::nullopt;
+    return number ? Formula::truncated(*number) : std::nullopt;
 }
 
 // Of a value that the engine holds; no register is there.
@@ -252,7 +238,7 @@ void WishSearch::collectEntryValues()
         QList<qint64> values;
         for (const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(engine)); entry;
              entry = entry->next) {
-            Failure failure;
+            Unanswered failure;
             const qint64 value = arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry->data), failure);
             if (!failure.isSet()) {
                 values.prepend(value);
@@ -287,17 +273,17 @@ WishSearch::Bits WishSearch::bitsOf(int node)
     ArvGcNode *engine = engineNode(node);
     if (ARV_IS_GC_MASKED_INT_REG_NODE(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine)) {
         m_registers.beginTrial();
-        Failure failure;
+        Unanswered failure;
         arv_gc_integer_set_value(ARV_GC_INTEGER(engine), -1, failure);
         Bits bits = m_registers.changedInTrial();
-        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), 0, Failure());
+        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), 0, Unanswered());
         for (const auto &[address, changed] : m_registers.changedInTrial().asKeyValueRange()) {
             bits[address] |= changed;
         }
         m_registers.endTrial(false);
         return bits;
     }
-    Failure failure;
+    Unanswered failure;
     const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(engine), failure);
     const quint64 length = failure.isSet() ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(engine), failure);
     Bits bits;
@@ -324,7 +310,7 @@ const WishSearch::Leaf &WishSearch::leaf(int node)
     leaf.engine = engineNode(node);
     leaf.isRegister = ARV_IS_GC_REGISTER(leaf.engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(leaf.engine);
     leaf.bits = leaf.isRegister ? bitsOf(node) : Bits{{ownPlace(node), 0xff}};
-    Failure failure;
+    Unanswered failure;
     if (ARV_IS_GC_INTEGER(leaf.engine)) {
         // Of eight bytes without a sign it may be no number any more.
         const qint64 largest = arv_gc_integer_get_max(ARV_GC_INTEGER(leaf.engine), failure);
@@ -551,7 +537,7 @@ bool WishSearch::tryWrite(int node, const std::function<void()> &write, const st
 bool WishSearch::set(int node, qint64 value)
 {
     ArvGcNode *engine = leaf(node).engine;
-    Failure failure;
+    Unanswered failure;
     if (ARV_IS_GC_BOOLEAN(engine)) {
         arv_gc_boolean_set_value(ARV_GC_BOOLEAN(engine), value != 0, failure);
     } else if (ARV_IS_GC_INTEGER(engine)) {
