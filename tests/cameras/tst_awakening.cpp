@@ -330,7 +330,7 @@ void TestAwakening::hostileDescriptionsOpenInTime_data()
         never += " || (R" + number + " > 0xffffffff)";
     }
     QByteArray nodes;
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 200; ++i) {
         const QByteArray number = QByteArray::number(i);
         features += (i > 0 ? " F" : "F") + number;
         nodes += integer("F" + number, "<pIsAvailable>C" + number + "</pIsAvailable><Value>1</Value>")
@@ -345,7 +345,7 @@ void TestAwakening::hostileDescriptionsOpenInTime_data()
             + "</pVariable><Formula>A + B</Formula></IntSwissKnife>";
     }
     row("a long way to what can never be",
-        root(features) + nodes.replace("C399<", "C15<") + registers + twice);
+        root(features) + nodes.replace("C199<", "C15<") + registers + twice);
     row("a circle",
         root("A B") + integer("A", "<pIsAvailable>B</pIsAvailable><pValue>C</pValue>")
             + integer("B", "<pIsLocked>A</pIsLocked><pValue>C</pValue>") + formula("C", "D", "D")
