@@ -66,7 +66,7 @@ public:
     Sources collected(int node)
     {
         const int last = m_search.lastOf(node);
-        m_constant = m_search.isConstant(last) ? last : -1;
+        m_ownValue = m_search.isOwnValue(last) ? last : -1;
         visit(node, {}, true);
         return std::move(m_sources);
     }
@@ -79,7 +79,7 @@ private:
             return;
         }
         const bool isRegister = ARV_IS_GC_REGISTER(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine);
-        if (isRegister || m_search.isState(node) || node == m_constant) {
+        if (isRegister || m_search.isState(node) || node == m_ownValue) {
             visitLeaf(node, hints, mayTurn);
         }
         if (m_visited.contains(node)) {
@@ -119,7 +119,7 @@ private:
             if (mayTurn && int(m_sources.knobs.size()) < mostKnobs
                 && integerValue(m_search.engineNode(node))) {
                 m_knobs.insert(node, m_sources.knobs.size());
-                m_sources.knobs.push_back({node, node == m_constant, {}});
+                m_sources.knobs.push_back({node, node == m_ownValue, {}});
             }
         }
         const auto knob = m_knobs.constFind(node);
@@ -132,7 +132,7 @@ private:
     Sources m_sources;
     QHash<int, size_t> m_knobs;
     QSet<int> m_visited;
-    int m_constant = -1;
+    int m_ownValue = -1;
 };
 
 /*! \brief Takes back what is done to some leaves, unless it is kept. */
@@ -293,11 +293,13 @@ WishSearch::Bits WishSearch::bitsOf(int node)
     return bits;
 }
 
-bool WishSearch::isConstant(int node) const
+// A value that the description keeps is a constant only where it says that it cannot be written.
+bool WishSearch::isOwnValue(int node) const
 {
     ArvGcNode *engine = engineNode(node);
     return m_description.valueNode(node) < 0 && !isState(node)
-        && (ARV_IS_GC_INTEGER_NODE(engine) || ARV_IS_GC_BOOLEAN(engine));
+        && (ARV_IS_GC_INTEGER_NODE(engine) || ARV_IS_GC_BOOLEAN(engine))
+        && arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(engine)) != ARV_GC_ACCESS_MODE_RO;
 }
 
 const WishSearch::Leaf &WishSearch::leaf(int node)
@@ -436,9 +438,9 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
     const auto now = integerValue(place.engine);
     const int most = entries != m_entryValues.constEnd() ? mostEntryChoices : mostChoices;
     for (const qint64 value : std::as_const(wanted)) {
-        const bool isPossible = knob.isConstant && !wish.mayTurnConstants ? false
-            : entries != m_entryValues.constEnd()                         ? entries->contains(value)
-                                                                          : value <= place.largest;
+        const bool isPossible = knob.isOwnValue && !wish.mayTurnOwnValue ? false
+            : entries != m_entryValues.constEnd()                        ? entries->contains(value)
+                                                                         : value <= place.largest;
         if (isPossible && value != now && !chosen.contains(value) && chosen.size() < most) {
             chosen.append(value);
         }

@@ -28,7 +28,7 @@ struct Wish
     QList<int> nodes; //!< on whose values it depends
     QList<qint64> values; //!< that are tried first
     int effort = 300; //!< how many tries it is worth
-    bool mayTurnConstants = false; //!< the description's own, where one of the nodes is one
+    bool mayTurnOwnValue = false; //!< one that a node keeps itself, without a register
 };
 
 /*! \brief Makes wishes true by trying what simulated registers might hold.
@@ -73,7 +73,7 @@ private:
     struct Knob
     {
         int leaf;
-        bool isConstant;
+        bool isOwnValue;
         QList<qint64> hints;
     };
 
@@ -111,7 +111,7 @@ private:
     Sources sources(const QList<int> &nodes);
     int lastOf(int node) const;
     bool isState(int node) const;
-    bool isConstant(int node) const;
+    bool isOwnValue(int node) const;
     const Leaf &leaf(int node);
     QList<qint64> candidates(const Knob &knob, const Wish &wish);
     bool search(const Wish &wish, const Sources &sources);

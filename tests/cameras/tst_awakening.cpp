@@ -124,7 +124,7 @@ void TestAwakening::conditionsAreFulfilled_data()
     row("an integer", implemented, integer("C", "<pValue>R</pValue>") + one);
     row("a Boolean", available,
         "<Boolean Name=\"C\"><pValue>R</pValue><OnValue>6</OnValue><OffValue>5</OffValue></Boolean>" + one);
-    row("a constant", implemented, integer("C", "<Value>0</Value>"));
+    row("a value without a register", implemented, integer("C", "<Value>0</Value>"));
     row("unlocked by a register", locked, formula("C", "R", "R = 0") + one);
     row("a version", implemented, formula("C", "R", "R >= 0x01020304") + one);
     row("a bit in a formula", available, formula("C", "R", "(R >> 17) & 1") + one);
