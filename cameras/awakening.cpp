@@ -26,8 +26,8 @@ using LinkKind = Description::LinkKind;
 
 constexpr int mostRounds = 3; // what comes later may give what came before a second chance
 constexpr int longestChain = 20;
-constexpr int featureEffort = 300;
-constexpr int entryEffort = 40;
+constexpr int featureEffort = 200;
+constexpr int entryEffort = 20;
 constexpr int mostEntriesTried = 12;
 
 bool hasRoom(ArvGcInteger *node)

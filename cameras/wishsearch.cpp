@@ -24,10 +24,10 @@ constexpr auto searchTime = std::chrono::seconds(2);
 constexpr int evaluationsForAll = 20000;
 constexpr int evaluationsPerNode = 30;
 constexpr int mostEvaluationsInAll = 300000;
-constexpr int mostEvaluationsPerWish = 5000;
+constexpr int mostEvaluationsPerWish = 3000;
 constexpr int mostNodesPerWish = 2000;
 constexpr int mostKnobs = 24;
-constexpr int mostEntryChoices = 12; // the engine looks at all entries whenever one is chosen
+constexpr int mostEntryChoices = 6; // the engine looks at all entries whenever one is chosen
 constexpr int mostPairedKnobs = 10;
 constexpr int mostChoices = 24;
 constexpr int mostPairedChoices = 5;
@@ -415,8 +415,10 @@ bool WishSearch::search(const Wish &wish, const Sources &sources)
     for (const Knob &knob : sources.knobs) {
         choices.push_back(candidates(knob, wish));
     }
-    return trySingles(wish, sources.knobs, choices) || tryAllAlike(wish, sources.knobs, choices)
-        || tryPairs(wish, sources.knobs, choices);
+    // What is likely comes first.
+    return trySingles(wish, sources.knobs, choices, 0, mostPairedChoices)
+        || tryAllAlike(wish, sources.knobs, choices) || tryPairs(wish, sources.knobs, choices)
+        || trySingles(wish, sources.knobs, choices, mostPairedChoices, mostChoices);
 }
 
 QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
@@ -449,10 +451,9 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
 }
 
 bool WishSearch::trySingles(const Wish &wish, const std::vector<Knob> &knobs,
-                            const std::vector<QList<qint64>> &choices)
+                            const std::vector<QList<qint64>> &choices, int first, int end)
 {
-    // What is likely comes first, at each of them.
-    for (int choice = 0; choice < mostChoices; ++choice) {
+    for (int choice = first; choice < end; ++choice) {
         for (size_t i = 0; i < knobs.size(); ++i) {
             if (choice < choices[i].size() && trySettings(wish, {{knobs[i].leaf, choices[i][choice]}})) {
                 return true;

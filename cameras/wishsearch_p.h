@@ -117,7 +117,7 @@ private:
     bool search(const Wish &wish, const Sources &sources);
     bool trySettings(const Wish &wish, const std::vector<Setting> &settings);
     bool trySingles(const Wish &wish, const std::vector<Knob> &knobs,
-                    const std::vector<QList<qint64>> &choices);
+                    const std::vector<QList<qint64>> &choices, int first, int end);
     bool tryAllAlike(const Wish &wish, const std::vector<Knob> &knobs,
                      const std::vector<QList<qint64>> &choices);
     bool tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
