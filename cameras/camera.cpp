@@ -4,10 +4,12 @@
 #include "camera.h"
 
 #include "aravis_p.h"
+#include "awakening_p.h"
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
 #include "livecamera_p.h"
 #include "nodecollection_p.h"
+#include "registerimage_p.h"
 #include "session_p.h"
 #include "simulateddevice_p.h"
 #include "simulatedregisters_p.h"
@@ -15,6 +17,7 @@
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -113,12 +116,23 @@ Session::Source embeddedSource()
     return source;
 }
 
-Session::Source describedSource(const QString &fileName)
+Session::Source describedSource(const QString &fileName, Start start, const QString &registers)
 {
     const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
     source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
-    const Description &description = *source.maps.front().description;
+    const NodeMapSource &map = source.maps.front();
+    const Description &description = *map.description;
+    if (start == Start::Alive) {
+        awaken(map.device.get(), description, *map.registers);
+    }
+    if (!registers.isEmpty()) {
+        try {
+            map.registers->load(RegisterImage::fromText(fileContents(registers)));
+        } catch (const BaseException &exception) {
+            throw BaseException(QStringLiteral("%1: %2").arg(registers, exception.getMessage()));
+        }
+    }
     source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
                                                   QString(), description.standardNameSpace()}));
     return source;
@@ -237,10 +251,13 @@ std::unique_ptr<Camera> Camera::openEmbedded()
         new Camera(started(tr("the embedded camera"), std::make_shared<Session>(), embeddedSource)));
 }
 
-std::unique_ptr<Camera> Camera::openDescription(const QString &fileName)
+std::unique_ptr<Camera> Camera::openDescription(const QString &fileName, Start start,
+                                                const QString &registers)
 {
-    return std::unique_ptr<Camera>(new Camera(
-        started(fileName, std::make_shared<Session>(), [fileName] { return describedSource(fileName); })));
+    return std::unique_ptr<Camera>(
+        new Camera(started(fileName, std::make_shared<Session>(), [fileName, start, registers] {
+            return describedSource(fileName, start, registers);
+        })));
 }
 
 std::unique_ptr<Camera> Camera::openLive(const QString &id)
@@ -259,6 +276,16 @@ CameraInfoPtr Camera::info() const
 QList<NodeMap> Camera::nodeMaps() const
 {
     return m_nodeMaps;
+}
+
+QByteArray Camera::registerImage() const
+{
+    RegisterImage::Contents contents;
+    m_session->carryOut(0, [&contents](Engine &engine) { contents = engine.registerContents(); });
+    return "# " + m_session->info()->vendorName().toUtf8().simplified() + ' '
+        + m_session->info()->modelName().toUtf8().simplified() + ", registers at "
+        + QDateTime::currentDateTime().toString(Qt::ISODate).toLatin1() + '\n'
+        + RegisterImage::toText(contents);
 }
 
 bool Camera::isLost() const

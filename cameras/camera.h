@@ -9,6 +9,7 @@
 #include <platform/core/camerainfo.h>
 #include <platform/parametercollection/iparametercollection.h>
 
+#include <QByteArray>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
@@ -27,6 +28,12 @@ struct NodeMap
     QString title; //!< for people
     QSharedPointer<ParameterCollection::IParameterCollection> collection;
     bool usesUtf8 = true; //!< texts of the node map are UTF-8, else Latin-1
+};
+
+/*! \brief How the registers of a description start. */
+enum class Start {
+    Alive, //!< so that as much as can be is implemented, available, not locked, and has values and limits
+    Zeroed, //!< all zero
 };
 
 /*! \brief An open camera: live, or a camera description on simulated registers.
@@ -56,8 +63,13 @@ public:
 
     /*! Opens the simulated camera that comes with the library. */
     static std::unique_ptr<Camera> openEmbedded();
-    /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers. */
-    static std::unique_ptr<Camera> openDescription(const QString &fileName);
+    /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers.
+     *
+     * \param registers a register image, a file as registerImage() has it, that is laid over the start; none
+     * when empty
+     */
+    static std::unique_ptr<Camera> openDescription(const QString &fileName, Start start = Start::Alive,
+                                                   const QString &registers = QString());
     /*! Opens the live camera called \a id, as list() names it. */
     static std::unique_ptr<Camera> openLive(const QString &id);
 
@@ -65,6 +77,10 @@ public:
     Core::CameraPoolComponents::CameraInfoPtr info() const;
     /*! Returns the node maps, in the order in which they are to be shown. */
     QList<NodeMap> nodeMaps() const;
+
+    /*! Returns the registers that the features of the first node map are read from, as a text for
+     * openDescription(). Waits for the camera, and throws when it is lost. */
+    QByteArray registerImage() const;
 
     /*! Returns whether the camera has stopped answering; it has to be opened again then. */
     bool isLost() const;

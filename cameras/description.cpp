@@ -60,6 +60,12 @@ std::vector<int> reached(std::vector<int> nodes, const std::vector<std::vector<i
     return nodes;
 }
 
+// Conditions and limits, which are evaluated beside the value.
+bool isBesideValue(Description::LinkKind kind)
+{
+    return kind >= Description::LinkKind::Implemented && kind <= Description::LinkKind::Related;
+}
+
 int sumUpToBound(qint64 first, qint64 second)
 {
     return int(std::min<qint64>(first + second, mostEvaluations + 1));
@@ -162,15 +168,15 @@ Description::LinkKind Description::linkKind(QStringView tag)
         {u"pVariable", LinkKind::Evaluated},
         {u"pAddress", LinkKind::Evaluated},
         {u"pPort", LinkKind::Ignored},
-        {u"pIsImplemented", LinkKind::Related},
-        {u"pIsAvailable", LinkKind::Related},
-        {u"pIsLocked", LinkKind::Related},
+        {u"pIsImplemented", LinkKind::Implemented},
+        {u"pIsAvailable", LinkKind::Available},
+        {u"pIsLocked", LinkKind::Locked},
         {u"pFeature", LinkKind::Feature},
         {u"pValue", LinkKind::Value},
         {u"pSelected", LinkKind::Selected},
-        {u"pMax", LinkKind::Related},
-        {u"pMin", LinkKind::Related},
-        {u"pInc", LinkKind::Related},
+        {u"pMax", LinkKind::Maximum},
+        {u"pMin", LinkKind::Minimum},
+        {u"pInc", LinkKind::Increment},
         {u"pAlias", LinkKind::Alias},
         {u"pCastAlias", LinkKind::Alias},
         {u"pIndex", LinkKind::Evaluated},
@@ -294,7 +300,6 @@ void Description::readNode(Reader &xml, const QString &name, int owner)
 
 void Description::noteFormulas(int node, const Formulas &formulas)
 {
-    QStringList texts = formulas.texts;
     qint64 letters = 0;
     for (const QString &text : formulas.texts) {
         letters += text.size();
@@ -302,15 +307,9 @@ void Description::noteFormulas(int node, const Formulas &formulas)
             letters += name.isEmpty() ? 0 : text.count(name) * part.size();
         }
     }
-    for (const auto &[name, part] : formulas.parts) {
-        texts.append(part);
-    }
     m_nodes[node].evaluations = sumUpToBound(1, letters / lettersPerEvaluation);
-    const auto divides = [](const QString &text) {
-        return text.contains(QLatin1Char('/')) || text.contains(QLatin1Char('%'));
-    };
-    if (std::any_of(texts.cbegin(), texts.cend(), divides)) {
-        m_dividing.append(node);
+    if (!formulas.texts.isEmpty()) {
+        m_formulas.append(node);
     }
 }
 
@@ -474,8 +473,8 @@ std::vector<std::vector<int>> Description::evaluators() const
     std::vector<std::vector<int>> found(m_nodes.size());
     for (int node = 0; node < nodeCount(); ++node) {
         for (const Link &link : m_nodes[node].links) {
-            if (link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated
-                || link.kind == LinkKind::Related || link.kind == LinkKind::Entry) {
+            if (link.kind == LinkKind::Value || link.kind == LinkKind::Evaluated || isBesideValue(link.kind)
+                || link.kind == LinkKind::Entry) {
                 found[link.target].push_back(node);
             }
         }
@@ -599,7 +598,7 @@ int Description::readingCost(int node, std::vector<int> &costs) const
         for (const Link &link : m_nodes[node].links) {
             if (link.kind == LinkKind::Value || link.kind == LinkKind::Entry) {
                 cost = sumUpToBound(cost, readingCost(link.target, costs));
-            } else if (link.kind == LinkKind::Related) {
+            } else if (isBesideValue(link.kind)) {
                 cost = sumUpToBound(cost, m_nodes[link.target].evaluations);
             }
         }
@@ -749,6 +748,17 @@ int Description::valueNode(int node) const
     return -1;
 }
 
+QList<int> Description::linked(int node, LinkKind kind) const
+{
+    QList<int> found;
+    for (const Link &link : m_nodes[node].links) {
+        if (link.kind == kind) {
+            found.append(link.target);
+        }
+    }
+    return found;
+}
+
 QList<int> Description::dependents(int node) const
 {
     // A write goes down to the nodes that hold the value; whoever reads one of those is affected.
@@ -792,14 +802,19 @@ bool Description::isBroken(int node) const
     return m_isBroken[node];
 }
 
+int Description::evaluations(int node) const
+{
+    return m_nodes[node].evaluations;
+}
+
 qint64 Description::registerBytes() const
 {
     return m_registerBytes;
 }
 
-const QList<int> &Description::dividing() const
+const QList<int> &Description::formulas() const
 {
-    return m_dividing;
+    return m_formulas;
 }
 
 } // namespace Cameras

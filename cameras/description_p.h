@@ -31,6 +31,24 @@ class ZELTO_CAMERAS_EXPORT Description
     Q_DECLARE_TR_FUNCTIONS(Cameras::Description)
 
 public:
+    enum class LinkKind {
+        Value, //!< where the value is kept
+        Evaluated, //!< what else reading the value takes
+        Implemented,
+        Available,
+        Locked,
+        Maximum,
+        Minimum,
+        Increment,
+        Related,
+        Entry,
+        Invalidator,
+        Selected,
+        Feature,
+        Alias,
+        Ignored
+    };
+
     /*! Parses \a xml. Throws Core::Exception::BaseException telling what is wrong and where. */
     explicit Description(const QByteArray &xml);
 
@@ -65,6 +83,9 @@ public:
     /*! Returns the node that holds the value of \a node, -1 when there is none. */
     int valueNode(int node) const;
 
+    /*! Returns where the links of \a kind lead to from \a node, in the description's order. */
+    QList<int> linked(int node, LinkKind kind) const;
+
     /*! Returns the published nodes that can change when \a node is written, without \a node. */
     QList<int> dependents(int node) const;
     /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */
@@ -74,15 +95,16 @@ public:
     /*! Returns whether evaluating \a node leads into a circle of links, to a node that is missing or to a
      * register of an impossible length, or takes far too many steps. */
     bool isBroken(int node) const;
+    /*! Returns how many evaluations reading the value of \a node takes, counted up to a bound. */
+    int evaluations(int node) const;
     /*! Returns whether the register \a node can be \a length bytes long at some time. */
     bool isPossibleLength(int node, qint64 length) const;
     /*! Returns the bytes of all registers that are read and have their length stated. */
     qint64 registerBytes() const;
-    /*! Returns the nodes that have a formula with a division. */
-    const QList<int> &dividing() const;
+    /*! Returns the nodes that have formulas. */
+    const QList<int> &formulas() const;
 
 private:
-    enum class LinkKind { Value, Evaluated, Related, Entry, Invalidator, Selected, Feature, Alias, Ignored };
     enum class RegisterKind { None, Integer, Float, Text, Other };
 
     struct Link
@@ -136,7 +158,7 @@ private:
     std::vector<Node> m_nodes;
     QHash<QString, int> m_indices;
     QList<int> m_published;
-    QList<int> m_dividing;
+    QList<int> m_formulas;
     qint64 m_registerBytes = 0;
     std::vector<bool> m_isPublished;
     std::vector<bool> m_isFeature;

@@ -149,9 +149,7 @@ Engine::Engine(DevicePtr device, std::shared_ptr<const Description> description,
     if (!genicam || !arv_gc_get_node(genicam, "Root")) {
         throw Core::Exception::BaseException(tr("the engine cannot read the description"));
     }
-    for (const int node : m_description->dividing()) {
-        guardFormulas(engineNode(node));
-    }
+    guardFormulas(genicam, *m_description);
     for (const int node : m_description->published()) {
         ArvGcNode *found = engineNode(node);
         if (ARV_IS_GC_FEATURE_NODE(found)) {
@@ -474,6 +472,70 @@ bool Engine::readRegister(int node, QString *text)
     arv_gc_register_get(registerNode, bytes.data(), length, failure);
     *text = QLatin1String("0x") + QString::fromLatin1(bytes.toHex());
     return !failure.take();
+}
+
+// Those that reading a feature evaluates; of one that cannot be read, what tells so.
+std::vector<int> Engine::touchedNodes()
+{
+    using LinkKind = Description::LinkKind;
+    static constexpr LinkKind conditions[] = {LinkKind::Implemented, LinkKind::Available, LinkKind::Locked};
+    static constexpr LinkKind others[] = {LinkKind::Value,   LinkKind::Evaluated, LinkKind::Maximum,
+                                          LinkKind::Minimum, LinkKind::Increment, LinkKind::Related,
+                                          LinkKind::Entry};
+    std::vector<int> touched;
+    std::vector<bool> isTouched(size_t(m_description->nodeCount()), false);
+    const auto touch = [&](int node) {
+        if (!isTouched[size_t(node)] && !m_description->isBroken(node)) {
+            isTouched[size_t(node)] = true;
+            touched.push_back(node);
+        }
+    };
+    const auto follow = [&](int node, const auto &kinds) {
+        for (const LinkKind kind : kinds) {
+            for (const int next : m_description->linked(node, kind)) {
+                touch(next);
+            }
+        }
+    };
+    for (const int node : m_description->published()) {
+        if (isEvaluable(node) && read(node).data->isReadable) {
+            touch(node);
+        } else {
+            follow(node, conditions);
+        }
+    }
+    for (size_t i = 0; i < touched.size(); ++i) {
+        follow(touched[i], conditions);
+        follow(touched[i], others);
+    }
+    return touched;
+}
+
+RegisterImage::Contents Engine::registerContents()
+{
+    RegisterImage::Contents contents;
+    for (const int node : touchedNodes()) {
+        ArvGcNode *found = engineNode(node);
+        if (ARV_IS_GC_STRUCT_ENTRY_NODE(found)) {
+            found = ARV_GC_NODE(arv_dom_node_get_parent_node(ARV_DOM_NODE(found)));
+        }
+        if (!ARV_IS_GC_REGISTER(found) || !isEvaluable(node) || !m_lossReason.isEmpty()) {
+            continue;
+        }
+        ArvGcRegister *place = ARV_GC_REGISTER(found);
+        Failure failure(this);
+        const guint64 length = arv_gc_register_get_length(place, failure);
+        const guint64 address = failure.take() ? 0 : arv_gc_register_get_address(place, failure);
+        if (failure.take() || !m_description->isPossibleLength(node, qint64(length))) {
+            continue;
+        }
+        QByteArray bytes(qsizetype(length), '\0');
+        arv_gc_register_get(place, bytes.data(), length, failure);
+        if (!failure.take() && bytes.size() >= contents.value(address).size()) {
+            contents.insert(address, bytes);
+        }
+    }
+    return contents;
 }
 
 void Engine::refuse(int node, const QString &text, const QString &allowed) const

@@ -5,6 +5,7 @@
 
 #include "description_p.h"
 #include "deviceptr_p.h"
+#include "registerimage_p.h"
 
 #include <platform/parametercollection/parameterdata.h>
 
@@ -59,6 +60,10 @@ public:
     /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
     void write(int node, const NodeValue &value);
 
+    /*! Returns the registers that reading the features touches, those that tell why a feature cannot be read
+     * included. */
+    RegisterImage::Contents registerContents();
+
     /*! Returns why the device no longer answers, empty while it does. */
     QString lossReason() const;
     /*! Takes back the loss, since the device answers after all. */
@@ -68,6 +73,7 @@ private:
     class Failure;
 
     ArvGcNode *engineNode(int node) const;
+    std::vector<int> touchedNodes();
     bool isEvaluable(int node);
     bool isLengthSane(int node);
     GenApi::EAccessMode readAccess(int node);

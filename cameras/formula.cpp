@@ -17,6 +17,7 @@ namespace {
 
 constexpr int deepestNesting = 100;
 constexpr size_t mostSteps = 10000;
+constexpr qsizetype mostNeighbours = 20;
 
 template <typename Value>
 std::optional<Value> as(double number)
@@ -251,6 +252,22 @@ bool Formula::uses(int index) const
 {
     return std::any_of(m_steps.begin(), m_steps.end(),
                        [index](const Step &step) { return step.variable == index; });
+}
+
+QList<qint64> Formula::neighbours(int index) const
+{
+    QList<qint64> found;
+    for (size_t i = 1; i < m_steps.size(); ++i) {
+        const bool isRight = m_steps[i].variable == index;
+        const Step &other = isRight ? m_steps[i - 1] : m_steps[i];
+        const bool isNeighbour = isRight || m_steps[i - 1].variable == index;
+        const auto *literal = std::get_if<qint64>(&other.literal);
+        if (isNeighbour && other.operation == Operation::Literal && literal
+            && found.size() < mostNeighbours) {
+            found.append(*literal);
+        }
+    }
+    return found;
 }
 
 std::optional<qint64> Formula::integer(const std::vector<Number> &values) const

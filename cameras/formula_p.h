@@ -35,6 +35,9 @@ public:
     /*! Returns whether the value of the variable at \a index is needed. */
     bool uses(int index) const;
 
+    /*! Returns the integers that stand beside the variable at \a index, as in a comparison. */
+    QList<qint64> neighbours(int index) const;
+
     /*! Returns the result of integer arithmetic, nothing when there is none. */
     std::optional<qint64> integer(const std::vector<Number> &values) const;
     /*! Returns the result of floating-point arithmetic, nothing when there is none. */

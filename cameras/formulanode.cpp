@@ -4,6 +4,7 @@
 #include "formulanode_p.h"
 
 #include "aravis_p.h"
+#include "description_p.h"
 #include "formula_p.h"
 
 #include <QByteArray>
@@ -23,6 +24,7 @@ struct FormulaState
     ArvGcFeatureNode *replaced = nullptr; // stays in the document
     QList<QByteArray> variables; // TO or FROM come last
     QList<QByteArray> variableNodes;
+    std::vector<ArvGcNode *> foundNodes; // of these, as soon as they were needed
     QByteArray valueNode; // what a converter converts
     Formula from;
     Formula to;
@@ -107,13 +109,16 @@ std::optional<Formula::Number> numberOf(ArvGcNode *node, Which which, GError **e
 std::optional<std::vector<Formula::Number>> valuesFor(void *node, const Formula &formula,
                                                       const Formula::Number &last, GError **error)
 {
-    const FormulaState &state = stateOf(node);
+    FormulaState &state = stateOf(node);
     std::vector<Formula::Number> values(size_t(state.variables.size()), last);
+    state.foundNodes.resize(size_t(state.variableNodes.size()), nullptr);
     for (int i = 0; i < state.variableNodes.size(); ++i) {
         if (!formula.uses(i)) {
             continue;
         }
-        const auto number = numberOf(otherNode(node, state.variableNodes[i]), Which::Value, error);
+        ArvGcNode *&found = state.foundNodes[size_t(i)];
+        found = found ? found : otherNode(node, state.variableNodes[i]);
+        const auto number = numberOf(found, Which::Value, error);
         if (!number) {
             return std::nullopt;
         }
@@ -415,8 +420,6 @@ void copyConditions(ArvGcNode *from, ArvGcNode *to)
     }
 }
 
-} // namespace
-
 void guardFormulas(ArvGcNode *node)
 {
     const bool isConverter = ARV_IS_GC_CONVERTER(node);
@@ -446,6 +449,28 @@ void guardFormulas(ArvGcNode *node)
     arv_dom_element_set_attribute(ARV_DOM_ELEMENT(guarded), "Name",
                                   arv_gc_feature_node_get_name(state.replaced));
     arv_gc_register_feature_node(arv_gc_node_get_genicam(guarded), ARV_GC_FEATURE_NODE(guarded));
+}
+
+} // namespace
+
+void guardFormulas(ArvGc *genicam, const Description &description)
+{
+    for (const int node : description.formulas()) {
+        guardFormulas(arv_gc_get_node(genicam, description.name(node).toUtf8().constData()));
+    }
+}
+
+QHash<QByteArray, QList<qint64>> formulaHints(ArvGcNode *node)
+{
+    QHash<QByteArray, QList<qint64>> hints;
+    if (!node || !G_TYPE_CHECK_INSTANCE_TYPE(node, zelto_formula_node_get_type())) {
+        return hints;
+    }
+    const FormulaState &state = stateOf(node);
+    for (int i = 0; i < state.variableNodes.size(); ++i) {
+        hints[state.variableNodes[i]] += state.from.neighbours(i);
+    }
+    return hints;
 }
 
 } // namespace Cameras

@@ -3,13 +3,23 @@
 
 #pragma once
 
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+
+using ArvGc = struct _ArvGc;
 using ArvGcNode = struct _ArvGcNode;
 
 namespace Cameras {
 
-/*! Puts a node of our own in the place of \a node, which has a formula or two, so that these are evaluated by
- * Formula from then on: who reads or writes the node gets an error where there is no result. Leaves other
- * nodes alone. */
-void guardFormulas(ArvGcNode *node);
+class Description;
+
+/*! Puts nodes of our own in the place of those of \a genicam that have formulas, so that these are evaluated
+ * by Formula from then on: who reads or writes such a node gets an error where there is no result. */
+void guardFormulas(ArvGc *genicam, const Description &description);
+
+/*! Returns the numbers that a guarded formula of \a node names beside its variables, by the names of the
+ * nodes that these stand for; nothing for other nodes. */
+QHash<QByteArray, QList<qint64>> formulaHints(ArvGcNode *node);
 
 } // namespace Cameras

@@ -252,7 +252,11 @@ void Session::carryOut(const std::shared_ptr<Call> &call)
 {
     std::exception_ptr failure;
     try {
-        carryOutWrite(call->map, call->node, call->value);
+        if (call->task) {
+            call->task(*m_maps[size_t(call->map)]->engine);
+        } else {
+            carryOutWrite(call->map, call->node, call->value);
+        }
     } catch (...) {
         failure = std::current_exception();
     }
@@ -471,6 +475,22 @@ void Session::write(int map, int node, const NodeValue &value)
     if (!m_changed.wait_for(lock, writeTime, [&call] { return call->isDone; })) {
         giveUp(lock, call, name);
     }
+    if (call->failure) {
+        std::rethrow_exception(call->failure);
+    }
+}
+
+void Session::carryOut(int map, const std::function<void(Engine &)> &task)
+{
+    const int root = description(map)->published().constFirst();
+    auto call = std::make_shared<Call>(Call{map, root, {}, false, nullptr, task});
+    Lock lock(m_mutex);
+    if (m_isLost) {
+        throw GenICam::RuntimeException(m_lossReason);
+    }
+    m_calls.push_back(call);
+    m_changed.notify_all();
+    m_changed.wait(lock, [&call] { return call->isDone; });
     if (call->failure) {
         std::rethrow_exception(call->failure);
     }

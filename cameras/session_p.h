@@ -95,6 +95,9 @@ public:
 
     /*! Writes a node and waits until the worker has done so, at most a second. */
     void write(int map, int node, const NodeValue &value);
+    /*! Lets the worker carry out \a task and waits for its end. Throws what the task throws, or when the
+     * camera is lost. */
+    void carryOut(int map, const std::function<void(Engine &)> &task);
     void requestRead(int map, int node, bool force);
     void refresh(int map);
     void poll(int map, int elapsedMilliseconds);
@@ -153,6 +156,7 @@ private:
         NodeValue value;
         bool isDone = false;
         std::exception_ptr failure;
+        std::function<void(Engine &)> task = {}; //!< instead of a write
     };
 
     struct Read

@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <optional>
+#include <utility>
 
 namespace Cameras {
 
@@ -74,9 +74,22 @@ void SimulatedRegisters::load(const QByteArray &lines)
 {
     const std::lock_guard lock(m_mutex);
     for (const QByteArray &line : lines.split('\n')) {
-        const QByteArray text = line.left(line.indexOf('#')).trimmed();
+        const QByteArray text = line.split('#').constFirst().trimmed();
         if (!text.isEmpty()) {
             loadLine(text);
+        }
+    }
+    m_loadedPages = m_pages;
+}
+
+void SimulatedRegisters::load(const RegisterImage::Contents &image)
+{
+    const std::lock_guard lock(m_mutex);
+    for (auto part = image.cbegin(); part != image.cend(); ++part) {
+        store(part.key(), *part);
+        if (m_pages.size() * qint64(pageSize) > mostRegisterBytes) {
+            throw Core::Exception::BaseException(RegisterImage::tr("the registers take more than %1 MiB")
+                                                     .arg(mostRegisterBytes / 1024 / 1024));
         }
     }
     m_loadedPages = m_pages;
@@ -116,20 +129,63 @@ bool SimulatedRegisters::read(quint64 address, quint32 size, void *buffer)
     }
     const std::lock_guard lock(m_mutex);
     refreshLiving(address, size);
-    char *to = static_cast<char *>(buffer);
-    for (quint32 done = 0; done < size;) {
-        const quint64 at = address + done;
-        const quint32 offset = quint32(at % pageSize);
-        const quint32 count = std::min<quint32>(size - done, pageSize - offset);
+    copy(address, size, static_cast<char *>(buffer));
+    return true;
+}
+
+void SimulatedRegisters::copy(quint64 address, qsizetype size, char *to) const
+{
+    for (qsizetype done = 0; done < size;) {
+        const quint64 at = address + quint64(done);
+        const qsizetype offset = qsizetype(at % pageSize);
+        const qsizetype count = std::min<qsizetype>(size - done, qsizetype(pageSize) - offset);
         const auto page = m_pages.constFind(at / pageSize);
         if (page == m_pages.constEnd()) {
-            std::memset(to + done, 0, count);
+            std::memset(to + done, 0, size_t(count));
         } else {
-            std::memcpy(to + done, page->constData() + offset, count);
+            std::memcpy(to + done, page->constData() + offset, size_t(count));
         }
         done += count;
     }
-    return true;
+}
+
+void SimulatedRegisters::beginTrial()
+{
+    const std::lock_guard lock(m_mutex);
+    m_overwritten.emplace();
+    m_newPages.clear();
+}
+
+QHash<quint64, quint8> SimulatedRegisters::changedInTrial()
+{
+    const std::lock_guard lock(m_mutex);
+    QHash<quint64, quint8> changed;
+    // What was there first counts.
+    for (auto part = m_overwritten->crbegin(); part != m_overwritten->crend(); ++part) {
+        const auto &[address, before] = *part;
+        QByteArray now(before.size(), Qt::Uninitialized);
+        copy(address, now.size(), now.data());
+        for (qsizetype i = 0; i < now.size(); ++i) {
+            changed[address + quint64(i)] = quint8(now[i] ^ before[i]);
+        }
+    }
+    return changed;
+}
+
+void SimulatedRegisters::endTrial(bool keep)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto overwritten = std::exchange(m_overwritten, std::nullopt);
+    for (auto part = overwritten->crbegin(); !keep && part != overwritten->crend(); ++part) {
+        store(part->first, part->second);
+    }
+    // Thousands of trials must leave nothing behind.
+    for (const quint64 page : m_newPages) {
+        if (!keep) {
+            m_pages.remove(page);
+        }
+    }
+    m_newPages.clear();
 }
 
 bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer)
@@ -153,6 +209,11 @@ bool SimulatedRegisters::write(quint64 address, quint32 size, const void *buffer
 
 void SimulatedRegisters::store(quint64 address, const QByteArray &bytes)
 {
+    if (m_overwritten) {
+        QByteArray before(bytes.size(), Qt::Uninitialized);
+        copy(address, before.size(), before.data());
+        m_overwritten->emplace_back(address, before);
+    }
     for (qsizetype done = 0; done < bytes.size();) {
         const quint64 at = address + quint64(done);
         const qsizetype offset = qsizetype(at % pageSize);
@@ -160,6 +221,9 @@ void SimulatedRegisters::store(quint64 address, const QByteArray &bytes)
         QByteArray &page = m_pages[at / pageSize];
         if (page.isEmpty()) {
             page = QByteArray(qsizetype(pageSize), '\0');
+            if (m_overwritten) {
+                m_newPages.push_back(at / pageSize);
+            }
         }
         std::memcpy(page.data() + offset, bytes.constData() + done, size_t(count));
         done += count;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "registerimage_p.h"
+
 #include <cameras/cameras_export.h>
 
 #include <QByteArray>
@@ -11,6 +13,9 @@
 
 #include <atomic>
 #include <mutex>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace Cameras {
 
@@ -32,10 +37,21 @@ public:
      */
     void load(const QByteArray &lines);
 
+    /*! Sets registers from \a image. Throws Core::Exception::BaseException when that would take too much
+     * memory. */
+    void load(const RegisterImage::Contents &image);
+
     /*! Copies registers to \a buffer. Returns false when the request is larger than a register can be. */
     bool read(quint64 address, quint32 size, void *buffer);
     /*! Copies \a buffer to registers. Returns false as read() does. */
     bool write(quint64 address, quint32 size, const void *buffer);
+
+    /*! Begins to remember what is overwritten from now on. */
+    void beginTrial();
+    /*! Returns the bits that are others than when the trial began, by the addresses of their bytes. */
+    QHash<quint64, quint8> changedInTrial();
+    /*! Ends what beginTrial() began. With \a keep what was written stays, else it is taken back. */
+    void endTrial(bool keep);
 
     /*! Returns whether the register at \a address lives on its own. */
     bool isLiving(quint64 address);
@@ -58,6 +74,7 @@ private:
     };
 
     void loadLine(const QByteArray &line);
+    void copy(quint64 address, qsizetype size, char *to) const;
     void store(quint64 address, const QByteArray &bytes);
     void refreshLiving(quint64 address, quint32 size);
     void wait() const;
@@ -65,7 +82,9 @@ private:
     std::mutex m_mutex;
     QHash<quint64, QByteArray> m_pages;
     QHash<quint64, QByteArray> m_loadedPages;
+    std::vector<quint64> m_newPages; //!< of a trial
     QHash<quint64, Living> m_living;
+    std::optional<std::vector<std::pair<quint64, QByteArray>>> m_overwritten; //!< in a trial
     QElapsedTimer m_clock;
     std::atomic_int m_delay{0};
     std::atomic_int m_reads{0};

@@ -16,6 +16,7 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QSaveFile>
 #include <QTextStream>
 
 #include <cstdlib>
@@ -145,6 +146,17 @@ int showGallery(const Options &options)
     return show(tree, options);
 }
 
+int saveRegisters(const Options &options)
+{
+    const QByteArray image = MainWindow::cameraFor(options)->registerImage();
+    QSaveFile file(options.saveRegisters);
+    const bool isSaved =
+        file.open(QIODevice::WriteOnly) && file.write(image) == image.size() && file.commit();
+    return isSaved ? 0
+                   : fail(QCoreApplication::translate("main", "Cannot write %1: %2")
+                              .arg(options.saveRegisters, file.errorString()));
+}
+
 int run(const Options &options)
 {
     if (options.list) {
@@ -152,6 +164,9 @@ int run(const Options &options)
     }
     if (options.editors) {
         return showGallery(options);
+    }
+    if (!options.saveRegisters.isEmpty()) {
+        return saveRegisters(options);
     }
     MainWindow window;
     window.openCamera(options);

@@ -108,7 +108,11 @@ MainWindow::~MainWindow() = default;
 std::unique_ptr<Cameras::Camera> MainWindow::cameraFor(const Options &options)
 {
     if (!options.description.isEmpty()) {
-        return Cameras::Camera::openDescription(options.description);
+        // A saved state shall not be mixed with one that was made up.
+        const bool isZeroed = options.zeroed || !options.registers.isEmpty();
+        return Cameras::Camera::openDescription(options.description,
+                                                isZeroed ? Cameras::Start::Zeroed : Cameras::Start::Alive,
+                                                options.registers);
     }
     return options.camera.isEmpty() ? Cameras::Camera::openEmbedded()
                                     : Cameras::Camera::openLive(options.camera);

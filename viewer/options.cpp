@@ -39,6 +39,9 @@ void addOptions(QCommandLineParser &parser)
                        "--camera an embedded simulated camera is opened."));
     add("description", "Open a camera description file on simulated registers.", "file");
     add("camera", "Open the live camera with this id (see --list).", "id");
+    add("zeroed", "Let the registers of --description start with zeros.");
+    add("registers", "Let them start with what --save-registers has saved.", "file");
+    add("save-registers", "Save the registers that the features are read from and exit.", "file");
     add("list", "List the cameras that are reachable and exit.");
     add("dump", "Print the tree as text and exit.");
     add("favorites", "Print the favorites as text and exit.");
@@ -61,7 +64,7 @@ QString helpText(const QCommandLineParser &parser)
 QString mistakeIn(const QCommandLineParser &parser)
 {
     // An empty text, as from an unset variable of a script, must not pass for an option that was not given.
-    for (const char *const option : {"description", "camera", "screenshot"}) {
+    for (const char *const option : {"description", "camera", "screenshot", "registers", "save-registers"}) {
         const QString name = QString::fromLatin1(option);
         if (parser.isSet(name) && parser.value(name).isEmpty()) {
             return QStringLiteral("The value of --%1 is empty.").arg(name);
@@ -72,21 +75,41 @@ QString mistakeIn(const QCommandLineParser &parser)
     }
     // What would be ignored is refused as well, so that no script believes it was heeded.
     static constexpr std::array exclusive{
-        std::pair{"description", "camera"}, std::pair{"list", "description"},
-        std::pair{"list", "camera"},        std::pair{"list", "dump"},
-        std::pair{"list", "favorites"},     std::pair{"list", "visibility"},
-        std::pair{"list", "search"},        std::pair{"list", "expand"},
-        std::pair{"list", "editors"},       std::pair{"list", "screenshot"},
-        std::pair{"dump", "editors"},       std::pair{"dump", "screenshot"},
-        std::pair{"favorites", "editors"},  std::pair{"favorites", "screenshot"},
-        std::pair{"visibility", "editors"}, std::pair{"search", "editors"},
+        std::pair{"description", "camera"},
+        std::pair{"list", "description"},
+        std::pair{"list", "camera"},
+        std::pair{"list", "dump"},
+        std::pair{"list", "favorites"},
+        std::pair{"list", "visibility"},
+        std::pair{"list", "search"},
+        std::pair{"list", "expand"},
+        std::pair{"list", "editors"},
+        std::pair{"list", "screenshot"},
+        std::pair{"dump", "editors"},
+        std::pair{"dump", "screenshot"},
+        std::pair{"favorites", "editors"},
+        std::pair{"favorites", "screenshot"},
+        std::pair{"visibility", "editors"},
+        std::pair{"search", "editors"},
         std::pair{"expand", "editors"},
+        std::pair{"zeroed", "registers"},
+        std::pair{"list", "save-registers"},
+        std::pair{"dump", "save-registers"},
+        std::pair{"favorites", "save-registers"},
+        std::pair{"editors", "save-registers"},
+        std::pair{"screenshot", "save-registers"},
     };
     for (const auto &[first, second] : exclusive) {
         const QString one = QString::fromLatin1(first);
         const QString other = QString::fromLatin1(second);
         if (parser.isSet(one) && parser.isSet(other)) {
             return QStringLiteral("--%1 and --%2 exclude each other.").arg(one, other);
+        }
+    }
+    for (const char *const option : {"zeroed", "registers"}) {
+        const QString name = QString::fromLatin1(option);
+        if (parser.isSet(name) && !parser.isSet(QStringLiteral("description"))) {
+            return QStringLiteral("--%1 needs --description.").arg(name);
         }
     }
     const QString level = parser.value(QStringLiteral("visibility"));
@@ -108,6 +131,9 @@ Options optionsFrom(const QCommandLineParser &parser)
     }
     options.description = parser.value(QStringLiteral("description"));
     options.camera = parser.value(QStringLiteral("camera"));
+    options.zeroed = parser.isSet(QStringLiteral("zeroed"));
+    options.registers = parser.value(QStringLiteral("registers"));
+    options.saveRegisters = parser.value(QStringLiteral("save-registers"));
     options.list = parser.isSet(QStringLiteral("list"));
     options.dump = parser.isSet(QStringLiteral("dump"));
     options.favorites = parser.isSet(QStringLiteral("favorites"));
@@ -127,7 +153,8 @@ Options optionsFrom(const QCommandLineParser &parser)
 
 bool Options::isInteractive() const
 {
-    return !list && !dump && !favorites && screenshot.isEmpty() && helpText.isEmpty();
+    return !list && !dump && !favorites && screenshot.isEmpty() && saveRegisters.isEmpty()
+        && helpText.isEmpty();
 }
 
 ParsedOptions parseOptions(const QStringList &arguments)

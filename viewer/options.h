@@ -15,6 +15,9 @@ struct Options
 {
     QString description; //!< camera description file for simulated registers
     QString camera; //!< id of a live camera; with neither, the embedded camera is opened
+    bool zeroed = false; //!< the registers of the description start with zeros
+    QString registers; //!< file with what the registers of the description start with
+    QString saveRegisters; //!< file to save the camera's registers to, instead of showing a window
     bool list = false;
     bool dump = false;
     bool favorites = false; //!< dump the favorites branch alone

@@ -170,6 +170,21 @@
     </message>
 </context>
 <context>
+    <name>Cameras::RegisterImage</name>
+    <message>
+        <source>line %1: expected an address and bytes in hexadecimal digits</source>
+        <translation>Zeile %1: erwartet werden eine Adresse und Bytes in hexadezimalen Ziffern</translation>
+    </message>
+    <message>
+        <source>there are more than %1 lines</source>
+        <translation>es sind mehr als %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>the registers take more than %1 MiB</source>
+        <translation>die Register belegen mehr als %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>Cameras::Session</name>
     <message>
         <source>no answer in time</source>

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "descriptiontext.h"
+
 #include <cameras/camera.h>
 #include <cameras/description_p.h>
 
@@ -17,36 +19,6 @@
 
 using namespace ParameterCollection;
 using namespace Cameras;
-
-namespace {
-
-QByteArray description(const QByteArray &nodes)
-{
-    return QByteArray(
-               "<?xml version=\"1.0\"?>\n<RegisterDescription ModelName=\"Model\" VendorName=\"Vendor\" "
-               "StandardNameSpace=\"GEV\" SchemaMajorVersion=\"1\" SchemaMinorVersion=\"1\" "
-               "SchemaSubMinorVersion=\"0\" MajorVersion=\"1\" MinorVersion=\"0\" SubMinorVersion=\"0\" "
-               "xmlns=\"http://www.genicam.org/GenApi/Version_1_1\">\n")
-        + nodes + "\n<Port Name=\"Device\"/></RegisterDescription>\n";
-}
-
-QByteArray root(const QByteArray &features)
-{
-    QByteArray text = "<Category Name=\"Root\">";
-    for (const QByteArray &feature : features.split(' ')) {
-        text += "<pFeature>" + feature + "</pFeature>";
-    }
-    return text + "</Category>";
-}
-
-QByteArray integerRegister(const QByteArray &name, const QByteArray &address, const QByteArray &more = {})
-{
-    return "<IntReg Name=\"" + name + "\">" + more + "<Address>" + address
-        + "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
-          "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
-}
-
-} // namespace
 
 class TestDescription : public QObject
 {
@@ -91,7 +63,7 @@ QString TestDescription::saved(const QByteArray &contents)
 
 std::unique_ptr<Camera> TestDescription::opened(const QByteArray &nodes)
 {
-    return Camera::openDescription(saved(description(nodes)));
+    return Camera::openDescription(saved(description(nodes)), Start::Zeroed);
 }
 
 void TestDescription::refusesBrokenFiles_data()
@@ -346,6 +318,11 @@ void TestDescription::formulasWithoutResultAreUnreadable_data()
     row("all digits", "IntSwissKnife", "9007199254740993 * 3 / 3", "9007199254740993");
     row("a float", "SwissKnife", "1 / 4 + 1e-1", "0.35");
     row("operators", "IntSwissKnife", "(1 + 2 << 3 & 0xff | 1) / 1 = 25 && 7 <> 6 ? 2 ** 3 ** 2 : 0", "512");
+    row("an unknown function", "SwissKnife", "HYPOT(3, 4)", QString());
+    row("too large, no division", "IntSwissKnife", "2 ** 70", QString());
+    row("no formula, no division", "IntSwissKnife", "7 + (2", QString());
+    row("no variable, no division", "IntSwissKnife", "7 + UNKNOWN", QString());
+    row("not a number", "SwissKnife", "SQRT(-1)", QString());
     row("functions", "SwissKnife", "ROUND(2.567, 1) + SQRT(4) + ABS(-3) * TRUNC(2.7) / 2 - FLOOR(PI)", "4.6");
 }
 
@@ -382,11 +359,13 @@ void TestDescription::formulasWithoutResultAreUnreadable()
 void TestDescription::failedConversionWritesNothing()
 {
     const auto camera = opened(
-        root("Rate Whole Zero Register")
+        root("Rate Whole Power Zero Register")
         + "<Converter Name=\"Rate\"><pVariable Name=\"Z\">Zero</pVariable><FormulaTo>1000 / FROM</FormulaTo>"
           "<FormulaFrom>1000 / TO</FormulaFrom><pValue>Register</pValue></Converter>"
           "<IntConverter Name=\"Whole\"><pVariable Name=\"Z\">Zero</pVariable><FormulaTo>FROM / Z</FormulaTo>"
           "<FormulaFrom>TO * 2</FormulaFrom><pValue>Register</pValue></IntConverter>"
+          "<IntConverter Name=\"Power\"><FormulaTo>2 ** FROM</FormulaTo><FormulaFrom>TO</FormulaFrom>"
+          "<pValue>Register</pValue></IntConverter>"
         + integerRegister("Zero", "0x10") + integerRegister("Register", "0x14"));
     const auto collection = camera->nodeMaps().first().collection;
     const auto text = [&collection](const char *name) {
@@ -397,6 +376,7 @@ void TestDescription::failedConversionWritesNothing()
     QTRY_COMPARE(text("Rate"), "125");
     QVERIFY_EXCEPTION_THROWN(collection->parameter("Rate")->setValueFromString("0"), std::exception);
     QVERIFY_EXCEPTION_THROWN(collection->parameter("Whole")->setValueFromString("6"), std::exception);
+    QVERIFY_EXCEPTION_THROWN(collection->parameter("Power")->setValueFromString("70"), std::exception);
     QCOMPARE(text("Register"), "8");
     collection->parameter("Rate")->setValueFromString("250");
     QCOMPARE(text("Rate"), "250");

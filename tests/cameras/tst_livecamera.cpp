@@ -110,6 +110,7 @@ void TestLiveCamera::listsReadsAndWrites()
     width->setValueFromString("256");
     QCOMPARE(width->parameterData()->valueString, "256");
     QVERIFY_EXCEPTION_THROWN(width->setValueFromString("-1"), std::exception);
+    QVERIFY2(open->registerImage().contains("0x00000100 00 00 01 00"), open->registerImage());
     QVERIFY(!open->isLost());
 }
 

@@ -32,6 +32,7 @@ private slots:
     void dumpIsLimited();
     void dumpForgetsTheWindow();
     void dumpsADescriptionFile();
+    void savesAndLoadsRegisters();
     void dumpsSearchResults();
     void dumpsFavorites();
     void answersAboutItself_data();
@@ -114,6 +115,11 @@ void TestViewerCli::failsInOneLine_data()
     row("--dump --camera x --description y", "exclude each other");
     row("--editors --dump", "exclude each other");
     row("--list --search=x", "exclude each other");
+    row("--dump --zeroed", "needs --description");
+    row("--dump --registers=x --camera=y", "needs --description");
+    row("--dump --save-registers=x", "exclude each other");
+    row("--dump --registers missing --description " DESCRIPTION_FILE, "missing");
+    row("--save-registers /dev/null/a", "/dev/null/a");
     row("--dump --description missing.xml", "missing.xml");
     row("--dump --description miss\ning.xml", "ing.xml");
     row("--dump --description .", "directory");
@@ -225,6 +231,18 @@ void TestViewerCli::dumpsADescriptionFile()
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.err, QString());
     QVERIFY(result.out.contains("Exposure Time [us]\t"));
+}
+
+void TestViewerCli::savesAndLoadsRegisters()
+{
+    const QString open = "--description " DESCRIPTION_FILE " ";
+    const QString alive = run("--dump " + open).out;
+    const QString zeroed = run("--dump --zeroed " + open).out;
+    QVERIFY(zeroed.contains("Sensor Width [px]\t0\n") && alive != zeroed);
+    const Result saved = run(open + "--save-registers " + path("state"));
+    QCOMPARE(saved.exitCode, 0);
+    QCOMPARE(saved.out + saved.err, QString());
+    QCOMPARE(run("--dump " + open + "--registers " + path("state")).out, alive);
 }
 
 void TestViewerCli::dumpsSearchResults()

@@ -494,6 +494,10 @@ Open a description file or connect to a camera (menu File).</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
         <source>Cannot write to the standard output.</source>
         <translation>Die Standardausgabe kann nicht beschrieben werden.</translation>
     </message>
