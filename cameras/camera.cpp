@@ -4,6 +4,7 @@
 #include "camera.h"
 
 #include "aravis_p.h"
+#include "camerafactory_p.h"
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
 #include "livecamera_p.h"
@@ -196,6 +197,11 @@ std::shared_ptr<Session> started(const QString &name, const std::shared_ptr<Sess
 
 } // namespace
 
+std::unique_ptr<Camera> CameraFactory::camera(std::shared_ptr<Session> session)
+{
+    return std::unique_ptr<Camera>(new Camera(std::move(session)));
+}
+
 Camera::Camera(std::shared_ptr<Session> session)
     : m_session(std::move(session))
 {
@@ -233,22 +239,22 @@ CameraStatus Camera::status(const QString &id)
 
 std::unique_ptr<Camera> Camera::openEmbedded()
 {
-    return std::unique_ptr<Camera>(
-        new Camera(started(tr("the embedded camera"), std::make_shared<Session>(), embeddedSource)));
+    return CameraFactory::camera(
+        started(tr("the embedded camera"), std::make_shared<Session>(), embeddedSource));
 }
 
 std::unique_ptr<Camera> Camera::openDescription(const QString &fileName)
 {
-    return std::unique_ptr<Camera>(new Camera(
-        started(fileName, std::make_shared<Session>(), [fileName] { return describedSource(fileName); })));
+    return CameraFactory::camera(
+        started(fileName, std::make_shared<Session>(), [fileName] { return describedSource(fileName); }));
 }
 
 std::unique_ptr<Camera> Camera::openLive(const QString &id)
 {
     const auto session = std::make_shared<Session>();
     const std::weak_ptr<Session> weak = session;
-    return std::unique_ptr<Camera>(new Camera(
-        started(tr("the camera %1").arg(id), session, [id, weak] { return liveSource(id, weak); })));
+    return CameraFactory::camera(
+        started(tr("the camera %1").arg(id), session, [id, weak] { return liveSource(id, weak); }));
 }
 
 CameraInfoPtr Camera::info() const
@@ -284,11 +290,6 @@ bool Camera::isControlAvailable() const
 void Camera::takeControl()
 {
     m_session->takeControl();
-}
-
-std::shared_ptr<Session> Camera::session() const
-{
-    return m_session;
 }
 
 void Camera::reportLoss(const QString &reason)

@@ -18,6 +18,7 @@
 
 namespace Cameras {
 
+class CameraFactory;
 class Session;
 
 /*! \brief One node map of an open camera, ready to be shown. */
@@ -77,9 +78,6 @@ public:
     /*! Returns whether the camera is read-only although nobody controls it now. */
     bool isControlAvailable() const;
 
-    /*! Returns the camera's inner side, for tests. */
-    std::shared_ptr<Session> session() const;
-
 public slots:
     /*! Asks for the control of a read-only camera. Returns at once; accessChanged() or controlRefused() tells
      * what came of it. */
@@ -102,6 +100,8 @@ private slots:
     void reportRefusal(const QString &reason);
 
 private:
+    friend class CameraFactory;
+
     explicit Camera(std::shared_ptr<Session> session);
 
     std::shared_ptr<Session> m_session;

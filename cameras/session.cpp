@@ -289,9 +289,6 @@ void Session::readNow(int mapIndex, int node, bool force)
     const Engine::Reading reading = map.engine->read(node);
     noteLoss(mapIndex);
     const Lock lock(m_mutex);
-    if (m_readLog) {
-        m_readLog->append(map.source.description->name(node));
-    }
     if (m_isLost) {
         return;
     }
@@ -677,18 +674,6 @@ GenApi::EAccessMode Session::nodeAccess(int map, int node) const
         return access;
     }
     return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
-}
-
-void Session::startReadLog()
-{
-    const Lock lock(m_mutex);
-    m_readLog.emplace();
-}
-
-QStringList Session::readLog() const
-{
-    const Lock lock(m_mutex);
-    return m_readLog.value_or(QStringList());
 }
 
 } // namespace Cameras

@@ -17,7 +17,6 @@
 #include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <chrono>
 #include <condition_variable>
@@ -117,10 +116,6 @@ public:
     /*! Has the worker find out whether the camera is still controlled by us, and whether it answers. */
     void doubtControl();
 
-    /*! Begins to note which nodes the worker reads; for tests. */
-    void startReadLog();
-    QStringList readLog() const;
-
 private:
     struct NodeState
     {
@@ -201,7 +196,6 @@ private:
     bool m_isControlDoubtful = false;
     bool m_isControlWanted = false;
     QString m_lossReason;
-    std::optional<QStringList> m_readLog;
     bool m_isOpen = false;
     bool m_isLost = false;
     bool m_isStopping = false;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "cameraaddress.h"
 #include "colours.h"
 #include "featuresamples.h"
 #include "languages.h"
@@ -104,6 +105,19 @@ int dumpTree(MainWindow &window, const Options &options)
     return finish(out);
 }
 
+void lookAt(FeatureTreeWidget &tree, const Options &options)
+{
+    if (options.visibility) {
+        tree.onVisibilityChanged(*options.visibility);
+    }
+    if (options.expand) {
+        tree.treeView()->expandEverything();
+    }
+    if (!options.search.isEmpty()) {
+        tree.setSearchText(options.search);
+    }
+}
+
 int renderTo(QWidget &widget, const QString &fileName)
 {
     widget.show();
@@ -127,7 +141,7 @@ int show(QWidget &widget, const Options &options)
 // A tree with one feature of each kind that the camera has.
 int showGallery(const Options &options)
 {
-    const auto camera = MainWindow::cameraFor(options);
+    const auto camera = cameraAt({options.description, options.camera});
     FeatureTreeWidget tree(QStringLiteral("editors"));
     tree.setVisibility(GenApi::Invisible);
     QSet<QString> kinds;
@@ -154,8 +168,9 @@ int run(const Options &options)
         return showGallery(options);
     }
     MainWindow window;
-    window.openCamera(options);
-    window.applyOptions(options);
+    window.setRemembering(options.isInteractive());
+    window.openCamera({options.description, options.camera});
+    lookAt(*window.featureTree(), options);
     return options.dump || options.favorites ? dumpTree(window, options) : show(window, options);
 }
 

@@ -105,13 +105,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow() = default;
 
-std::unique_ptr<Cameras::Camera> MainWindow::cameraFor(const Options &options)
+void MainWindow::setRemembering(bool remembers)
 {
-    if (!options.description.isEmpty()) {
-        return Cameras::Camera::openDescription(options.description);
-    }
-    return options.camera.isEmpty() ? Cameras::Camera::openEmbedded()
-                                    : Cameras::Camera::openLive(options.camera);
+    m_remembers = remembers;
 }
 
 FeatureTreeWidget *MainWindow::featureTree() const
@@ -337,21 +333,21 @@ void MainWindow::updateLevelButton()
     m_levelButton->setText(tr("Level: %1").arg(name));
 }
 
-void MainWindow::openCamera(const Options &options)
+void MainWindow::openCamera(const CameraAddress &address)
 {
-    std::unique_ptr<Cameras::Camera> camera = cameraFor(options);
+    std::unique_ptr<Cameras::Camera> camera = cameraAt(address);
     closeCamera();
-    m_source = options;
+    m_source = address;
     useCamera(std::move(camera));
     recallCamera();
-    if (options.isInteractive()) {
-        m_recent->add(options);
+    if (m_remembers) {
+        m_recent->add(address);
     }
 }
 
 void MainWindow::recallCamera()
 {
-    m_memory.setSource(m_source);
+    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt);
     const std::optional<CameraView> view = m_memory.recall();
     m_monitorAction->setChecked(view && view->monitors);
     if (view) {
@@ -415,17 +411,17 @@ void MainWindow::closeCamera()
     updateActions();
 }
 
-void MainWindow::openInstead(const Options &options)
+void MainWindow::openInstead(const CameraAddress &address)
 {
     if (!isCloseWanted()) {
         return;
     }
     try {
         const WaitCursor cursor;
-        if (m_camera && !options.camera.isEmpty() && options.camera == m_source.camera) {
+        if (m_camera && address.isLive() && address == m_source) {
             closeCamera(); // nobody controls a camera twice
         }
-        openCamera(options);
+        openCamera(address);
     } catch (const Core::Exception::BaseException &exception) {
         m_messages->showMessage(exception.getMessage(), QString());
     }
@@ -442,10 +438,7 @@ void MainWindow::openDescriptionFile()
 
 void MainWindow::openSource(const QString &description, const QString &camera)
 {
-    Options options;
-    options.description = description;
-    options.camera = camera;
-    openInstead(options);
+    openInstead({description, camera});
 }
 
 void MainWindow::connectToCamera()
@@ -512,7 +505,7 @@ void MainWindow::reconnect()
 {
     try {
         const WaitCursor cursor;
-        std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
+        std::unique_ptr<Cameras::Camera> camera = cameraAt(m_source);
         const std::optional<FeatureTreeLook> look =
             m_camera ? std::make_optional(currentLook()) : std::nullopt;
         closeCamera();
@@ -541,7 +534,7 @@ void MainWindow::closeCameraIfWanted()
 
 bool MainWindow::isCloseWanted()
 {
-    const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
+    const bool isLive = isCameraOpen() && m_source.isLive();
     return !isLive
         || confirm(
             QStringLiteral("CloseLiveCamera"), tr("Close Camera"),
@@ -625,19 +618,6 @@ QString MainWindow::ipObstacle() const
         return tr("No camera is open");
     }
     return m_camera->isLost() ? tr("The camera was lost") : IpConfiguration(m_camera->nodeMaps()).obstacle();
-}
-
-void MainWindow::applyOptions(const Options &options)
-{
-    if (options.visibility) {
-        m_tree->onVisibilityChanged(*options.visibility);
-    }
-    if (options.expand) {
-        m_tree->treeView()->expandEverything();
-    }
-    if (!options.search.isEmpty()) {
-        m_tree->setSearchText(options.search);
-    }
 }
 
 void MainWindow::focusSearch()

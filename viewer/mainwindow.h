@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "cameraaddress.h"
 #include "cameramemory.h"
-#include "options.h"
 
 #include <cameras/camera.h>
 #include <platform/core/camerainfo.h>
@@ -48,18 +48,15 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /*! Returns the camera that \a options name; throws Core::Exception::BaseException when it cannot be
-     * opened. */
-    static std::unique_ptr<Cameras::Camera> cameraFor(const Options &options);
-
-    /*! Opens what \a options name; throws Core::Exception::BaseException when that fails, with the camera
-     * that was open left as it was. */
-    void openCamera(const Options &options);
+    /*! Sets whether the window remembers what it opens and how that was looked at, as it does unless a script
+     * uses it. */
+    void setRemembering(bool remembers);
+    /*! Opens \a address; throws Core::Exception::BaseException when that fails, with the camera that was open
+     * left as it was. */
+    void openCamera(const CameraAddress &address);
     /*! Opens what a user has chosen, instead of the camera that is open: asks before it closes a live one,
      * and shows a failure. */
-    void openInstead(const Options &options);
-    /*! Sets level, search and expansion as \a options ask. */
-    void applyOptions(const Options &options);
+    void openInstead(const CameraAddress &address);
     FeatureTreeWidget *featureTree() const;
     /*! Returns whether a camera is open and answers. */
     bool isCameraOpen() const;
@@ -134,7 +131,8 @@ private:
     void saveState() const;
 
     std::unique_ptr<Cameras::Camera> m_camera;
-    Options m_source; // how the camera was opened
+    CameraAddress m_source; // of the camera that was opened last
+    bool m_remembers = true;
     QHash<QString, QString> m_failedWrites; // messages that are on their way, and the features they are about
     bool m_pollsAfterReconnect = false;
     int m_nameWidth = 0; // of the first column, as far as there is room for it

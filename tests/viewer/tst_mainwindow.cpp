@@ -107,7 +107,7 @@ void TestMainWindow::init()
     QSettings().clear();
     m_boxes = 0;
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera(Options());
+    m_window->openCamera({});
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -182,11 +182,9 @@ void TestMainWindow::silencedMessageComesBack()
 
 void TestMainWindow::clickOnALockedEditorGoesToItsRow()
 {
-    Options options;
-    options.expand = true;
-    options.visibility = GenApi::Guru;
-    m_window->applyOptions(options);
-    const FeatureTreeView *const view = m_window->featureTree()->treeView();
+    FeatureTreeView *const view = m_window->featureTree()->treeView();
+    m_window->featureTree()->onVisibilityChanged(GenApi::Guru);
+    view->expandEverything();
     int clicked = 0;
     for (QModelIndex row = view->indexAt({0, 0}); row.isValid() && view->visualRect(row).isValid();
          row = view->indexBelow(row)) {
@@ -221,10 +219,8 @@ void TestMainWindow::openLiveCamera()
             if (info->serialNumber() != QLatin1String("ZWINDOW")) {
                 continue;
             }
-            Options options;
-            options.camera = info->id();
             try {
-                m_window->openCamera(options);
+                m_window->openCamera(CameraAddress::ofCamera(info->id()));
                 return;
             } catch (const std::exception &exception) {
                 failure = exception.what();
@@ -354,7 +350,7 @@ void TestMainWindow::closingALiveCameraIsConfirmed()
     QVERIFY(m_window->isCameraOpen());
     const QString title = m_window->windowTitle();
     QTimer::singleShot(0, this, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-    m_window->openInstead(Options());
+    m_window->openInstead({});
     QCOMPARE(m_window->windowTitle(), title);
     QVERIFY(closeCamera(QMessageBox::Ok)); // a refusal is not remembered
     QVERIFY(!m_window->isCameraOpen());
@@ -449,9 +445,7 @@ void TestMainWindow::commandsAreConfirmed()
     QFETCH(QString, command);
     QFETCH(QString, operation);
     QFETCH(QString, named);
-    Options options;
-    options.description = describeCamera(command, operation);
-    m_window->openInstead(options);
+    m_window->openInstead(CameraAddress::ofDescription(describeCamera(command, operation)));
     FeatureTreeView *const view = m_window->featureTree()->treeView();
     const QSignalSpy written(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
     QVERIFY(show(qPrintable(command)));
@@ -598,7 +592,7 @@ void TestMainWindow::standsGarbledSettings()
         settings.setValue(QStringLiteral("MainWindow/") + key, value);
     }
     MainWindow window;
-    window.openCamera(Options());
+    window.openCamera({});
     window.show();
     QCOMPARE(window.size(), fresh.size());
     QCOMPARE(window.featureTree()->visibility(), fresh.featureTree()->visibility());

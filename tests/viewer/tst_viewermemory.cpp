@@ -77,7 +77,7 @@ void TestViewerMemory::restart()
         m_window->close();
     }
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera(Options());
+    m_window->openCamera({});
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -91,9 +91,7 @@ QString TestViewerMemory::description(const QString &name)
 
 void TestViewerMemory::open(const QString &fileName)
 {
-    Options options;
-    options.description = fileName;
-    m_window->openCamera(options);
+    m_window->openCamera(CameraAddress::ofDescription(fileName));
     QCoreApplication::processEvents(); // which fill the menu
 }
 
@@ -232,14 +230,11 @@ void TestViewerMemory::scriptsLeaveNoTraces()
     view()->expand(feature("Analog Control"));
     m_window->close();
     const QStringList keys = QSettings().allKeys();
-    Options options;
-    options.screenshot = "x.png";
-    options.description = description("script.xml");
-    m_window->openCamera(options);
+    m_window->setRemembering(false);
+    m_window->openCamera(CameraAddress::ofDescription(description("script.xml")));
     m_window->closeCamera();
     QCOMPARE(QSettings().allKeys(), keys);
-    options.description.clear();
-    m_window->openCamera(options);
+    m_window->openCamera({});
     QVERIFY(!view()->isExpanded(feature("Analog Control")));
 }
 
