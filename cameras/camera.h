@@ -19,6 +19,7 @@
 namespace Cameras {
 
 class CameraFactory;
+class CameraOpening;
 class Session;
 
 /*! \brief One node map of an open camera, ready to be shown. */
@@ -39,8 +40,10 @@ struct NodeMap
  * A camera that another program controls opens read-only: nothing is sent to it that would change anything,
  * all features are locked, and a look is taken every second at whether its control has become free.
  *
- * All ways to open a camera throw Core::Exception::BaseException with one line that names the camera or the
- * file and the reason.
+ * Opening takes as long as the camera does, seconds if it hangs. A program with a window opens with the
+ * functions that return a CameraOpening, see there, and searches with a CameraSearch; the others wait, and
+ * throw Core::Exception::BaseException with one line that names the camera or the file and the reason.
+ * Closing, by destroying the camera, never waits.
  */
 class ZELTO_CAMERAS_EXPORT Camera : public QObject
 {
@@ -57,10 +60,16 @@ public:
 
     /*! Opens the simulated camera that comes with the library. */
     static std::unique_ptr<Camera> openEmbedded();
+    /*! As openEmbedded(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openEmbeddedAsync();
     /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers. */
     static std::unique_ptr<Camera> openDescription(const QString &fileName);
+    /*! As openDescription(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openDescriptionAsync(const QString &fileName);
     /*! Opens the live camera called \a id, as list() names it. */
     static std::unique_ptr<Camera> openLive(const QString &id);
+    /*! As openLive(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openLiveAsync(const QString &id);
 
     /*! Returns what identifies the camera. */
     Core::CameraPoolComponents::CameraInfoPtr info() const;
@@ -87,6 +96,9 @@ signals:
     /*! The camera has stopped answering, which \a reason says in a sentence. Sent once, on the thread that
      * opened the camera. */
     void lost(const QString &reason);
+    /*! A camera answers again where this one was lost, the same or another, which \a news tells in a
+     * sentence. This one stays lost: it has to be opened again. */
+    void returned(const QString &news);
     /*! isReadOnly(), controller() or isControlAvailable() has changed. */
     void accessChanged();
     /*! Nobody controls the read-only camera any more. */
@@ -96,6 +108,7 @@ signals:
 
 private slots:
     void reportLoss(const QString &reason);
+    void reportReturn(const QString &news);
     void reportAccess();
     void reportRefusal(const QString &reason);
 

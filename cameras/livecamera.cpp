@@ -67,6 +67,30 @@ void leaveAlone(ArvDevice *device)
     devices->append(ARV_DEVICE(g_object_ref(device)));
 }
 
+QString deviceClassOf(const QString &protocol)
+{
+    if (protocol == QLatin1String("GigEVision")) {
+        return QStringLiteral("GEV");
+    }
+    return protocol == QLatin1String("USB3Vision") ? QStringLiteral("U3V") : QString();
+}
+
+CameraRecord::Texts textsOf(unsigned int index)
+{
+    return {QString::fromUtf8(arv_get_device_id(index)), QString::fromUtf8(arv_get_device_vendor(index)),
+            QString::fromUtf8(arv_get_device_model(index)),
+            QString::fromUtf8(arv_get_device_serial_nbr(index)),
+            deviceClassOf(QString::fromUtf8(arv_get_device_protocol(index)))};
+}
+
+QString textOf(ArvDevice *device, const char *feature)
+{
+    GError *error = nullptr;
+    const QString text = QString::fromUtf8(arv_device_get_string_feature_value(device, feature, &error));
+    g_clear_error(&error);
+    return text;
+}
+
 std::optional<unsigned int> listed(const QString &id)
 {
     for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
@@ -79,10 +103,24 @@ std::optional<unsigned int> listed(const QString &id)
     return std::nullopt;
 }
 
-QHostAddress addressOf(unsigned int index)
+QList<CameraRecord::Texts> listedTexts()
 {
-    const bool isGige = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
-    return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(index))) : QHostAddress();
+    QList<CameraRecord::Texts> cameras;
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        cameras.append(textsOf(i));
+    }
+    return cameras;
+}
+
+// Null for what is no GigE Vision camera, and for one that is not in the list and not named by its address.
+QHostAddress listedAddress(const QString &id)
+{
+    const auto index = listed(id);
+    if (!index) {
+        return QHostAddress(id);
+    }
+    const bool isGige = qstrcmp(arv_get_device_protocol(*index), "GigEVision") == 0;
+    return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(*index))) : QHostAddress();
 }
 
 bool isInOurSubnets(const QHostAddress &address)
@@ -126,8 +164,9 @@ void drop(gpointer onDoubt, GClosure *)
 
 } // namespace
 
-LiveCamera::LiveCamera(const QString &id, std::function<void()> onDoubt)
+LiveCamera::LiveCamera(const QString &id, EngineTurn::Waiter waiter, std::function<void()> onDoubt)
     : m_id(id)
+    , m_waiter(std::move(waiter))
     , m_onDoubt(std::move(onDoubt))
 {
 }
@@ -136,8 +175,10 @@ LiveCamera::~LiveCamera() = default;
 
 CameraStatus LiveCamera::status(const QString &id)
 {
-    const auto index = listed(id);
-    const QHostAddress address = index ? addressOf(*index) : QHostAddress(id);
+    const QHostAddress address = [&id] {
+        const EngineTurn turn;
+        return listedAddress(id);
+    }();
     if (address.isNull()) {
         return {};
     }
@@ -148,14 +189,23 @@ CameraStatus LiveCamera::status(const QString &id)
     return {stateOf(control.hold), address.toString(), control.controller.toString()};
 }
 
-DevicePtr LiveCamera::open()
+QString LiveCamera::locate()
 {
     m_address = findAddress();
+    return m_address.isNull() ? m_id : m_address.toString();
+}
+
+DevicePtr LiveCamera::open()
+{
     if (m_address.isNull()) {
         return connected();
     }
     m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
-    switch (m_link->control().hold) {
+    const GigeLink::Hold hold = m_link->control().hold;
+    if (hold != GigeLink::Hold::NoAnswer) {
+        m_identity = m_link->identity();
+    }
+    switch (hold) {
     case GigeLink::Hold::Free:
         checkDescription();
         return connected();
@@ -186,7 +236,11 @@ DevicePtr LiveCamera::openControlled()
 DevicePtr LiveCamera::connected()
 {
     GError *error = nullptr;
-    DevicePtr device(arv_open_device(m_id.toUtf8().constData(), &error));
+    DevicePtr device;
+    {
+        const EngineTurn turn(m_waiter);
+        device.reset(arv_open_device(m_id.toUtf8().constData(), &error));
+    }
     if (!device) {
         const QString reason = error ? EngineFailure::words(*error) : tr("there is no such camera");
         g_clear_error(&error);
@@ -199,7 +253,10 @@ DevicePtr LiveCamera::connected()
             g_inet_socket_address_get_address(const_cast<GInetSocketAddress *>(address)));
         m_address = QHostAddress(QString::fromUtf8(text));
         g_free(text);
-        m_link = m_link ? std::move(m_link) : std::make_unique<GigeLink>(m_address, patientAttempts);
+        if (!m_link) { // a camera that had to be looked up
+            m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
+            m_identity = m_link->identity();
+        }
         if (!arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()))) {
             leaveAlone(device.get());
             return openReadOnly(); // another program was faster
@@ -224,6 +281,30 @@ DevicePtr LiveCamera::openReadOnly()
         const Description accepted(m_xml); // throws before the engine sees it
     }
     return newPortDevice(m_xml, std::make_unique<ReadOnlyPort>(m_address));
+}
+
+CameraRecord::Texts LiveCamera::texts(ArvDevice *device) const
+{
+    const QList<CameraRecord::Texts> cameras = [this] {
+        const EngineTurn turn(m_waiter);
+        return listedTexts();
+    }();
+    for (const CameraRecord::Texts &texts : cameras) {
+        if (texts.id == m_id) {
+            return texts;
+        }
+    }
+    // Opened without having been listed before.
+    const QString model = textOf(device, "DeviceModelName");
+    return {m_id, textOf(device, "DeviceVendorName"), model.isEmpty() ? m_id : model,
+            textOf(device, "DeviceSerialNumber"),
+            ARV_IS_UV_DEVICE(device) ? QStringLiteral("U3V") : QStringLiteral("GEV")};
+}
+
+QList<CameraRecord::Texts> LiveCamera::list()
+{
+    const EngineTurn turn;
+    return listedTexts();
 }
 
 QByteArray LiveCamera::xml() const
@@ -309,6 +390,17 @@ bool LiveCamera::isAnswering() const
         && GigeLink(m_address, quickAttempts).control().hold != GigeLink::Hold::NoAnswer;
 }
 
+QString LiveCamera::newsOfReturn() const
+{
+    const GigeLink::Identity now = GigeLink(m_address, quickAttempts).identity();
+    if (!now.isKnown()) {
+        return {};
+    }
+    return now == m_identity ? tr("The camera at %1 answers again.").arg(m_address.toString())
+                             : tr("Another camera answers at %1: serial number %2.")
+                                   .arg(m_address.toString(), QString::fromUtf8(now.serialNumber));
+}
+
 QString LiveCamera::silence() const
 {
     return m_address.isNull() ? tr("The camera %1 does not answer.").arg(m_id)
@@ -324,12 +416,13 @@ QString LiveCamera::heldWords(const QString &controller)
 // Null for what is no GigE Vision camera, or is known by a name that the engine has to look up.
 QHostAddress LiveCamera::findAddress() const
 {
-    auto index = listed(m_id);
-    if (!index && QHostAddress(m_id).isNull()) {
-        arv_update_device_list();
-        index = listed(m_id);
+    const EngineTurn turn(m_waiter);
+    const QHostAddress address = listedAddress(m_id);
+    if (!address.isNull()) {
+        return address;
     }
-    return index ? addressOf(*index) : QHostAddress(m_id);
+    arv_update_device_list();
+    return listedAddress(m_id);
 }
 
 } // namespace Cameras

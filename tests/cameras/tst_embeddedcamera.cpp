@@ -73,7 +73,7 @@ struct Inside
         , session(std::make_shared<Session>())
     {
         registers->load(resource("cameradevice.registers"));
-        session->start([this] {
+        session->start([this](Session &) {
             Session::Source source;
             source.info = Camera::openEmbedded()->info();
             source.maps.push_back(
