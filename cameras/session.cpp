@@ -321,7 +321,9 @@ void Session::carryOut(const std::shared_ptr<Call> &call)
     const Lock lock(m_mutex);
     call->failure = failure;
     call->isDone = true;
-    m_doubtful.removeOne(description(call->map)->name(call->node)); // it was read, or the camera is lost
+    if (!m_isLost) {
+        m_doubtful.removeOne(description(call->map)->name(call->node)); // it has been read since
+    }
     m_changed.notify_all();
 }
 
@@ -679,7 +681,7 @@ void Session::setCameraListener(QObject *listener)
     const Lock lock(m_mutex);
     m_cameraListener = listener;
     if (m_isLost) {
-        tellCamera("reportLoss", m_lossReason);
+        tellCamera("reportLoss", withDoubts(m_lossReason));
     }
 }
 
@@ -707,15 +709,19 @@ void Session::loseLocked(const QString &reason)
         call->isDone = true;
     }
     m_calls.clear();
-    if (!m_doubtful.isEmpty()) {
-        m_lossReason = tr("%1 It is not known whether what was written last to %2 has arrived.")
-                           .arg(reason, m_doubtful.join(QStringLiteral(", ")));
-    }
     m_changed.notify_all();
-    tellCamera("reportLoss", m_lossReason);
+    tellCamera("reportLoss", withDoubts(reason));
     if (m_live && m_live->isWatchable() && !m_isStopping) {
         runInBackground([self = shared_from_this()] { self->awaitReturn(); });
     }
+}
+
+// What was written without an answer stays unknown until the camera is opened again, and read.
+QString Session::withDoubts(const QString &news) const
+{
+    return m_doubtful.isEmpty() ? news
+                                : tr("%1 Whether the last change of %2 has arrived is not known.")
+                                      .arg(news, m_doubtful.join(QStringLiteral(", ")));
 }
 
 // In the background, as the worker may hang.
@@ -727,7 +733,7 @@ void Session::awaitReturn()
         const QString news = m_live->newsOfReturn();
         lock.lock();
         if (!news.isEmpty() && !m_isStopping) {
-            tellCamera("reportReturn", news);
+            tellCamera("reportReturn", withDoubts(news));
             return;
         }
     }

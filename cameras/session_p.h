@@ -204,6 +204,7 @@ private:
     void publish(int map, int node);
     void doubt(const QString &name);
     static QString doubtWords(const QString &name);
+    QString withDoubts(const QString &news) const;
     void doubtAnswer();
     void awaitReturn();
     void markLost(const QString &reason);

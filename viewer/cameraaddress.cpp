@@ -4,6 +4,7 @@
 #include "cameraaddress.h"
 
 #include <cameras/camera.h>
+#include <cameras/cameraopening.h>
 
 std::unique_ptr<Cameras::Camera> cameraAt(const CameraAddress &address)
 {
@@ -11,4 +12,13 @@ std::unique_ptr<Cameras::Camera> cameraAt(const CameraAddress &address)
         return Cameras::Camera::openDescription(address.description);
     }
     return address.isLive() ? Cameras::Camera::openLive(address.camera) : Cameras::Camera::openEmbedded();
+}
+
+std::unique_ptr<Cameras::CameraOpening> openingAt(const CameraAddress &address)
+{
+    if (!address.description.isEmpty()) {
+        return Cameras::Camera::openDescriptionAsync(address.description);
+    }
+    return address.isLive() ? Cameras::Camera::openLiveAsync(address.camera)
+                            : Cameras::Camera::openEmbeddedAsync();
 }

@@ -9,7 +9,8 @@
 
 namespace Cameras {
 class Camera;
-}
+class CameraOpening;
+} // namespace Cameras
 
 /*! \brief Says which camera is meant; without any name it is the embedded one. */
 struct CameraAddress
@@ -30,3 +31,6 @@ struct CameraAddress
 /*! Opens the camera at \a address and waits until it is open; throws Core::Exception::BaseException when that
  * fails. For programs without a window. */
 std::unique_ptr<Cameras::Camera> cameraAt(const CameraAddress &address);
+
+/*! Begins to open the camera at \a address. */
+std::unique_ptr<Cameras::CameraOpening> openingAt(const CameraAddress &address);

@@ -168,9 +168,18 @@ int run(const Options &options)
         return showGallery(options);
     }
     MainWindow window;
-    window.setRemembering(options.isInteractive());
-    window.openCamera({options.description, options.camera});
-    lookAt(*window.featureTree(), options);
+    const CameraAddress address{options.description, options.camera};
+    FeatureTreeWidget &tree = *window.featureTree();
+    if (options.isInteractive()) {
+        QObject::connect(
+            &window, &MainWindow::cameraOpened, &tree, [&] { lookAt(tree, options); },
+            Qt::SingleShotConnection);
+        window.openCamera(address);
+        return show(window, options);
+    }
+    window.setRemembering(false);
+    window.showCamera(address, cameraAt(address));
+    lookAt(tree, options);
     return options.dump || options.favorites ? dumpTree(window, options) : show(window, options);
 }
 

@@ -107,7 +107,7 @@ void TestMainWindow::init()
     QSettings().clear();
     m_boxes = 0;
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera({});
+    m_window->showCamera({}, cameraAt({}));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -210,7 +210,6 @@ bool TestMainWindow::startServer()
 // Another test run may serve at the same address for a while, and answer in place of this one.
 void TestMainWindow::openLiveCamera()
 {
-    QByteArray failure("not found");
     for (int attempt = 0; attempt < 5; ++attempt) {
         if (!startServer()) {
             QSKIP("No GigE Vision server can be started on the loopback interface");
@@ -219,17 +218,16 @@ void TestMainWindow::openLiveCamera()
             if (info->serialNumber() != QLatin1String("ZWINDOW")) {
                 continue;
             }
-            try {
-                m_window->openCamera(CameraAddress::ofCamera(info->id()));
+            m_window->openCamera(CameraAddress::ofCamera(info->id()));
+            QTRY_VERIFY_WITH_TIMEOUT(!m_window->isOpening(), 10000);
+            if (m_window->isCameraOpen()) {
                 return;
-            } catch (const std::exception &exception) {
-                failure = exception.what();
             }
         }
         g_clear_object(&m_server);
         QTest::qWait(1000);
     }
-    QFAIL(failure.constData());
+    QFAIL("not opened");
 }
 
 void TestMainWindow::lostCameraIsReopened()
@@ -250,12 +248,12 @@ void TestMainWindow::lostCameraIsReopened()
         }
         return texts.join(QLatin1Char('\n'));
     };
-    const auto reconnect = [bar] {
+    const auto reconnect = [this, bar] {
         const auto buttons = bar->findChildren<QToolButton *>();
         for (QToolButton *const button : buttons) {
             if (button->text() == QLatin1String("Reconnect") && button->isVisible()) {
                 button->click();
-                return true;
+                return QTest::qWaitFor([this] { return !m_window->isOpening(); }, 10000);
             }
         }
         return false;
@@ -299,6 +297,7 @@ void TestMainWindow::cameraInOtherHandsOffersItsControl()
     ArvDevice *const other = arv_open_device("Aravis-Fake-ZWINDOW", nullptr);
     QVERIFY(ARV_IS_GV_DEVICE(other) && arv_gv_device_is_controller(ARV_GV_DEVICE(other)));
     m_window->reconnect();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_window->isOpening(), 10000);
     auto *const bar = m_window->findChild<MessageBar *>();
     const auto shows = [bar](const QString &text) {
         const auto labels = bar->findChildren<QLabel *>();
@@ -446,6 +445,7 @@ void TestMainWindow::commandsAreConfirmed()
     QFETCH(QString, operation);
     QFETCH(QString, named);
     m_window->openInstead(CameraAddress::ofDescription(describeCamera(command, operation)));
+    QTRY_VERIFY(!m_window->isOpening());
     FeatureTreeView *const view = m_window->featureTree()->treeView();
     const QSignalSpy written(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
     QVERIFY(show(qPrintable(command)));
@@ -592,7 +592,7 @@ void TestMainWindow::standsGarbledSettings()
         settings.setValue(QStringLiteral("MainWindow/") + key, value);
     }
     MainWindow window;
-    window.openCamera({});
+    window.showCamera({}, cameraAt({}));
     window.show();
     QCOMPARE(window.size(), fresh.size());
     QCOMPARE(window.featureTree()->visibility(), fresh.featureTree()->visibility());

@@ -77,7 +77,7 @@ void TestViewerMemory::restart()
         m_window->close();
     }
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera({});
+    m_window->showCamera({}, cameraAt({}));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -92,6 +92,7 @@ QString TestViewerMemory::description(const QString &name)
 void TestViewerMemory::open(const QString &fileName)
 {
     m_window->openCamera(CameraAddress::ofDescription(fileName));
+    QTRY_VERIFY(!m_window->isOpening());
     QCoreApplication::processEvents(); // which fill the menu
 }
 
@@ -167,7 +168,8 @@ void TestViewerMemory::dropOpensOneFile()
     QVERIFY(!opens || drop.dropAction() == Qt::CopyAction); // nobody deletes the file
     QCOMPARE(m_window->windowTitle(), title); // the other program has not to wait
     QCoreApplication::processEvents();
-    QCOMPARE(m_window->windowTitle() != title, opens);
+    QCOMPARE(m_window->isOpening(), opens);
+    QTRY_COMPARE(m_window->windowTitle() != title, opens);
     QCOMPARE(m_window->featureTree()->findChild<QLineEdit *>("filterEdit")->text(), QString());
 }
 
@@ -222,6 +224,7 @@ void TestViewerMemory::eachCameraIsShownAsItWasLeft()
     QVERIFY(view()->isExpanded(feature("Device Control")) && !view()->isExpanded(feature("Analog Control")));
     m_window->closeCamera();
     m_window->reconnect();
+    QTRY_VERIFY(!m_window->isOpening());
     QVERIFY(view()->isExpanded(feature("Device Control")));
 }
 
@@ -231,10 +234,10 @@ void TestViewerMemory::scriptsLeaveNoTraces()
     m_window->close();
     const QStringList keys = QSettings().allKeys();
     m_window->setRemembering(false);
-    m_window->openCamera(CameraAddress::ofDescription(description("script.xml")));
+    open(description("script.xml"));
     m_window->closeCamera();
     QCOMPARE(QSettings().allKeys(), keys);
-    m_window->openCamera({});
+    m_window->showCamera({}, cameraAt({}));
     QVERIFY(!view()->isExpanded(feature("Analog Control")));
 }
 
@@ -290,6 +293,7 @@ void TestViewerMemory::reconnectingDuringASearchKeepsTheRow()
     box->setText("exposure");
     view()->setCurrentIndex(feature("Exposure Auto"));
     m_window->reconnect();
+    QTRY_VERIFY(!m_window->isOpening());
     QCOMPARE(box->text(), "exposure");
     QCOMPARE(view()->currentIndex().data().toString(), "Exposure Auto");
     box->clear();
