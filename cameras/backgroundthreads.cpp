@@ -19,7 +19,7 @@ namespace Cameras {
 
 namespace {
 
-constexpr auto leaveTime = 1500ms; // of the two seconds that the end of the process may take
+constexpr auto leaveTime = 1s; // of the two seconds that the end of the process may take
 
 void leaveThreads();
 

@@ -68,7 +68,7 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
     QSemaphore isReady;
     m_thread.reset(QThread::create([this, &isReady] {
         QUdpSocket socket;
-        m_isRunning = socket.bind(QHostAddress(QHostAddress::LocalHost), port);
+        m_isRunning = socket.bind(QHostAddress(QHostAddress::AnyIPv4), port);
         isReady.release();
         while (m_isRunning && !QThread::currentThread()->isInterruptionRequested()) {
             if (!socket.waitForReadyRead(20)) {

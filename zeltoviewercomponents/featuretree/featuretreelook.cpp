@@ -232,13 +232,23 @@ void FeatureTreeLook::takeTyping(const FeatureTreeView &view)
 void FeatureTreeLook::restoreTyping(FeatureTreeView &view) const
 {
     const QModelIndex row = m_typing ? rowAt(*view.model(), m_typing->row) : QModelIndex();
-    QWidget *const editor = view.indexWidget(row.siblingAtColumn(FeatureTreeColumns::value));
-    QLineEdit *const input = lineEditIn(editor);
-    if (!input || !input->isEnabled() || input->isReadOnly()) {
+    if (!row.isValid()) {
         return;
     }
-    view.scrollTo(row);
-    editor->setFocus();
+    view.executeDelayedItemsLayout();
+    const QModelIndex value = row.siblingAtColumn(FeatureTreeColumns::value);
+    view.setCurrentIndex(row);
+    if (QWidget *const editor = view.indexWidget(value)) {
+        editor->setFocus();
+    } else {
+        view.setFocus();
+        static_cast<QAbstractItemView &>(view).edit(value);
+    }
+    QWidget *const focus = view.window()->focusWidget();
+    QLineEdit *const input = view.viewport()->isAncestorOf(focus) ? lineEditIn(focus) : nullptr;
+    if (!input || input->isReadOnly()) {
+        return;
+    }
     input->selectAll();
     QInputMethodEvent typing;
     typing.setCommitString(m_typing->text);
