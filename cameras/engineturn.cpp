@@ -5,6 +5,8 @@
 
 #include <platform/core/exception.h>
 
+#include <QString>
+
 #include <chrono>
 #include <mutex>
 
@@ -38,7 +40,7 @@ EngineTurn::EngineTurn(const Waiter &waiter)
     waiter.onWaiting(true);
     while (!engineMutex().try_lock_for(lookTime)) {
         if (!waiter.isWanted()) {
-            throw Core::Exception::BaseException(tr("no longer wanted"));
+            throw Core::Exception::BaseException(QStringLiteral("no longer wanted"));
         }
     }
     waiter.onWaiting(false);

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QCoreApplication>
 #include <QtGlobal>
 
 #include <functional>
@@ -17,8 +16,6 @@ namespace Cameras {
  */
 class EngineTurn
 {
-    Q_DECLARE_TR_FUNCTIONS(Cameras::EngineTurn)
-
 public:
     /*! \brief Who waits for a turn. */
     struct Waiter

@@ -184,15 +184,22 @@ void TestOpening::windowGoesOn()
     } else if (source == "nobody") {
         address = CameraAddress::ofCamera("Nobody-1");
     } else if (source == "large") {
-        QString entries;
+        QString categories;
         QString nodes;
-        for (int i = 0; i < 20000; ++i) {
-            entries += QString("<pFeature>N%1</pFeature>").arg(i);
-            nodes += QString("<Integer Name='N%1'><Value>%1</Value></Integer>").arg(i);
+        for (int i = 0; i < 100; ++i) {
+            categories += QString("<pFeature>C%1</pFeature>").arg(i);
+            nodes += QString("<Category Name='C%1'>").arg(i);
+            for (int j = 0; j < 50; ++j) {
+                nodes += QString("<pFeature>N%1_%2</pFeature>").arg(i).arg(j);
+            }
+            nodes += "</Category>";
+            for (int j = 0; j < 50; ++j) {
+                nodes += QString("<Integer Name='N%1_%2'><Value>%2</Value></Integer>").arg(i).arg(j);
+            }
         }
         QFile file(m_folder.filePath("large.xml"));
         QVERIFY(file.open(QFile::WriteOnly));
-        file.write(("<RegisterDescription ModelName='M' VendorName='V'><Category Name='Root'>" + entries
+        file.write(("<RegisterDescription ModelName='M' VendorName='V'><Category Name='Root'>" + categories
                     + "</Category>" + nodes + "</RegisterDescription>")
                        .toUtf8());
         address = CameraAddress::ofDescription(file.fileName());
