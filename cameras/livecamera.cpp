@@ -29,6 +29,7 @@ namespace {
 constexpr int patientAttempts = 10;
 constexpr int quickAttempts = 2;
 constexpr quint64 firstDescriptionUrl = 0x0200;
+constexpr quint64 secondDescriptionUrl = 0x0400;
 constexpr quint32 urlSize = 512;
 
 /*! \brief Registers of a camera that are only looked at. */
@@ -121,6 +122,28 @@ QHostAddress listedAddress(const QString &id)
     }
     const bool isGige = qstrcmp(arv_get_device_protocol(*index), "GigEVision") == 0;
     return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(*index))) : QHostAddress();
+}
+
+// By the way that the engine takes.
+QByteArray contentsOf(const QByteArray &url)
+{
+    const auto unref = [](void *object) { g_object_unref(object); };
+    const std::unique_ptr<GFile, decltype(unref)> file(g_file_new_for_uri(url.constData()), unref);
+    const std::unique_ptr<GFileInputStream, decltype(unref)> stream(g_file_read(file.get(), nullptr, nullptr),
+                                                                    unref);
+    QByteArray contents;
+    QByteArray block(65536, '\0');
+    gssize size = stream ? 1 : -1;
+    while (size > 0 && contents.size() <= DescriptionArchive::largest) {
+        size = g_input_stream_read(G_INPUT_STREAM(stream.get()), block.data(), gsize(block.size()), nullptr,
+                                   nullptr);
+        contents.append(block.constData(), std::max<gssize>(size, 0));
+    }
+    if (size != 0) {
+        throw BaseException(LiveCamera::tr("the camera's description cannot be read from %1")
+                                .arg(QString::fromUtf8(url).simplified()));
+    }
+    return contents;
 }
 
 bool isInOurSubnets(const QHostAddress &address)
@@ -277,7 +300,7 @@ DevicePtr LiveCamera::openReadOnly()
         leaveAlone(std::exchange(m_controlled, nullptr));
     }
     if (m_xml.isEmpty()) {
-        m_xml = DescriptionArchive::xml(fetchDescription());
+        m_xml = DescriptionArchive::xml(fetchHeldDescription());
         const Description accepted(m_xml); // throws before the engine sees it
     }
     return newPortDevice(m_xml, std::make_unique<ReadOnlyPort>(m_address));
@@ -315,30 +338,42 @@ QByteArray LiveCamera::xml() const
 // The engine unpacks and parses whatever the camera sends, and may not survive it.
 void LiveCamera::checkDescription() const
 {
-    QByteArray contents;
-    try {
-        contents = fetchDescription();
-    } catch (const BaseException &) {
-        return; // the engine knows of descriptions that are kept elsewhere
-    }
-    const Description accepted(DescriptionArchive::xml(contents));
+    const Description accepted(DescriptionArchive::xml(fetchDescription()));
 }
 
-// The camera keeps the place of its description as "Local:name;address;size", in hexadecimal digits.
+// Whoever holds the camera may hold it for himself.
+QByteArray LiveCamera::fetchHeldDescription() const
+{
+    try {
+        return fetchDescription();
+    } catch (const BaseException &exception) {
+        throw BaseException(tr("%1 (%2)").arg(heldWords({}), exception.getMessage()));
+    }
+}
+
+// A camera has two places for its description, of which the second is for want of the first.
 QByteArray LiveCamera::fetchDescription() const
 {
-    GError *error = nullptr;
-    const auto read = [&](quint64 address, quint32 size) {
-        QByteArray bytes(qsizetype(size), '\0');
-        if (!m_link->read(address, size, bytes.data(), &error)) {
-            const QString reason = EngineFailure::words(*error);
-            g_clear_error(&error);
-            throw BaseException(tr("%1 (%2)").arg(heldWords({}), reason));
+    try {
+        return descriptionAt(firstDescriptionUrl);
+    } catch (const BaseException &) {
+        try {
+            return descriptionAt(secondDescriptionUrl);
+        } catch (const BaseException &) {
         }
-        return bytes;
-    };
-    const QByteArray url = read(firstDescriptionUrl, urlSize);
-    const QList<QByteArray> parts = url.left(qsizetype(qstrnlen(url.constData(), urlSize))).split(';');
+        throw;
+    }
+}
+
+// Kept as "Local:name;address;size", in hexadecimal digits, or as the address of a file.
+QByteArray LiveCamera::descriptionAt(quint64 urlAddress) const
+{
+    QByteArray url = readMemory(urlAddress, urlSize);
+    url.truncate(qsizetype(qstrnlen(url.constData(), urlSize)));
+    if (url.toLower().startsWith("file:") || url.toLower().startsWith("http:")) {
+        return contentsOf(url.left(url.indexOf('?')));
+    }
+    const QList<QByteArray> parts = url.split(';');
     bool hasAddress = false;
     bool hasSize = false;
     const quint64 address = parts.value(1).toULongLong(&hasAddress, 16);
@@ -347,7 +382,19 @@ QByteArray LiveCamera::fetchDescription() const
         || size > quint64(DescriptionArchive::largest)) {
         throw BaseException(tr("the camera hands out no description of its features"));
     }
-    return read(address, quint32(size));
+    return readMemory(address, quint32(size));
+}
+
+QByteArray LiveCamera::readMemory(quint64 address, quint32 size) const
+{
+    GError *error = nullptr;
+    QByteArray bytes(qsizetype(size), '\0');
+    if (!m_link->read(address, size, bytes.data(), &error)) {
+        const QString reason = EngineFailure::words(*error);
+        g_clear_error(&error);
+        throw BaseException(reason);
+    }
+    return bytes;
 }
 
 bool LiveCamera::isWatchable() const

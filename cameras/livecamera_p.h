@@ -78,6 +78,9 @@ private:
     bool isOurs(const GigeLink::Control &control, bool isDoubtful) const;
     void checkDescription() const;
     QByteArray fetchDescription() const;
+    QByteArray fetchHeldDescription() const;
+    QByteArray descriptionAt(quint64 urlAddress) const;
+    QByteArray readMemory(quint64 address, quint32 size) const;
 
     QString m_id;
     EngineTurn::Waiter m_waiter;

@@ -340,5 +340,9 @@
         <source>Another camera answers at %1: serial number %2.</source>
         <translation>Unter %1 antwortet eine andere Kamera: Seriennummer %2.</translation>
     </message>
+    <message>
+        <source>the camera&apos;s description cannot be read from %1</source>
+        <translation>die Beschreibung der Kamera lässt sich von %1 nicht lesen</translation>
+    </message>
 </context>
 </TS>

@@ -107,6 +107,10 @@ void TestOddCameras::doNoHarm_data()
     odd("description is larger than the camera", [](const QByteArray &request, QByteArray answer) {
         return Datagrams{reads(request, 0x0200) ? answer.replace(";10000;", ";10000;7fff") : answer};
     });
+    odd("description is elsewhere", [](const QByteArray &request, QByteArray answer) {
+        return Datagrams{reads(request, 0x0200) ? answer.replace("Local:camera.xml;", "File:/dev/zero?;;")
+                                                : answer};
+    });
     odd("description changes", [](const QByteArray &request, QByteArray answer) {
         static int count = 0;
         const bool isOther = reads(request, 0x10000) && ++count % 2 == 0;
@@ -151,7 +155,6 @@ void TestOddCameras::doNoHarm()
     } else if (hasEnded) {
         const QString reason = failed.first().first().toString();
         QVERIFY(reason.startsWith("Cannot open the camera 127.0.0.1: ") && !reason.contains(u'\n'));
-        qInfo("%s", qPrintable(reason));
     }
     timer.restart();
     opening.reset();
