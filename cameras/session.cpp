@@ -340,9 +340,15 @@ void Session::carryOutWrite(int map, int node, const NodeValue &value)
         const QString name = description(map)->name(node);
         doubt(name);
         noteLoss(map);
-        readNow(map, node, true);
+        readWritten(map, node);
         throw GenICam::TimeoutException(doubtWords(name));
     }
+    readWritten(map, node);
+}
+
+// The node, and in due course what may have changed with it.
+void Session::readWritten(int map, int node)
+{
     readNow(map, node, true);
     const QList<int> dependents = description(map)->dependents(node);
     const Lock lock(m_mutex);

@@ -197,6 +197,7 @@ private:
     void readNext(Lock &lock);
     void carryOut(const std::shared_ptr<Call> &call);
     void carryOutWrite(int map, int node, const NodeValue &value);
+    void readWritten(int map, int node);
     void readNow(int map, int node, bool force);
     [[noreturn]] void giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name);
     void enqueue(int map, int node, bool force, bool first = false);

@@ -45,7 +45,7 @@ OpeningPage::OpeningPage(QWidget *parent)
         label->setTextFormat(Qt::PlainText);
     }
     m_bar->setTextVisible(false);
-    m_bar->setMaximumWidth(fontMetrics().averageCharWidth() * 40);
+    m_bar->setFixedWidth(fontMetrics().averageCharWidth() * 30);
     m_bar->setAccessibleName(tr("Progress"));
     auto *const layout = new QVBoxLayout(this);
     layout->addStretch();
