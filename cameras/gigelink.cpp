@@ -172,8 +172,13 @@ GigeLink::Identity GigeLink::identity()
         g_clear_error(&error);
         return block;
     };
-    const QByteArray model = read(manufacturerName, modelSize);
-    return model.isEmpty() ? Identity() : Identity{model, read(serialNumber, serialNumberSize)};
+    Identity identity;
+    identity.model = read(manufacturerName, modelSize);
+    if (!identity.model.isEmpty()) {
+        const QByteArray serial = read(serialNumber, serialNumberSize);
+        identity.serialNumber = serial.left(qsizetype(qstrnlen(serial.constData(), serialNumberSize)));
+    }
+    return identity;
 }
 
 QByteArray GigeLink::exchange(const QByteArray &payload, GError **error)

@@ -443,9 +443,10 @@ QString LiveCamera::newsOfReturn() const
     if (!now.isKnown()) {
         return {};
     }
-    return now == m_identity ? tr("The camera at %1 answers again.").arg(m_address.toString())
-                             : tr("Another camera answers at %1: serial number %2.")
-                                   .arg(m_address.toString(), QString::fromUtf8(now.serialNumber));
+    return now == m_identity
+        ? tr("The camera at %1 answers again.").arg(m_address.toString())
+        : tr("Another camera answers at %1: serial number %2.")
+              .arg(m_address.toString(), QString::fromUtf8(now.serialNumber).simplified());
 }
 
 QString LiveCamera::silence() const

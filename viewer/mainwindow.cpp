@@ -147,6 +147,8 @@ void MainWindow::layOut()
     m_matches->setIndent(fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
+    m_cameraName->setText(tr("No camera"));
+    setWindowTitle(tr("Zelto Viewer"));
 }
 
 void MainWindow::connectTree()

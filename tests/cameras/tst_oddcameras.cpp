@@ -149,7 +149,7 @@ void TestOddCameras::doNoHarm()
     QSignalSpy failed(opening.get(), SIGNAL(failed(QString)));
     QElapsedTimer timer;
     timer.start();
-    const bool hasEnded = QTest::qWaitFor([&] { return !opened.isEmpty() || !failed.isEmpty(); }, 4000);
+    const bool hasEnded = QTest::qWaitFor([&] { return !opened.isEmpty() || !failed.isEmpty(); }, 2500);
     if (const auto camera = opening->takeCamera()) {
         use(*camera);
     } else if (hasEnded) {
