@@ -36,7 +36,6 @@
 #include <QWindow>
 
 #include <algorithm>
-#include <exception>
 #include <memory>
 #include <utility>
 
@@ -268,10 +267,6 @@ void TestMainWindow::lostCameraIsReopened()
     QTest::qWait(400); // time for another poll
     QCOMPARE(text().count(QStringLiteral("The camera at 127.0.0.1 does not answer.")), 1);
     QVERIFY(!tree->isEnabled() && !tree->getPolling());
-    if (Cameras::Camera::list().isEmpty()) { // else another test run serves at the same address
-        QVERIFY(reconnect());
-        QVERIFY(!m_window->isCameraOpen() && !tree->isEnabled());
-    }
     QVERIFY(startServer());
     // Opens it although the last search found nothing; what fails can be tried again.
     for (int attempt = 0; attempt < 5 && !m_window->isCameraOpen(); ++attempt) {

@@ -19,7 +19,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
-#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
