@@ -5,8 +5,11 @@
 
 #include "aravis_p.h"
 #include "awakening_p.h"
+#include "camerafactory_p.h"
+#include "cameraopening.h"
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
+#include "engineturn_p.h"
 #include "livecamera_p.h"
 #include "nodecollection_p.h"
 #include "registerimage_p.h"
@@ -35,22 +38,6 @@ namespace Cameras {
 ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
-
-QString deviceClassOf(const QString &protocol)
-{
-    if (protocol == QLatin1String("GigEVision")) {
-        return QStringLiteral("GEV");
-    }
-    return protocol == QLatin1String("USB3Vision") ? QStringLiteral("U3V") : QString();
-}
-
-CameraRecord::Texts textsOf(unsigned int index)
-{
-    return {QString::fromUtf8(arv_get_device_id(index)), QString::fromUtf8(arv_get_device_vendor(index)),
-            QString::fromUtf8(arv_get_device_model(index)),
-            QString::fromUtf8(arv_get_device_serial_nbr(index)),
-            deviceClassOf(QString::fromUtf8(arv_get_device_protocol(index)))};
-}
 
 // Our parser decides whether the engine's sees the description.
 NodeMapSource simulatedMap(const QString &name, const QString &title, const QByteArray &xml,
@@ -138,40 +125,34 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
     return source;
 }
 
-QString textOf(ArvDevice *device, const char *feature)
+EngineTurn::Waiter waiterFor(const std::weak_ptr<Session> &session)
 {
-    GError *error = nullptr;
-    const QString text = QString::fromUtf8(arv_device_get_string_feature_value(device, feature, &error));
-    g_clear_error(&error);
-    return text;
+    return {[session] {
+                const auto alive = session.lock();
+                return alive && alive->isWanted();
+            },
+            [session](bool waits) {
+                if (const auto alive = session.lock()) {
+                    using Step = OpeningProgress::Step;
+                    alive->setStep(waits ? Step::Waiting : Step::Connecting);
+                }
+            }};
 }
 
-CameraInfoPtr liveInfo(const QString &id, ArvDevice *device)
+Session::Source liveSource(const QString &id, Session &session)
 {
-    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
-        const CameraRecord::Texts texts = textsOf(i);
-        if (texts.id == id) {
-            return CameraInfoPtr(new CameraRecord(texts));
-        }
-    }
-    // Opened without having been listed before.
-    const QString deviceClass = ARV_IS_UV_DEVICE(device) ? QStringLiteral("U3V") : QStringLiteral("GEV");
-    const QString model = textOf(device, "DeviceModelName");
-    return CameraInfoPtr(
-        new CameraRecord({id, textOf(device, "DeviceVendorName"), model.isEmpty() ? id : model,
-                          textOf(device, "DeviceSerialNumber"), deviceClass}));
-}
-
-Session::Source liveSource(const QString &id, const std::weak_ptr<Session> &session)
-{
-    const auto live = std::make_shared<LiveCamera>(id, [session] {
-        if (const auto alive = session.lock()) {
+    const std::weak_ptr<Session> weak = session.weak_from_this();
+    const auto live = std::make_shared<LiveCamera>(id, waiterFor(weak), [weak] {
+        if (const auto alive = weak.lock()) {
             alive->doubtControl();
         }
     });
+    session.succeed(live->locate());
+    session.setStep(OpeningProgress::Step::Connecting);
     DevicePtr device = live->open();
+    session.setStep(OpeningProgress::Step::Describing);
     Session::Source source;
-    source.info = liveInfo(id, device.get());
+    source.info = CameraInfoPtr(new CameraRecord(live->texts(device.get())));
     source.maps.push_back({QStringLiteral("@CameraDevice"), Camera::tr("Camera"), std::move(device),
                            std::make_shared<Description>(live->xml()), nullptr});
     source.live = live;
@@ -194,21 +175,61 @@ void routeEngineMessages()
     });
 }
 
-std::shared_ptr<Session> started(const QString &name, const std::shared_ptr<Session> &session,
-                                 const Session::Opener &opener)
+/*! \brief A camera that is to be opened, in one of the two ways. */
+struct Order
 {
-    routeEngineMessages();
-    try {
-        session->start(opener);
-    } catch (const std::exception &exception) {
-        session->close();
-        throw BaseException(
-            Camera::tr("Cannot open %1: %2").arg(name, QString::fromUtf8(exception.what()).simplified()));
+    QString name; // for messages
+    Session::Opener opener;
+
+    std::unique_ptr<Camera> carryOut() const
+    {
+        routeEngineMessages();
+        const auto session = std::make_shared<Session>();
+        try {
+            session->start(opener);
+        } catch (const BaseException &exception) {
+            session->close();
+            throw BaseException(Camera::tr("Cannot open %1: %2").arg(name, exception.getMessage()));
+        }
+        return CameraFactory::camera(session);
     }
-    return session;
+
+    std::shared_ptr<Session> begin() const
+    {
+        routeEngineMessages();
+        auto session = std::make_shared<Session>();
+        session->begin(opener);
+        return session;
+    }
+};
+
+Order embeddedOrder()
+{
+    return {Camera::tr("the embedded camera"), [](Session &session) {
+                session.setStep(OpeningProgress::Step::Describing);
+                return embeddedSource();
+            }};
+}
+
+Order describedOrder(const QString &fileName, Start start, const QString &registers)
+{
+    return {fileName, [fileName, start, registers](Session &session) {
+                session.setStep(OpeningProgress::Step::Describing);
+                return describedSource(fileName, start, registers);
+            }};
+}
+
+Order liveOrder(const QString &id)
+{
+    return {Camera::tr("the camera %1").arg(id), [id](Session &session) { return liveSource(id, session); }};
 }
 
 } // namespace
+
+std::unique_ptr<Camera> CameraFactory::camera(std::shared_ptr<Session> session)
+{
+    return std::unique_ptr<Camera>(new Camera(std::move(session)));
+}
 
 Camera::Camera(std::shared_ptr<Session> session)
     : m_session(std::move(session))
@@ -229,10 +250,13 @@ Camera::~Camera()
 QList<CameraInfoPtr> Camera::list()
 {
     routeEngineMessages();
-    arv_update_device_list();
+    {
+        const EngineTurn turn;
+        arv_update_device_list();
+    }
     QList<CameraInfoPtr> found;
-    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
-        const CameraRecord::Texts texts = textsOf(i);
+    const QList<CameraRecord::Texts> cameras = LiveCamera::list();
+    for (const CameraRecord::Texts &texts : cameras) {
         if (!texts.deviceClass.isEmpty()) {
             found.append(CameraInfoPtr(new CameraRecord(texts)));
         }
@@ -247,25 +271,37 @@ CameraStatus Camera::status(const QString &id)
 
 std::unique_ptr<Camera> Camera::openEmbedded()
 {
-    return std::unique_ptr<Camera>(
-        new Camera(started(tr("the embedded camera"), std::make_shared<Session>(), embeddedSource)));
+    return embeddedOrder().carryOut();
 }
 
 std::unique_ptr<Camera> Camera::openDescription(const QString &fileName, Start start,
                                                 const QString &registers)
 {
-    return std::unique_ptr<Camera>(
-        new Camera(started(fileName, std::make_shared<Session>(), [fileName, start, registers] {
-            return describedSource(fileName, start, registers);
-        })));
+    return describedOrder(fileName, start, registers).carryOut();
 }
 
 std::unique_ptr<Camera> Camera::openLive(const QString &id)
 {
-    const auto session = std::make_shared<Session>();
-    const std::weak_ptr<Session> weak = session;
-    return std::unique_ptr<Camera>(new Camera(
-        started(tr("the camera %1").arg(id), session, [id, weak] { return liveSource(id, weak); })));
+    return liveOrder(id).carryOut();
+}
+
+std::unique_ptr<CameraOpening> Camera::openEmbeddedAsync()
+{
+    const Order order = embeddedOrder();
+    return std::unique_ptr<CameraOpening>(new CameraOpening(order.name, order.begin()));
+}
+
+std::unique_ptr<CameraOpening> Camera::openDescriptionAsync(const QString &fileName, Start start,
+                                                            const QString &registers)
+{
+    const Order order = describedOrder(fileName, start, registers);
+    return std::unique_ptr<CameraOpening>(new CameraOpening(order.name, order.begin()));
+}
+
+std::unique_ptr<CameraOpening> Camera::openLiveAsync(const QString &id)
+{
+    const Order order = liveOrder(id);
+    return std::unique_ptr<CameraOpening>(new CameraOpening(order.name, order.begin()));
 }
 
 CameraInfoPtr Camera::info() const
@@ -313,14 +349,14 @@ void Camera::takeControl()
     m_session->takeControl();
 }
 
-std::shared_ptr<Session> Camera::session() const
-{
-    return m_session;
-}
-
 void Camera::reportLoss(const QString &reason)
 {
     emit lost(reason);
+}
+
+void Camera::reportReturn(const QString &news)
+{
+    emit returned(news);
 }
 
 void Camera::reportAccess()

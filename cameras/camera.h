@@ -19,6 +19,8 @@
 
 namespace Cameras {
 
+class CameraFactory;
+class CameraOpening;
 class Session;
 
 /*! \brief One node map of an open camera, ready to be shown. */
@@ -45,8 +47,10 @@ enum class Start {
  * A camera that another program controls opens read-only: nothing is sent to it that would change anything,
  * all features are locked, and a look is taken every second at whether its control has become free.
  *
- * All ways to open a camera throw Core::Exception::BaseException with one line that names the camera or the
- * file and the reason.
+ * Opening takes as long as the camera does, seconds if it hangs. A program with a window opens with the
+ * functions that return a CameraOpening, see there, and searches with a CameraSearch; the others wait, and
+ * throw Core::Exception::BaseException with one line that names the camera or the file and the reason.
+ * Closing, by destroying the camera, never waits.
  */
 class ZELTO_CAMERAS_EXPORT Camera : public QObject
 {
@@ -63,6 +67,8 @@ public:
 
     /*! Opens the simulated camera that comes with the library. */
     static std::unique_ptr<Camera> openEmbedded();
+    /*! As openEmbedded(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openEmbeddedAsync();
     /*! Opens the GenICam description in \a fileName, XML or a zip archive of one, on simulated registers.
      *
      * \param registers a register image, a file as registerImage() has it, that is laid over the start; none
@@ -70,8 +76,14 @@ public:
      */
     static std::unique_ptr<Camera> openDescription(const QString &fileName, Start start = Start::Alive,
                                                    const QString &registers = QString());
+    /*! As openDescription(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openDescriptionAsync(const QString &fileName,
+                                                               Start start = Start::Alive,
+                                                               const QString &registers = QString());
     /*! Opens the live camera called \a id, as list() names it. */
     static std::unique_ptr<Camera> openLive(const QString &id);
+    /*! As openLive(), and returns at once what opens it. */
+    static std::unique_ptr<CameraOpening> openLiveAsync(const QString &id);
 
     /*! Returns what identifies the camera. */
     Core::CameraPoolComponents::CameraInfoPtr info() const;
@@ -93,9 +105,6 @@ public:
     /*! Returns whether the camera is read-only although nobody controls it now. */
     bool isControlAvailable() const;
 
-    /*! Returns the camera's inner side, for tests. */
-    std::shared_ptr<Session> session() const;
-
 public slots:
     /*! Asks for the control of a read-only camera. Returns at once; accessChanged() or controlRefused() tells
      * what came of it. */
@@ -105,6 +114,9 @@ signals:
     /*! The camera has stopped answering, which \a reason says in a sentence. Sent once, on the thread that
      * opened the camera. */
     void lost(const QString &reason);
+    /*! A camera answers again where this one was lost, the same or another, which \a news tells in a
+     * sentence. This one stays lost: it has to be opened again. */
+    void returned(const QString &news);
     /*! isReadOnly(), controller() or isControlAvailable() has changed. */
     void accessChanged();
     /*! Nobody controls the read-only camera any more. */
@@ -114,10 +126,13 @@ signals:
 
 private slots:
     void reportLoss(const QString &reason);
+    void reportReturn(const QString &news);
     void reportAccess();
     void reportRefusal(const QString &reason);
 
 private:
+    friend class CameraFactory;
+
     explicit Camera(std::shared_ptr<Session> session);
 
     std::shared_ptr<Session> m_session;

@@ -26,6 +26,10 @@ constexpr qsizetype headerSize = 8;
 constexpr quint32 largestBlock = 512;
 constexpr quint32 controlChannelPrivilege = 0x0a00;
 constexpr quint32 primaryApplicationAddress = 0x0a14;
+constexpr quint32 manufacturerName = 0x0048;
+constexpr quint32 modelSize = 64; // with the manufacturer before it
+constexpr quint32 serialNumber = 0x00d8;
+constexpr quint32 serialNumberSize = 16;
 constexpr quint32 exclusiveBit = 1;
 constexpr quint32 controlBit = 2;
 constexpr quint32 switchoverBit = 4;
@@ -158,6 +162,23 @@ GigeLink::Control GigeLink::control()
         control.controller = QHostAddress(address);
     }
     return control;
+}
+
+GigeLink::Identity GigeLink::identity()
+{
+    const auto read = [this](quint32 address, quint32 size) {
+        GError *error = nullptr;
+        const QByteArray block = readBlock(address, size, &error);
+        g_clear_error(&error);
+        return block;
+    };
+    Identity identity;
+    identity.model = read(manufacturerName, modelSize);
+    if (!identity.model.isEmpty()) {
+        const QByteArray serial = read(serialNumber, serialNumberSize);
+        identity.serialNumber = serial.left(qsizetype(qstrnlen(serial.constData(), serialNumberSize)));
+    }
+    return identity;
 }
 
 QByteArray GigeLink::exchange(const QByteArray &payload, GError **error)

@@ -34,6 +34,16 @@ public:
         QHostAddress controller; //!< null where the camera does not tell
     };
 
+    /*! Which camera it is. */
+    struct Identity
+    {
+        QByteArray model; //!< with its maker
+        QByteArray serialNumber;
+
+        bool isKnown() const { return !model.isEmpty() || !serialNumber.isEmpty(); }
+        friend bool operator==(const Identity &, const Identity &) = default;
+    };
+
     /*! Each request is sent up to \a attempts times. */
     GigeLink(const QHostAddress &camera, int attempts);
 
@@ -43,6 +53,8 @@ public:
     bool read(quint64 address, quint32 size, char *bytes, GError **error);
     /*! Asks the camera who controls it. */
     Control control();
+    /*! Asks the camera which one it is; nothing is known of one that does not answer. */
+    Identity identity();
 
 private:
     QByteArray readBlock(quint32 address, quint32 size, GError **error);

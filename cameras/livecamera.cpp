@@ -29,6 +29,7 @@ namespace {
 constexpr int patientAttempts = 10;
 constexpr int quickAttempts = 2;
 constexpr quint64 firstDescriptionUrl = 0x0200;
+constexpr quint64 secondDescriptionUrl = 0x0400;
 constexpr quint32 urlSize = 512;
 
 /*! \brief Registers of a camera that are only looked at. */
@@ -67,6 +68,30 @@ void leaveAlone(ArvDevice *device)
     devices->append(ARV_DEVICE(g_object_ref(device)));
 }
 
+QString deviceClassOf(const QString &protocol)
+{
+    if (protocol == QLatin1String("GigEVision")) {
+        return QStringLiteral("GEV");
+    }
+    return protocol == QLatin1String("USB3Vision") ? QStringLiteral("U3V") : QString();
+}
+
+CameraRecord::Texts textsOf(unsigned int index)
+{
+    return {QString::fromUtf8(arv_get_device_id(index)), QString::fromUtf8(arv_get_device_vendor(index)),
+            QString::fromUtf8(arv_get_device_model(index)),
+            QString::fromUtf8(arv_get_device_serial_nbr(index)),
+            deviceClassOf(QString::fromUtf8(arv_get_device_protocol(index)))};
+}
+
+QString textOf(ArvDevice *device, const char *feature)
+{
+    GError *error = nullptr;
+    const QString text = QString::fromUtf8(arv_device_get_string_feature_value(device, feature, &error));
+    g_clear_error(&error);
+    return text;
+}
+
 std::optional<unsigned int> listed(const QString &id)
 {
     for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
@@ -79,10 +104,46 @@ std::optional<unsigned int> listed(const QString &id)
     return std::nullopt;
 }
 
-QHostAddress addressOf(unsigned int index)
+QList<CameraRecord::Texts> listedTexts()
 {
-    const bool isGige = qstrcmp(arv_get_device_protocol(index), "GigEVision") == 0;
-    return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(index))) : QHostAddress();
+    QList<CameraRecord::Texts> cameras;
+    for (unsigned int i = 0; i < arv_get_n_devices(); ++i) {
+        cameras.append(textsOf(i));
+    }
+    return cameras;
+}
+
+// Null for what is no GigE Vision camera, and for one that is not in the list and not named by its address.
+QHostAddress listedAddress(const QString &id)
+{
+    const auto index = listed(id);
+    if (!index) {
+        return QHostAddress(id);
+    }
+    const bool isGige = qstrcmp(arv_get_device_protocol(*index), "GigEVision") == 0;
+    return isGige ? QHostAddress(QString::fromUtf8(arv_get_device_address(*index))) : QHostAddress();
+}
+
+// By the way that the engine takes.
+QByteArray contentsOf(const QByteArray &url)
+{
+    const auto unref = [](void *object) { g_object_unref(object); };
+    const std::unique_ptr<GFile, decltype(unref)> file(g_file_new_for_uri(url.constData()), unref);
+    const std::unique_ptr<GFileInputStream, decltype(unref)> stream(g_file_read(file.get(), nullptr, nullptr),
+                                                                    unref);
+    QByteArray contents;
+    QByteArray block(65536, '\0');
+    gssize size = stream ? 1 : -1;
+    while (size > 0 && contents.size() <= DescriptionArchive::largest) {
+        size = g_input_stream_read(G_INPUT_STREAM(stream.get()), block.data(), gsize(block.size()), nullptr,
+                                   nullptr);
+        contents.append(block.constData(), std::max<gssize>(size, 0));
+    }
+    if (size != 0) {
+        throw BaseException(LiveCamera::tr("the camera's description cannot be read from %1")
+                                .arg(QString::fromUtf8(url).simplified()));
+    }
+    return contents;
 }
 
 bool isInOurSubnets(const QHostAddress &address)
@@ -126,8 +187,9 @@ void drop(gpointer onDoubt, GClosure *)
 
 } // namespace
 
-LiveCamera::LiveCamera(const QString &id, std::function<void()> onDoubt)
+LiveCamera::LiveCamera(const QString &id, EngineTurn::Waiter waiter, std::function<void()> onDoubt)
     : m_id(id)
+    , m_waiter(std::move(waiter))
     , m_onDoubt(std::move(onDoubt))
 {
 }
@@ -136,8 +198,10 @@ LiveCamera::~LiveCamera() = default;
 
 CameraStatus LiveCamera::status(const QString &id)
 {
-    const auto index = listed(id);
-    const QHostAddress address = index ? addressOf(*index) : QHostAddress(id);
+    const QHostAddress address = [&id] {
+        const EngineTurn turn;
+        return listedAddress(id);
+    }();
     if (address.isNull()) {
         return {};
     }
@@ -148,14 +212,23 @@ CameraStatus LiveCamera::status(const QString &id)
     return {stateOf(control.hold), address.toString(), control.controller.toString()};
 }
 
-DevicePtr LiveCamera::open()
+QString LiveCamera::locate()
 {
     m_address = findAddress();
+    return m_address.isNull() ? m_id : m_address.toString();
+}
+
+DevicePtr LiveCamera::open()
+{
     if (m_address.isNull()) {
         return connected();
     }
     m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
-    switch (m_link->control().hold) {
+    const GigeLink::Hold hold = m_link->control().hold;
+    if (hold != GigeLink::Hold::NoAnswer) {
+        m_identity = m_link->identity();
+    }
+    switch (hold) {
     case GigeLink::Hold::Free:
         checkDescription();
         return connected();
@@ -186,7 +259,11 @@ DevicePtr LiveCamera::openControlled()
 DevicePtr LiveCamera::connected()
 {
     GError *error = nullptr;
-    DevicePtr device(arv_open_device(m_id.toUtf8().constData(), &error));
+    DevicePtr device;
+    {
+        const EngineTurn turn(m_waiter);
+        device.reset(arv_open_device(m_id.toUtf8().constData(), &error));
+    }
     if (!device) {
         const QString reason = error ? EngineFailure::words(*error) : tr("there is no such camera");
         g_clear_error(&error);
@@ -199,7 +276,10 @@ DevicePtr LiveCamera::connected()
             g_inet_socket_address_get_address(const_cast<GInetSocketAddress *>(address)));
         m_address = QHostAddress(QString::fromUtf8(text));
         g_free(text);
-        m_link = m_link ? std::move(m_link) : std::make_unique<GigeLink>(m_address, patientAttempts);
+        if (!m_link) { // a camera that had to be looked up
+            m_link = std::make_unique<GigeLink>(m_address, patientAttempts);
+            m_identity = m_link->identity();
+        }
         if (!arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()))) {
             leaveAlone(device.get());
             return openReadOnly(); // another program was faster
@@ -220,10 +300,34 @@ DevicePtr LiveCamera::openReadOnly()
         leaveAlone(std::exchange(m_controlled, nullptr));
     }
     if (m_xml.isEmpty()) {
-        m_xml = DescriptionArchive::xml(fetchDescription());
+        m_xml = DescriptionArchive::xml(fetchHeldDescription());
         const Description accepted(m_xml); // throws before the engine sees it
     }
     return newPortDevice(m_xml, std::make_unique<ReadOnlyPort>(m_address));
+}
+
+CameraRecord::Texts LiveCamera::texts(ArvDevice *device) const
+{
+    const QList<CameraRecord::Texts> cameras = [this] {
+        const EngineTurn turn(m_waiter);
+        return listedTexts();
+    }();
+    for (const CameraRecord::Texts &texts : cameras) {
+        if (texts.id == m_id) {
+            return texts;
+        }
+    }
+    // Opened without having been listed before.
+    const QString model = textOf(device, "DeviceModelName");
+    return {m_id, textOf(device, "DeviceVendorName"), model.isEmpty() ? m_id : model,
+            textOf(device, "DeviceSerialNumber"),
+            ARV_IS_UV_DEVICE(device) ? QStringLiteral("U3V") : QStringLiteral("GEV")};
+}
+
+QList<CameraRecord::Texts> LiveCamera::list()
+{
+    const EngineTurn turn;
+    return listedTexts();
 }
 
 QByteArray LiveCamera::xml() const
@@ -234,30 +338,42 @@ QByteArray LiveCamera::xml() const
 // The engine unpacks and parses whatever the camera sends, and may not survive it.
 void LiveCamera::checkDescription() const
 {
-    QByteArray contents;
-    try {
-        contents = fetchDescription();
-    } catch (const BaseException &) {
-        return; // the engine knows of descriptions that are kept elsewhere
-    }
-    const Description accepted(DescriptionArchive::xml(contents));
+    const Description accepted(DescriptionArchive::xml(fetchDescription()));
 }
 
-// The camera keeps the place of its description as "Local:name;address;size", in hexadecimal digits.
+// Whoever holds the camera may hold it for himself.
+QByteArray LiveCamera::fetchHeldDescription() const
+{
+    try {
+        return fetchDescription();
+    } catch (const BaseException &exception) {
+        throw BaseException(tr("%1 (%2)").arg(heldWords({}), exception.getMessage()));
+    }
+}
+
+// A camera has two places for its description, of which the second is for want of the first.
 QByteArray LiveCamera::fetchDescription() const
 {
-    GError *error = nullptr;
-    const auto read = [&](quint64 address, quint32 size) {
-        QByteArray bytes(qsizetype(size), '\0');
-        if (!m_link->read(address, size, bytes.data(), &error)) {
-            const QString reason = EngineFailure::words(*error);
-            g_clear_error(&error);
-            throw BaseException(tr("%1 (%2)").arg(heldWords({}), reason));
+    try {
+        return descriptionAt(firstDescriptionUrl);
+    } catch (const BaseException &) {
+        try {
+            return descriptionAt(secondDescriptionUrl);
+        } catch (const BaseException &) {
         }
-        return bytes;
-    };
-    const QByteArray url = read(firstDescriptionUrl, urlSize);
-    const QList<QByteArray> parts = url.left(qsizetype(qstrnlen(url.constData(), urlSize))).split(';');
+        throw;
+    }
+}
+
+// Kept as "Local:name;address;size", in hexadecimal digits, or as the address of a file.
+QByteArray LiveCamera::descriptionAt(quint64 urlAddress) const
+{
+    QByteArray url = readMemory(urlAddress, urlSize);
+    url.truncate(qsizetype(qstrnlen(url.constData(), urlSize)));
+    if (url.toLower().startsWith("file:") || url.toLower().startsWith("http:")) {
+        return contentsOf(url.left(url.indexOf('?')));
+    }
+    const QList<QByteArray> parts = url.split(';');
     bool hasAddress = false;
     bool hasSize = false;
     const quint64 address = parts.value(1).toULongLong(&hasAddress, 16);
@@ -266,7 +382,19 @@ QByteArray LiveCamera::fetchDescription() const
         || size > quint64(DescriptionArchive::largest)) {
         throw BaseException(tr("the camera hands out no description of its features"));
     }
-    return read(address, quint32(size));
+    return readMemory(address, quint32(size));
+}
+
+QByteArray LiveCamera::readMemory(quint64 address, quint32 size) const
+{
+    GError *error = nullptr;
+    QByteArray bytes(qsizetype(size), '\0');
+    if (!m_link->read(address, size, bytes.data(), &error)) {
+        const QString reason = EngineFailure::words(*error);
+        g_clear_error(&error);
+        throw BaseException(reason);
+    }
+    return bytes;
 }
 
 bool LiveCamera::isWatchable() const
@@ -309,6 +437,18 @@ bool LiveCamera::isAnswering() const
         && GigeLink(m_address, quickAttempts).control().hold != GigeLink::Hold::NoAnswer;
 }
 
+QString LiveCamera::newsOfReturn() const
+{
+    const GigeLink::Identity now = GigeLink(m_address, quickAttempts).identity();
+    if (!now.isKnown()) {
+        return {};
+    }
+    return now == m_identity
+        ? tr("The camera at %1 answers again.").arg(m_address.toString())
+        : tr("Another camera answers at %1: serial number %2.")
+              .arg(m_address.toString(), QString::fromUtf8(now.serialNumber).simplified());
+}
+
 QString LiveCamera::silence() const
 {
     return m_address.isNull() ? tr("The camera %1 does not answer.").arg(m_id)
@@ -324,12 +464,13 @@ QString LiveCamera::heldWords(const QString &controller)
 // Null for what is no GigE Vision camera, or is known by a name that the engine has to look up.
 QHostAddress LiveCamera::findAddress() const
 {
-    auto index = listed(m_id);
-    if (!index && QHostAddress(m_id).isNull()) {
-        arv_update_device_list();
-        index = listed(m_id);
+    const EngineTurn turn(m_waiter);
+    const QHostAddress address = listedAddress(m_id);
+    if (!address.isNull()) {
+        return address;
     }
-    return index ? addressOf(*index) : QHostAddress(m_id);
+    arv_update_device_list();
+    return listedAddress(m_id);
 }
 
 } // namespace Cameras

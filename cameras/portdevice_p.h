@@ -5,6 +5,8 @@
 
 #include "deviceptr_p.h"
 
+#include <cameras/cameras_export.h>
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -15,7 +17,7 @@ using GError = struct _GError;
 namespace Cameras {
 
 /*! \brief The registers behind a device of our own. Both functions report a failure as the engine does. */
-class DevicePort
+class ZELTO_CAMERAS_EXPORT DevicePort
 {
 public:
     virtual ~DevicePort();
@@ -30,6 +32,6 @@ protected:
 
 /*! Returns a new device that serves the description \a xml from \a port. It has no genicam when the engine
  * cannot read the description. */
-DevicePtr newPortDevice(const QByteArray &xml, std::unique_ptr<DevicePort> port);
+ZELTO_CAMERAS_EXPORT DevicePtr newPortDevice(const QByteArray &xml, std::unique_ptr<DevicePort> port);
 
 } // namespace Cameras

@@ -3,6 +3,7 @@
 
 #include "session_p.h"
 
+#include "backgroundthreads_p.h"
 #include "engine_p.h"
 #include "livecamera_p.h"
 
@@ -11,6 +12,7 @@
 #include <platform/genicam/genericexception.h>
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 using namespace ParameterCollection;
@@ -23,49 +25,42 @@ ZELTO_LOG_CATEGORY("zelto.cameras.session")
 namespace {
 
 constexpr auto writeTime = 1s;
-constexpr auto openTime = 20s;
-constexpr auto closeTime = 500ms;
-constexpr auto leaveTime = 1500ms; // with closeTime, what the end of the process may take
 constexpr auto watchTime = 1s;
+constexpr auto giveBackTime = 5s; // after which a camera that was closed is believed to hang
+constexpr auto lookTime = 20ms;
 
-/*! \brief Threads of cameras that were closed while an access hung. They get a while to end before the
- * process ends, and are left then: an access may hang for ever. */
-class LeftThreads
+/*! \brief Sessions whose camera is open, or was and is being given back. */
+class Tenants
 {
 public:
-    ~LeftThreads()
-    {
-        const auto end = std::chrono::steady_clock::now() + leaveTime;
-        for (Left &left : m_threads) {
-            if (left.isFinished.wait_until(end) == std::future_status::ready) {
-                left.thread.join();
-            } else {
-                left.thread.detach();
-            }
-        }
-    }
-
-    void add(std::thread thread, std::future<void> isFinished)
+    void add(const std::shared_ptr<Session> &session)
     {
         const std::lock_guard lock(m_mutex);
-        m_threads.push_back({std::move(thread), std::move(isFinished)});
+        std::erase_if(m_sessions, [](const std::weak_ptr<Session> &tenant) { return tenant.expired(); });
+        m_sessions.push_back(session);
+    }
+
+    std::vector<std::shared_ptr<Session>> all()
+    {
+        const std::lock_guard lock(m_mutex);
+        std::vector<std::shared_ptr<Session>> sessions;
+        for (const std::weak_ptr<Session> &tenant : m_sessions) {
+            if (auto session = tenant.lock()) {
+                sessions.push_back(std::move(session));
+            }
+        }
+        return sessions;
     }
 
 private:
-    struct Left
-    {
-        std::thread thread;
-        std::future<void> isFinished;
-    };
-
     std::mutex m_mutex;
-    std::vector<Left> m_threads;
+    std::vector<std::weak_ptr<Session>> m_sessions;
 };
 
-LeftThreads &leftThreads()
+Tenants &tenants()
 {
-    static LeftThreads threads;
-    return threads;
+    static auto *const tenants = new Tenants; // a thread that hangs may outlive everything
+    return *tenants;
 }
 
 QSharedPointer<ParameterData> copyOf(const ParameterData &data)
@@ -95,57 +90,103 @@ Session::~Session()
     close();
 }
 
+QString Session::noAnswerInTime()
+{
+    return tr("no answer in time");
+}
+
+void Session::begin(const Opener &opener)
+{
+    runInBackground([self = shared_from_this(), opener] { self->run(opener); });
+}
+
 void Session::start(const Opener &opener)
 {
-    std::promise<void> finish;
-    m_finished = finish.get_future();
-    m_thread = std::thread([self = shared_from_this(), opener, finish = std::move(finish)]() mutable {
-        finish.set_value_at_thread_exit();
-        self->run(opener);
-    });
+    begin(opener);
     Lock lock(m_mutex);
-    const bool isInTime =
-        m_changed.wait_for(lock, openTime, [this] { return m_isOpen || m_openFailure || m_isFinished; });
-    if (m_openFailure) {
-        std::rethrow_exception(m_openFailure);
-    }
+    const bool isInTime = m_changed.wait_for(
+        lock, openTime, [this] { return m_opening.isOpen || !m_opening.failure.isEmpty(); });
     if (!isInTime) {
-        throw Core::Exception::BaseException(tr("no answer in time"));
+        throw Core::Exception::BaseException(noAnswerInTime());
+    }
+    if (!m_opening.failure.isEmpty()) {
+        throw Core::Exception::BaseException(m_opening.failure);
     }
 }
 
 void Session::close()
 {
-    Lock lock(m_mutex);
+    const Lock lock(m_mutex);
     m_isStopping = true;
     loseLocked(tr("The camera was closed."));
     m_changed.notify_all();
-    if (!m_thread.joinable()) {
-        return;
+}
+
+Session::Opening Session::opening() const
+{
+    const Lock lock(m_mutex);
+    m_isOpeningTold = true;
+    return m_opening;
+}
+
+void Session::setOpeningListener(QObject *listener)
+{
+    const Lock lock(m_mutex);
+    m_openingListener = listener;
+    tellOpening();
+}
+
+// Once until somebody looks, however fast the features are read.
+void Session::tellOpening()
+{
+    if (m_openingListener && m_isOpeningTold) {
+        m_isOpeningTold = false;
+        QMetaObject::invokeMethod(m_openingListener, "update", Qt::QueuedConnection);
     }
-    if (m_thread.get_id() == std::this_thread::get_id()) {
-        // The worker held the last reference.
-        m_thread.detach();
-        return;
+    m_changed.notify_all();
+}
+
+void Session::setStep(OpeningProgress::Step step)
+{
+    const Lock lock(m_mutex);
+    m_opening.progress.step = step;
+    tellOpening();
+}
+
+bool Session::isGivingBack(const QString &place) const
+{
+    const Lock lock(m_mutex);
+    return m_place == place && (m_isStopping || m_isLost) && !m_isFinished;
+}
+
+void Session::succeed(const QString &place)
+{
+    {
+        const Lock lock(m_mutex);
+        m_place = place;
     }
-    const bool isFinished = m_changed.wait_for(lock, closeTime, [this] { return m_isFinished; });
-    std::thread thread = std::move(m_thread);
-    lock.unlock();
-    if (isFinished) {
-        thread.join();
-    } else {
-        leftThreads().add(std::move(thread), std::move(m_finished));
+    tenants().add(shared_from_this());
+    const auto isHeld = [this, &place] {
+        const auto all = tenants().all();
+        return std::any_of(all.begin(), all.end(), [this, &place](const std::shared_ptr<Session> &other) {
+            return other.get() != this && other->isGivingBack(place);
+        });
+    };
+    const auto end = std::chrono::steady_clock::now() + giveBackTime;
+    while (isWanted() && isHeld() && std::chrono::steady_clock::now() < end) {
+        setStep(OpeningProgress::Step::Waiting);
+        std::this_thread::sleep_for(lookTime);
     }
 }
 
 void Session::run(const Opener &opener)
 {
+    QString failure;
     try {
         open(opener);
         work();
-    } catch (...) {
-        const Lock lock(m_mutex);
-        m_openFailure = std::current_exception();
+    } catch (const std::exception &exception) {
+        failure = QString::fromUtf8(exception.what()).simplified();
     }
     // Engines end where they were used; that releases a live camera.
     for (const auto &map : m_maps) {
@@ -153,33 +194,26 @@ void Session::run(const Opener &opener)
     }
     const Lock lock(m_mutex);
     m_isFinished = true;
-    m_changed.notify_all();
+    m_opening.failure = failure;
+    tellOpening();
 }
 
 void Session::open(const Opener &opener)
 {
-    Source source = opener();
+    Source source = opener(*this);
     const CameraAccess access =
         source.live && source.live->isWatchable() ? source.live->access(false) : CameraAccess();
+    {
+        const Lock lock(m_mutex);
+        m_opening.progress.step = OpeningProgress::Step::Reading;
+        for (const NodeMapSource &map : source.maps) {
+            m_opening.progress.total += int(map.description->published().size());
+        }
+        tellOpening();
+    }
     std::vector<std::unique_ptr<MapState>> maps;
     for (NodeMapSource &mapSource : source.maps) {
-        auto map = std::make_unique<MapState>();
-        map->source = std::move(mapSource);
-        const auto &description = map->source.description;
-        map->engine =
-            std::make_unique<Engine>(std::move(map->source.device), description, map->source.registers);
-        map->nodes.resize(size_t(description->nodeCount()));
-        for (const int node : description->published()) {
-            Engine::Reading reading = map->engine->read(node);
-            if (!map->engine->lossReason().isEmpty()) {
-                throw Core::Exception::BaseException(map->engine->lossReason());
-            }
-            NodeState &state = map->nodes[size_t(node)];
-            state.type = map->engine->type(node);
-            state.own = reading.data;
-            state.access = reading.access;
-        }
-        maps.push_back(std::move(map));
+        maps.push_back(openMap(std::move(mapSource)));
     }
     const Lock lock(m_mutex);
     m_maps = std::move(maps);
@@ -191,44 +225,72 @@ void Session::open(const Opener &opener)
             show(map->nodes[size_t(node)]);
         }
     }
-    m_isOpen = true;
-    m_changed.notify_all();
+    m_opening.isOpen = true;
+    tellOpening();
 }
 
+std::unique_ptr<Session::MapState> Session::openMap(NodeMapSource source)
+{
+    auto map = std::make_unique<MapState>();
+    map->source = std::move(source);
+    const auto &description = map->source.description;
+    map->engine = std::make_unique<Engine>(std::move(map->source.device), description, map->source.registers);
+    map->nodes.resize(size_t(description->nodeCount()));
+    for (const int node : description->published()) {
+        if (!isWanted()) {
+            throw Core::Exception::BaseException(tr("The camera was closed."));
+        }
+        Engine::Reading reading = map->engine->read(node);
+        if (!map->engine->lossReason().isEmpty()) {
+            throw Core::Exception::BaseException(map->engine->lossReason());
+        }
+        NodeState &state = map->nodes[size_t(node)];
+        state.type = map->engine->type(node);
+        state.own = reading.data;
+        state.access = reading.access;
+        const Lock lock(m_mutex);
+        ++m_opening.progress.done;
+        tellOpening();
+    }
+    return map;
+}
+
+// A lost camera has to be opened again, and is given back at once for that.
 void Session::work()
 {
     Lock lock(m_mutex);
-    for (;;) {
+    while (!m_isStopping && !m_isLost) {
         const auto hasWork = [this] {
-            return m_isStopping || !m_calls.empty() || !m_reads.empty() || isWatchDue();
+            return m_isStopping || m_isLost || !m_calls.empty() || !m_reads.empty() || isWatchDue();
         };
-        if (m_live && m_live->isWatchable() && !m_isLost) {
+        if (m_live && m_live->isWatchable()) {
             m_changed.wait_until(lock, m_nextWatch, hasWork);
         } else {
             m_changed.wait(lock, hasWork);
         }
-        if (m_isStopping) {
-            return;
-        }
-        if (isWatchDue()) {
-            lock.unlock();
-            Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to watch the control"),
-                             [this] { watchControl(); });
-            lock.lock();
-            m_nextWatch = std::chrono::steady_clock::now() + watchTime;
-            continue;
-        }
-        if (!m_calls.empty()) {
-            const std::shared_ptr<Call> call = m_calls.front();
-            m_calls.pop_front();
-            lock.unlock();
-            carryOut(call);
-            lock.lock();
-            continue;
-        }
-        if (!m_reads.empty()) {
-            readNext(lock);
-        }
+        workOnce(lock);
+    }
+}
+
+void Session::workOnce(Lock &lock)
+{
+    if (m_isStopping || m_isLost) {
+        return;
+    }
+    if (isWatchDue()) {
+        lock.unlock();
+        Core::guardedRun({logCategory(), "Session::work"}, QStringLiteral("Failed to watch the control"),
+                         [this] { watchControl(); });
+        lock.lock();
+        m_nextWatch = std::chrono::steady_clock::now() + watchTime;
+    } else if (!m_calls.empty()) {
+        const std::shared_ptr<Call> call = m_calls.front();
+        m_calls.pop_front();
+        lock.unlock();
+        carryOut(call);
+        lock.lock();
+    } else if (!m_reads.empty()) {
+        readNext(lock);
     }
 }
 
@@ -263,6 +325,9 @@ void Session::carryOut(const std::shared_ptr<Call> &call)
     const Lock lock(m_mutex);
     call->failure = failure;
     call->isDone = true;
+    if (!m_isLost) {
+        m_doubtful.removeOne(description(call->map)->name(call->node)); // it has been read since
+    }
     m_changed.notify_all();
 }
 
@@ -271,11 +336,23 @@ void Session::carryOutWrite(int map, int node, const NodeValue &value)
     Engine &engine = *m_maps[size_t(map)]->engine;
     try {
         engine.write(node, value);
-    } catch (...) {
+    } catch (const std::exception &exception) {
+        if (engine.lossReason().isEmpty()) {
+            readNow(map, node, true);
+            throw;
+        }
+        const QString name = description(map)->name(node);
+        doubt(name);
         noteLoss(map);
-        readNow(map, node, true);
-        throw;
+        readWritten(map, node);
+        throw GenICam::TimeoutException(doubtWords(name));
     }
+    readWritten(map, node);
+}
+
+// The node, and in due course what may have changed with it.
+void Session::readWritten(int map, int node)
+{
     readNow(map, node, true);
     const QList<int> dependents = description(map)->dependents(node);
     const Lock lock(m_mutex);
@@ -293,9 +370,6 @@ void Session::readNow(int mapIndex, int node, bool force)
     const Engine::Reading reading = map.engine->read(node);
     noteLoss(mapIndex);
     const Lock lock(m_mutex);
-    if (m_readLog) {
-        m_readLog->append(map.source.description->name(node));
-    }
     if (m_isLost) {
         return;
     }
@@ -496,18 +570,43 @@ void Session::carryOut(int map, const std::function<void(Engine &)> &task)
     }
 }
 
-// Only a camera that does not answer is lost; another takes its time, or leaves the write alone.
+// What has been sent may have been heard. Only a camera that does not answer is lost; another takes its time,
+// or leaves the write alone.
 void Session::giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name)
 {
-    std::erase(m_calls, call);
-    lock.unlock();
-    const bool isAnswering = m_live && m_live->isAnswering();
-    lock.lock();
-    if (isAnswering) {
-        throw GenICam::TimeoutException(tr("%1: not done within a second").arg(name));
+    const bool wasSent = std::erase(m_calls, call) == 0;
+    if (wasSent && !m_doubtful.contains(name)) {
+        m_doubtful.append(name);
     }
-    loseLocked(silence());
-    throw GenICam::TimeoutException(tr("%1: %2").arg(name, silence()));
+    if (m_live) {
+        runInBackground([self = shared_from_this()] { self->doubtAnswer(); });
+    } else {
+        loseLocked(silence());
+    }
+    lock.unlock();
+    throw GenICam::TimeoutException(
+        wasSent ? doubtWords(name) : tr("%1: not written, since the camera was busy for a second").arg(name));
+}
+
+void Session::doubt(const QString &name)
+{
+    const Lock lock(m_mutex);
+    if (!m_doubtful.contains(name)) {
+        m_doubtful.append(name);
+    }
+}
+
+QString Session::doubtWords(const QString &name)
+{
+    return tr("%1: the camera did not answer in time, so it is not known whether this was written").arg(name);
+}
+
+// In the background, as the caller has waited long enough.
+void Session::doubtAnswer()
+{
+    if (!m_live->isAnswering()) {
+        markLost(silence());
+    }
 }
 
 void Session::enqueue(int map, int node, bool force, bool first)
@@ -608,7 +707,7 @@ void Session::setCameraListener(QObject *listener)
     const Lock lock(m_mutex);
     m_cameraListener = listener;
     if (m_isLost) {
-        tellCamera("reportLoss", m_lossReason);
+        tellCamera("reportLoss", withDoubts(m_lossReason));
     }
 }
 
@@ -637,7 +736,33 @@ void Session::loseLocked(const QString &reason)
     }
     m_calls.clear();
     m_changed.notify_all();
-    tellCamera("reportLoss", reason);
+    tellCamera("reportLoss", withDoubts(reason));
+    if (m_live && m_live->isWatchable() && !m_isStopping) {
+        runInBackground([self = shared_from_this()] { self->awaitReturn(); });
+    }
+}
+
+// What was written without an answer stays unknown until the camera is opened again, and read.
+QString Session::withDoubts(const QString &news) const
+{
+    return m_doubtful.isEmpty() ? news
+                                : tr("%1 Whether the last change of %2 has arrived is not known.")
+                                      .arg(news, m_doubtful.join(QStringLiteral(", ")));
+}
+
+// In the background, as the worker may hang.
+void Session::awaitReturn()
+{
+    Lock lock(m_mutex);
+    while (!m_changed.wait_for(lock, watchTime, [this] { return m_isStopping.load(); })) {
+        lock.unlock();
+        const QString news = m_live->newsOfReturn();
+        lock.lock();
+        if (!news.isEmpty() && !m_isStopping) {
+            tellCamera("reportReturn", withDoubts(news));
+            return;
+        }
+    }
 }
 
 bool Session::isLost() const
@@ -697,18 +822,6 @@ GenApi::EAccessMode Session::nodeAccess(int map, int node) const
         return access;
     }
     return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
-}
-
-void Session::startReadLog()
-{
-    const Lock lock(m_mutex);
-    m_readLog.emplace();
-}
-
-QStringList Session::readLog() const
-{
-    const Lock lock(m_mutex);
-    return m_readLog.value_or(QStringList());
 }
 
 } // namespace Cameras

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "cameraaccess_p.h"
+#include "cameraopening.h"
 #include "description_p.h"
 #include "deviceptr_p.h"
 #include "engine_p.h"
@@ -19,16 +20,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <exception>
 #include <functional>
-#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 namespace Cameras {
@@ -62,8 +62,8 @@ public:
         std::vector<NodeMapSource> maps;
         std::shared_ptr<LiveCamera> live; //!< null for simulated registers
     };
-    /*! Connects to the camera; runs on the worker, may throw. */
-    using Opener = std::function<Source()>;
+    /*! Connects to the camera; runs on the worker of the session it is given, may throw. */
+    using Opener = std::function<Source(Session &)>;
 
     struct Published
     {
@@ -71,14 +71,41 @@ public:
         ParameterCollection::ParameterDataPtr data;
     };
 
+    /*! How the opening stands. */
+    struct Opening
+    {
+        OpeningProgress progress;
+        bool isOpen = false;
+        QString failure; //!< empty unless it has failed
+    };
+
+    /*! How long a camera may keep an opening waiting. */
+    static constexpr std::chrono::seconds openTime{20};
+    /*! Returns the words for one that took longer. */
+    static QString noAnswerInTime();
+
     Session();
     ~Session();
     Q_DISABLE_COPY_MOVE(Session)
 
-    /*! Starts the worker and waits until all nodes are read. Throws what the opener throws. */
+    /*! Starts the worker, which opens the camera. */
+    void begin(const Opener &opener);
+    /*! As begin(), and waits until all nodes are read. Throws Core::Exception::BaseException. */
     void start(const Opener &opener);
-    /*! Ends the worker; an access that hangs is left to end on its own. */
+    /*! Ends the worker, and returns at once: what it is doing ends later, and gives the camera back. */
     void close();
+
+    Opening opening() const;
+    /*! Names the object whose slot update() is invoked when opening() has changed. */
+    void setOpeningListener(QObject *listener);
+
+    /*! For openers: tells how far they are. */
+    void setStep(OpeningProgress::Step step);
+    /*! For openers: returns whether somebody waits for the camera still. */
+    bool isWanted() const { return !m_isStopping; }
+    /*! For openers: notes that the camera at \a place is about to be opened, and waits, for a while, until
+     * sessions that were closed have given it back. */
+    void succeed(const QString &place);
 
     Core::CameraPoolComponents::CameraInfoPtr info() const;
     int mapCount() const;
@@ -109,7 +136,8 @@ public:
     std::optional<Published> takePublished(int map);
 
     /*! Names the object whose slots are invoked: reportLoss(QString) when the camera has gone,
-     * reportAccess() when access() has changed, reportRefusal(QString) when the control was not given. */
+     * reportReturn(QString) when it answers again, reportAccess() when access() has changed,
+     * reportRefusal(QString) when the control was not given. */
     void setCameraListener(QObject *listener);
     bool isLost() const;
 
@@ -119,10 +147,6 @@ public:
     void takeControl();
     /*! Has the worker find out whether the camera is still controlled by us, and whether it answers. */
     void doubtControl();
-
-    /*! Begins to note which nodes the worker reads; for tests. */
-    void startReadLog();
-    QStringList readLog() const;
 
 private:
     struct NodeState
@@ -169,15 +193,25 @@ private:
 
     void run(const Opener &opener);
     void open(const Opener &opener);
+    std::unique_ptr<MapState> openMap(NodeMapSource source);
+    void tellOpening();
+    bool isGivingBack(const QString &place) const;
     void work();
+    void workOnce(Lock &lock);
     void readNext(Lock &lock);
     void carryOut(const std::shared_ptr<Call> &call);
     void carryOutWrite(int map, int node, const NodeValue &value);
+    void readWritten(int map, int node);
     void readNow(int map, int node, bool force);
     [[noreturn]] void giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name);
     void enqueue(int map, int node, bool force, bool first = false);
     void show(NodeState &state) const;
     void publish(int map, int node);
+    void doubt(const QString &name);
+    static QString doubtWords(const QString &name);
+    QString withDoubts(const QString &news) const;
+    void doubtAnswer();
+    void awaitReturn();
     void markLost(const QString &reason);
     void loseLocked(const QString &reason);
     void noteLoss(int map);
@@ -191,13 +225,14 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::thread m_thread;
-    std::future<void> m_finished; //!< that the thread has ended
     Core::CameraPoolComponents::CameraInfoPtr m_info;
     std::vector<std::unique_ptr<MapState>> m_maps;
     std::deque<std::shared_ptr<Call>> m_calls;
     std::deque<Read> m_reads;
-    std::exception_ptr m_openFailure;
+    Opening m_opening;
+    QObject *m_openingListener = nullptr;
+    mutable bool m_isOpeningTold = true; //!< no update() is on its way
+    QString m_place; //!< where the camera is, for those who open it next
     QObject *m_cameraListener = nullptr;
     std::shared_ptr<LiveCamera> m_live;
     CameraAccess m_access;
@@ -205,10 +240,9 @@ private:
     bool m_isControlDoubtful = false;
     bool m_isControlWanted = false;
     QString m_lossReason;
-    std::optional<QStringList> m_readLog;
-    bool m_isOpen = false;
+    QStringList m_doubtful; //!< features with a write that was sent, and not answered yet
     bool m_isLost = false;
-    bool m_isStopping = false;
+    std::atomic_bool m_isStopping = false;
     bool m_isFinished = false;
 };
 

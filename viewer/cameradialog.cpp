@@ -3,11 +3,7 @@
 
 #include "cameradialog.h"
 
-#include <cameras/camera.h>
-#include <platform/core/exception.h>
-
 #include <QDialogButtonBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -18,6 +14,7 @@ CameraDialog::CameraDialog(QWidget *parent)
     , m_list(new QListWidget(this))
     , m_hint(new QLabel(this))
     , m_connect(nullptr)
+    , m_rescan(nullptr)
 {
     setWindowTitle(tr("Connect to Camera"));
     m_list->setAccessibleName(tr("Reachable cameras"));
@@ -25,14 +22,14 @@ CameraDialog::CameraDialog(QWidget *parent)
     m_hint->setWordWrap(true);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_connect = buttons->addButton(tr("&Connect"), QDialogButtonBox::AcceptRole);
-    QPushButton *const rescanButton = buttons->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
+    m_rescan = buttons->addButton(tr("&Rescan"), QDialogButtonBox::ActionRole);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_list);
     layout->addWidget(m_hint);
     layout->addWidget(buttons);
     connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
-    connect(rescanButton, SIGNAL(clicked()), this, SLOT(rescan()));
+    connect(m_rescan, SIGNAL(clicked()), this, SLOT(rescan()));
     connect(m_list, SIGNAL(itemSelectionChanged()), this, SLOT(updateButtons()));
     connect(m_list, SIGNAL(itemActivated(QListWidgetItem *)), this, SLOT(accept()));
     rescan();
@@ -69,6 +66,7 @@ QString CameraDialog::stateOf(const Cameras::CameraStatus &status)
 
 void CameraDialog::select(const QString &id)
 {
+    m_wanted = id;
     for (int row = 0; row < m_list->count(); ++row) {
         if (m_list->item(row)->data(Qt::UserRole).toString() == id) {
             m_list->setCurrentRow(row);
@@ -78,34 +76,62 @@ void CameraDialog::select(const QString &id)
 
 void CameraDialog::rescan()
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    m_list->clear();
-    QString failure;
-    try {
-        const auto cameras = Cameras::Camera::list();
-        for (const auto &camera : cameras) {
-            const QString name = tr("%1 %2 (%3), %4")
-                                     .arg(camera->vendorName(), camera->modelName(), camera->serialNumber(),
-                                          camera->deviceClass());
-            const QString state = stateOf(Cameras::Camera::status(camera->id()));
-            auto *const item =
-                new QListWidgetItem(state.isEmpty() ? name : name + QLatin1Char('\n') + state, m_list);
-            item->setData(Qt::UserRole, camera->id());
-            item->setToolTip(camera->id());
-        }
-    } catch (const Core::Exception::BaseException &exception) {
-        failure = exception.getMessage();
+    if (!cameraId().isEmpty()) {
+        m_wanted = cameraId();
     }
-    QGuiApplication::restoreOverrideCursor();
-    m_list->setCurrentRow(0);
-    const QString empty =
-        tr("No camera answers. Check its power, its cable and the network interface, then rescan.");
-    m_hint->setText(failure.isEmpty() ? (m_list->count() == 0 ? empty : QString()) : failure);
-    m_hint->setVisible(!m_hint->text().isEmpty());
+    m_search = std::make_unique<Cameras::CameraSearch>();
+    m_list->clear();
+    connect(m_search.get(), SIGNAL(changed()), this, SLOT(showFound()));
+    updateHint();
     updateButtons();
+}
+
+void CameraDialog::showFound()
+{
+    const QList<Cameras::FoundCamera> cameras = m_search->cameras();
+    for (qsizetype i = m_list->count(); i < cameras.size(); ++i) {
+        add(cameras.at(i));
+    }
+    if (m_search->isFinished() && cameraId().isEmpty()) {
+        m_list->setCurrentRow(0);
+    }
+    updateHint();
+    updateButtons();
+}
+
+void CameraDialog::add(const Cameras::FoundCamera &camera)
+{
+    const auto &info = camera.info;
+    const QString name =
+        tr("%1 %2 (%3), %4")
+            .arg(info->vendorName(), info->modelName(), info->serialNumber(), info->deviceClass());
+    const QString state = stateOf(camera.status);
+    auto *const item = new QListWidgetItem(state.isEmpty() ? name : name + QLatin1Char('\n') + state, m_list);
+    item->setData(Qt::UserRole, info->id());
+    item->setToolTip(info->id());
+    if (info->id() == m_wanted && cameraId().isEmpty()) {
+        m_list->setCurrentItem(item);
+    }
+}
+
+void CameraDialog::updateHint()
+{
+    if (m_search->isWaiting()) {
+        m_hint->setText(tr("Waiting until the opening of a camera has ended…"));
+    } else if (!m_search->isFinished()) {
+        m_hint->setText(tr("Searching…"));
+    } else if (!m_search->failure().isEmpty()) {
+        m_hint->setText(m_search->failure());
+    } else {
+        m_hint->setText(m_list->count() > 0 ? QString()
+                                            : tr("No camera answers. Check its power, its cable and the "
+                                                 "network interface, then rescan."));
+    }
+    m_hint->setVisible(!m_hint->text().isEmpty());
 }
 
 void CameraDialog::updateButtons()
 {
     m_connect->setEnabled(!cameraId().isEmpty());
+    m_rescan->setEnabled(m_search->isFinished());
 }

@@ -3,16 +3,18 @@
 
 #pragma once
 
-#include <cameras/camerastatus.h>
+#include <cameras/camerasearch.h>
 
 #include <QDialog>
 #include <QString>
+
+#include <memory>
 
 class QLabel;
 class QListWidget;
 class QPushButton;
 
-/*! \brief Lists the reachable cameras, with a rescan, and lets the user choose one. */
+/*! \brief Lists the reachable cameras as they are found, with a rescan, and lets the user choose one. */
 class CameraDialog : public QDialog
 {
     Q_OBJECT
@@ -23,19 +25,25 @@ public:
 
     /*! Returns the id of the chosen camera, empty when none is. */
     QString cameraId() const;
-    /*! Selects the camera called \a id if it is in the list. */
+    /*! Selects the camera called \a id when it is found. */
     void select(const QString &id);
 
 public slots:
     void rescan();
 
 private slots:
+    void showFound();
     void updateButtons();
 
 private:
     static QString stateOf(const Cameras::CameraStatus &status);
+    void add(const Cameras::FoundCamera &camera);
+    void updateHint();
 
     QListWidget *m_list;
     QLabel *m_hint;
     QPushButton *m_connect;
+    QPushButton *m_rescan;
+    QString m_wanted; // id of the camera to select
+    std::unique_ptr<Cameras::CameraSearch> m_search;
 };

@@ -3,8 +3,6 @@
 
 #include "cameramemory.h"
 
-#include "options.h"
-
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QFileInfo>
@@ -25,12 +23,12 @@ constexpr QLatin1String usedKey("Used");
 constexpr QLatin1String monitorKey("MonitorMode");
 
 // However a file is written, it is the same camera.
-QString nameOf(const Options &options)
+QString nameOf(const CameraAddress &address)
 {
-    if (!options.description.isEmpty()) {
-        return QLatin1String("file:") + QFileInfo(options.description).canonicalFilePath();
+    if (!address.description.isEmpty()) {
+        return QLatin1String("file:") + QFileInfo(address.description).canonicalFilePath();
     }
-    return options.camera.isEmpty() ? QStringLiteral("embedded") : QLatin1String("camera:") + options.camera;
+    return address.isLive() ? QLatin1String("camera:") + address.camera : QStringLiteral("embedded");
 }
 
 void forgetOldest()
@@ -54,12 +52,12 @@ void forgetOldest()
 
 } // namespace
 
-void CameraMemory::setSource(const Options &options)
+void CameraMemory::setSource(const std::optional<CameraAddress> &address)
 {
-    m_name = nameOf(options);
+    m_name = address ? nameOf(*address) : QString();
     // Names hold what no key may hold.
     const QByteArray hash = QCryptographicHash::hash(m_name.toUtf8(), QCryptographicHash::Sha1).toHex();
-    m_group = options.isInteractive() ? allCameras + QLatin1Char('/') + QString::fromLatin1(hash) : QString();
+    m_group = address ? allCameras + QLatin1Char('/') + QString::fromLatin1(hash) : QString();
 }
 
 std::optional<CameraView> CameraMemory::recall() const

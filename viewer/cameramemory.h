@@ -3,13 +3,13 @@
 
 #pragma once
 
+#include "cameraaddress.h"
+
 #include <zeltoviewercomponents/featuretree/featuretreelook.h>
 
 #include <QString>
 
 #include <optional>
-
-struct Options;
 
 /*! \brief How a camera or description file was looked at when it was closed. */
 struct CameraView
@@ -22,8 +22,8 @@ struct CameraView
 class CameraMemory
 {
 public:
-    /*! Sets which camera it is about. Scripts leave no traces and find none. */
-    void setSource(const Options &options);
+    /*! Sets which camera it is about; about none it keeps nothing. */
+    void setSource(const std::optional<CameraAddress> &address);
 
     /*! Returns how the camera was looked at last, none when that is not known. */
     std::optional<CameraView> recall() const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "cameraaddress.h"
 #include "colours.h"
 #include "featuresamples.h"
 #include "languages.h"
@@ -105,6 +106,19 @@ int dumpTree(MainWindow &window, const Options &options)
     return finish(out);
 }
 
+void lookAt(FeatureTreeWidget &tree, const Options &options)
+{
+    if (options.visibility) {
+        tree.onVisibilityChanged(*options.visibility);
+    }
+    if (options.expand) {
+        tree.treeView()->expandEverything();
+    }
+    if (!options.search.isEmpty()) {
+        tree.setSearchText(options.search);
+    }
+}
+
 int renderTo(QWidget &widget, const QString &fileName)
 {
     widget.show();
@@ -128,7 +142,7 @@ int show(QWidget &widget, const Options &options)
 // A tree with one feature of each kind that the camera has.
 int showGallery(const Options &options)
 {
-    const auto camera = MainWindow::cameraFor(options);
+    const auto camera = cameraAt({options.description, options.camera});
     FeatureTreeWidget tree(QStringLiteral("editors"));
     tree.setVisibility(GenApi::Invisible);
     QSet<QString> kinds;
@@ -146,9 +160,14 @@ int showGallery(const Options &options)
     return show(tree, options);
 }
 
+CameraAddress addressIn(const Options &options)
+{
+    return {options.description, options.camera, options.zeroed, options.registers};
+}
+
 int saveRegisters(const Options &options)
 {
-    const QByteArray image = MainWindow::cameraFor(options)->registerImage();
+    const QByteArray image = cameraAt(addressIn(options))->registerImage();
     QSaveFile file(options.saveRegisters);
     const bool isSaved =
         file.open(QIODevice::WriteOnly) && file.write(image) == image.size() && file.commit();
@@ -169,8 +188,18 @@ int run(const Options &options)
         return saveRegisters(options);
     }
     MainWindow window;
-    window.openCamera(options);
-    window.applyOptions(options);
+    const CameraAddress address = addressIn(options);
+    FeatureTreeWidget &tree = *window.featureTree();
+    if (options.isInteractive()) {
+        QObject::connect(
+            &window, &MainWindow::cameraOpened, &tree, [&] { lookAt(tree, options); },
+            Qt::SingleShotConnection);
+        window.openCamera(address);
+        return show(window, options);
+    }
+    window.setRemembering(false);
+    window.showCamera(address, cameraAt(address));
+    lookAt(tree, options);
     return options.dump || options.favorites ? dumpTree(window, options) : show(window, options);
 }
 

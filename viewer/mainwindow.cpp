@@ -10,9 +10,11 @@
 #include "filedrop.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
+#include "openingpage.h"
 #include "recentsources.h"
 #include "treemenu.h"
 
+#include <cameras/cameraopening.h>
 #include <platform/core/exception.h>
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/services/cameracontrolservice.h>
@@ -34,6 +36,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -52,26 +55,27 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace {
 
 constexpr int stateVersion = 1;
 constexpr int statusTime = 5000;
+constexpr int openingPageDelay = 150;
 
 QString windowGroup()
 {
     return QStringLiteral("MainWindow");
 }
 
-/*! \brief Shows the wait cursor while it lives. */
-class WaitCursor
+QString nameOf(const CameraAddress &address)
 {
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-};
+    if (!address.description.isEmpty()) {
+        return QFileInfo(address.description).fileName();
+    }
+    return address.isLive() ? MainWindow::tr("the camera %1").arg(address.camera)
+                            : MainWindow::tr("the embedded camera");
+}
 
 } // namespace
 
@@ -84,6 +88,9 @@ MainWindow::MainWindow(QWidget *parent)
     , m_messages(new MessageBar(this))
     , m_splitter(new QSplitter(this))
     , m_pages(new QStackedWidget(this))
+    , m_emptyPage(createEmptyPage())
+    , m_openingPage(new OpeningPage(this))
+    , m_openingTimer(new QTimer(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
@@ -98,6 +105,9 @@ MainWindow::MainWindow(QWidget *parent)
             SIGNAL(displayError(AsyncErrorQueue::ErrorSeverity, QString, QString, QWidget *)), this,
             SLOT(onError(AsyncErrorQueue::ErrorSeverity, QString, QString)));
     connect(m_messages, SIGNAL(actionTriggered()), this, SLOT(onMessageAction()));
+    m_openingTimer->setSingleShot(true);
+    connect(m_openingTimer, SIGNAL(timeout()), this, SLOT(showOpeningPage()));
+    connect(m_openingPage, SIGNAL(cancelled()), this, SLOT(cancelOpening()));
     connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
     updateActions();
@@ -105,17 +115,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow() = default;
 
-std::unique_ptr<Cameras::Camera> MainWindow::cameraFor(const Options &options)
+void MainWindow::setRemembering(bool remembers)
 {
-    if (!options.description.isEmpty()) {
-        // A saved state shall not be mixed with one that was made up.
-        const bool isZeroed = options.zeroed || !options.registers.isEmpty();
-        return Cameras::Camera::openDescription(options.description,
-                                                isZeroed ? Cameras::Start::Zeroed : Cameras::Start::Alive,
-                                                options.registers);
-    }
-    return options.camera.isEmpty() ? Cameras::Camera::openEmbedded()
-                                    : Cameras::Camera::openLive(options.camera);
+    m_remembers = remembers;
 }
 
 FeatureTreeWidget *MainWindow::featureTree() const
@@ -131,7 +133,8 @@ QObject *MainWindow::services() const
 void MainWindow::layOut()
 {
     m_pages->addWidget(m_tree);
-    m_pages->addWidget(createEmptyPage());
+    m_pages->addWidget(m_emptyPage);
+    m_pages->addWidget(m_openingPage);
     m_splitter->addWidget(m_pages);
     m_splitter->addWidget(m_description);
     m_splitter->setStretchFactor(0, 3);
@@ -144,6 +147,8 @@ void MainWindow::layOut()
     m_matches->setIndent(fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
+    m_cameraName->setText(tr("No camera"));
+    setWindowTitle(tr("Zelto Viewer"));
 }
 
 void MainWindow::connectTree()
@@ -341,21 +346,101 @@ void MainWindow::updateLevelButton()
     m_levelButton->setText(tr("Level: %1").arg(name));
 }
 
-void MainWindow::openCamera(const Options &options)
+void MainWindow::openCamera(const CameraAddress &address)
 {
-    std::unique_ptr<Cameras::Camera> camera = cameraFor(options);
-    closeCamera();
-    m_source = options;
-    useCamera(std::move(camera));
-    recallCamera();
-    if (options.isInteractive()) {
-        m_recent->add(options);
+    m_targetLook.reset();
+    startOpening(address);
+}
+
+void MainWindow::startOpening(const CameraAddress &address)
+{
+    endOpening();
+    m_target = address;
+    m_opening = openingAt(address);
+    connect(m_opening.get(), SIGNAL(progressed()), this, SLOT(showProgress()));
+    connect(m_opening.get(), SIGNAL(opened()), this, SLOT(onOpened()));
+    connect(m_opening.get(), SIGNAL(failed(QString)), this, SLOT(onOpeningFailed(QString)));
+    m_openingPage->begin(nameOf(address));
+    m_openingTimer->start(m_camera ? openingPageDelay : 0);
+    updateActions();
+}
+
+void MainWindow::showOpeningPage()
+{
+    m_pages->setCurrentWidget(m_openingPage);
+    m_openingPage->setFocus();
+}
+
+void MainWindow::showProgress()
+{
+    m_openingPage->setProgress(m_opening->progress());
+}
+
+void MainWindow::onOpened()
+{
+    showCamera(m_target, m_opening->takeCamera());
+}
+
+void MainWindow::onOpeningFailed(const QString &reason)
+{
+    const bool canTryAgain = !m_camera || m_target == m_source;
+    endOpening();
+    if (canTryAgain) {
+        m_source = m_target;
+        m_messages->showAction(reason, tr("Reconnect"));
+    } else {
+        m_messages->showMessage(reason, QString());
     }
+}
+
+void MainWindow::cancelOpening()
+{
+    endOpening();
+    statusBar()->showMessage(tr("The opening was cancelled."), statusTime);
+}
+
+// Also from within the signals of what opens.
+void MainWindow::endOpening()
+{
+    m_openingTimer->stop();
+    if (!m_opening) {
+        return;
+    }
+    m_opening->cancel();
+    m_opening.release()->deleteLater();
+    const bool hadFocus = m_openingPage->isVisible();
+    m_pages->setCurrentWidget(m_camera ? static_cast<QWidget *>(m_tree) : m_emptyPage);
+    if (hadFocus && m_camera) {
+        m_tree->setFocus();
+    }
+    updateActions();
+}
+
+bool MainWindow::isOpening() const
+{
+    return m_opening != nullptr;
+}
+
+void MainWindow::showCamera(const CameraAddress &address, std::unique_ptr<Cameras::Camera> camera)
+{
+    const std::optional<FeatureTreeLook> look = std::exchange(m_targetLook, std::nullopt);
+    closeCamera();
+    m_source = address;
+    useCamera(std::move(camera));
+    if (look) {
+        look->applyTo(*m_tree);
+    } else {
+        recallCamera();
+    }
+    if (m_remembers) {
+        m_recent->add(address);
+    }
+    emit cameraOpened(m_camera->info());
 }
 
 void MainWindow::recallCamera()
 {
-    m_memory.setSource(m_source);
+    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt);
     const std::optional<CameraView> view = m_memory.recall();
     m_monitorAction->setChecked(view && view->monitors);
     if (view) {
@@ -373,15 +458,14 @@ void MainWindow::rememberCamera()
 // That a lost camera is not polled says nothing about the next time.
 FeatureTreeLook MainWindow::currentLook()
 {
-    FeatureTreeLook look(*m_tree);
-    look.setPolling(look.polls() || m_pollsAfterReconnect);
-    return look;
+    return m_lookAtLoss ? *m_lookAtLoss : FeatureTreeLook(*m_tree);
 }
 
 void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
 {
     m_camera = std::move(camera);
     connect(m_camera.get(), SIGNAL(lost(QString)), this, SLOT(onCameraLost(QString)));
+    connect(m_camera.get(), SIGNAL(returned(QString)), this, SLOT(onCameraReturned(QString)));
     connect(m_camera.get(), SIGNAL(accessChanged()), this, SLOT(showAccess()));
     connect(m_camera.get(), SIGNAL(controlRefused(QString)), this, SLOT(onControlRefused(QString)));
     const auto nodeMaps = m_camera->nodeMaps();
@@ -400,17 +484,17 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     if (m_camera->isReadOnly()) {
         showAccess();
     }
-    emit cameraOpened(info);
 }
 
 void MainWindow::closeCamera()
 {
+    endOpening();
     rememberCamera();
-    m_pollsAfterReconnect = false;
+    m_lookAtLoss.reset();
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
-    m_pages->setCurrentIndex(1);
+    m_pages->setCurrentWidget(m_emptyPage);
     m_camera.reset();
     m_failedWrites.clear();
     m_messages->dismiss();
@@ -419,20 +503,15 @@ void MainWindow::closeCamera()
     updateActions();
 }
 
-void MainWindow::openInstead(const Options &options)
+void MainWindow::openInstead(const CameraAddress &address)
 {
     if (!isCloseWanted()) {
         return;
     }
-    try {
-        const WaitCursor cursor;
-        if (m_camera && !options.camera.isEmpty() && options.camera == m_source.camera) {
-            closeCamera(); // nobody controls a camera twice
-        }
-        openCamera(options);
-    } catch (const Core::Exception::BaseException &exception) {
-        m_messages->showMessage(exception.getMessage(), QString());
+    if (m_camera && address.isLive() && address == m_source) {
+        closeCamera(); // nobody controls a camera twice
     }
+    openCamera(address);
 }
 
 void MainWindow::openDescriptionFile()
@@ -446,10 +525,7 @@ void MainWindow::openDescriptionFile()
 
 void MainWindow::openSource(const QString &description, const QString &camera)
 {
-    Options options;
-    options.description = description;
-    options.camera = camera;
-    openInstead(options);
+    openInstead({description, camera, false, QString()});
 }
 
 void MainWindow::connectToCamera()
@@ -463,11 +539,17 @@ void MainWindow::connectToCamera()
 
 void MainWindow::onCameraLost(const QString &reason)
 {
-    m_pollsAfterReconnect = m_tree->getPolling();
+    m_lookAtLoss = FeatureTreeLook(*m_tree);
+    m_lookAtLoss->remove(FeatureTreeLook::Level); // which can be changed all the time
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
     m_messages->showAction(reason, tr("Reconnect"));
     updateActions();
+}
+
+void MainWindow::onCameraReturned(const QString &news)
+{
+    m_messages->showAction(news, tr("Reconnect"));
 }
 
 // The bar asks one thing at a time: to reconnect to a camera that is not open, else for its control.
@@ -514,21 +596,8 @@ void MainWindow::onControlRefused(const QString &reason)
 
 void MainWindow::reconnect()
 {
-    try {
-        const WaitCursor cursor;
-        std::unique_ptr<Cameras::Camera> camera = cameraFor(m_source);
-        const std::optional<FeatureTreeLook> look =
-            m_camera ? std::make_optional(currentLook()) : std::nullopt;
-        closeCamera();
-        useCamera(std::move(camera));
-        if (look) {
-            look->applyTo(*m_tree);
-        } else {
-            recallCamera();
-        }
-    } catch (const Core::Exception::BaseException &exception) {
-        m_messages->showAction(exception.getMessage(), tr("Reconnect"));
-    }
+    m_targetLook = m_camera ? std::make_optional(currentLook()) : std::nullopt;
+    startOpening(m_source);
 }
 
 bool MainWindow::isCameraOpen() const
@@ -545,7 +614,7 @@ void MainWindow::closeCameraIfWanted()
 
 bool MainWindow::isCloseWanted()
 {
-    const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
+    const bool isLive = isCameraOpen() && m_source.isLive();
     return !isLive
         || confirm(
             QStringLiteral("CloseLiveCamera"), tr("Close Camera"),
@@ -606,7 +675,7 @@ void MainWindow::updateActions()
 {
     m_closeAction->setEnabled(m_camera != nullptr);
     m_copyAction->setEnabled(m_camera != nullptr);
-    m_reconnectAction->setEnabled(!isCameraOpen());
+    m_reconnectAction->setEnabled(!isCameraOpen() && !isOpening());
     for (QAction *const action : m_levels->actions()) {
         action->setChecked(action->data().toInt() == m_tree->visibility());
     }
@@ -629,19 +698,6 @@ QString MainWindow::ipObstacle() const
         return tr("No camera is open");
     }
     return m_camera->isLost() ? tr("The camera was lost") : IpConfiguration(m_camera->nodeMaps()).obstacle();
-}
-
-void MainWindow::applyOptions(const Options &options)
-{
-    if (options.visibility) {
-        m_tree->onVisibilityChanged(*options.visibility);
-    }
-    if (options.expand) {
-        m_tree->treeView()->expandEverything();
-    }
-    if (!options.search.isEmpty()) {
-        m_tree->setSearchText(options.search);
-    }
 }
 
 void MainWindow::focusSearch()
@@ -799,5 +855,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     saveState();
     rememberCamera();
+    endOpening();
     QMainWindow::closeEvent(event);
 }

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "cameraaddress.h"
 #include "cameramemory.h"
-#include "options.h"
 
 #include <cameras/camera.h>
 #include <platform/core/camerainfo.h>
@@ -18,10 +18,16 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
+
+namespace Cameras {
+class CameraOpening;
+}
 
 class DescriptionPane;
 class FeatureTreeWidget;
 class MessageBar;
+class OpeningPage;
 class QAction;
 class QActionGroup;
 class QLabel;
@@ -38,7 +44,9 @@ class WorkbenchService;
 /*! \brief The viewer's window: the feature tree of one camera, a description of the current feature,
  * messages.
  *
- * Owns the open camera. When it is lost, says so once, disables the tree and offers to reconnect.
+ * Owns the open camera, and never waits for one: while a camera is being opened, a page says how far that is,
+ * and has a button to cancel it. When the camera is lost, says so once, disables the tree and offers to
+ * reconnect.
  */
 class MainWindow : public QMainWindow
 {
@@ -48,27 +56,28 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /*! Returns the camera that \a options name; throws Core::Exception::BaseException when it cannot be
-     * opened. */
-    static std::unique_ptr<Cameras::Camera> cameraFor(const Options &options);
-
-    /*! Opens what \a options name; throws Core::Exception::BaseException when that fails, with the camera
-     * that was open left as it was. */
-    void openCamera(const Options &options);
+    /*! Sets whether the window remembers what it opens and how that was looked at, as it does unless a script
+     * uses it. */
+    void setRemembering(bool remembers);
+    /*! Begins to open \a address and returns at once; cameraOpened() tells that it is open, a failure is
+     * shown. The camera that was open stays so until then. */
+    void openCamera(const CameraAddress &address);
+    /*! Shows \a camera, which was opened by \a address, instead of the one that was open. */
+    void showCamera(const CameraAddress &address, std::unique_ptr<Cameras::Camera> camera);
     /*! Opens what a user has chosen, instead of the camera that is open: asks before it closes a live one,
      * and shows a failure. */
-    void openInstead(const Options &options);
-    /*! Sets level, search and expansion as \a options ask. */
-    void applyOptions(const Options &options);
+    void openInstead(const CameraAddress &address);
     FeatureTreeWidget *featureTree() const;
     /*! Returns whether a camera is open and answers. */
     bool isCameraOpen() const;
+    /*! Returns whether a camera is being opened. */
+    bool isOpening() const;
     /*! Returns the parent of the services that plug-ins find. */
     QObject *services() const;
 
 public slots:
     void closeCamera();
-    /*! Opens the camera that was open last, with the tree as it was; a failure is shown. */
+    /*! Begins to open the camera that was open last, as openCamera() does; the tree will be as it was. */
     void reconnect();
 
 signals:
@@ -97,7 +106,13 @@ private slots:
     void onWriteFailed(const QSharedPointer<ParameterCollection::IParameter> &parameter,
                        const QString &message);
     void onError(AsyncErrorQueue::ErrorSeverity severity, const QString &message, const QString &details);
+    void showOpeningPage();
+    void showProgress();
+    void onOpened();
+    void onOpeningFailed(const QString &reason);
+    void cancelOpening();
     void onCameraLost(const QString &reason);
+    void onCameraReturned(const QString &news);
     void onMessageAction();
     void showAccess();
     void takeControl();
@@ -128,15 +143,21 @@ private:
     void updateLevelButton();
     void recallCamera();
     void rememberCamera();
+    void startOpening(const CameraAddress &address);
+    void endOpening();
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void fitColumns();
     void restoreState();
     void saveState() const;
 
     std::unique_ptr<Cameras::Camera> m_camera;
-    Options m_source; // how the camera was opened
+    CameraAddress m_source; // of the camera that was opened last
+    bool m_remembers = true;
     QHash<QString, QString> m_failedWrites; // messages that are on their way, and the features they are about
-    bool m_pollsAfterReconnect = false;
+    std::unique_ptr<Cameras::CameraOpening> m_opening;
+    CameraAddress m_target; // of the camera that is being opened
+    std::optional<FeatureTreeLook> m_targetLook; // none for a camera that is to be looked at as ever
+    std::optional<FeatureTreeLook> m_lookAtLoss; // with what was being typed
     int m_nameWidth = 0; // of the first column, as far as there is room for it
     bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
@@ -145,7 +166,10 @@ private:
     QTimer *m_descriptionTimer; // describes the current row when the rows have settled
     MessageBar *m_messages;
     QSplitter *m_splitter;
-    QStackedWidget *m_pages; // the tree, or what is shown without a camera
+    QStackedWidget *m_pages; // of which one is shown: the tree, or what is shown without a camera
+    QWidget *m_emptyPage;
+    OpeningPage *m_openingPage;
+    QTimer *m_openingTimer; // leaves the tree in sight for what opens in no time
     QLabel *m_matches;
     QLabel *m_cameraName;
     QObject *m_services;

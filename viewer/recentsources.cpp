@@ -3,7 +3,7 @@
 
 #include "recentsources.h"
 
-#include "options.h"
+#include "cameraaddress.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -56,11 +56,11 @@ RecentSources::RecentSources(QMenu *menu)
 
 RecentSources::~RecentSources() = default;
 
-void RecentSources::add(const Options &options)
+void RecentSources::add(const CameraAddress &address)
 {
-    const QString source = !options.description.isEmpty()
-        ? filePrefix + QFileInfo(options.description).absoluteFilePath()
-        : cameraPrefix + options.camera;
+    const QString source = address.description.isEmpty()
+        ? cameraPrefix + address.camera
+        : filePrefix + QFileInfo(address.description).absoluteFilePath();
     if (isUsable(source)) {
         QStringList sources = storedSources();
         sources.removeAll(source);

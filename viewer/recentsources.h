@@ -9,7 +9,7 @@
 
 class QAction;
 class QMenu;
-struct Options;
+struct CameraAddress;
 
 /*! \brief The description files and live cameras that were opened last, as a menu and in the settings.
  *
@@ -24,8 +24,8 @@ public:
     explicit RecentSources(QMenu *menu);
     ~RecentSources() override;
 
-    /*! Puts the file or camera of \a options at the front. */
-    void add(const Options &options);
+    /*! Puts the file or camera at \a address at the front. */
+    void add(const CameraAddress &address);
     /*! Returns the id of the live camera that was opened last, empty when there is none. */
     QString lastCamera() const;
 

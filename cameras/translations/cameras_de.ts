@@ -207,8 +207,16 @@
         <translation>die Kamera ist nur lesend geöffnet</translation>
     </message>
     <message>
-        <source>%1: not done within a second</source>
-        <translation>%1: nicht innerhalb einer Sekunde ausgeführt</translation>
+        <source>%1: the camera did not answer in time, so it is not known whether this was written</source>
+        <translation>%1: Die Kamera hat nicht rechtzeitig geantwortet. Ob geschrieben wurde, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1: not written, since the camera was busy for a second</source>
+        <translation>%1: nicht geschrieben, da die Kamera eine Sekunde lang beschäftigt war</translation>
+    </message>
+    <message>
+        <source>%1 Whether the last change of %2 has arrived is not known.</source>
+        <translation>%1 Ob die letzte Änderung von %2 angekommen ist, ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -338,6 +346,18 @@
     <message>
         <source>held by another program at %1</source>
         <translation>von einem anderen Programm auf %1 belegt</translation>
+    </message>
+    <message>
+        <source>The camera at %1 answers again.</source>
+        <translation>Die Kamera unter %1 antwortet wieder.</translation>
+    </message>
+    <message>
+        <source>Another camera answers at %1: serial number %2.</source>
+        <translation>Unter %1 antwortet eine andere Kamera: Seriennummer %2.</translation>
+    </message>
+    <message>
+        <source>the camera&apos;s description cannot be read from %1</source>
+        <translation>die Beschreibung der Kamera lässt sich von %1 nicht lesen</translation>
     </message>
 </context>
 </TS>

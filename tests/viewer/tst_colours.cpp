@@ -170,7 +170,7 @@ void TestColours::initTestCase()
     QSettings().clear();
     setUpColours();
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera(Options());
+    m_window->showCamera({}, cameraAt({}));
     m_window->featureTree()->onVisibilityChanged(GenApi::Guru);
     view()->expandEverything();
     m_window->resize(1000, 700);

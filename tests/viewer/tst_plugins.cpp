@@ -77,7 +77,7 @@ void TestPlugins::init()
     QCoreApplication::setApplicationName("tst_plugins");
     QSettings().clear();
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera(Options());
+    m_window->showCamera({}, cameraAt({}));
     m_window->findChild<QDockWidget *>()->show();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
@@ -152,6 +152,9 @@ void TestPlugins::statusFollowsTheTree()
     QCOMPARE(current.size(), 1);
     const auto parameter = current.first().first().value<QSharedPointer<ParameterCollection::IParameter>>();
     QCOMPARE(parameter->name(), "Width");
+    QTest::keyClick(m_window->featureTree()->treeView(), Qt::Key_Home); // the favorites
+    QCOMPARE(current.size(), 2);
+    QVERIFY(current.last().first().value<QSharedPointer<ParameterCollection::IParameter>>().isNull());
     m_window->featureTree()->onVisibilityChanged(GenApi::Expert);
     QCOMPARE(level.size(), 1);
     service<FeatureTree::IFeatureTreeControlService>()->setPolling(true);
@@ -170,8 +173,9 @@ void TestPlugins::cameraClosesAndOpens()
     QVERIFY(opened.isEmpty());
     QVERIFY(!show("Width"));
 
-    QVERIFY(control->setCameraOpen(true));
-    QVERIFY(m_window->isCameraOpen());
+    QVERIFY(!control->setCameraOpen(true)); // not yet
+    QVERIFY(!control->setCameraOpen(true));
+    QVERIFY(opened.wait());
     QVERIFY(control->setCameraOpen(true));
     QCOMPARE(opened.size(), 1);
     QVERIFY(show("Width"));
@@ -187,7 +191,7 @@ void TestPlugins::visitsAreListed()
     QCOMPARE(visits()->item(0)->text(), "Width");
 
     m_window->closeCamera();
-    m_window->openCamera(Options());
+    m_window->showCamera({}, cameraAt({}));
     QCOMPARE(visits()->count(), 3);
 }
 

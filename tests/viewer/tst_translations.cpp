@@ -141,10 +141,8 @@ void TestTranslations::countsHaveTheirPlural()
     QFETCH(QString, shown);
     installTranslations(locale);
     MainWindow window;
-    window.openCamera(Options());
-    Options options;
-    options.search = search;
-    window.applyOptions(options);
+    window.showCamera({}, cameraAt({}));
+    window.featureTree()->setSearchText(search);
     const auto labels = window.statusBar()->findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.cbegin(), labels.cend(),
                         [&shown](const QLabel *label) { return label->text() == shown; }));
@@ -156,7 +154,7 @@ void TestTranslations::librariesAreTranslated()
     MainWindow window;
     const auto *const tree = window.featureTree();
     QCOMPARE(tree->treeView()->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Merkmal"));
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     QCOMPARE(tree->treeView()->model()->index(1, 0).data().toString(), QStringLiteral("Kamera"));
 }
 

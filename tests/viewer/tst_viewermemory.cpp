@@ -77,7 +77,7 @@ void TestViewerMemory::restart()
         m_window->close();
     }
     m_window = std::make_unique<MainWindow>();
-    m_window->openCamera(Options());
+    m_window->showCamera({}, cameraAt({}));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -91,9 +91,8 @@ QString TestViewerMemory::description(const QString &name)
 
 void TestViewerMemory::open(const QString &fileName)
 {
-    Options options;
-    options.description = fileName;
-    m_window->openCamera(options);
+    m_window->openCamera(CameraAddress::ofDescription(fileName));
+    QTRY_VERIFY(!m_window->isOpening());
     QCoreApplication::processEvents(); // which fill the menu
 }
 
@@ -169,7 +168,8 @@ void TestViewerMemory::dropOpensOneFile()
     QVERIFY(!opens || drop.dropAction() == Qt::CopyAction); // nobody deletes the file
     QCOMPARE(m_window->windowTitle(), title); // the other program has not to wait
     QCoreApplication::processEvents();
-    QCOMPARE(m_window->windowTitle() != title, opens);
+    QCOMPARE(m_window->isOpening(), opens);
+    QTRY_COMPARE(m_window->windowTitle() != title, opens);
     QCOMPARE(m_window->featureTree()->findChild<QLineEdit *>("filterEdit")->text(), QString());
 }
 
@@ -224,6 +224,7 @@ void TestViewerMemory::eachCameraIsShownAsItWasLeft()
     QVERIFY(view()->isExpanded(feature("Device Control")) && !view()->isExpanded(feature("Analog Control")));
     m_window->closeCamera();
     m_window->reconnect();
+    QTRY_VERIFY(!m_window->isOpening());
     QVERIFY(view()->isExpanded(feature("Device Control")));
 }
 
@@ -232,14 +233,11 @@ void TestViewerMemory::scriptsLeaveNoTraces()
     view()->expand(feature("Analog Control"));
     m_window->close();
     const QStringList keys = QSettings().allKeys();
-    Options options;
-    options.screenshot = "x.png";
-    options.description = description("script.xml");
-    m_window->openCamera(options);
+    m_window->setRemembering(false);
+    open(description("script.xml"));
     m_window->closeCamera();
     QCOMPARE(QSettings().allKeys(), keys);
-    options.description.clear();
-    m_window->openCamera(options);
+    m_window->showCamera({}, cameraAt({}));
     QVERIFY(!view()->isExpanded(feature("Analog Control")));
 }
 
@@ -295,6 +293,7 @@ void TestViewerMemory::reconnectingDuringASearchKeepsTheRow()
     box->setText("exposure");
     view()->setCurrentIndex(feature("Exposure Auto"));
     m_window->reconnect();
+    QTRY_VERIFY(!m_window->isOpening());
     QCOMPARE(box->text(), "exposure");
     QCOMPARE(view()->currentIndex().data().toString(), "Exposure Auto");
     box->clear();

@@ -17,7 +17,7 @@ bool CameraControlService::setCameraOpen(bool open)
 {
     if (!open) {
         m_window->closeCamera();
-    } else if (!m_window->isCameraOpen()) {
+    } else if (!m_window->isCameraOpen() && !m_window->isOpening()) {
         m_window->reconnect();
     }
     return m_window->isCameraOpen() == open;

@@ -15,4 +15,10 @@ class FeatureTreeStatusService : public Plugin::FeatureTree::IFeatureTreeStatusS
 public:
     explicit FeatureTreeStatusService(const FeatureTreeWidget *tree, QObject *parent = nullptr);
     ~FeatureTreeStatusService() override;
+
+private slots:
+    void tellOfRowWithoutParameter();
+
+private:
+    const FeatureTreeWidget *m_tree;
 };

@@ -51,6 +51,14 @@
         <source>%1, does not answer</source>
         <translation>%1, antwortet nicht</translation>
     </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>Waiting until the opening of a camera has ended…</source>
+        <translation>Wartet, bis das Öffnen einer Kamera beendet ist …</translation>
+    </message>
 </context>
 <context>
     <name>ColoursMenu</name>
@@ -457,6 +465,18 @@ Open a description file or connect to a camera (menu File).</source>
         <source>Level: %1</source>
         <translation>Stufe: %1</translation>
     </message>
+    <message>
+        <source>the camera %1</source>
+        <translation>Die Kamera %1</translation>
+    </message>
+    <message>
+        <source>the embedded camera</source>
+        <translation>Die eingebaute Kamera</translation>
+    </message>
+    <message>
+        <source>The opening was cancelled.</source>
+        <translation>Das Öffnen wurde abgebrochen.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -585,6 +605,37 @@ Was die Datei enthält, geht verloren.</translation>
     <message>
         <source>The file does not exist at present</source>
         <translation>Die Datei gibt es zurzeit nicht</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningPage</name>
+    <message>
+        <source>Opening %1</source>
+        <translation>%1 wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Waiting until the search for another camera, or its opening, has ended…</source>
+        <translation>Wartet, bis die Suche oder das Öffnen einer anderen Kamera beendet ist …</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbindung wird aufgebaut …</translation>
+    </message>
+    <message>
+        <source>Reading the description…</source>
+        <translation>Die Beschreibung wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Reading the features: %1 of %2</source>
+        <translation>Die Merkmale werden gelesen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
 </context>
 </TS>

@@ -9,6 +9,9 @@
 #include "featuretreeview.h"
 #include "featuretreewidget.h"
 
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QMetaEnum>
 #include <QScrollBar>
 #include <QStringList>
@@ -76,6 +79,13 @@ void makeCurrent(FeatureTreeView &view, const QString &path)
     }
 }
 
+// Spin boxes have the focus for their line edit.
+QLineEdit *lineEditIn(QWidget *input)
+{
+    auto *const lineEdit = qobject_cast<QLineEdit *>(input);
+    return lineEdit || !input ? lineEdit : input->findChild<QLineEdit *>();
+}
+
 // Unless it is in a branch that is closed.
 void scrollToCurrent(FeatureTreeView &view)
 {
@@ -116,6 +126,7 @@ FeatureTreeLook::FeatureTreeLook(FeatureTreeWidget &tree)
     }
     m_level = tree.visibility();
     m_polls = tree.getPolling();
+    takeTyping(view);
 }
 
 QVariantMap FeatureTreeLook::toMap(Parts parts) const
@@ -168,6 +179,7 @@ void FeatureTreeLook::applyTo(FeatureTreeWidget &tree) const
     if (m_polls) {
         tree.setPolling(*m_polls);
     }
+    restoreTyping(view);
 }
 
 void FeatureTreeLook::remove(Parts parts)
@@ -203,6 +215,44 @@ void FeatureTreeLook::takeOpenRows(const FeatureTreeView &view, const QModelInde
     for (int row = 0; row < count; ++row) {
         takeOpenRows(view, view.model()->index(row, FeatureTreeColumns::name, top));
     }
+}
+
+void FeatureTreeLook::takeTyping(const FeatureTreeView &view)
+{
+    QWidget *const focus = view.window()->focusWidget();
+    const QLineEdit *const input = lineEditIn(focus);
+    if (!input || !input->isModified() || !view.viewport()->isAncestorOf(input)) {
+        return;
+    }
+    const QModelIndex row = view.indexAt(focus->mapTo(view.viewport(), focus->rect().center()));
+    m_typing = Typing{pathOf(row.siblingAtColumn(FeatureTreeColumns::name)), input->text()};
+}
+
+// As if it were typed again, so that the editor knows that it is not entered yet.
+void FeatureTreeLook::restoreTyping(FeatureTreeView &view) const
+{
+    const QModelIndex row = m_typing ? rowAt(*view.model(), m_typing->row) : QModelIndex();
+    if (!row.isValid()) {
+        return;
+    }
+    view.executeDelayedItemsLayout();
+    const QModelIndex value = row.siblingAtColumn(FeatureTreeColumns::value);
+    view.setCurrentIndex(row);
+    if (QWidget *const editor = view.indexWidget(value)) {
+        editor->setFocus();
+    } else {
+        view.setFocus();
+        static_cast<QAbstractItemView &>(view).edit(value);
+    }
+    QWidget *const focus = view.window()->focusWidget();
+    QLineEdit *const input = view.viewport()->isAncestorOf(focus) ? lineEditIn(focus) : nullptr;
+    if (!input || input->isReadOnly()) {
+        return;
+    }
+    input->selectAll();
+    QInputMethodEvent typing;
+    typing.setCommitString(m_typing->text);
+    QCoreApplication::sendEvent(input, &typing);
 }
 
 void FeatureTreeLook::takeCurrentRow(const FeatureTreeView &view)

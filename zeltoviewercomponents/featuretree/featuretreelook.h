@@ -18,7 +18,7 @@ class FeatureTreeView;
 class FeatureTreeWidget;
 
 /*! \brief What a user sees of a feature tree: the branches that are open, the current row, the scroll
- * position, the search, the level, and whether it polls.
+ * position, the search, the level, whether it polls, and what is being typed into an editor.
  *
  * A row is known by the full names from the top down to it, since a feature may stand in two categories; so a
  * look fits the tree of the same camera opened anew. Each part is present when it was taken or read, and a
@@ -46,7 +46,7 @@ public:
     /*! Makes the look that toMap() gave; other keys are ignored. */
     explicit FeatureTreeLook(const QVariantMap &map);
     /*! Takes all parts of \a tree. During a search, the rows and the scroll position are those from before.
-     */
+     * What is being typed is no part that toMap() knows: it belongs to the moment. */
     explicit FeatureTreeLook(FeatureTreeWidget &tree);
 
     /*! Returns \a parts of the look, as far as it has them, as values to be kept, by the names of Part. */
@@ -76,6 +76,15 @@ public:
     void restoreScrollPosition(FeatureTreeView &view) const;
 
 private:
+    struct Typing
+    {
+        QString row;
+        QString text;
+    };
+
+    void takeTyping(const FeatureTreeView &view);
+    void restoreTyping(FeatureTreeView &view) const;
+
     std::optional<QSet<QString>> m_openRows;
     std::optional<QString> m_currentRow;
     std::optional<QPoint> m_scrollPosition;
@@ -83,6 +92,7 @@ private:
     std::optional<QString> m_hit;
     std::optional<GenApi::EVisibility> m_level;
     std::optional<bool> m_polls;
+    std::optional<Typing> m_typing;
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(FeatureTreeLook::Parts)

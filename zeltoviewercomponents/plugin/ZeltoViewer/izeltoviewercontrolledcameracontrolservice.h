@@ -19,8 +19,8 @@ public:
     explicit IZeltoViewerControlledCameraControlService(QObject *parent = nullptr);
     ~IZeltoViewerControlledCameraControlService() override;
 
-    /*! Closes the controlled camera, or opens again the one that was controlled last. Returns whether the
-     * camera is in the wanted state now. */
+    /*! Closes the controlled camera, or begins to open again the one that was controlled last: the status
+     * service tells when that is done. Returns whether the camera is in the wanted state now. */
     virtual bool setCameraOpen(bool open) = 0;
 };
 

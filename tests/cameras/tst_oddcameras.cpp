@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include <cameras/cameraopening.h>
+#include <platform/parametercollection/iparameter.h>
+
+#include <support/playedcamera.h>
+#include <support/table.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Cameras;
+using Datagrams = QList<QByteArray>;
+
+namespace {
+
+qint64 residentBytes()
+{
+    QFile file("/proc/self/statm");
+    return file.open(QFile::ReadOnly) ? file.readAll().split(' ').value(1).toLongLong() * 4096 : 0;
+}
+
+QByteArray withStatus(QByteArray answer, quint16 status)
+{
+    answer[0] = char(status >> 8);
+    answer[1] = char(status & 0xff);
+    return answer.left(8);
+}
+
+bool isRead(const QByteArray &request)
+{
+    return PlayedCamera::command(request) == 0x0080 || PlayedCamera::command(request) == 0x0084;
+}
+
+bool reads(const QByteArray &request, quint32 address)
+{
+    return isRead(request) && PlayedCamera::address(request) == address;
+}
+
+} // namespace
+
+/* Cameras that do not keep to the protocol. */
+class TestOddCameras : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void doNoHarm_data();
+    void doNoHarm();
+
+private:
+    void use(Camera &camera);
+};
+
+void TestOddCameras::doNoHarm_data()
+{
+    columns<PlayedCamera::Manner>({"manner"});
+    const auto odd = [](const char *name, PlayedCamera::Manner manner) { row(name, manner); };
+    odd("short answers", [](const QByteArray &request, const QByteArray &answer) {
+        return Datagrams{isRead(request) ? answer.chopped(4) : answer};
+    });
+    odd("long answers", [](const QByteArray &request, const QByteArray &answer) {
+        return Datagrams{isRead(request) ? answer + "12345678" : answer};
+    });
+    odd("crumbs", [](const QByteArray &, const QByteArray &answer) {
+        return Datagrams{"", answer.left(3), answer.left(8)};
+    });
+    odd("doubled answers", [](const QByteArray &, const QByteArray &answer) {
+        return Datagrams{answer, answer, answer};
+    });
+    odd("late answers", [](const QByteArray &request, const QByteArray &answer) {
+        QThread::msleep(PlayedCamera::command(request) == 0x0002 ? 0 : 250);
+        return Datagrams{answer};
+    });
+    odd("flood", [](const QByteArray &, const QByteArray &answer) {
+        QByteArray foreign = answer;
+        foreign[6] = char(foreign[6] ^ 0x40); // the answer to something else
+        return Datagrams(300, foreign) << answer;
+    });
+    odd("answers to other commands", [](const QByteArray &, QByteArray answer) {
+        answer[3] = char(answer[3] ^ 0x10);
+        return Datagrams{answer};
+    });
+    odd("asks for patience for ever", [](const QByteArray &request, const QByteArray &answer) {
+        return isRead(request) ? Datagrams{QByteArray::fromHex("000000890004") + request.mid(6, 2)
+                                           + QByteArray::fromHex("0000ffff")}
+                               : Datagrams{answer};
+    });
+    odd("refuses one register", [](const QByteArray &request, const QByteArray &answer) {
+        return Datagrams{reads(request, 0x8000) ? withStatus(answer, 0x8006) : answer};
+    });
+    odd("refuses its description", [](const QByteArray &request, const QByteArray &answer) {
+        return Datagrams{reads(request, 0x10000) ? withStatus(answer, 0x8003) : answer};
+    });
+    odd("refuses everything", [](const QByteArray &request, const QByteArray &answer) {
+        return Datagrams{PlayedCamera::command(request) == 0x0002 ? answer : withStatus(answer, 0x8fff)};
+    });
+    odd("description is cut off", [](const QByteArray &request, QByteArray answer) {
+        return Datagrams{reads(request, 0x10000) ? answer.replace("<Category", QByteArray(9, '\0')) : answer};
+    });
+    odd("description is of no length", [](const QByteArray &request, QByteArray answer) {
+        return Datagrams{reads(request, 0x0200) ? answer.replace(";10000;", ";10000;-") : answer};
+    });
+    odd("description is larger than the camera", [](const QByteArray &request, QByteArray answer) {
+        return Datagrams{reads(request, 0x0200) ? answer.replace(";10000;", ";10000;7fff") : answer};
+    });
+    odd("description is elsewhere", [](const QByteArray &request, QByteArray answer) {
+        return Datagrams{reads(request, 0x0200) ? answer.replace("Local:camera.xml;", "File:/dev/zero?;;")
+                                                : answer};
+    });
+    odd("description changes", [](const QByteArray &request, QByteArray answer) {
+        static int count = 0;
+        const bool isOther = reads(request, 0x10000) && ++count % 2 == 0;
+        return Datagrams{isOther ? answer.replace("Zelto", "Other") : answer};
+    });
+}
+
+// Changes what there is to be changed.
+void TestOddCameras::use(Camera &camera)
+{
+    const auto collection = camera.nodeMaps().first().collection;
+    const auto width = collection->parameter("Width");
+    try {
+        width->setValueFromString("641");
+    } catch (const std::exception &exception) {
+        QVERIFY(!QByteArray(exception.what()).contains('\n'));
+    }
+    collection->refresh();
+    QTest::qWait(300);
+    const auto data = width->parameterData();
+    QVERIFY2(!data->isReadable || data->valueString == "641" || data->valueString == "640",
+             qPrintable(data->valueString));
+}
+
+void TestOddCameras::doNoHarm()
+{
+    QFETCH(PlayedCamera::Manner, manner);
+    PlayedCamera played;
+    if (!played.isRunning()) {
+        QSKIP("the port is in use");
+    }
+    const qint64 before = residentBytes();
+    played.setManner(manner);
+    auto opening = Camera::openLiveAsync("127.0.0.1");
+    QSignalSpy opened(opening.get(), SIGNAL(opened()));
+    QSignalSpy failed(opening.get(), SIGNAL(failed(QString)));
+    QElapsedTimer timer;
+    timer.start();
+    const bool hasEnded = QTest::qWaitFor([&] { return !opened.isEmpty() || !failed.isEmpty(); }, 2500);
+    if (const auto camera = opening->takeCamera()) {
+        use(*camera);
+    } else if (hasEnded) {
+        const QString reason = failed.first().first().toString();
+        QVERIFY(reason.startsWith("Cannot open the camera 127.0.0.1: ") && !reason.contains(u'\n'));
+    }
+    timer.restart();
+    opening.reset();
+    QVERIFY(timer.elapsed() < 100);
+
+    played.setManner({});
+    opening = Camera::openLiveAsync("127.0.0.1");
+    QSignalSpy openedNow(opening.get(), SIGNAL(opened()));
+    QVERIFY(openedNow.wait(30000));
+    QCOMPARE(opening->takeCamera()
+                 ->nodeMaps()
+                 .first()
+                 .collection->parameter("Height")
+                 ->parameterData()
+                 ->valueString,
+             "480");
+    QVERIFY2(residentBytes() - before < 30'000'000, qPrintable(QString::number(residentBytes() - before)));
+}
+
+QTEST_GUILESS_MAIN(TestOddCameras)
+#include "tst_oddcameras.moc"
