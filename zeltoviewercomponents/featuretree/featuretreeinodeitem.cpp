@@ -513,13 +513,22 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         return;
     }
     const bool comesAlive = !m_data;
+    const State before = m_state;
     takeSnapshot(ptrParameterData);
+    if (m_state.type != before.type) {
+        noteTextChange();
+    }
+    setFlipping(m_state.type != before.type || m_state.visibility != before.visibility
+                || m_state.isImplemented != before.isImplemented);
     if (comesAlive) {
         m_editorType = editorType(m_parameter);
         childCount();
     }
     if (self) {
         emit nodeUpdated(row(), this);
+    }
+    if (self) {
+        setFlipping(false);
     }
 }
 
