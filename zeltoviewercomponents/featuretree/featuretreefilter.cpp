@@ -47,15 +47,20 @@ void FeatureTreeFilter::setLevel(GenApi::EVisibility level)
 
 void FeatureTreeFilter::setText(const QString &text, const QRegularExpression &expression)
 {
-    m_expression = expression;
+    take(expression);
     m_text = Index::folded(text);
-    expire();
 }
 
 void FeatureTreeFilter::setExpression(const QRegularExpression &expression)
 {
-    m_expression = expression;
+    take(expression);
     m_text.reset();
+}
+
+void FeatureTreeFilter::take(const QRegularExpression &expression)
+{
+    m_expression = expression;
+    m_hasText = !expression.pattern().isEmpty();
     expire();
 }
 
@@ -72,8 +77,7 @@ bool FeatureTreeFilter::judge(FeatureTreeItem &root)
     m_isExpired = false;
     const bool isNumbered = m_index.isCurrent();
     if (hasText() && !isNumbered) {
-        loadTree(root);
-        m_index.build(root);
+        m_index.build(root, m_load);
         m_lastParent = nullptr;
     }
     m_matched.assign(static_cast<size_t>(m_index.nameCount()), Matched::No);
@@ -201,12 +205,22 @@ bool FeatureTreeFilter::accepts(FeatureTreeItem &parent, int row)
     return accepted(parent, row);
 }
 
+bool FeatureTreeFilter::isAboveLeaves(const FeatureTreeItem &parent) const
+{
+    const Index::Branch *const branch = m_index.isCurrent() ? m_index.branchOf(&parent) : nullptr;
+    return branch && !branch->hasBranches;
+}
+
 bool FeatureTreeFilter::accepted(FeatureTreeItem &parent, int row)
 {
+    const bool isCurrent = m_index.isCurrent();
+    if (isCurrent && &parent == m_lastParent) {
+        return m_verdicts[static_cast<size_t>(m_lastFirst + row)] != 0;
+    }
     if (!parent.parent() && isSearchRow(*parent.child(row))) {
         return isShownSearchRow(*parent.child(row));
     }
-    if (m_index.isCurrent()) {
+    if (isCurrent) {
         const int number = numberOf(parent, row);
         return number != Index::none && m_verdicts[static_cast<size_t>(number)] != 0;
     }
@@ -215,11 +229,15 @@ bool FeatureTreeFilter::accepted(FeatureTreeItem &parent, int row)
 
 int FeatureTreeFilter::numberOf(const FeatureTreeItem &parent, int row)
 {
-    if (&parent != m_lastParent) {
-        m_lastParent = &parent;
-        m_lastFirst = m_index.firstRowOf(&parent);
+    const int first = m_index.firstRowOf(&parent);
+    if (first == Index::none) {
+        return first;
     }
-    return m_lastFirst == Index::none ? Index::none : m_lastFirst + row;
+    if (parent.parent()) { // the search row among the top rows has its own verdict
+        m_lastParent = &parent;
+        m_lastFirst = first;
+    }
+    return first + row;
 }
 
 bool FeatureTreeFilter::judgeAlone(FeatureTreeItem &item)
@@ -264,12 +282,4 @@ bool FeatureTreeFilter::isHit(const FeatureTreeItem &item) const
     const QString name = item.nodeName();
     const bool found = !hasText() || item.displayText().contains(m_expression) || name.contains(m_expression);
     return found && name != FeatureTreeNames::root;
-}
-
-void FeatureTreeFilter::loadTree(FeatureTreeItem &item)
-{
-    m_load(item);
-    for (int row = 0; row < item.existingChildCount(); ++row) {
-        loadTree(*item.child(row));
-    }
 }

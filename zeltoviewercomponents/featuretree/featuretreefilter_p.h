@@ -13,7 +13,6 @@
 #include <QString>
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -29,8 +28,7 @@ class FeatureTreeItem;
 class FeatureTreeFilter
 {
 public:
-    /*! Loads the children of an item without telling of them. */
-    using Loader = std::function<void(FeatureTreeItem &)>;
+    using Loader = FeatureTreeSearchIndex::Loader;
 
     explicit FeatureTreeFilter(Loader load);
 
@@ -40,7 +38,7 @@ public:
     void setText(const QString &text, const QRegularExpression &expression);
     /*! Sets an expression that is no literal text. */
     void setExpression(const QRegularExpression &expression);
-    bool hasText() const { return !m_expression.pattern().isEmpty(); }
+    bool hasText() const { return m_hasText; }
     QString pattern() const { return m_expression.pattern(); }
 
     /*! Forgets the tree. */
@@ -56,6 +54,10 @@ public:
 
     /*! Returns whether the existing child of \a parent in \a row passes. */
     bool accepts(FeatureTreeItem &parent, int row);
+    /*! Returns whether the rows that exist are numbered. */
+    bool isNumbered() const { return m_index.isCurrent(); }
+    /*! Returns whether it is known that no child of \a parent has children. */
+    bool isAboveLeaves(const FeatureTreeItem &parent) const;
     /*! Returns the same without judging rows that have expired: the verdict of before. */
     bool accepted(FeatureTreeItem &parent, int row);
     /*! Returns whether the row shows the counts, and is to be shown. */
@@ -86,7 +88,6 @@ private:
     bool judgeAlone(FeatureTreeItem &item);
     bool hasMatchBelow(FeatureTreeItem &item);
     bool matches(FeatureTreeItem &item) const;
-    void loadTree(FeatureTreeItem &item);
     void judgeRows();
     void judgeHits();
     void judgeBranches();
@@ -95,9 +96,12 @@ private:
     void forEachHit(Visit visit) const;
     QSet<QString> namesOf(Matched matched) const;
 
+    void take(const QRegularExpression &expression);
+
     Loader m_load;
     GenApi::EVisibility m_level = GenApi::Guru;
     QRegularExpression m_expression;
+    bool m_hasText = false;
     std::optional<QByteArray> m_text; // absent where the expression is no literal text
 
     FeatureTreeSearchIndex m_index;

@@ -41,7 +41,7 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
     }
     m_filter->reset();
     m_asked.clear();
-    m_lastAsked = nullptr;
+    forgetMapping();
     m_isPublished = false;
     m_model = qobject_cast<FeatureTreeModel *>(sourceModel);
     QSortFilterProxyModel::setSourceModel(sourceModel);
@@ -133,7 +133,25 @@ QModelIndex FeatureTreeProxyModel::mapToSource(const QModelIndex &proxyIndex) co
 
 int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() && !hasChildren(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
+    const bool isLeaf = parent.isValid() && (isBesideLeaves(parent) || !hasChildren(parent));
+    return isLeaf ? 0 : QSortFilterProxyModel::rowCount(parent);
+}
+
+// Views ask every row at every layout, siblings one after the other; to look at each item takes a good part
+// of what a key takes.
+bool FeatureTreeProxyModel::isBesideLeaves(const QModelIndex &index) const
+{
+    const void *const siblings = index.internalPointer();
+    if (siblings == m_leaves && m_leavesRevision == FeatureTreeItem::treeRevision()) {
+        return true;
+    }
+    const FeatureTreeItem *const item = m_filter->isNumbered() ? itemAt(index) : nullptr;
+    if (!item || !m_filter->isAboveLeaves(*item->parent())) {
+        return false;
+    }
+    m_leaves = siblings;
+    m_leavesRevision = FeatureTreeItem::treeRevision();
+    return true;
 }
 
 bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
@@ -252,7 +270,6 @@ void FeatureTreeProxyModel::filterIfExpired()
     }
 }
 
-// Judges all rows anew and publishes the result.
 void FeatureTreeProxyModel::refilter()
 {
     m_refilterQueued = false;
@@ -267,9 +284,15 @@ void FeatureTreeProxyModel::publish(bool isChanged)
     if (isChanged || isSearchRowShown() != m_publishedSearchRow) {
         const QScopedValueRollback<bool> publishing(m_publishing, true);
         m_isPublished = true;
+        ++m_publication;
         invalidate();
     }
     emit filtered();
+}
+
+quint64 FeatureTreeProxyModel::publication() const
+{
+    return m_publication;
 }
 
 bool FeatureTreeProxyModel::isSearchRowShown() const
@@ -323,13 +346,13 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     }
     // Asked once a row at every key: straight to the item.
     auto *parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
-    if (parent && !parent->parent()) {
-        return false; // below the phantom
-    }
-    if (parent) {
-        noteAsked(parent);
-    } else {
+    if (!parent) {
         parent = rootItem();
+    } else if (parent != m_lastAsked) { // rows are asked for one after the other
+        if (!parent->parent()) {
+            return false; // below the phantom
+        }
+        noteAsked(parent);
     }
     if (m_acceptAll || !parent) {
         return m_acceptAll;
@@ -344,7 +367,7 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
         }
     }
     const bool isAccepted = m_filter->accepts(*parent, sourceRow);
-    if (!parent->parent() && parent->child(sourceRow) == getSearchHelpItem()) {
+    if (!sourceParent.isValid() && parent->child(sourceRow) == getSearchHelpItem()) {
         m_publishedSearchRow = isAccepted;
     }
     return isAccepted;
@@ -394,6 +417,7 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
             // The row stands above all others, where the base's mapping knows nothing of it.
             const QScopedValueRollback<bool> shifted(m_shiftTopRows, true);
             m_filter->expire();
+            forgetMapping();
             invalidate();
         }
         blockSignals(false);
@@ -420,6 +444,7 @@ void FeatureTreeProxyModel::onSourceRowsAboutToBeRemoved(const QModelIndex &pare
 // The base's invalidate() and the source's new layout ask for all rows anew.
 void FeatureTreeProxyModel::onLayoutAboutToBeChanged()
 {
+    forgetMapping();
     if (!m_publishing) {
         m_filter->expire();
         m_isPublished = true;
@@ -455,10 +480,15 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
 
 void FeatureTreeProxyModel::noteAsked(const FeatureTreeItem *parent) const
 {
-    if (parent != m_lastAsked) { // rows are asked for one after the other
-        m_lastAsked = parent;
-        m_asked.insert(parent);
-    }
+    forgetMapping(); // a new one may lie where an old one did
+    m_lastAsked = parent;
+    m_asked.insert(parent);
+}
+
+void FeatureTreeProxyModel::forgetMapping() const
+{
+    m_lastAsked = nullptr;
+    m_leaves = nullptr;
 }
 
 void FeatureTreeProxyModel::forgetAsked(const FeatureTreeItem *parent)
@@ -466,7 +496,7 @@ void FeatureTreeProxyModel::forgetAsked(const FeatureTreeItem *parent)
     if (!m_asked.remove(parent)) {
         return;
     }
-    m_lastAsked = nullptr;
+    forgetMapping();
     for (int row = 0; row < parent->existingChildCount(); ++row) {
         forgetAsked(parent->child(row));
     }
@@ -511,7 +541,7 @@ void FeatureTreeProxyModel::clear()
     }
     m_filter->reset();
     m_asked.clear();
-    m_lastAsked = nullptr;
+    forgetMapping();
     m_publishedSearchRow = false;
     endResetModel();
 }

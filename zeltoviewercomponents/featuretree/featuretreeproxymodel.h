@@ -99,6 +99,8 @@ public:
     void addChildren(FeatureTreeINodeItem *parent) override;
     /*! Filters anew if the level was set since the last pass. */
     void filterIfExpired();
+    /*! Returns a number that is another one once the rows have followed a pass. */
+    quint64 publication() const;
     /*! Sets the level; filter afterwards. */
     void setVisibility(GenApi::EVisibility visibility) override;
     GenApi::EVisibility getVisibility() override;
@@ -122,6 +124,8 @@ public:
 public slots:
     /*! Sets the search text and filters at once, with a single change of the layout. */
     void setFilterFixedString(const QString &pattern);
+    /*! Judges all rows anew and has them follow. */
+    void refilter();
     /*! Removes all rows, with a reset. */
     void clear() override;
 
@@ -149,7 +153,6 @@ private slots:
                              const QList<int> &roles);
     void onForeignDataChanged(const QModelIndex &topLeft);
     void onPollTimerShot();
-    void refilter();
 
 private:
     FeatureTreeModel *model() const;
@@ -170,7 +173,9 @@ private:
     bool isSearchRowShown() const;
     FeatureTreeRoleFilter roleFilter() const;
     bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
+    bool isBesideLeaves(const QModelIndex &index) const;
     void noteAsked(const FeatureTreeItem *parent) const;
+    void forgetMapping() const;
     void forgetAsked(const FeatureTreeItem *parent);
     bool isMapped(const FeatureTreeItem *parent) const;
     void queueRefilter();
@@ -182,6 +187,9 @@ private:
     QPropertyNotifier m_expressionNotifier; // others may set an expression behind our back
     mutable QSet<const FeatureTreeItem *> m_asked; // those below which the base has asked for rows
     mutable const FeatureTreeItem *m_lastAsked = nullptr;
+    // What the base's indexes of some siblings have in common that are known to have no children.
+    mutable const void *m_leaves = nullptr;
+    mutable quint64 m_leavesRevision = 0;
     QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
 
     bool m_acceptAll = false;
@@ -190,6 +198,7 @@ private:
     bool m_shiftTopRows = false; // the mapping is one top row behind the source
     mutable bool m_isPublished = false; // what the base knows of rows are the verdicts of the last pass
     mutable bool m_publishedSearchRow = false;
+    quint64 m_publication = 0;
     bool m_publishing = false; // the verdicts are fresh when the base asks for them
     bool m_rebuilding = false; // the operation under way filters at its end
     bool m_refilterQueued = false;

@@ -15,17 +15,40 @@ constexpr char textEnd = '\xff';
 
 constexpr quint8 beyondLevels = GenApi::Invisible + 1;
 
-bool isSearchable(const FeatureTreeItem &item)
-{
-    // The search row shows counts and is no row to be found.
-    return !item.isCategory() && item.getFullName() != FeatureTreeNames::search
-        && item.nodeName() != FeatureTreeNames::root;
-}
-
 bool isAscii(const QString &text)
 {
     return std::all_of(text.cbegin(), text.cend(),
                        [](QChar character) { return character.unicode() < 0x80; });
+}
+
+QString foldedCase(QString text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            const char32_t folded = QChar::toCaseFolded(QChar::surrogateToUcs4(character, text.at(i + 1)));
+            text[i] = QChar(QChar::highSurrogate(folded));
+            text[++i] = QChar(QChar::lowSurrogate(folded));
+        } else {
+            text[i] = character.toCaseFolded();
+        }
+    }
+    return text;
+}
+
+// Nearly all names are ASCII, and all of them go through here before the first key shows.
+void appendFolded(QByteArray &to, const QString &text)
+{
+    if (!isAscii(text)) {
+        to += foldedCase(text).toUtf8();
+        return;
+    }
+    const qsizetype begin = to.size();
+    to.resize(begin + text.size());
+    std::transform(text.cbegin(), text.cend(), to.data() + begin, [](QChar character) {
+        const char16_t letter = character.unicode();
+        return static_cast<char>(letter >= u'A' && letter <= u'Z' ? letter - u'A' + u'a' : letter);
+    });
 }
 
 } // namespace
@@ -46,28 +69,18 @@ GenApi::EVisibility FeatureTreeSearchIndex::State::visibility() const
 
 QByteArray FeatureTreeSearchIndex::folded(const QString &text)
 {
-    if (isAscii(text)) {
-        return text.toLatin1().toLower();
-    }
-    QString result = text;
-    for (qsizetype i = 0; i < result.size(); ++i) {
-        const QChar character = result.at(i);
-        if (character.isHighSurrogate() && i + 1 < result.size() && result.at(i + 1).isLowSurrogate()) {
-            const char32_t folded = QChar::toCaseFolded(QChar::surrogateToUcs4(character, result.at(i + 1)));
-            result[i] = QChar(QChar::highSurrogate(folded));
-            result[++i] = QChar(QChar::lowSurrogate(folded));
-        } else {
-            result[i] = character.toCaseFolded();
-        }
-    }
-    return result.toUtf8();
+    QByteArray result;
+    appendFolded(result, text);
+    return result;
 }
 
-void FeatureTreeSearchIndex::build(FeatureTreeItem &root)
+void FeatureTreeSearchIndex::build(FeatureTreeItem &root, const Loader &load)
 {
+    const int lastCount = rowCount();
     *this = FeatureTreeSearchIndex();
-    QHash<QString, int> numbers;
-    addBelow(root, none, none, numbers);
+    Numbers numbers;
+    numbers.reserve(lastCount);
+    addBelow(root, none, none, load, numbers);
     m_text.squeeze();
     m_textEnds.shrink_to_fit();
     m_names.shrink_to_fit();
@@ -106,43 +119,62 @@ int FeatureTreeSearchIndex::firstRowOf(const FeatureTreeItem *parent) const
     return branch ? branch->first : none;
 }
 
-void FeatureTreeSearchIndex::addBelow(FeatureTreeItem &parent, int row, int above,
-                                      QHash<QString, int> &numbers)
+void FeatureTreeSearchIndex::addBelow(FeatureTreeItem &parent, int row, int above, const Loader &load,
+                                      Numbers &numbers)
 {
     const int branch = static_cast<int>(m_branches.size());
     const int first = rowCount();
     const int count = parent.existingChildCount();
     m_branches.push_back({&parent, first, count, row, above});
     m_branchOf.insert(&parent, branch);
+    QList<int> categories;
     for (int i = 0; i < count; ++i) {
-        add(*parent.child(i), numbers);
+        FeatureTreeItem &child = *parent.child(i);
+        add(child, numbers);
+        if (child.hasChildren()) {
+            categories.append(i);
+        }
     }
-    for (int i = 0; i < count; ++i) {
-        if (FeatureTreeItem &child = *parent.child(i); child.existingChildCount() > 0) {
-            addBelow(child, first + i, branch, numbers);
+    for (const int i : categories) {
+        FeatureTreeItem &child = *parent.child(i);
+        load(child);
+        if (child.existingChildCount() > 0) {
+            m_branches[static_cast<size_t>(branch)].hasBranches = true;
+            addBelow(child, first + i, branch, load, numbers);
         }
     }
 }
 
-void FeatureTreeSearchIndex::add(FeatureTreeItem &item, QHash<QString, int> &numbers)
+void FeatureTreeSearchIndex::add(FeatureTreeItem &item, Numbers &numbers)
 {
+    const QString name = item.nodeName();
     int number = none;
-    if (isSearchable(item)) {
+    // The search row shows counts and is no row to be found.
+    const bool isSearchRow = name == FeatureTreeNames::search && item.getFullName() == name;
+    if (!item.isCategory() && name != FeatureTreeNames::root && !isSearchRow) {
         const QString shown = item.displayText();
-        const QString name = item.nodeName();
-        m_text += folded(shown) + textEnd;
+        appendFolded(m_text, shown);
+        m_text += textEnd;
         if (name != shown) {
-            m_text += folded(name) + textEnd;
+            appendFolded(m_text, name);
+            m_text += textEnd;
         }
         // Hints and placeholders are no features.
         if (qobject_cast<const FeatureTreeINodeItem *>(&item)) {
-            number = numbers.value(name, m_nameCount);
-            if (number == m_nameCount) {
-                numbers.insert(name, m_nameCount++);
-            }
+            number = numberOf(name, numbers);
         }
     }
     m_names.push_back(number);
     m_textEnds.push_back(static_cast<quint32>(m_text.size()));
     m_states.push_back(State::of(item).value);
+}
+
+int FeatureTreeSearchIndex::numberOf(const QString &name, Numbers &numbers)
+{
+    const qsizetype known = numbers.size();
+    int &number = numbers[name];
+    if (numbers.size() > known) {
+        number = m_nameCount++;
+    }
+    return number;
 }

@@ -10,6 +10,7 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -35,6 +36,7 @@ public:
         int count = 0;
         int row = none; //!< the item's own number; none of the invisible root
         int above = none; //!< the branch that it stands in
+        bool hasBranches = false; //!< whether any of the rows has children
     };
 
     /*! \brief What decides, beside the text, whether a row is shown: comparable in an array of bytes. */
@@ -53,8 +55,11 @@ public:
      * case-insensitive comparisons of QString do, in UTF-8. */
     static QByteArray folded(const QString &text);
 
-    /*! Takes all existing rows below \a root. */
-    void build(FeatureTreeItem &root);
+    /*! Loads the children of an item without telling of them. */
+    using Loader = std::function<void(FeatureTreeItem &)>;
+
+    /*! Takes all rows below \a root, after having them loaded. */
+    void build(FeatureTreeItem &root, const Loader &load);
     /*! Returns whether the numbers are those of the rows that exist now. */
     bool isCurrent() const;
     /*! Reads the rows' states anew where any has changed since. */
@@ -90,8 +95,11 @@ public:
     }
 
 private:
-    void addBelow(FeatureTreeItem &parent, int row, int above, QHash<QString, int> &numbers);
-    void add(FeatureTreeItem &item, QHash<QString, int> &numbers);
+    using Numbers = QHash<QString, int>;
+
+    void addBelow(FeatureTreeItem &parent, int row, int above, const Loader &load, Numbers &numbers);
+    void add(FeatureTreeItem &item, Numbers &numbers);
+    int numberOf(const QString &name, Numbers &numbers);
 
     QByteArray m_text;
     std::vector<quint32> m_textEnds;
