@@ -208,7 +208,7 @@ bool FeatureTreeFilter::accepts(FeatureTreeItem &parent, int row)
 bool FeatureTreeFilter::isAboveLeaves(const FeatureTreeItem &parent) const
 {
     const Index::Branch *const branch = m_index.isCurrent() ? m_index.branchOf(&parent) : nullptr;
-    return branch && !branch->hasBranches;
+    return branch && !branch->hasCategories;
 }
 
 bool FeatureTreeFilter::accepted(FeatureTreeItem &parent, int row)

@@ -56,7 +56,7 @@ public:
     bool accepts(FeatureTreeItem &parent, int row);
     /*! Returns whether the rows that exist are numbered. */
     bool isNumbered() const { return m_index.isCurrent(); }
-    /*! Returns whether it is known that no child of \a parent has children. */
+    /*! Returns whether it is known that no child of \a parent is a category. */
     bool isAboveLeaves(const FeatureTreeItem &parent) const;
     /*! Returns the same without judging rows that have expired: the verdict of before. */
     bool accepted(FeatureTreeItem &parent, int row);

@@ -133,8 +133,7 @@ QModelIndex FeatureTreeProxyModel::mapToSource(const QModelIndex &proxyIndex) co
 
 int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
 {
-    const bool isLeaf = parent.isValid() && (isBesideLeaves(parent) || !hasChildren(parent));
-    return isLeaf ? 0 : QSortFilterProxyModel::rowCount(parent);
+    return parent.isValid() && !hasChildren(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
 }
 
 // Views ask every row at every layout, siblings one after the other; to look at each item takes a good part
@@ -160,7 +159,7 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
         return QSortFilterProxyModel::hasChildren(parent);
     }
     // The source knows without creating any: a category that passes has a row to show.
-    return parent.column() == 0 && sourceModel()->hasChildren(mapToSource(parent));
+    return parent.column() == 0 && !isBesideLeaves(parent) && sourceModel()->hasChildren(mapToSource(parent));
 }
 
 Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
@@ -210,7 +209,8 @@ bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
     if (const FeatureTreeItem *const item = itemAt(index)) {
         return m_filter->isHit(*item);
     }
-    return index.isValid() && index.data(FeatureTreeItem::FullNodeNameRole) != FeatureTreeNames::search
+    return index.isValid()
+        && index.data(FeatureTreeItem::FullNodeNameRole).toString() != FeatureTreeNames::search
         && roleFilter().isHit(mapToSource(index));
 }
 

@@ -7,6 +7,7 @@
 #include "featuretreenames.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -135,11 +136,11 @@ void FeatureTreeSearchIndex::addBelow(FeatureTreeItem &parent, int row, int abov
             categories.append(i);
         }
     }
-    for (const int i : categories) {
+    m_branches[static_cast<size_t>(branch)].hasCategories = !categories.isEmpty();
+    for (const int i : std::as_const(categories)) {
         FeatureTreeItem &child = *parent.child(i);
         load(child);
         if (child.existingChildCount() > 0) {
-            m_branches[static_cast<size_t>(branch)].hasBranches = true;
             addBelow(child, first + i, branch, load, numbers);
         }
     }

@@ -36,7 +36,7 @@ public:
         int count = 0;
         int row = none; //!< the item's own number; none of the invisible root
         int above = none; //!< the branch that it stands in
-        bool hasBranches = false; //!< whether any of the rows has children
+        bool hasCategories = false; //!< whether any of the rows has children, or would if there were any
     };
 
     /*! \brief What decides, beside the text, whether a row is shown: comparable in an array of bytes. */
