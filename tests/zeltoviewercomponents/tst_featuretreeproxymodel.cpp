@@ -239,6 +239,11 @@ void TestFeatureTreeProxyModel::foreignPatternsWork()
     base->setFilterRegularExpression("^(Width|Gain)$");
     QVERIFY(find("@CameraDevice/Width").isValid());
     QVERIFY(!find("@CameraDevice/OffsetX").isValid());
+    base->setFilterWildcard("Offset*");
+    QVERIFY(!find("@CameraDevice/Width").isValid());
+    base->setFilterRegularExpression(QRegularExpression("Width"));
+    QCOMPARE(m_proxy->hiddenMatchCount() + m_proxy->visibleMatchCount(), 1);
+    QVERIFY(!find("@CameraDevice/OffsetX").isValid());
     base->setFilterRegularExpression(QString());
     QVERIFY(find("@CameraDevice/OffsetX").isValid());
 }
@@ -455,6 +460,8 @@ void TestFeatureTreeProxyModel::defaultsWithoutAFeatureTreeModel()
     empty.clear();
     empty.EnablePolling(true);
     QVERIFY(!empty.GetPolling());
+    empty.setFilterFixedString("gain");
+    QVERIFY(empty.visibleMatches().isEmpty() && empty.hiddenMatchCount() == 0);
     QCOMPARE(empty.rowCount(), 0);
 }
 

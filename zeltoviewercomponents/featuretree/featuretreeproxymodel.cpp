@@ -217,7 +217,10 @@ bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
 QSet<QString> FeatureTreeProxyModel::visibleMatches() const
 {
     completePass();
-    return model() ? m_filter->visibleMatches() : roleFilter().matches().visible;
+    if (model() || !sourceModel()) {
+        return m_filter->visibleMatches();
+    }
+    return roleFilter().matches().visible;
 }
 
 int FeatureTreeProxyModel::visibleMatchCount() const
@@ -229,7 +232,10 @@ int FeatureTreeProxyModel::visibleMatchCount() const
 QSet<QString> FeatureTreeProxyModel::hiddenMatches() const
 {
     completePass();
-    return model() ? m_filter->hiddenMatches() : roleFilter().matches().hidden;
+    if (model() || !sourceModel()) {
+        return m_filter->hiddenMatches();
+    }
+    return roleFilter().matches().hidden;
 }
 
 int FeatureTreeProxyModel::hiddenMatchCount() const
@@ -324,6 +330,9 @@ void FeatureTreeProxyModel::completePass() const
 template <typename Work>
 void FeatureTreeProxyModel::rebuild(Work work)
 {
+    if (!model()) {
+        return;
+    }
     {
         const QScopedValueRollback<bool> rebuilding(m_rebuilding, true);
         work();
