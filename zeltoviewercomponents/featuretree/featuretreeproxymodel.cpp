@@ -467,7 +467,8 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
     if (!item || !item->parent()) {
         return;
     }
-    if (item->isFlipping()) {
+    const bool isSearchRow = item == getSearchHelpItem();
+    if (item->isFlipping() || (isSearchRow && isSearchRowShown() != m_publishedSearchRow)) {
         queueRefilter();
     }
     if (!isMapped(item->parent())) {

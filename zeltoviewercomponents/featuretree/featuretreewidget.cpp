@@ -742,7 +742,7 @@ void FeatureTreeWidget::onFiltered()
 void FeatureTreeWidget::onJudged()
 {
     FeatureTreeItem *const row = getFeatureExtension()->getSearchHelpItem();
-    if (!row) {
+    if (!row || (m_filterText.isEmpty() && !m_isFiltering)) {
         return;
     }
     QString message;
