@@ -7,7 +7,8 @@
 
 #include <QRandomGenerator>
 
-/*! Adds \a count nodes of random kinds, names and states below random categories. Returns the features. */
+/*! Adds \a count nodes of random kinds, names and states below random categories, some features below two.
+ * Returns the features. */
 inline QList<QSharedPointer<MemoryInteger>> addRandomNodes(MemoryCollection &collection,
                                                            QRandomGenerator &random, int count)
 {
@@ -23,6 +24,10 @@ inline QList<QSharedPointer<MemoryInteger>> addRandomNodes(MemoryCollection &col
             categories.append(name);
         } else {
             features.append(collection.addInteger(name, parent));
+            const QString second = categories[random.bounded(categories.size())];
+            if (second != parent && random.bounded(3) == 0) {
+                collection.node(second)->children.append(name);
+            }
         }
         MemoryNode *const node = collection.node(name);
         node->snapshot->visibility = GenApi::EVisibility(random.bounded(4));

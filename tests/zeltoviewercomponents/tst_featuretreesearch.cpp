@@ -55,6 +55,7 @@ private slots:
     void searchKeepsAndRestoresTheTree();
     void searchCounts();
     void countsFollowTheTree();
+    void onePassAnAction();
     void searchWithoutResults();
     void clearedSearchScrollsBack();
     void escapeTwiceClearsTheSearch();
@@ -200,6 +201,66 @@ void TestFeatureTreeSearch::countsFollowTheTree()
     QCOMPARE(state(), expected(3, 1));
     bench.widget.setVisibility(GenApi::Expert);
     QCOMPARE(state(), expected(3, 0));
+}
+
+void TestFeatureTreeSearch::onePassAnAction()
+{
+    auto camera = MemoryCollection::createSample();
+    camera->node(QStringLiteral("ReverseX"))->snapshot->visibility = GenApi::Expert;
+    TreeBench bench(camera);
+    QSignalSpy judged(bench.view()->model(), SIGNAL(judged()));
+    QSignalSpy filtered(bench.view()->model(), SIGNAL(filtered()));
+    QSignalSpy layouts(bench.view()->model(), &QAbstractItemModel::layoutChanged);
+    QSignalSpy told(&bench.widget, SIGNAL(filterMatchesChanged(int, int)));
+    const auto type = [&bench](const char *text) { bench.box()->setText(QString::fromLatin1(text)); };
+    const auto setLevel = [&bench](GenApi::EVisibility level) { bench.widget.onVisibilityChanged(level); };
+    struct Action
+    {
+        const char *name;
+        std::function<void()> act;
+        QList<qsizetype> expected; // passes, changes of the layout, announcements
+    };
+    const QList<Action> actions{
+        {"first key", [&] { type("r"); }, {1, 1, 1}},
+        {"second key", [&] { type("re"); }, {1, 1, 1}},
+        {"a key that changes nothing", [&] { type("rev"); }, {1, 1, 1}},
+        {"another one", [&] { type("reve"); }, {1, 0, 1}},
+        {"backspace", [&] { type("r"); }, {1, 1, 1}},
+        {"level in a search, with a hidden match", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1}},
+        {"back", [&] { setLevel(GenApi::Guru); }, {1, 1, 1}},
+        {"favorite in a search",
+         [&] { bench.extension()->AddFavorite(camera->parameter(QStringLiteral("ReverseX")), 0); },
+         {1, 1, 1}},
+        {"node map in a search",
+         [&] { bench.add(MemoryCollection::createSample(QStringLiteral("@Other"))); },
+         {1, 1, 1}},
+        {"refreshing in a search", [&] { bench.widget.refreshTree(); }, {1, 0, 1}},
+        {"clearing", [&] { type(""); }, {1, 1, 1}},
+        {"level", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1}},
+        {"favorite", [&] { bench.favorites().removeEntry(0); }, {0, 0, 0}},
+        {"node map", [&] { bench.add(MemoryCollection::createSample(QStringLiteral("@Third"))); }, {0, 1, 0}},
+        {"a feature that goes",
+         [&] {
+             bench.node(QStringLiteral("Width"))->snapshot->isImplemented = false;
+             bench.publish(QStringLiteral("Width"));
+         },
+         {1, 1, 0}},
+    };
+    for (const Action &action : actions) {
+        bench.settle();
+        for (QSignalSpy *const spy : {&judged, &filtered, &layouts, &told}) {
+            spy->clear();
+        }
+        action.act();
+        bench.settle();
+        const QList<qsizetype> counted{judged.size(), layouts.size(), told.size()};
+        QVERIFY2(counted == action.expected,
+                 qPrintable(QStringLiteral("%1: %2 passes, %3 layouts, told %4 times")
+                                .arg(QLatin1String(action.name))
+                                .arg(counted[0])
+                                .arg(counted[1])
+                                .arg(counted[2])));
+    }
 }
 
 void TestFeatureTreeSearch::searchWithoutResults()

@@ -516,6 +516,11 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     const State before = m_state;
     takeSnapshot(ptrParameterData);
     const bool isValueAloneNew = !comesAlive && m_state == before;
+    if (m_state.type != before.type) {
+        noteTextChange();
+    }
+    setFlipping(m_state.type != before.type || m_state.visibility != before.visibility
+                || m_state.isImplemented != before.isImplemented);
     if (comesAlive) {
         m_editorType = editorType(m_parameter);
         childCount();
@@ -526,6 +531,7 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
     }
     if (self) {
         m_isValueAloneNew = false;
+        setFlipping(false);
     }
 }
 

@@ -21,6 +21,7 @@ namespace {
 constexpr unsigned transientEditorTypes = 1345;
 
 quint64 revision = 1;
+quint64 states = 1;
 
 QSize rowSizeHint()
 {
@@ -221,6 +222,7 @@ GenApi::EVisibility FeatureTreeItem::getVisibility()
 
 void FeatureTreeItem::setVisibility(GenApi::EVisibility visibility)
 {
+    states += m_isSpecialNode || visibility == m_visibility ? 0 : 1;
     m_visibility = visibility;
 }
 
@@ -306,8 +308,8 @@ QString FeatureTreeItem::getDisplayedName() const
 void FeatureTreeItem::setDisplayedName(const QString &name)
 {
     m_name = name;
-    if (m_searchIndexId != 0 && !m_isSpecialNode) {
-        ++revision;
+    if (!m_isSpecialNode) {
+        noteTextChange();
     }
 }
 
@@ -371,19 +373,20 @@ quint64 FeatureTreeItem::treeRevision()
     return revision;
 }
 
-QString FeatureTreeItem::foldedForSearch(QString text)
+quint64 FeatureTreeItem::stateRevision()
 {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar character = text.at(i);
-        if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            const char32_t folded = QChar::toCaseFolded(QChar::surrogateToUcs4(character, text.at(i + 1)));
-            text[i] = QChar(QChar::highSurrogate(folded));
-            text[++i] = QChar(QChar::lowSurrogate(folded));
-        } else {
-            text[i] = character.toCaseFolded();
-        }
-    }
-    return text;
+    return states;
+}
+
+void FeatureTreeItem::noteTextChange()
+{
+    ++revision;
+}
+
+void FeatureTreeItem::setFlipping(bool isFlipping)
+{
+    m_isFlipping = isFlipping;
+    states += isFlipping ? 1 : 0;
 }
 
 QBrush FeatureTreeItem::disabledTextBrush()

@@ -162,32 +162,26 @@ public:
     /*! Returns a number that is another one once any item of the process has come, gone or changed a name
      * that a search looks into. */
     static quint64 treeRevision();
-    /*! Returns \a text with the case of each character folded, as case-insensitive comparisons of QString do.
-     */
-    static QString foldedForSearch(QString text);
+    /*! Returns a number that is another one once any row of the process, those of the tree itself apart, has
+     * changed from which user level on it is shown. */
+    static quint64 stateRevision();
+    /*! Returns whether it is such a change that the row tells of right now. */
+    bool isFlipping() const { return m_isFlipping; }
 
     /*! Returns the brush of rows that cannot be changed: that of the application's palette when it was first
      * asked for. */
     static QBrush disabledTextBrush();
 
 protected:
+    /*! Says that a text that is searched in has changed, or whether there is any. */
+    static void noteTextChange();
+    /*! Says that the row is shown from another level on, and is about to tell of it, or has told. */
+    void setFlipping(bool isFlipping);
+
     EditorType m_editorType = Category;
     bool m_childrenLoaded = false;
 
 private:
-    friend class FeatureTreeProxyModel;
-    friend class FeatureTreeSearchIndex;
-
-    /*! \brief What the filter found out about the item in its last pass. */
-    struct FilterMark
-    {
-        quint64 pass = 0; // marks of other passes are stale
-        GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
-        bool isShownAtAll = false;
-        bool isAccepted = false;
-        bool isJudged = false; // otherwise the row was looked at for another's sake
-    };
-
     void adopt(FeatureTreeItem *child);
 
     std::unique_ptr<QString> m_description;
@@ -199,9 +193,7 @@ private:
     QList<FeatureTreeItem *> m_children;
     bool m_isFullRowItem = false;
     bool m_isSpecialNode = false;
+    bool m_isFlipping = false;
     IFeatureTreeModelExtension *m_extension = nullptr;
-    quint64 m_searchIndexId = 0; // the search index that knows the item
-    FilterMark m_filterMark;
-    quint64 m_mapping = 0; // of the proxy that was asked for the rows below
     mutable int m_rowHint = 0; // where the item was last found among its parent's children
 };

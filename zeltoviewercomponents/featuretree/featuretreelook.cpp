@@ -204,7 +204,10 @@ void FeatureTreeLook::takeOpenRows(const FeatureTreeView &view, const QModelInde
         m_openRows.emplace();
     }
     if (top.isValid()) {
-        if (view.isExpanded(top) && view.model()->hasChildren(top)) {
+        if (!view.model()->hasChildren(top)) {
+            return;
+        }
+        if (view.isExpanded(top)) {
             m_openRows->insert(pathOf(top));
         }
         if (!view.mayHaveOpenRows(top)) {

@@ -4,30 +4,24 @@
 #include "featuretreeproxymodel.h"
 
 #include "favoritesdata.h"
+#include "featuretreefilter_p.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreemodel.h"
 #include "featuretreenames.h"
+#include "featuretreerolefilter_p.h"
 
 #include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTimer>
 
-#include <algorithm>
-
-namespace {
-
-// Unique over all proxies, so that no proxy takes another's marks for its own.
-quint64 nextPass()
-{
-    static quint64 pass = 0;
-    return ++pass;
-}
-
-} // namespace
+#include <type_traits>
+#include <utility>
 
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
+    , m_filter(std::make_unique<FeatureTreeFilter>([this](FeatureTreeItem &item) { loadChildren(item); }))
+    , m_expressionNotifier(bindableFilterRegularExpression().addNotifier([this] { onExpressionChanged(); }))
 {
     connect(
         this,
@@ -45,10 +39,11 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
             disconnect(model()->pollTimer(), nullptr, this, nullptr);
         }
     }
-    m_treeJudged = false;
-    m_index = FeatureTreeSearchIndex();
-    m_mapping = nextPass();
-    startPass();
+    m_filter->reset();
+    m_asked.clear();
+    forgetMapping();
+    m_isPublished = false;
+    m_model = qobject_cast<FeatureTreeModel *>(sourceModel);
     QSortFilterProxyModel::setSourceModel(sourceModel);
     if (!sourceModel) {
         return;
@@ -58,31 +53,61 @@ void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
             SLOT(onSourceRowsAboutToBeInserted(QModelIndex, int, int)));
     connect(sourceModel, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
             SLOT(onSourceRowsInserted(QModelIndex, int, int)));
-    const char *const changed = SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>));
-    if (!model()) {
-        connect(sourceModel, changed, this, SLOT(onForeignDataChanged(QModelIndex)));
+    if (model()) {
+        connectTree();
     } else {
-        // The base would map the rows beside each one that changes, which loads what stands below them.
-        disconnect(sourceModel, changed, this, nullptr);
-        connect(sourceModel, changed, this, SLOT(onSourceDataChanged(QModelIndex, QModelIndex, QList<int>)));
-        m_reportedPolling = model()->GetPolling();
-        connect(model()->pollTimer(), SIGNAL(timeout()), this, SLOT(onPollTimerShot()));
-        connect(model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
-                SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
-        connect(model(), SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)), this,
-                SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
+        connect(sourceModel, SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>)), this,
+                SLOT(onForeignDataChanged(QModelIndex)));
     }
+}
+
+void FeatureTreeProxyModel::connectTree()
+{
+    connect(model(), SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int)), this,
+            SLOT(onSourceRowsAboutToBeRemoved(QModelIndex, int, int)));
+    // The base would map the rows beside each one that changes, which loads what stands below them.
+    const char *const changed = SIGNAL(dataChanged(QModelIndex, QModelIndex, QList<int>));
+    disconnect(model(), changed, this, nullptr);
+    connect(model(), changed, this, SLOT(onSourceDataChanged(QModelIndex, QModelIndex, QList<int>)));
+    m_reportedPolling = model()->GetPolling();
+    connect(model()->pollTimer(), SIGNAL(timeout()), this, SLOT(onPollTimerShot()));
+    connect(model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(model(), SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)), this,
+            SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
 }
 
 FeatureTreeModel *FeatureTreeProxyModel::model() const
 {
-    return qobject_cast<FeatureTreeModel *>(sourceModel());
+    return m_model;
 }
 
 FeatureTreeItem *FeatureTreeProxyModel::rootItem() const
 {
     const QModelIndex top = model() ? model()->index(0, 0) : QModelIndex();
     return top.isValid() ? model()->getFeatureTreeItem(top)->parent() : nullptr;
+}
+
+// The item of a proxy index, null for an invalid one and over sources of another class.
+FeatureTreeItem *FeatureTreeProxyModel::itemAt(const QModelIndex &index) const
+{
+    const QModelIndex source = model() ? mapToSource(index) : QModelIndex();
+    return source.isValid() ? static_cast<FeatureTreeItem *>(source.internalPointer()) : nullptr;
+}
+
+// Asks the source, if it is a feature tree; nothing is done, or answered, otherwise.
+template <auto Operation, typename... Arguments>
+auto FeatureTreeProxyModel::forward(Arguments &&...arguments) const
+{
+    FeatureTreeModel *const tree = model();
+    using Answer = std::invoke_result_t<decltype(Operation), FeatureTreeModel *, Arguments...>;
+    if constexpr (std::is_void_v<Answer>) {
+        if (tree) {
+            (tree->*Operation)(std::forward<Arguments>(arguments)...);
+        }
+    } else {
+        return tree ? (tree->*Operation)(std::forward<Arguments>(arguments)...) : Answer();
+    }
 }
 
 // An index made of the invisible root item: valid, but no row. The search row is announced below it.
@@ -111,13 +136,30 @@ int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() && !hasChildren(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
 }
 
+// Views ask every row at every layout, siblings one after the other; to look at each item takes a good part
+// of what a key takes.
+bool FeatureTreeProxyModel::isBesideLeaves(const QModelIndex &index) const
+{
+    const void *const siblings = index.internalPointer();
+    if (siblings == m_leaves && m_leavesRevision == FeatureTreeItem::treeRevision()) {
+        return true;
+    }
+    const FeatureTreeItem *const item = m_filter->isNumbered() ? itemAt(index) : nullptr;
+    if (!item || !m_filter->isAboveLeaves(*item->parent())) {
+        return false;
+    }
+    m_leaves = siblings;
+    m_leavesRevision = FeatureTreeItem::treeRevision();
+    return true;
+}
+
 bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
 {
     if (!parent.isValid()) {
         return QSortFilterProxyModel::hasChildren(parent);
     }
     // The source knows without creating any: a category that passes has a row to show.
-    return parent.column() == 0 && sourceModel()->hasChildren(mapToSource(parent));
+    return parent.column() == 0 && !isBesideLeaves(parent) && sourceModel()->hasChildren(mapToSource(parent));
 }
 
 Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
@@ -125,9 +167,11 @@ Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
     if (!index.isValid()) {
         return Qt::NoItemFlags; // nothing is dropped beside the top rows
     }
-    Qt::ItemFlags result = QSortFilterProxyModel::flags(index);
-    const FeatureTreeItem *const item = getFeatureTreeItem(index);
-    if (item && !item->isCategory()) {
+    // Asked of every row at every layout: one way to the source for both questions.
+    const QModelIndex source = mapToSource(index);
+    Qt::ItemFlags result = sourceModel()->flags(source);
+    if (model() && source.isValid()
+        && !static_cast<const FeatureTreeItem *>(source.internalPointer())->isCategory()) {
         result |= Qt::ItemNeverHasChildren; // saves views the question
     }
     return result;
@@ -145,6 +189,7 @@ bool FeatureTreeProxyModel::dropMimeData(const QMimeData *data, Qt::DropAction a
 
 void FeatureTreeProxyModel::setAcceptAll(bool acceptAll)
 {
+    m_isPublished = m_isPublished && acceptAll == m_acceptAll;
     m_acceptAll = acceptAll;
 }
 
@@ -155,70 +200,48 @@ bool FeatureTreeProxyModel::acceptAll() const
 
 bool FeatureTreeProxyModel::isUnfolded(const QModelIndex &index) const
 {
-    const FeatureTreeItem *const item = getFeatureTreeItem(index);
+    const FeatureTreeItem *const item = itemAt(index);
     return !item || isMapped(item);
 }
 
 bool FeatureTreeProxyModel::isMatch(const QModelIndex &index) const
 {
-    if (index.data(FeatureTreeItem::FullNodeNameRole).toString() == FeatureTreeNames::search) {
-        return false;
+    if (const FeatureTreeItem *const item = itemAt(index)) {
+        return m_filter->isHit(*item);
     }
-    const FeatureTreeItem *const item = getFeatureTreeItem(index);
-    return item ? isHit(item) : index.isValid() && roleFilter().isHit(mapToSource(index));
+    return index.isValid()
+        && index.data(FeatureTreeItem::FullNodeNameRole).toString() != FeatureTreeNames::search
+        && roleFilter().isHit(mapToSource(index));
 }
 
 QSet<QString> FeatureTreeProxyModel::visibleMatches() const
 {
     completePass();
-    return model() ? namesOf(m_visibleMatches) : roleMatches().visible;
+    if (model() || !sourceModel()) {
+        return m_filter->visibleMatches();
+    }
+    return roleFilter().matches().visible;
 }
 
 int FeatureTreeProxyModel::visibleMatchCount() const
 {
     completePass();
-    return model() ? m_visibleMatches.count : static_cast<int>(roleMatches().visible.size());
+    return model() ? m_filter->visibleMatchCount() : static_cast<int>(visibleMatches().size());
 }
 
 QSet<QString> FeatureTreeProxyModel::hiddenMatches() const
 {
     completePass();
-    return model() ? namesOf(m_hiddenMatches) : roleMatches().hidden;
+    if (model() || !sourceModel()) {
+        return m_filter->hiddenMatches();
+    }
+    return roleFilter().matches().hidden;
 }
 
 int FeatureTreeProxyModel::hiddenMatchCount() const
 {
     completePass();
-    return model() ? m_hiddenMatches.count : static_cast<int>(roleMatches().hidden.size());
-}
-
-QSet<QString> FeatureTreeProxyModel::namesOf(const Matches &matches) const
-{
-    QSet<QString> names;
-    for (qsizetype i = 0; i < matches.isCounted.size(); ++i) {
-        if (matches.isCounted[i]) {
-            names.insert(m_index.names().at(i));
-        }
-    }
-    return names;
-}
-
-void FeatureTreeProxyModel::Matches::clear(qsizetype nameCount)
-{
-    isCounted.fill(false, nameCount);
-    count = 0;
-}
-
-void FeatureTreeProxyModel::Matches::add(int name)
-{
-    count += isCounted[name] ? 0 : 1;
-    isCounted[name] = true;
-}
-
-void FeatureTreeProxyModel::Matches::remove(int name)
-{
-    count -= isCounted[name] ? 1 : 0;
-    isCounted[name] = false;
+    return model() ? m_filter->hiddenMatchCount() : static_cast<int>(hiddenMatches().size());
 }
 
 void FeatureTreeProxyModel::setFilterFixedString(const QString &pattern)
@@ -226,59 +249,100 @@ void FeatureTreeProxyModel::setFilterFixedString(const QString &pattern)
     {
         // The base would take rows out one interval at a time, each with signals; one change of the layout
         // follows.
-        const QScopedValueRollback<bool> frozen(m_frozen, model());
+        if (m_filter->isOutdated()) {
+            completePass();
+        }
+        const QScopedValueRollback<bool> frozen(m_frozen, true);
         QSortFilterProxyModel::setFilterFixedString(pattern);
     }
-    m_pattern = filterRegularExpression().pattern();
-    m_foldedText = FeatureTreeItem::foldedForSearch(pattern);
+    m_filter->setText(pattern, filterRegularExpression());
     refilter();
 }
 
-// Judges all rows anew and publishes the result.
+void FeatureTreeProxyModel::onExpressionChanged()
+{
+    const QRegularExpression expression = filterRegularExpression();
+    if (m_frozen || expression.pattern() == m_filter->pattern()) {
+        return;
+    }
+    m_filter->setExpression(expression);
+    refilter();
+}
+
+void FeatureTreeProxyModel::filterIfExpired()
+{
+    if (!m_isPublished) {
+        refilter();
+    }
+}
+
 void FeatureTreeProxyModel::refilter()
 {
     m_refilterQueued = false;
-    startPass();
-    if (model() && !m_pattern.isEmpty()) {
-        judgeTree();
-    }
-    {
+    const bool wasPublished = m_isPublished;
+    const bool isChanged = judge();
+    publish(isChanged || !wasPublished);
+}
+
+void FeatureTreeProxyModel::publish(bool isChanged)
+{
+    emit judged();
+    if (isChanged || isSearchRowShown() != m_publishedSearchRow) {
         const QScopedValueRollback<bool> publishing(m_publishing, true);
+        m_isPublished = true;
+        ++m_publication;
         invalidate();
     }
     emit filtered();
 }
 
+quint64 FeatureTreeProxyModel::publication() const
+{
+    return m_publication;
+}
+
+bool FeatureTreeProxyModel::isSearchRowShown() const
+{
+    FeatureTreeItem *const row = getSearchHelpItem();
+    return row && (m_acceptAll || m_filter->isShownSearchRow(*row));
+}
+
+// Returns false when all verdicts are what they were.
+bool FeatureTreeProxyModel::judge() const
+{
+    FeatureTreeItem *const root = rootItem();
+    if (root) {
+        return m_filter->judge(*root);
+    }
+    m_filter->reset();
+    return true;
+}
+
+// Rows are asked for when a view comes to it; the names of the matches may be wanted before.
+void FeatureTreeProxyModel::completePass() const
+{
+    if (model() && m_filter->hasText() && (m_filter->isExpired() || m_filter->isOutdated())) {
+        m_isPublished = false;
+        judge();
+    }
+}
+
 template <typename Work>
 void FeatureTreeProxyModel::rebuild(Work work)
 {
+    if (!model()) {
+        return;
+    }
     {
         const QScopedValueRollback<bool> rebuilding(m_rebuilding, true);
         work();
     }
-    refilter();
-}
-
-void FeatureTreeProxyModel::startPass() const
-{
-    m_pass = nextPass();
-    m_treeJudged = false;
-    m_visibleMatches.clear(0);
-    m_hiddenMatches.clear(0);
-}
-
-void FeatureTreeProxyModel::noticePattern() const
-{
-    const QString pattern = filterRegularExpression().pattern();
-    if (pattern == m_pattern) {
-        return;
+    // Without a text, rows that came were judged when they did.
+    if (m_filter->hasText() || !m_isPublished) {
+        refilter();
+    } else {
+        emit filtered();
     }
-    m_pattern = pattern;
-    m_foldedText.reset();
-    if (pattern.isEmpty()) {
-        m_foldedText = QString();
-    }
-    startPass();
 }
 
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
@@ -290,23 +354,32 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
         return acceptsByRoles(sourceRow, sourceParent);
     }
     // Asked once a row at every key: straight to the item.
-    auto *const parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
-    if (parent) {
-        parent->m_mapping = m_mapping;
+    auto *parent = static_cast<FeatureTreeItem *>(sourceParent.internalPointer());
+    if (!parent) {
+        parent = rootItem();
+    } else if (parent != m_lastAsked) { // rows are asked for one after the other
+        if (!parent->parent()) {
+            return false; // below the phantom
+        }
+        noteAsked(parent);
     }
-    const bool isBelowPhantom = parent && !parent->parent();
-    if (m_acceptAll || isBelowPhantom) {
-        return !isBelowPhantom;
-    }
-    FeatureTreeItem *const item = (parent ? parent : rootItem())->child(sourceRow);
-    if (!item) {
-        return false;
+    if (m_acceptAll || !parent) {
+        return m_acceptAll;
     }
     if (m_frozen) {
-        return item->m_filterMark.pass == m_markedPass && item->m_filterMark.isAccepted;
+        return m_filter->accepted(*parent, sourceRow);
     }
-    noticePattern();
-    return accepts(item);
+    if (!m_filter->isExpired() && m_filter->isOutdated()) {
+        m_isPublished = false; // the verdicts that the base knows were about other rows
+        if (m_rebuilding) {
+            return false; // a row has come; it shows with the pass at the end
+        }
+    }
+    const bool isAccepted = m_filter->accepts(*parent, sourceRow);
+    if (!sourceParent.isValid() && parent->child(sourceRow) == getSearchHelpItem()) {
+        m_publishedSearchRow = isAccepted;
+    }
+    return isAccepted;
 }
 
 bool FeatureTreeProxyModel::acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const
@@ -319,232 +392,14 @@ bool FeatureTreeProxyModel::acceptsByRoles(int sourceRow, const QModelIndex &sou
 
 FeatureTreeRoleFilter FeatureTreeProxyModel::roleFilter() const
 {
-    return {*sourceModel(), filterRegularExpression(), m_level};
-}
-
-FeatureTreeRoleFilter::Matches FeatureTreeProxyModel::roleMatches() const
-{
-    return sourceModel() ? roleFilter().matches() : FeatureTreeRoleFilter::Matches();
-}
-
-// Rows are asked for when a view comes to it; the names of the matches may be wanted before.
-void FeatureTreeProxyModel::completePass() const
-{
-    noticePattern();
-    if (model() && !m_pattern.isEmpty() && !m_treeJudged) {
-        judgeTree();
-    }
-}
-
-bool FeatureTreeProxyModel::isSeen(const FeatureTreeItem *item) const
-{
-    return item->m_filterMark.pass == m_pass;
-}
-
-bool FeatureTreeProxyModel::isJudged(const FeatureTreeItem *item) const
-{
-    return isSeen(item) && item->m_filterMark.isJudged;
-}
-
-bool FeatureTreeProxyModel::accepts(FeatureTreeItem *item) const
-{
-    if (isJudged(item)) {
-        return item->m_filterMark.isAccepted;
-    }
-    if (m_pattern.isEmpty()) {
-        return judgeAlone(item);
-    }
-    if (m_treeJudged && !m_index.holds(item)) {
-        startPass(); // it came after the pass
-    }
-    if (!m_treeJudged) {
-        judgeTree();
-    }
-    return isJudged(item) && item->m_filterMark.isAccepted;
-}
-
-bool FeatureTreeProxyModel::judgeAlone(FeatureTreeItem *item) const
-{
-    const bool isAccepted =
-        IsFavoriteTreeRoot(item) || matches(item) || hasMatchAbove(item) || hasMatchBelow(item);
-    mark(item, isAccepted);
-    return isAccepted;
-}
-
-// Marks what the search text is found in, all ancestors of that, and nothing else: other rows do not pass.
-void FeatureTreeProxyModel::judgeTree() const
-{
-    m_treeJudged = true;
-    FeatureTreeItem *const root = rootItem();
-    if (!root) {
-        return;
-    }
-    if (!m_index.isCurrent()) {
-        loadTree(root);
-        m_index.build(*root);
-    }
-    m_visibleMatches.clear(m_index.names().size());
-    m_hiddenMatches.clear(m_index.names().size());
-    if (FeatureTreeItem *const searchRow = getSearchHelpItem()) {
-        mark(searchRow, matches(searchRow));
-    }
-    const FeatureTreeItem *parent = nullptr;
-    GenApi::EVisibility visibilityAbove = GenApi::Beginner;
-    const auto judge = [this, &parent, &visibilityAbove](const FeatureTreeSearchIndex::Row &row) {
-        if (row.item->parent() != parent) {
-            parent = row.item->parent();
-            visibilityAbove = judgeAncestors(row.item->parent());
-        }
-        judgeHit(row, visibilityAbove);
-    };
-    if (m_foldedText) {
-        m_index.forEachHit(*m_foldedText, judge);
-        return;
-    }
-    for (const FeatureTreeSearchIndex::Row &row : m_index.rows()) {
-        if (isHit(row.item)) {
-            judge(row);
-        }
-    }
-}
-
-// Marks the ancestors as not passing unless they do already. Returns the highest visibility among them.
-GenApi::EVisibility FeatureTreeProxyModel::judgeAncestors(FeatureTreeItem *parent) const
-{
-    GenApi::EVisibility highest = GenApi::Beginner;
-    for (FeatureTreeItem *ancestor = parent; ancestor && ancestor->parent(); ancestor = ancestor->parent()) {
-        if (!isJudged(ancestor)) {
-            mark(ancestor, false);
-        }
-        highest = std::max(highest, effectiveVisibility(ancestor));
-    }
-    return highest;
-}
-
-void FeatureTreeProxyModel::judgeHit(const FeatureTreeSearchIndex::Row &row,
-                                     GenApi::EVisibility visibilityAbove) const
-{
-    FeatureTreeItem *const item = row.item;
-    mark(item, false);
-    countHit(row, std::max(visibilityAbove, effectiveVisibility(item)));
-    const FeatureTreeItem::FilterMark &found = item->m_filterMark;
-    const bool isMatch = passesLevel(found.visibility, found.isShownAtAll);
-    item->m_filterMark.isAccepted = isMatch;
-    for (FeatureTreeItem *ancestor = item->parent();
-         isMatch && ancestor && ancestor->parent() && !ancestor->m_filterMark.isAccepted;
-         ancestor = ancestor->parent()) {
-        ancestor->m_filterMark.isAccepted = true;
-    }
-}
-
-void FeatureTreeProxyModel::mark(FeatureTreeItem *item, bool isAccepted) const
-{
-    m_markedPass = m_pass;
-    item->m_filterMark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), isAccepted, true};
-}
-
-// Remembers the state on which the verdict about a row above was founded.
-void FeatureTreeProxyModel::markSeen(FeatureTreeItem *item) const
-{
-    if (isSeen(item)) {
-        return;
-    }
-    FeatureTreeItem::FilterMark &mark = item->m_filterMark;
-    mark = {m_pass, item->getVisibility(), item->ShowMe(GenApi::Guru), mark.isAccepted, false};
-}
-
-// A row that contains the search text; categories and collections' top rows never do.
-bool FeatureTreeProxyModel::isHit(const FeatureTreeItem *item) const
-{
-    if (item->isCategory()) {
-        return false;
-    }
-    const bool found = m_pattern.isEmpty() || item->displayText().contains(filterRegularExpression())
-        || item->nodeName().contains(filterRegularExpression());
-    return found && item->nodeName() != FeatureTreeNames::root;
-}
-
-bool FeatureTreeProxyModel::passesLevel(GenApi::EVisibility visibility, bool isShownAtAll) const
-{
-    return (m_level == GenApi::Invisible || isShownAtAll) && visibility <= m_level;
-}
-
-// Returns the visibility at which a marked item would be seen, undefined when it is at none.
-GenApi::EVisibility FeatureTreeProxyModel::effectiveVisibility(const FeatureTreeItem *item) const
-{
-    const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
-    const bool isShown =
-        m_level == GenApi::Invisible || mark.isShownAtAll || mark.visibility == GenApi::Invisible;
-    return isShown ? mark.visibility : GenApi::UndefinedVisibility;
-}
-
-bool FeatureTreeProxyModel::matches(FeatureTreeItem *item) const
-{
-    if (!passesLevel(item->getVisibility(), item->ShowMe(GenApi::Guru))) {
-        return false;
-    }
-    if (item->getFullName() == FeatureTreeNames::search) {
-        return item->getVisibility() < GenApi::Invisible; // shown by a search alone, at the highest level too
-    }
-    return isHit(item);
-}
-
-void FeatureTreeProxyModel::countHit(const FeatureTreeSearchIndex::Row &row,
-                                     GenApi::EVisibility visibility) const
-{
-    if (row.name < 0) {
-        return;
-    }
-    // A feature may stand in several places; where it is in sight decides.
-    if (visibility <= m_level) {
-        m_visibleMatches.add(row.name);
-        m_hiddenMatches.remove(row.name);
-    } else if (visibility < GenApi::Invisible && !m_visibleMatches.isCounted[row.name]) {
-        m_hiddenMatches.add(row.name);
-    }
-}
-
-bool FeatureTreeProxyModel::hasMatchAbove(FeatureTreeItem *item) const
-{
-    for (FeatureTreeItem *ancestor = item->parent(); ancestor && ancestor->parent();
-         ancestor = ancestor->parent()) {
-        if (matches(ancestor)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool FeatureTreeProxyModel::hasMatchBelow(FeatureTreeItem *item) const
-{
-    loadChildren(item);
-    for (int row = 0; row < item->existingChildCount(); ++row) {
-        markSeen(item->child(row));
-        if (matches(item->child(row))) {
-            return true;
-        }
-    }
-    for (int row = 0; row < item->existingChildCount(); ++row) {
-        if (hasMatchBelow(item->child(row))) {
-            return true;
-        }
-    }
-    return false;
+    return {*sourceModel(), filterRegularExpression(), m_filter->level()};
 }
 
 // Only the model's rowCount() fills a branch without announcing rows to the base, which may be asking.
-void FeatureTreeProxyModel::loadChildren(FeatureTreeItem *item) const
+void FeatureTreeProxyModel::loadChildren(FeatureTreeItem &item) const
 {
-    if (item->existingChildCount() == 0 && item->hasChildren()) {
-        sourceModel()->rowCount(model()->indexForItem(item, FeatureTreeColumns::name));
-    }
-}
-
-void FeatureTreeProxyModel::loadTree(FeatureTreeItem *item) const
-{
-    loadChildren(item);
-    for (int row = 0; row < item->existingChildCount(); ++row) {
-        loadTree(item->child(row));
+    if (item.existingChildCount() == 0 && item.hasChildren()) {
+        sourceModel()->rowCount(model()->indexForItem(&item, FeatureTreeColumns::name));
     }
 }
 
@@ -570,6 +425,8 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
         {
             // The row stands above all others, where the base's mapping knows nothing of it.
             const QScopedValueRollback<bool> shifted(m_shiftTopRows, true);
+            m_filter->expire();
+            forgetMapping();
             invalidate();
         }
         blockSignals(false);
@@ -586,11 +443,20 @@ void FeatureTreeProxyModel::onSourceRowsInserted(const QModelIndex &parent, int 
     }
 }
 
+void FeatureTreeProxyModel::onSourceRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        forgetAsked(model()->getFeatureTreeItem(model()->index(row, FeatureTreeColumns::name, parent)));
+    }
+}
+
 // The base's invalidate() and the source's new layout ask for all rows anew.
 void FeatureTreeProxyModel::onLayoutAboutToBeChanged()
 {
+    forgetMapping();
     if (!m_publishing) {
-        startPass();
+        m_filter->expire();
+        m_isPublished = true;
     }
 }
 
@@ -601,10 +467,8 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
     if (!item || !item->parent()) {
         return;
     }
-    const FeatureTreeItem::FilterMark &mark = item->m_filterMark;
-    if (isSeen(item)
-        && (mark.visibility != const_cast<FeatureTreeItem *>(item)->getVisibility()
-            || mark.isShownAtAll != item->ShowMe(GenApi::Guru))) {
+    const bool isSearchRow = item == getSearchHelpItem();
+    if (item->isFlipping() || (isSearchRow && isSearchRowShown() != m_publishedSearchRow)) {
         queueRefilter();
     }
     if (!isMapped(item->parent())) {
@@ -624,10 +488,34 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
     }
 }
 
+void FeatureTreeProxyModel::noteAsked(const FeatureTreeItem *parent) const
+{
+    forgetMapping(); // a new one may lie where an old one did
+    m_lastAsked = parent;
+    m_asked.insert(parent);
+}
+
+void FeatureTreeProxyModel::forgetMapping() const
+{
+    m_lastAsked = nullptr;
+    m_leaves = nullptr;
+}
+
+void FeatureTreeProxyModel::forgetAsked(const FeatureTreeItem *parent)
+{
+    if (!m_asked.remove(parent)) {
+        return;
+    }
+    forgetMapping();
+    for (int row = 0; row < parent->existingChildCount(); ++row) {
+        forgetAsked(parent->child(row));
+    }
+}
+
 // Whether the base has ever asked for the rows below. If not, nobody shows them.
 bool FeatureTreeProxyModel::isMapped(const FeatureTreeItem *parent) const
 {
-    return !parent->parent() || parent->m_mapping == m_mapping;
+    return !parent->parent() || m_asked.contains(parent);
 }
 
 void FeatureTreeProxyModel::queueRefilter()
@@ -661,7 +549,10 @@ void FeatureTreeProxyModel::clear()
         invalidate();
         model()->clear();
     }
-    startPass();
+    m_filter->reset();
+    m_asked.clear();
+    forgetMapping();
+    m_publishedSearchRow = false;
     endResetModel();
 }
 
@@ -681,54 +572,48 @@ void FeatureTreeProxyModel::reportPollingState()
 
 void FeatureTreeProxyModel::EnablePolling(bool enable)
 {
-    if (model()) {
-        model()->EnablePolling(enable);
-        reportPollingState();
-    }
+    forward<&FeatureTreeModel::EnablePolling>(enable);
+    reportPollingState();
 }
 
 bool FeatureTreeProxyModel::GetPolling() const
 {
-    return model() && model()->GetPolling();
+    return forward<&FeatureTreeModel::GetPolling>();
 }
 
 bool FeatureTreeProxyModel::IsFavoriteTreeItem(const FeatureTreeItem *item) const
 {
-    return model() && model()->IsFavoriteTreeItem(item);
+    return forward<&FeatureTreeModel::IsFavoriteTreeItem>(item);
 }
 
 bool FeatureTreeProxyModel::IsFavoriteTreeRoot(const FeatureTreeItem *item) const
 {
-    return model() && model()->IsFavoriteTreeRoot(item);
+    return forward<&FeatureTreeModel::IsFavoriteTreeRoot>(item);
 }
 
 QModelIndex FeatureTreeProxyModel::indexForItem(FeatureTreeItem *item, int column)
 {
-    return model() ? mapped(model()->indexForItem(item, column)) : QModelIndex();
+    return mapped(forward<&FeatureTreeModel::indexForItem>(item, column));
 }
 
 QModelIndex FeatureTreeProxyModel::GetFavoritesRootIndex()
 {
-    return model() ? mapFromSource(model()->GetFavoritesRootIndex()) : QModelIndex();
+    return mapFromSource(forward<&FeatureTreeModel::GetFavoritesRootIndex>());
 }
 
 void FeatureTreeProxyModel::EnableViewAllFavorites(bool enable)
 {
-    if (model()) {
-        model()->EnableViewAllFavorites(enable);
-    }
+    forward<&FeatureTreeModel::EnableViewAllFavorites>(enable);
 }
 
 bool FeatureTreeProxyModel::GetViewAllFavorites() const
 {
-    return model() && model()->GetViewAllFavorites();
+    return forward<&FeatureTreeModel::GetViewAllFavorites>();
 }
 
 void FeatureTreeProxyModel::SetDeviceAlive(bool alive)
 {
-    if (model()) {
-        model()->SetDeviceAlive(alive);
-    }
+    forward<&FeatureTreeModel::SetDeviceAlive>(alive);
 }
 
 bool FeatureTreeProxyModel::isDeviceAlive() const
@@ -739,62 +624,55 @@ bool FeatureTreeProxyModel::isDeviceAlive() const
 QModelIndex FeatureTreeProxyModel::findItem(const FeatureTreeItem *item, const FeatureTreeItem *start,
                                             int column)
 {
-    return model() ? mapped(model()->findItem(item, start, column)) : QModelIndex();
+    return mapped(forward<&FeatureTreeModel::findItem>(item, start, column));
 }
 
 QModelIndex FeatureTreeProxyModel::findItemByFullName(const QString &fullName, FeatureTreeItem *start,
                                                       int column)
 {
-    return model() ? mapped(model()->findItemByFullName(fullName, start, column)) : QModelIndex();
+    return mapped(forward<&FeatureTreeModel::findItemByFullName>(fullName, start, column));
 }
 
 QModelIndex FeatureTreeProxyModel::findItemByRole(int role, const QVariant &value, FeatureTreeItem *start,
                                                   int column)
 {
-    return model() ? mapped(model()->findItemByRole(role, value, start, column)) : QModelIndex();
+    return mapped(forward<&FeatureTreeModel::findItemByRole>(role, value, start, column));
 }
 
 void FeatureTreeProxyModel::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &title,
     const QString &nodeMapName, bool childNodeFlag)
 {
-    if (model()) {
-        rebuild([&] {
-            model()->addParameterCollection(std::move(collection), title, nodeMapName, childNodeFlag);
-        });
-    }
+    rebuild([&] {
+        forward<&FeatureTreeModel::addParameterCollection>(std::move(collection), title, nodeMapName,
+                                                           childNodeFlag);
+    });
 }
 
 void FeatureTreeProxyModel::rebuildFavoriteItems()
 {
-    if (model()) {
-        rebuild([this] { model()->rebuildFavoriteItems(); });
-    }
+    rebuild([this] { forward<&FeatureTreeModel::rebuildFavoriteItems>(); });
 }
 
 void FeatureTreeProxyModel::CreateFavoritesRoot()
 {
-    if (model()) {
-        rebuild([this] { model()->CreateFavoritesRoot(); });
-    }
+    rebuild([this] { forward<&FeatureTreeModel::CreateFavoritesRoot>(); });
 }
 
 void FeatureTreeProxyModel::replaceFavoritesZombies(
     QSharedPointer<ParameterCollection::IParameterCollection> collection, const QString &nodeMapName)
 {
-    if (model()) {
-        rebuild([&] { model()->replaceFavoritesZombies(std::move(collection), nodeMapName); });
-    }
+    rebuild([&] { forward<&FeatureTreeModel::replaceFavoritesZombies>(std::move(collection), nodeMapName); });
 }
 
 bool FeatureTreeProxyModel::RemoveFavorite(QModelIndex index)
 {
-    return model() && model()->RemoveFavorite(mapToSource(index));
+    return forward<&FeatureTreeModel::RemoveFavorite>(mapToSource(index));
 }
 
 bool FeatureTreeProxyModel::AddFavorite(QSharedPointer<ParameterCollection::IParameter> parameter, int row)
 {
-    return model() && model()->AddFavorite(std::move(parameter), row);
+    return forward<&FeatureTreeModel::AddFavorite>(std::move(parameter), row);
 }
 
 FavoritesData &FeatureTreeProxyModel::GetFavorites()
@@ -808,104 +686,85 @@ FavoritesData &FeatureTreeProxyModel::GetFavorites()
 
 bool FeatureTreeProxyModel::MoveFavorite(QModelIndex index, bool up)
 {
-    return model() && model()->MoveFavorite(mapToSource(index), up);
+    return forward<&FeatureTreeModel::MoveFavorite>(mapToSource(index), up);
 }
 
 bool FeatureTreeProxyModel::CanMoveFavorite(QModelIndex index, bool up) const
 {
-    return model() && model()->CanMoveFavorite(mapToSource(index), up);
+    return forward<&FeatureTreeModel::CanMoveFavorite>(mapToSource(index), up);
 }
 
 bool FeatureTreeProxyModel::CanAddAsFavorite(QModelIndex index) const
 {
-    return model() && model()->CanAddAsFavorite(mapToSource(index));
+    return forward<&FeatureTreeModel::CanAddAsFavorite>(mapToSource(index));
 }
 
 void FeatureTreeProxyModel::refresh()
 {
-    if (model()) {
-        model()->refresh();
-    }
+    forward<&FeatureTreeModel::refresh>();
 }
 
 void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem *parent)
 {
-    if (model()) {
-        model()->addChildren(parent);
-    }
+    forward<&FeatureTreeModel::addChildren>(parent);
 }
 
 void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
 {
-    m_level = visibility;
-    startPass();
-    if (model()) {
-        model()->setVisibility(visibility);
-    }
+    m_filter->setLevel(visibility);
+    m_isPublished = false;
+    forward<&FeatureTreeModel::setVisibility>(visibility);
 }
 
 GenApi::EVisibility FeatureTreeProxyModel::getVisibility()
 {
-    return model() ? model()->getVisibility() : m_level;
+    return model() ? model()->getVisibility() : m_filter->level();
 }
 
 void FeatureTreeProxyModel::setMonitorMode(bool enable)
 {
-    if (model()) {
-        model()->setMonitorMode(enable);
-    }
+    forward<&FeatureTreeModel::setMonitorMode>(enable);
 }
 
 void FeatureTreeProxyModel::setGenICamCallbacksEnable(bool enable)
 {
-    if (model()) {
-        model()->setGenICamCallbacksEnable(enable);
-    }
+    forward<&FeatureTreeModel::setGenICamCallbacksEnable>(enable);
 }
 
 bool FeatureTreeProxyModel::getGenICamCallbackEnable() const
 {
-    return model() && model()->getGenICamCallbackEnable();
+    return forward<&FeatureTreeModel::getGenICamCallbackEnable>();
 }
 
 FeatureTreeItem *FeatureTreeProxyModel::getFeatureTreeItem(const QModelIndex &index) const
 {
-    const QModelIndex source = model() ? mapToSource(index) : QModelIndex();
-    return source.isValid() ? model()->getFeatureTreeItem(source) : nullptr;
+    return itemAt(index);
 }
 
 void FeatureTreeProxyModel::setHighlighter(FeatureTreeHighlighter *highlighter)
 {
-    if (model()) {
-        model()->setHighlighter(highlighter);
-    }
+    forward<&FeatureTreeModel::setHighlighter>(highlighter);
 }
 
 FeatureTreeItem *FeatureTreeProxyModel::getSearchHelpItem() const
 {
-    return model() ? model()->getSearchHelpItem() : nullptr;
+    return forward<&FeatureTreeModel::getSearchHelpItem>();
 }
 
 void FeatureTreeProxyModel::refreshSpecialItems()
 {
-    if (model()) {
-        model()->refreshSpecialItems();
-    }
+    forward<&FeatureTreeModel::refreshSpecialItems>();
 }
 
 void FeatureTreeProxyModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)
 {
-    if (model()) {
-        model()->onNodeUpdated(row, nodeItem);
-    }
+    forward<&FeatureTreeModel::onNodeUpdated>(row, nodeItem);
 }
 
 void FeatureTreeProxyModel::onTimerPoll()
 {
-    if (model()) {
-        model()->onTimerPoll();
-        reportPollingState();
-    }
+    forward<&FeatureTreeModel::onTimerPoll>();
+    reportPollingState();
 }
 
 QString FeatureTreeProxyModel::GetParameterCollectionName(

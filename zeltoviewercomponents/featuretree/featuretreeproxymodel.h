@@ -3,20 +3,22 @@
 
 #pragma once
 
-#include "featuretreerolefilter_p.h"
-#include "featuretreesearchindex_p.h"
 #include "ifeaturetreemodelextension.h"
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
 #include <QPersistentModelIndex>
+#include <QPointer>
+#include <QPropertyNotifier>
 #include <QSet>
 #include <QSortFilterProxyModel>
 #include <QString>
 
-#include <optional>
+#include <memory>
 
+class FeatureTreeFilter;
 class FeatureTreeModel;
+class FeatureTreeRoleFilter;
 
 /*! \brief Filters the feature tree by user level and search text.
  *
@@ -24,14 +26,14 @@ class FeatureTreeModel;
  * feature matches when its displayed text or its name contains the search text, literally and whatever the
  * letter case, and its visibility lies within the level. With an empty text rows are judged one by one as
  * they are asked for; setting a text loads all branches and judges the whole tree in one pass, which also
- * collects the names of the matches.
+ * counts the matches.
  *
- * Dynamic sorting and filtering stays off, and changes of rows that nobody has asked for are not passed on.
- * Rows whose level or availability flips are filtered anew, once, when the event loop comes round. A source
- * of another class that answers to the roles of FeatureTreeItem is filtered by these. As
+ * A pass is judged(), at most one change of the layout, and filtered(); where no row comes or goes, the
+ * layout stays. Dynamic sorting and filtering stays off, and changes of rows that nobody has asked for are
+ * not passed on. Rows whose level or availability flips are filtered anew, once, when the event loop comes
+ * round. A source of another class that answers to the roles of FeatureTreeItem is filtered by these. As
  * IFeatureTreeModelExtension it forwards to its source, a FeatureTreeModel; all indexes that go in and come
- * out are the proxy's, and a row that is filtered out gives an invalid one. A model serves one such proxy at
- * a time, which keeps its verdicts in the items.
+ * out are the proxy's, and a row that is filtered out gives an invalid one.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension
@@ -95,7 +97,11 @@ public:
     bool CanAddAsFavorite(QModelIndex index) const override;
     void refresh() override;
     void addChildren(FeatureTreeINodeItem *parent) override;
-    /*! Sets the level; invalidate the filter afterwards. */
+    /*! Filters anew if the level was set since the last pass. */
+    void filterIfExpired();
+    /*! Returns a number that is another one once the rows have followed a pass. */
+    quint64 publication() const;
+    /*! Sets the level; filter afterwards. */
     void setVisibility(GenApi::EVisibility visibility) override;
     GenApi::EVisibility getVisibility() override;
     void setMonitorMode(bool enable) override;
@@ -118,13 +124,17 @@ public:
 public slots:
     /*! Sets the search text and filters at once, with a single change of the layout. */
     void setFilterFixedString(const QString &pattern);
+    /*! Judges all rows anew and has them follow. */
+    void refilter();
     /*! Removes all rows, with a reset. */
     void clear() override;
 
 signals:
     /*! Polling was switched on or off, or ended because the device does not answer. */
     void pollingStateChanged(bool polling);
-    /*! All rows were judged anew, and with them the matches counted. */
+    /*! All rows were judged anew and the matches counted; the rows do not follow until this has returned. */
+    void judged();
+    /*! A pass is over: the rows have followed. */
     void filtered();
     /*! A write through setData() reached the parameter and succeeded. */
     void written(QSharedPointer<ParameterCollection::IParameter> parameter);
@@ -137,81 +147,58 @@ protected:
 private slots:
     void onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
+    void onSourceRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last);
     void onLayoutAboutToBeChanged();
     void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                              const QList<int> &roles);
     void onForeignDataChanged(const QModelIndex &topLeft);
     void onPollTimerShot();
-    void refilter();
 
 private:
     FeatureTreeModel *model() const;
     FeatureTreeItem *rootItem() const;
+    FeatureTreeItem *itemAt(const QModelIndex &index) const;
     bool isPhantom(const QModelIndex &sourceIndex) const;
     QModelIndex mapped(const QModelIndex &sourceIndex) const;
 
+    template <auto Operation, typename... Arguments>
+    auto forward(Arguments &&...arguments) const;
     template <typename Work>
     void rebuild(Work work);
+    void connectTree();
+    void onExpressionChanged();
+    bool judge() const;
     void completePass() const;
+    void publish(bool isChanged);
+    bool isSearchRowShown() const;
     FeatureTreeRoleFilter roleFilter() const;
-    FeatureTreeRoleFilter::Matches roleMatches() const;
     bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
+    bool isBesideLeaves(const QModelIndex &index) const;
+    void noteAsked(const FeatureTreeItem *parent) const;
+    void forgetMapping() const;
+    void forgetAsked(const FeatureTreeItem *parent);
     bool isMapped(const FeatureTreeItem *parent) const;
     void queueRefilter();
-    bool isSeen(const FeatureTreeItem *item) const;
-    bool isJudged(const FeatureTreeItem *item) const;
-    bool accepts(FeatureTreeItem *item) const;
-    bool judgeAlone(FeatureTreeItem *item) const;
-    void judgeTree() const;
-    void judgeHit(const FeatureTreeSearchIndex::Row &row, GenApi::EVisibility visibilityAbove) const;
-    GenApi::EVisibility judgeAncestors(FeatureTreeItem *parent) const;
-    void startPass() const;
-    void mark(FeatureTreeItem *item, bool isAccepted) const;
-    void markSeen(FeatureTreeItem *item) const;
-    bool matches(FeatureTreeItem *item) const;
-    bool isHit(const FeatureTreeItem *item) const;
-    bool hasMatchBelow(FeatureTreeItem *item) const;
-    bool hasMatchAbove(FeatureTreeItem *item) const;
-    bool passesLevel(GenApi::EVisibility visibility, bool isShownAtAll) const;
-    GenApi::EVisibility effectiveVisibility(const FeatureTreeItem *item) const;
-    void countHit(const FeatureTreeSearchIndex::Row &row, GenApi::EVisibility visibility) const;
-    void loadChildren(FeatureTreeItem *item) const;
-    void loadTree(FeatureTreeItem *item) const;
-    void noticePattern() const;
+    void loadChildren(FeatureTreeItem &item) const;
     void reportPollingState();
 
-    bool m_acceptAll = false;
-    GenApi::EVisibility m_level = GenApi::Guru;
-
-    /*! \brief Names that were counted, once each. */
-    struct Matches
-    {
-        void clear(qsizetype nameCount);
-        void add(int name);
-        void remove(int name);
-
-        QList<bool> isCounted; // by the search index's number of the name
-        int count = 0;
-    };
-    QSet<QString> namesOf(const Matches &matches) const;
-
-    mutable FeatureTreeSearchIndex m_index;
-    mutable Matches m_visibleMatches;
-    mutable Matches m_hiddenMatches;
-
-    // The pattern that the verdicts belong to. The base's may be changed by others, who may also set an
-    // expression that is no literal text; the folded text is absent then.
-    mutable QString m_pattern;
-    mutable std::optional<QString> m_foldedText = QString();
-    mutable quint64 m_pass = 0;
-    mutable quint64 m_markedPass = 0; // the last pass that left marks
-    mutable bool m_treeJudged = false;
-    quint64 m_mapping = 0; // what items bear below which the base has asked for rows
-
+    QPointer<FeatureTreeModel> m_model; // the source, if it is a feature tree
+    std::unique_ptr<FeatureTreeFilter> m_filter;
+    QPropertyNotifier m_expressionNotifier; // others may set an expression behind our back
+    mutable QSet<const FeatureTreeItem *> m_asked; // those below which the base has asked for rows
+    mutable const FeatureTreeItem *m_lastAsked = nullptr;
+    // What the base's indexes of some siblings have in common that are known to have no children.
+    mutable const void *m_leaves = nullptr;
+    mutable quint64 m_leavesRevision = 0;
     QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
+
+    bool m_acceptAll = false;
     bool m_frozen = false; // verdicts stay as they are while the base takes a new pattern
     bool m_rejectAll = false; // nothing passes while the tree is being cleared
     bool m_shiftTopRows = false; // the mapping is one top row behind the source
+    mutable bool m_isPublished = false; // what the base knows of rows are the verdicts of the last pass
+    mutable bool m_publishedSearchRow = false;
+    quint64 m_publication = 0;
     bool m_publishing = false; // the verdicts are fresh when the base asks for them
     bool m_rebuilding = false; // the operation under way filters at its end
     bool m_refilterQueued = false;

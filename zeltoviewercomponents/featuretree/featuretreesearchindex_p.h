@@ -3,61 +3,111 @@
 
 #pragma once
 
+#include <platform/genicam/genapi.h>
+
+#include <QByteArray>
 #include <QHash>
 #include <QList>
 #include <QString>
-#include <QStringMatcher>
+
+#include <functional>
+#include <string_view>
+#include <vector>
 
 class FeatureTreeItem;
 
-/*! \brief The searchable texts of a tree's rows, in one piece.
+/*! \brief Numbers a tree's rows and keeps what a filter asks of every one of them in a few long arrays.
  *
- * A search through one long text touches no item but those it finds, which makes it several times faster than
- * asking row by row. Categories have no text to search in. The index is out of date once any item has come,
- * gone or changed its name.
+ * A search runs through one long text and touches no item, which makes it many times faster than asking row
+ * by row. The children of an item have consecutive numbers, and higher ones than the item itself. Categories,
+ * the search row and the top rows of collections have no text to search in. The numbers are out of date once
+ * any item has come, gone or changed its name; the states are read again where rows have changed theirs.
  */
 class FeatureTreeSearchIndex
 {
 public:
-    /*! \brief A row with its text. */
-    struct Row
+    static constexpr int none = -1;
+
+    /*! \brief An item with children, which are \a count rows from the number \a first on. */
+    struct Branch
     {
         FeatureTreeItem *item = nullptr;
-        qsizetype textEnd = 0;
-        int name = -1; //!< the place in names(), the same for rows of the same feature; -1: no feature
+        int first = 0;
+        int count = 0;
+        int row = none; //!< the item's own number; none of the invisible root
+        int above = none; //!< the branch that it stands in
+        bool hasCategories = false; //!< whether any of the rows has children, or would if there were any
     };
 
-    /*! Takes all existing rows below \a root. */
-    void build(FeatureTreeItem &root);
-    bool isCurrent() const;
-    /*! Returns whether build() has met \a item. */
-    bool holds(const FeatureTreeItem *item) const;
-
-    const QList<Row> &rows() const { return m_rows; }
-    /*! Returns the names of the features, each once. */
-    const QList<QString> &names() const { return m_names; }
-
-    /*! Calls \a visit with each row whose text contains \a foldedText, from top to bottom. */
-    template <typename Visit>
-    void forEachHit(const QString &foldedText, Visit visit) const
+    /*! \brief What decides, beside the text, whether a row is shown: comparable in an array of bytes. */
+    struct State
     {
-        const QStringMatcher matcher(foldedText);
-        auto row = m_rows.cbegin();
-        for (qsizetype at = matcher.indexIn(m_text); at >= 0; at = matcher.indexIn(m_text, row++->textEnd)) {
-            while (row->textEnd <= at) {
+        static constexpr int count = 16; //!< different values
+
+        static State of(FeatureTreeItem &item);
+        GenApi::EVisibility visibility() const;
+        bool isShownAtAll() const { return (value & 1U) != 0; }
+
+        quint8 value = 0;
+    };
+
+    /*! Returns \a text as it is searched for, and in: with the case of each character folded, as
+     * case-insensitive comparisons of QString do, in UTF-8. */
+    static QByteArray folded(const QString &text);
+
+    /*! Loads the children of an item without telling of them. */
+    using Loader = std::function<void(FeatureTreeItem &)>;
+
+    /*! Takes all rows below \a root, after having them loaded. */
+    void build(FeatureTreeItem &root, const Loader &load);
+    /*! Returns whether the numbers are those of the rows that exist now. */
+    bool isCurrent() const;
+    /*! Reads the rows' states anew where any has changed since. */
+    void updateStates();
+
+    int rowCount() const { return static_cast<int>(m_textEnds.size()); }
+    const std::vector<Branch> &branches() const { return m_branches; }
+    /*! Returns the branch of the children of \a item, null when there is none. */
+    const Branch *branchOf(const FeatureTreeItem *item) const;
+    /*! Returns the number of the first child of \a parent, none for an item without children. */
+    int firstRowOf(const FeatureTreeItem *parent) const;
+    State state(int row) const { return State{m_states[static_cast<size_t>(row)]}; }
+    bool hasText(int row) const { return m_textEnds[row] > (row > 0 ? m_textEnds[row - 1] : 0); }
+    /*! Returns the number of the row's name, the same for all rows of a feature; none when it is no feature.
+     */
+    int name(int row) const { return m_names[static_cast<size_t>(row)]; }
+    int nameCount() const { return m_nameCount; }
+
+    /*! Calls \a visit with each row whose text contains \a text, which is folded, in ascending order. */
+    template <typename Visit>
+    void forEachHit(const QByteArray &text, Visit visit) const
+    {
+        const std::string_view all(m_text.constData(), static_cast<size_t>(m_text.size()));
+        const std::string_view wanted(text.constData(), static_cast<size_t>(text.size()));
+        int row = 0;
+        for (size_t at = all.find(wanted); at != std::string_view::npos;
+             at = all.find(wanted, m_textEnds[row++])) {
+            while (m_textEnds[row] <= at) {
                 ++row;
             }
-            visit(*row);
+            visit(row);
         }
     }
 
 private:
-    void addBelow(FeatureTreeItem &parent, QHash<QString, int> &numbers);
-    void add(FeatureTreeItem &item, QHash<QString, int> &numbers);
+    using Numbers = QHash<QString, int>;
 
-    QString m_text;
-    QList<Row> m_rows;
-    QList<QString> m_names;
-    quint64 m_id = 0; // of this content, which the items bear too
-    quint64 m_revision = 0;
+    void addBelow(FeatureTreeItem &parent, int row, int above, const Loader &load, Numbers &numbers);
+    void add(FeatureTreeItem &item, Numbers &numbers);
+    int numberOf(const QString &name, Numbers &numbers);
+
+    QByteArray m_text;
+    std::vector<quint32> m_textEnds;
+    std::vector<int> m_names;
+    std::vector<quint8> m_states;
+    std::vector<Branch> m_branches;
+    QHash<const FeatureTreeItem *, int> m_branchOf;
+    int m_nameCount = 0;
+    quint64 m_treeRevision = 0;
+    quint64 m_stateRevision = 0;
 };

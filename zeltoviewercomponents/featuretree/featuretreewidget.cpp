@@ -103,6 +103,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this,
             SLOT(onCurrentChanged(const QModelIndex &)));
     connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
+    connect(view->model(), SIGNAL(judged()), this, SLOT(onJudged()));
     connect(view->model(), SIGNAL(filtered()), this, SLOT(onFiltered()));
     connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(onFavoritesUpdated()));
     setContextMenuPolicy(Qt::CustomContextMenu);
@@ -224,12 +225,16 @@ void FeatureTreeWidget::addParameterCollection(
     NodeMapFilter::apply(collection, roleName);
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     extension->SetDeviceAlive(true);
-    extension->addParameterCollection(std::move(collection), rootName, roleName, isUtf8);
-    if (!extension->getSearchHelpItem()) {
-        m_ui->treeView->onFavoriteDataUpdated();
-    }
+    pass([&] {
+        extension->addParameterCollection(std::move(collection), rootName, roleName, isUtf8);
+        if (!extension->getSearchHelpItem()) {
+            m_ui->treeView->onFavoriteDataUpdated();
+        }
+    });
     if (!m_filterText.isEmpty()) {
         m_ui->treeView->expandEverything(); // its rows may repeat names that were counted before
+        announceMatches();
+        extension->refreshSpecialItems();
     }
     m_actionTogglePolling->setEnabled(true);
     m_busy = true;
@@ -275,16 +280,16 @@ void FeatureTreeWidget::on_resetButton_clicked()
 
 void FeatureTreeWidget::refreshTree()
 {
-    FeatureTreeProxyModel *const model = proxy();
-    {
-        const QScopedValueRollback<bool> filtering(m_isFiltering, true);
-        model->setFilterFixedString(QString());
-    }
-    model->setFilterFixedString(m_filterText);
+    proxy()->refilter();
+    showRefreshed();
+}
+
+// What refreshing does beside filtering.
+void FeatureTreeWidget::showRefreshed()
+{
     if (m_expandOnRefresh) {
         m_ui->treeView->expandToDepth(expandedDepth);
     }
-    model->invalidate();
     getFeatureExtension()->refreshSpecialItems();
 }
 
@@ -597,9 +602,9 @@ void FeatureTreeWidget::setViewAllFavoritesVisible(bool visible)
 void FeatureTreeWidget::on_checkBoxViewAllFavorites_clicked()
 {
     const bool viewAll = m_ui->checkBoxViewAllFavorites->isChecked();
-    setViewAllFavorites(viewAll);
+    setViewAllFavorites(viewAll); // which filters
     emit viewAllFavoritesStateChanged(viewAll);
-    refreshTree();
+    showRefreshed();
 }
 
 GenApi::EVisibility FeatureTreeWidget::visibility() const
@@ -610,8 +615,8 @@ GenApi::EVisibility FeatureTreeWidget::visibility() const
 void FeatureTreeWidget::setVisibility(GenApi::EVisibility level)
 {
     getFeatureExtension()->setVisibility(level);
-    proxy()->invalidate();
-    m_ui->treeView->setVisibility(level);
+    m_ui->treeView->setVisibility(level); // rebuilds the favorites, and the pass at the end of that will do
+    proxy()->filterIfExpired();
 }
 
 void FeatureTreeWidget::onVisibilityChanged(int level)
@@ -620,10 +625,15 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
         return;
     }
     const auto visibility = static_cast<GenApi::EVisibility>(level);
-    setVisibility(visibility);
+    commitEntered();
+    pass([this, visibility] { setVisibility(visibility); });
     emit visibilityChanged(visibility);
-    onFilterTextChanged(m_filterText);
-    refreshTree();
+    if (!m_filterText.isEmpty()) {
+        m_ui->treeView->expandEverything();
+    }
+    announceMatches();
+    showRefreshed();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void FeatureTreeWidget::onFilterTextChanged(const QString &text)
@@ -644,36 +654,73 @@ void FeatureTreeWidget::onFilterTextChanged(const QString &text)
     m_busy = false;
 }
 
+// What Return has just entered is written before its row may go.
+void FeatureTreeWidget::commitEntered()
+{
+    QCoreApplication::sendPostedEvents(m_ui->treeView->itemDelegate(), QEvent::MetaCall);
+}
+
+// Does something that filters, of which nobody is told before the action is over. Returns whether rows came
+// or went.
+template <typename Work>
+bool FeatureTreeWidget::pass(Work work)
+{
+    const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+    const quint64 before = proxy()->publication();
+    work();
+    return proxy()->publication() != before;
+}
+
 void FeatureTreeWidget::filter(const QString &text)
 {
-    FeatureTreeProxyModel *const model = proxy();
-    // What Return has just entered is written before its row may go.
-    QCoreApplication::sendPostedEvents(m_ui->treeView->itemDelegate(), QEvent::MetaCall);
-    const bool wasSearching = !model->filterRegularExpression().pattern().isEmpty();
+    commitEntered();
+    const bool wasSearching = !proxy()->filterRegularExpression().pattern().isEmpty();
     const bool isSearching = !text.isEmpty();
     if (!wasSearching && isSearching) {
         saveExpandedStatus();
         saveSelectionStatus();
     }
-    m_ui->treeView->getHightlighter()->setText(text);
-    {
-        const QScopedValueRollback<bool> filtering(m_isFiltering, true);
-        model->setFilterFixedString(text);
-        showCounts();
-    }
-    if (isSearching) {
+    FeatureTreeHighlighter &highlighter = *m_ui->treeView->getHightlighter();
+    const FeatureTreeHighlighter before = highlighter;
+    highlighter.setText(text);
+    const bool isChanged = pass([this, &text] { proxy()->setFilterFixedString(text); });
+    const bool isOtherKey = wasSearching && isSearching; // neither the first one nor the last
+    if (isSearching && (isChanged || !wasSearching)) {
         m_ui->treeView->expandEverything();
-    } else if (wasSearching) {
+    } else if (!isSearching && wasSearching) {
         restoreExpandedStatus();
         restoreSelectionStatus();
         recordFavoritesExpansion(); // which may have been closed in the search
     }
+    announceMatches();
+    if (isOtherKey && !isChanged) {
+        updateMarks(before);
+        if (!m_isSearchRowStale) {
+            return;
+        }
+    }
+    m_isSearchRowStale = false;
     getFeatureExtension()->refreshSpecialItems();
     if (wasSearching && !isSearching) {
         m_lookBeforeSearch.restoreScrollPosition(*m_ui->treeView);
         m_lookBeforeSearch = FeatureTreeLook();
     }
     m_ui->treeView->viewport()->update();
+}
+
+// Repaints rows in which something else is marked now.
+void FeatureTreeWidget::updateMarks(const FeatureTreeHighlighter &before)
+{
+    FeatureTreeView *const view = m_ui->treeView;
+    const FeatureTreeHighlighter &now = *view->getHightlighter();
+    const int bottom = view->viewport()->rect().bottom();
+    QModelIndex row = view->indexAt(QPoint(0, 0));
+    for (; row.isValid() && view->visualRect(row).top() <= bottom; row = view->indexBelow(row)) {
+        const QString text = row.data().toString();
+        if (now.matchRanges(text) != before.matchRanges(text)) {
+            view->update(row);
+        }
+    }
 }
 
 // Favorites, collections, levels and features that come and go change what a search finds.
@@ -684,44 +731,40 @@ void FeatureTreeWidget::onFiltered()
     }
     const QScopedValueRollback<bool> filtering(m_isFiltering, true);
     const int before = m_visibleMatches;
-    showCounts();
+    announceMatches();
     if (m_visibleMatches > before) {
         m_ui->treeView->expandEverything(); // what was found shows, also in branches that came with it
     }
     getFeatureExtension()->refreshSpecialItems();
 }
 
-void FeatureTreeWidget::showCounts()
-{
-    if (m_filterText.isEmpty()) {
-        setSearchRow(QString(), false);
-        emit filterMatchesChanged(0, 0);
-        return;
-    }
-    m_visibleMatches = proxy()->visibleMatchCount();
-    const int hidden = proxy()->hiddenMatchCount();
-    const int total = hidden + m_visibleMatches;
-    const QString message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>");
-    setSearchRow(message.arg(total).arg(hidden), hidden > 0);
-    emit filterMatchesChanged(total, hidden);
-}
-
-void FeatureTreeWidget::setSearchRow(const QString &message, bool isShown)
+// The counts are known before the rows follow, so the row that shows them is one of those.
+void FeatureTreeWidget::onJudged()
 {
     FeatureTreeItem *const row = getFeatureExtension()->getSearchHelpItem();
-    if (!row) {
+    if (!row || (m_filterText.isEmpty() && !m_isFiltering)) {
         return;
     }
-    const GenApi::EVisibility visibility = isShown ? GenApi::Beginner : GenApi::Invisible;
-    const bool flips = row->getVisibility() != visibility;
+    QString message;
+    int hidden = 0;
+    if (!m_filterText.isEmpty()) {
+        hidden = proxy()->hiddenMatchCount();
+        message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>")
+                      .arg(hidden + proxy()->visibleMatchCount())
+                      .arg(hidden);
+    }
+    m_isSearchRowStale = m_isSearchRowStale || message != row->GetToolTip();
     row->setDisplayedName(message.isEmpty() ? QString() : QStringLiteral("<HTML>") + message);
     row->SetToolTip(message);
-    row->setVisibility(visibility);
-    if (flips) {
-        // The counts are known after the pass alone; it is run again for the row, and comes to the same
-        // counts.
-        proxy()->setFilterFixedString(m_filterText);
-    }
+    row->setVisibility(hidden > 0 ? GenApi::Beginner : GenApi::Invisible);
+}
+
+void FeatureTreeWidget::announceMatches()
+{
+    const bool isSearching = !m_filterText.isEmpty();
+    m_visibleMatches = isSearching ? proxy()->visibleMatchCount() : 0;
+    const int hidden = isSearching ? proxy()->hiddenMatchCount() : 0;
+    emit filterMatchesChanged(m_visibleMatches + hidden, hidden);
 }
 
 void FeatureTreeWidget::saveExpandedStatus()

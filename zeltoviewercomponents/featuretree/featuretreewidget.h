@@ -21,6 +21,7 @@
 #include <functional>
 #include <memory>
 
+class FeatureTreeHighlighter;
 class FeatureTreeItem;
 class FeatureTreeProxyModel;
 class FeatureTreeView;
@@ -201,6 +202,7 @@ protected:
 
 private slots:
     void onFavoritesUpdated();
+    void onJudged();
     void onFiltered();
 
 private:
@@ -216,9 +218,13 @@ private:
     QModelIndex shownRow(const QString &fullName) const;
     void goToFirstMatch();
     void recordFavoritesExpansion();
+    void commitEntered();
     void filter(const QString &text);
-    void showCounts();
-    void setSearchRow(const QString &message, bool isShown);
+    template <typename Work>
+    bool pass(Work work);
+    void announceMatches();
+    void showRefreshed();
+    void updateMarks(const FeatureTreeHighlighter &before);
     void moveCurrentFavorite(bool up);
 
     std::unique_ptr<Ui::FeatureTreeWidgetClass> m_ui;
@@ -231,7 +237,8 @@ private:
     bool m_busy = false;
     QString m_filterText;
     int m_visibleMatches = 0; // as told last
-    bool m_isFiltering = false; // the filter is being set, and the counts follow
+    bool m_isFiltering = false; // a pass is part of an action that tells of it at its end
+    bool m_isSearchRowStale = false; // its text was set and not told of
     bool m_expandOnRefresh = false;
     QString m_cameraType;
     QSharedPointer<Core::AppCoreComponents::IBaseInfo> m_baseInfo;
