@@ -25,6 +25,11 @@
 
 namespace {
 
+CameraAddress addressIn(const Options &options)
+{
+    return {options.description, options.camera, options.zeroed, options.registers};
+}
+
 constexpr int exitBadInput = 2;
 constexpr QSize gallerySize(640, 480);
 
@@ -142,7 +147,7 @@ int show(QWidget &widget, const Options &options)
 // A tree with one feature of each kind that the camera has.
 int showGallery(const Options &options)
 {
-    const auto camera = cameraAt({options.description, options.camera});
+    const auto camera = cameraAt(addressIn(options));
     FeatureTreeWidget tree(QStringLiteral("editors"));
     tree.setVisibility(GenApi::Invisible);
     QSet<QString> kinds;
@@ -158,11 +163,6 @@ int showGallery(const Options &options)
     tree.setWindowTitle(QCoreApplication::translate("main", "Value Editors – Zelto Viewer"));
     tree.resize(gallerySize);
     return show(tree, options);
-}
-
-CameraAddress addressIn(const Options &options)
-{
-    return {options.description, options.camera, options.zeroed, options.registers};
 }
 
 int saveRegisters(const Options &options)
