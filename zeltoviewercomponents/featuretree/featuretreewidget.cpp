@@ -40,11 +40,13 @@ QString resource(const QString &name)
     return QStringLiteral(":/zeltoviewercomponents/Resources/") + name;
 }
 
+// The sizes are told, or else each picture would be decoded to learn its own; so it is the one that is
+// painted.
 QIcon refreshIcon()
 {
     QIcon icon;
     for (const int size : {32, 64, 128, 256, 512}) {
-        icon.addFile(resource(QStringLiteral("refresh_%1.png").arg(size)), QSize(), QIcon::Normal,
+        icon.addFile(resource(QStringLiteral("refresh_%1.png").arg(size)), QSize(size, size), QIcon::Normal,
                      QIcon::Off);
     }
     return icon;
@@ -150,7 +152,7 @@ void FeatureTreeWidget::setUpActions()
     m_actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
     m_actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
 
-    m_actionTogglePolling = new QAction(refreshIcon(), tr("Polling"), this);
+    m_actionTogglePolling = new QAction(m_ui->resetButton->icon(), tr("Polling"), this);
     m_actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
     m_actionTogglePolling->setIconText(tr("Polling"));
     m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
