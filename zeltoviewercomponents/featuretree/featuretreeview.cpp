@@ -271,8 +271,9 @@ void FeatureTreeView::scrollContentsBy(int dx, int dy)
 void FeatureTreeView::showEvent(QShowEvent *event)
 {
     m_wasShown = true;
-    m_editors->noteMovement();
     QTreeView::showEvent(event);
+    m_editors->noteMovement();
+    m_editors->equipViewport(); // at once, as what is shown is painted at once
 }
 
 void FeatureTreeView::updateRows(const QModelIndex &parent)

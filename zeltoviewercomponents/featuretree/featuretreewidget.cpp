@@ -14,6 +14,7 @@
 #include "featuretreeview.h"
 #include "nodemapfilter.h"
 #include "searchedit.h"
+#include "sizedicon_p.h"
 #include "ui_featuretreewidget.h"
 
 #include <QAction>
@@ -40,16 +41,9 @@ QString resource(const QString &name)
     return QStringLiteral(":/zeltoviewercomponents/Resources/") + name;
 }
 
-// The sizes are told, or else each picture would be decoded to learn its own; so it is the one that is
-// painted.
 QIcon refreshIcon()
 {
-    QIcon icon;
-    for (const int size : {32, 64, 128, 256, 512}) {
-        icon.addFile(resource(QStringLiteral("refresh_%1.png").arg(size)), QSize(size, size), QIcon::Normal,
-                     QIcon::Off);
-    }
-    return icon;
+    return QIcon(new SizedIconEngine(resource(QStringLiteral("refresh_%1.png")), {32, 64, 128, 256, 512}));
 }
 
 // Looks at the rows that exist and are not hidden at the level.

@@ -122,7 +122,10 @@ void OpenEditors::makeRoom(qsizetype count)
 
 void OpenEditors::noteMovement()
 {
-    m_hasMoved = true;
+    if (!std::exchange(m_hasMoved, true)) {
+        // Before the painting, which would have to paint once more what was opened meanwhile.
+        QMetaObject::invokeMethod(this, "equipViewport", Qt::QueuedConnection);
+    }
     if (m_isLimited) {
         m_idle.start(idlePause);
     }

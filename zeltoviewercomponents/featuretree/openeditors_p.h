@@ -44,8 +44,6 @@ public:
     void equip(const Rows &rows, bool areFurther);
     /*! Notes that other rows may be in the viewport when it is painted next. */
     void noteMovement();
-    /*! Opens the missing editors of the viewport's rows; before these are painted. */
-    void equipViewport();
     /*! Forgets editors that are closed or have lost their row. */
     void forgetClosed();
     /*! Forgets all editors, as the model has been reset. */
@@ -63,6 +61,10 @@ public:
 signals:
     /*! A permanent editor was destroyed, with or without being closed. */
     void editorDestroyed(QObject *editor);
+
+public slots:
+    /*! Opens the missing editors of the viewport's rows; before these are painted. */
+    void equipViewport();
 
 private slots:
     void workWhenIdle();
