@@ -79,8 +79,7 @@ void frameRow(QPainter *painter, const QRect &row, const QColor &color)
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
     , m_editors(std::make_unique<OpenEditors>(
-          this,
-          [this](const QModelIndex &index) { return isReachable(index) && wantsEditor(itemAt(index)); }))
+          this, [this](const QModelIndex &index) { return wantsEditor(itemAt(index)); }))
     , m_focus(std::make_unique<EditorFocus>(this, m_editors.get()))
 {
     keepBackgroundWhenDisabled();
@@ -156,12 +155,17 @@ void FeatureTreeView::createModel()
 
 IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension()
 {
-    return dynamic_cast<IFeatureTreeModelExtension *>(model());
+    // Asked for with every row that is looked at, and a cast takes longer than the rest.
+    if (m_castModel != model()) {
+        m_castModel = model();
+        m_extension = dynamic_cast<IFeatureTreeModelExtension *>(model());
+    }
+    return m_castModel ? m_extension : nullptr;
 }
 
 const IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension() const
 {
-    return dynamic_cast<const IFeatureTreeModelExtension *>(model());
+    return const_cast<FeatureTreeView *>(this)->getFeatureExtension();
 }
 
 FeatureTreeHighlighter *FeatureTreeView::getHightlighter()
@@ -191,17 +195,6 @@ FeatureTreeItem *FeatureTreeView::itemAt(const QModelIndex &index) const
 bool FeatureTreeView::isOpen(const QModelIndex &parent) const
 {
     return !parent.isValid() || isExpanded(parent);
-}
-
-// Returns whether scrolling alone brings the row into sight.
-bool FeatureTreeView::isReachable(const QModelIndex &index) const
-{
-    for (QModelIndex row = index; row.isValid(); row = row.parent()) {
-        if (isRowHidden(row.row(), row.parent()) || !isOpen(row.parent())) {
-            return false;
-        }
-    }
-    return index.isValid();
 }
 
 bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
@@ -239,7 +232,7 @@ QWidget *FeatureTreeView::indexWidget(const QModelIndex &index)
     m_editors->equipViewport();
     QWidget *const widget = QTreeView::indexWidget(index);
     const bool isMissing = !widget && !m_wasShown && m_editors->isLimited()
-        && index.column() == FeatureTreeColumns::value && isReachable(index);
+        && index.column() == FeatureTreeColumns::value && m_editors->isReachable(index);
     if (isMissing) {
         openPersistentEditor(index);
     }
@@ -342,8 +335,9 @@ void FeatureTreeView::spanRow(const QModelIndex &index)
 {
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
-    if (isFirstColumnSpanned(index.row(), index.parent()) != isFullRow) {
-        setFirstColumnSpanned(index.row(), index.parent(), isFullRow);
+    const QModelIndex parent = index.parent();
+    if (isFirstColumnSpanned(index.row(), parent) != isFullRow) {
+        setFirstColumnSpanned(index.row(), parent, isFullRow);
     }
 }
 

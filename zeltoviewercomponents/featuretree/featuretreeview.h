@@ -148,7 +148,6 @@ private:
     FeatureTreeItem *itemAt(const QModelIndex &index) const;
 
     bool isOpen(const QModelIndex &parent) const;
-    bool isReachable(const QModelIndex &index) const;
     void expandBranches(const ExpansionRule &isExpanded);
     void expandBranch(const QModelIndex &index, int depth, const ExpansionRule &isExpanded);
 
@@ -174,6 +173,8 @@ private:
     QModelIndex favoriteNamed(const QString &fullName);
     void restoreFavorite(const QString &fullName, int row);
 
+    QPointer<QAbstractItemModel> m_castModel; // whose extension is the one below
+    IFeatureTreeModelExtension *m_extension = nullptr;
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
     std::unique_ptr<OpenEditors> m_editors;

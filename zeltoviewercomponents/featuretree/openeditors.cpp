@@ -22,7 +22,7 @@ constexpr int idlePause = 30; // ms, longer than from one frame of scrolling to 
 constexpr int idleSlice = 4; // ms at once, so that whoever goes on working waits for no more than that
 constexpr int openPages = 1;
 constexpr int keptPages = 2; // who scrolls back and forth finds the editors still there
-constexpr qsizetype mostOpen = 4 * OpenEditors::limit;
+constexpr int closedAtOnce = 16;
 constexpr int unlimited = std::numeric_limits<int>::max();
 
 // Text that is yet to be entered, and what an editor is yet to hand out or to show when its time has come.
@@ -60,9 +60,9 @@ QList<int> rowsTo(QModelIndex index)
 
 } // namespace
 
-OpenEditors::OpenEditors(QTreeView *view, RowTest isWanted)
+OpenEditors::OpenEditors(QTreeView *view, RowTest wantsEditor)
     : m_view(view)
-    , m_isWanted(std::move(isWanted))
+    , m_wantsEditor(std::move(wantsEditor))
 {
     m_idle.setSingleShot(true);
     connect(&m_idle, SIGNAL(timeout()), this, SLOT(workWhenIdle()));
@@ -116,7 +116,7 @@ void OpenEditors::makeRoom(qsizetype count)
     }
     // Those of collapsed branches stay open, and are in nobody's way.
     const auto used = std::count_if(m_editors.cbegin(), m_editors.cend(),
-                                    [this](const Editor &editor) { return m_isWanted(editor.index); });
+                                    [this](const Editor &editor) { return isReachable(editor.index); });
     m_isLimited = used + count > limit;
 }
 
@@ -139,7 +139,7 @@ void OpenEditors::equipViewport()
     m_hasMoved = false;
     forgetClosed();
     equipRows(rowsNearViewport(0), unlimited);
-    if (m_isLimited && m_editors.size() > mostOpen) {
+    if (m_isLimited && m_editors.size() > limit) {
         closeFar(); // who drags the scroll bar is never idle
     }
     if (m_isTabOrderStale) {
@@ -154,7 +154,7 @@ bool OpenEditors::equipRows(const QModelIndexList &rows, int milliseconds)
     QElapsedTimer clock;
     clock.start();
     for (const QModelIndex &index : rows) {
-        if (m_view->indexWidget(index) || !m_isWanted(index)) {
+        if (m_view->indexWidget(index) || !m_wantsEditor(index)) {
             continue;
         }
         if (clock.elapsed() >= milliseconds) {
@@ -172,11 +172,10 @@ void OpenEditors::workWhenIdle()
     }
     equipViewport();
     forgetClosed();
-    if (!equipRows(rowsNearViewport(openPages), idleSlice)) {
+    if (!equipRows(rowsNearViewport(openPages), idleSlice) || !closeFar()) {
         m_idle.start(0);
         return;
     }
-    closeFar();
     if (m_isTabOrderStale) {
         orderTabs();
     }
@@ -247,16 +246,35 @@ QModelIndexList OpenEditors::rowsNearViewport(int pages) const
     return rows;
 }
 
-void OpenEditors::closeFar()
+// Returns whether those that could be closed are closed: many at once would be felt.
+bool OpenEditors::closeFar()
 {
     const QModelIndexList near = rowsNearViewport(keptPages);
     const QList<Editor> editors = m_editors;
+    int closed = 0;
     for (const Editor &editor : editors) {
-        if (!near.contains(editor.index) && !isInUse(editor.widget)) {
-            m_view->closePersistentEditor(editor.index);
+        if (near.contains(editor.index) || isInUse(editor.widget)) {
+            continue;
         }
+        if (closed == closedAtOnce) {
+            break;
+        }
+        m_view->closePersistentEditor(editor.index);
+        ++closed;
     }
     forgetClosed();
+    return closed < closedAtOnce;
+}
+
+bool OpenEditors::isReachable(const QModelIndex &index) const
+{
+    for (QModelIndex row = index; row.isValid(); row = row.parent()) {
+        const QModelIndex parent = row.parent();
+        if (m_view->isRowHidden(row.row(), parent) || (parent.isValid() && !m_view->isExpanded(parent))) {
+            return false;
+        }
+    }
+    return index.isValid();
 }
 
 // The focus walks from top to bottom; the base leaves editors in the order in which they were opened.

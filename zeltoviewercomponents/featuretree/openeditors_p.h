@@ -33,9 +33,8 @@ public:
     using RowTest = std::function<bool(const QModelIndex &)>;
     using Rows = QList<QPersistentModelIndex>;
 
-    /*! \a isWanted tells whether a row, by its value, is in sight of whoever scrolls to it and wants an
-     * editor. */
-    OpenEditors(QTreeView *view, RowTest isWanted);
+    /*! \a wantsEditor tells whether the row of a value wants an editor. */
+    OpenEditors(QTreeView *view, RowTest wantsEditor);
 
     /*! Opens the editor of \a index and keeps account of it. */
     void open(const QModelIndex &index);
@@ -51,6 +50,8 @@ public:
 
     /*! Returns whether \a index may get an editor now, and need not wait until it is scrolled to. */
     bool hasRoomFor(const QModelIndex &index);
+    /*! Returns whether scrolling alone brings the row into sight. */
+    bool isReachable(const QModelIndex &index) const;
     /*! Returns whether only the rows near the viewport have an editor. */
     bool isLimited() const { return m_isLimited; }
     /*! Returns whether \a editor is one of the permanent ones. */
@@ -80,11 +81,11 @@ private:
     QModelIndexList rowsNearViewport(int pages) const;
     bool equipRows(const QModelIndexList &rows, int milliseconds);
     void makeRoom(qsizetype count);
-    void closeFar();
+    bool closeFar();
     void orderTabs();
 
     QTreeView *m_view;
-    RowTest m_isWanted;
+    RowTest m_wantsEditor;
     QList<Editor> m_editors;
     QTimer m_idle;
     bool m_isLimited = false;
