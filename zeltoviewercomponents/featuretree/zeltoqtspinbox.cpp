@@ -6,12 +6,14 @@
 #include "editorhelpers.h"
 #include "integertext_p.h"
 #include "numbertext_p.h"
+#include "sharedpalette_p.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyleOptionSpinBox>
 
 #include <utility>
 
@@ -246,4 +248,10 @@ void ZeltoQtSpinBox::endRepeatedSteps()
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
     QSpinBox::mouseReleaseEvent(&release);
+}
+
+void ZeltoQtSpinBox::initStyleOption(QStyleOptionSpinBox *option) const
+{
+    QSpinBox::initStyleOption(option);
+    sharePalette(option);
 }
