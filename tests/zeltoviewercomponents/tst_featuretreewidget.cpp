@@ -15,10 +15,12 @@
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdlib>
@@ -185,6 +187,59 @@ bool hasColor(const QImage &image, const QColor &color)
 
 } // namespace
 
+/*! \brief Looks at each picture that a window full of flags shows: whether there is a check box in every row
+ * but the first ones. */
+class Film : public QObject
+{
+public:
+    explicit Film(TreeBench &bench)
+        : m_window(bench.widget.windowHandle())
+        , m_base(bench.view()->palette().color(QPalette::Base).rgb())
+    {
+        QWidget *const viewport = bench.view()->viewport();
+        const int left = bench.view()->header()->sectionPosition(1);
+        m_rowHeight = bench.view()->visualRect(bench.view()->indexAt(QPoint(0, 0))).height();
+        m_values = QRect(viewport->mapTo(&bench.widget, QPoint(left, 5 * m_rowHeight)),
+                         QSize(30, (viewport->height() / m_rowHeight - 5) * m_rowHeight));
+        bench.widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::UpdateRequest) {
+            return false;
+        }
+        watched->event(event);
+        const QImage picture = m_window->screen()->grabWindow(m_window->winId()).toImage().copy(m_values);
+        ++pictures;
+        for (int y = 0; y < picture.height(); y += m_rowHeight) {
+            emptyRows += isEmpty(picture.copy(0, y, picture.width(), m_rowHeight)) ? 1 : 0;
+        }
+        return true;
+    }
+
+    int pictures = 0;
+    int emptyRows = 0;
+
+private:
+    bool isEmpty(const QImage &row) const
+    {
+        for (int y = 0; y < row.height(); ++y) {
+            for (int x = 0; x < row.width(); ++x) {
+                if (row.pixel(x, y) != m_base) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
+    QWindow *m_window;
+    QRgb m_base;
+    int m_rowHeight = 0;
+    QRect m_values;
+};
+
 class TestFeatureTreeWidget : public FeatureTreeTest
 {
     Q_OBJECT
@@ -202,6 +257,7 @@ private slots:
     void clearsAndFillsAgain();
     void hidesTheCurrentRow();
     void opensEditorsWhereTheyAreSeen();
+    void showsNoRowWithoutItsEditor();
     void keepsUnsentTextOutOfSight();
     void opensFewEditorsAtOnce();
     void opensEditorsThatAreAskedFor();
@@ -507,6 +563,27 @@ void TestFeatureTreeWidget::opensEditorsWhereTheyAreSeen()
     const int reached = QStringView(name).mid(4).toInt() + 40;
     QCOMPARE(QApplication::focusWidget(),
              bench.editor<CheckBoxEditor>(QStringLiteral("Flag%1").arg(reached)));
+}
+
+void TestFeatureTreeWidget::showsNoRowWithoutItsEditor()
+{
+    TreeBench bench(flatCamera(600));
+    QTest::qWait(100);
+    Film film(bench);
+    QScrollBar *const bar = bench.view()->verticalScrollBar();
+    QRandomGenerator random(5);
+    for (int i = 0; i < 60; ++i) {
+        bar->setValue(i < 40 ? 3 * i : random.bounded(bar->maximum()));
+        QTest::qWait(5);
+    }
+    bench.type(QStringLiteral("flag1"));
+    QTest::qWait(20);
+    QTest::keyClick(bench.box(), Qt::Key_Backspace);
+    QTest::qWait(20);
+    bench.erase();
+    QTest::qWait(50);
+    QVERIFY2(film.pictures > 40, qPrintable(QString::number(film.pictures)));
+    QCOMPARE(film.emptyRows, 0);
 }
 
 void TestFeatureTreeWidget::keepsUnsentTextOutOfSight()
