@@ -227,14 +227,14 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
     m_editors->equip(wanted, true);
 }
 
-QWidget *FeatureTreeView::indexWidget(const QModelIndex &index)
+QWidget *FeatureTreeView::indexWidget(const QModelIndex &index) const
 {
     m_editors->equipViewport();
     QWidget *const widget = QTreeView::indexWidget(index);
     const bool isMissing = !widget && !m_wasShown && m_editors->isLimited()
         && index.column() == FeatureTreeColumns::value && m_editors->isReachable(index);
     if (isMissing) {
-        openPersistentEditor(index);
+        const_cast<FeatureTreeView *>(this)->openPersistentEditor(index);
     }
     return isMissing ? QTreeView::indexWidget(index) : widget;
 }
@@ -252,13 +252,21 @@ void FeatureTreeView::updateGeometries()
 {
     m_focus->takeFromUnseenRow();
     QTreeView::updateGeometries();
-    m_editors->noteMovement();
+    noteMovement();
 }
 
 void FeatureTreeView::scrollContentsBy(int dx, int dy)
 {
     QTreeView::scrollContentsBy(dx, dy);
+    noteMovement();
+}
+
+void FeatureTreeView::noteMovement()
+{
     m_editors->noteMovement();
+    if (m_batches == 0) {
+        m_editors->equipViewport();
+    }
 }
 
 void FeatureTreeView::showEvent(QShowEvent *event)

@@ -78,8 +78,7 @@ public:
     bool mayHaveOpenRows(const QModelIndex &branch) const;
     /*! Returns the widget at \a index, as the base does. The editor of a row in the viewport is opened first
      * if it is to be there when the row is painted. */
-    QWidget *indexWidget(const QModelIndex &index);
-    using QTreeView::indexWidget;
+    QWidget *indexWidget(const QModelIndex &index) const;
     /*! Lays out what is pending, so that expansion and geometry can be asked for. */
     using QTreeView::executeDelayedItemsLayout;
 
@@ -152,6 +151,7 @@ private:
     void expandBranch(const QModelIndex &index, int depth, const ExpansionRule &isExpanded);
 
     void finishBatch();
+    void noteMovement();
     void updateRowsBelow(const QModelIndex &parent, QList<QPersistentModelIndex> &wanted);
     void updateRow(const QModelIndex &index, const FeatureTreeItem *item);
     void updateCell(const QModelIndex &index);
