@@ -7,11 +7,13 @@
 #include "editorintake_p.h"
 #include "parentfont_p.h"
 #include "parentpalette_p.h"
+#include "sharedpalette_p.h"
 
 #include <platform/core/guard.h>
 
 #include <QApplication>
 #include <QEvent>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 using namespace ParameterCollection;
@@ -65,6 +67,12 @@ EnumEditor::~EnumEditor()
         // Removes nothing: the filter lapses with this object.
         m_watchedPopup->removeEventFilter(nullptr);
     }
+}
+
+void EnumEditor::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    sharePalette(option);
 }
 
 void EnumEditor::setEditorData(EditorData data)

@@ -33,6 +33,7 @@ public:
     void showPopup() override;
 
 protected:
+    void initStyleOption(QStyleOptionComboBox *option) const override;
     void changeEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 

@@ -17,11 +17,11 @@
 
 namespace {
 
+constexpr int briefWait = 100; // ms
+constexpr int retryPause = 250;
 // The user waits meanwhile; what is saved for good goes on without the lock afterwards, since a list that
 // cannot be saved is worse than one that is mixed.
-constexpr int briefWait = 100; // ms
 constexpr int longWait = 2000;
-constexpr int retryPause = 250;
 
 // During static destruction the names that a QSettings needs may be gone already.
 bool settingsUsable()
@@ -60,6 +60,33 @@ qsizetype indexIn(const QList<FavoriteEntry> &entries, const std::optional<Favor
 }
 
 } // namespace
+
+/*! \brief The list at one moment, and what differs from the store as far as is known here. */
+struct FavoritesData::State
+{
+    /*! Returns what is stored with the own changes done again on it. */
+    FavoritesList mergedWith(const FavoritesList &others) const;
+    /*! Stores the list, after merging into it what others have stored meanwhile. Returns null when it did not
+     * arrive. */
+    std::unique_ptr<Saved> saveIn(FavoritesStore &store) const;
+
+    FavoritesList list;
+    QList<Change> changes;
+    bool isViewAllChanged;
+    bool isExpandedChanged;
+    std::optional<FavoritesList> stored;
+    QString storedPlace;
+};
+
+/*! \brief What saving came to. */
+struct FavoritesData::Saved
+{
+    FavoritesList own;
+    qsizetype changes; // of the own ones
+    FavoritesList list;
+    FavoritesList stored;
+    QString place;
+};
 
 FavoritesData::FavoritesData(QObject *parent)
     : QObject(parent)
@@ -153,6 +180,7 @@ bool FavoritesData::load(const QString &group)
     if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
+    finishSaving();
     FavoritesStore store(group);
     const FavoritesList stored = store.read();
     const bool isImport = !isStoredIn(group);
@@ -196,28 +224,55 @@ bool FavoritesData::save(const QString &group)
     if (group.isEmpty() || !settingsUsable()) {
         return false;
     }
-    FavoritesStore store(group);
-    store.lock(longWait);
-    return saveTo(store, group);
+    finishSaving();
+    std::unique_ptr<Saved> saved;
+    {
+        FavoritesStore store(group);
+        store.lock(longWait);
+        saved = state().saveIn(store);
+    } // others hear of the list next, and perhaps save something
+    if (saved && isStoredIn(group)) {
+        takeOverSaved(*saved);
+    }
+    return saved != nullptr;
 }
 
-bool FavoritesData::saveTo(FavoritesStore &store, const QString &group)
+FavoritesData::State FavoritesData::state() const
 {
-    FavoritesList list{m_entries, m_viewAll, m_expanded};
-    if (m_stored && m_storedPlace == store.place()) {
-        const FavoritesList stored = store.read();
-        list = store.hasList() ? mergedWith(stored) : list;
+    return {{m_entries, m_viewAll, m_expanded},
+            m_changes,
+            m_viewAllChanged,
+            m_expandedChanged,
+            m_stored ? std::make_optional(*m_stored) : std::nullopt,
+            m_storedPlace};
+}
+
+std::unique_ptr<FavoritesData::Saved> FavoritesData::State::saveIn(FavoritesStore &store) const
+{
+    FavoritesList merged = list;
+    if (stored && storedPlace == store.place()) {
+        const FavoritesList others = store.read();
+        merged = store.hasList() ? mergedWith(others) : list;
     }
-    if (!store.write(list)) {
-        return false;
+    if (!store.write(merged)) {
+        return nullptr;
     }
-    if (isStoredIn(group)) {
-        forgetChanges();
-        setStored(store.read(), store.place());
-        store.unlock(); // before others hear of the list and perhaps save something
-        adopt(list);
+    return std::make_unique<Saved>(Saved{list, changes.size(), merged, store.read(), store.place()});
+}
+
+// What changed since the saving began is done again on what it came to.
+void FavoritesData::takeOverSaved(const Saved &saved)
+{
+    m_changes.remove(0, saved.changes);
+    m_viewAllChanged = m_viewAllChanged && m_viewAll != saved.own.viewAll;
+    m_expandedChanged = m_expandedChanged && m_expanded != saved.own.expanded;
+    setStored(saved.stored, saved.place);
+    FavoritesList list = saved.list;
+    for (const Change &change : std::as_const(m_changes)) {
+        repeat(change, list.entries);
     }
-    return true;
+    list.viewAll = m_viewAllChanged ? m_viewAll : list.viewAll;
+    adopt(list);
 }
 
 // Before there is a settings group, the one that was loaded or saved last takes its place.
@@ -232,18 +287,17 @@ void FavoritesData::setStored(const FavoritesList &stored, const QString &place)
     m_storedPlace = place;
 }
 
-// Returns what is stored with the own changes done again on it.
-FavoritesList FavoritesData::mergedWith(const FavoritesList &stored) const
+FavoritesList FavoritesData::State::mergedWith(const FavoritesList &others) const
 {
-    FavoritesList merged{m_entries, m_viewAll, m_expanded};
-    if (stored.entries != m_stored->entries) {
-        merged.entries = stored.entries;
-        for (const Change &change : m_changes) {
+    FavoritesList merged = list;
+    if (others.entries != stored->entries) {
+        merged.entries = others.entries;
+        for (const Change &change : changes) {
             repeat(change, merged.entries);
         }
     }
-    merged.viewAll = m_viewAllChanged ? m_viewAll : stored.viewAll;
-    merged.expanded = m_expandedChanged ? m_expanded : stored.expanded;
+    merged.viewAll = isViewAllChanged ? list.viewAll : others.viewAll;
+    merged.expanded = isExpandedChanged ? list.expanded : others.expanded;
     return merged;
 }
 
@@ -289,7 +343,7 @@ void FavoritesData::takeOverStored()
         return;
     }
     // Changes that could not be saved stay; saving them here would change the folder that is watched.
-    const FavoritesList merged = mergedWith(stored);
+    const FavoritesList merged = state().mergedWith(stored);
     setStored(stored, store.place());
     adopt(merged);
 }
@@ -300,6 +354,7 @@ void FavoritesData::watchStore()
     if (!file.isEmpty() && !m_watcher) {
         m_watcher = new SettingsWatcher(file, QCoreApplication::instance()); // which this may outlive
         connect(m_watcher, SIGNAL(changed()), this, SLOT(takeOverStored()));
+        connect(QCoreApplication::instance(), SIGNAL(aboutToQuit()), this, SLOT(saveChanges()));
     }
 }
 
@@ -315,23 +370,50 @@ void FavoritesData::forgetChanges()
     m_expandedChanged = false;
 }
 
+// Storing waits for the disk, and for other programs: not here, where the user waits for what was changed.
 void FavoritesData::saveScheduled()
 {
+    finishSaving();
     if (!hasChanges() || m_settingsGroup.isEmpty() || !settingsUsable()) {
         m_saveScheduled = false;
         return;
     }
-    FavoritesStore store(m_settingsGroup);
-    if (!store.lock(briefWait)) {
+    m_saving = std::async(std::launch::async, [this, state = state(), group = m_settingsGroup] {
+        FavoritesStore store(group);
+        const bool isLocked = store.lock(briefWait);
+        std::unique_ptr<Saved> saved = isLocked ? state.saveIn(store) : nullptr;
+        QMetaObject::invokeMethod(this, isLocked ? "finishSaving" : "saveLater", Qt::QueuedConnection);
+        return saved;
+    });
+}
+
+void FavoritesData::saveLater()
+{
+    if (m_saving.valid()) {
+        m_saving.get();
         QTimer::singleShot(retryPause, this, SLOT(saveScheduled()));
+    }
+}
+
+void FavoritesData::finishSaving()
+{
+    if (!m_saving.valid()) {
         return;
     }
+    const std::unique_ptr<Saved> saved = m_saving.get();
     m_saveScheduled = false;
-    saveTo(store, m_settingsGroup);
+    if (!saved) {
+        return;
+    }
+    takeOverSaved(*saved);
+    if (hasChanges()) {
+        scheduleSaving();
+    }
 }
 
 void FavoritesData::saveChanges()
 {
+    finishSaving();
     m_saveScheduled = false;
     if (hasChanges()) {
         save(m_settingsGroup);

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -23,8 +24,9 @@ struct FavoritesList;
  *
  * One object serves all models and views of the process and may be a static one: it uses QSettings only
  * while an application object exists. The list is kept in the application's settings, below the settings
- * group; changes are written when the event loop comes round, so that a crash loses none, and when a view is
- * detached. Attaching and setting the group need that object, too. GUI thread only.
+ * group; changes are written within a second, by another thread, so that a crash loses next to none and
+ * nobody waits for the disk; and at once when a view is detached and when the application quits. Attaching
+ * and setting the group need that object, too. GUI thread only.
  *
  * Other programs may use the same settings. What changed here is then done again on what they have stored,
  * and what changed there is taken over as soon as it is stored, where the settings are a file; elsewhere with
@@ -97,6 +99,9 @@ signals:
 
 private slots:
     void saveScheduled();
+    void saveLater();
+    void finishSaving();
+    void saveChanges();
     void takeOverStored();
 
 private:
@@ -109,6 +114,9 @@ private:
         std::optional<FavoriteEntry> next;
     };
 
+    struct State;
+    struct Saved;
+
     void notify();
     void settle();
     void bringAlong();
@@ -116,14 +124,13 @@ private:
     void replaceBy(const QString &group);
     void recordChange(Change::Kind kind, int index);
     void scheduleSaving();
-    void saveChanges();
-    bool saveTo(FavoritesStore &store, const QString &group);
+    State state() const;
+    void takeOverSaved(const Saved &saved);
     bool hasChanges() const;
     void forgetChanges();
     void watchStore();
     bool isStoredIn(const QString &group) const;
     void setStored(const FavoritesList &stored, const QString &place);
-    FavoritesList mergedWith(const FavoritesList &stored) const;
     static void repeat(const Change &change, QList<FavoriteEntry> &entries);
     void adopt(const FavoritesList &list);
 
@@ -142,4 +149,5 @@ private:
     std::unique_ptr<FavoritesList> m_stored; // as last seen, none before
     QString m_storedPlace;
     QPointer<SettingsWatcher> m_watcher;
+    std::future<std::unique_ptr<Saved>> m_saving; // while another thread is at it
 };

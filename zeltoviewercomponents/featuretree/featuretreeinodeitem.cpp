@@ -142,11 +142,9 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     setDisplayedName(m_displayName);
     const auto connectToParameter = [this] {
         if (m_parameter && !m_parameter->isExcluded()) {
-            connect(m_parameter.data(),
-                    SIGNAL(parameterDataChangedDecoupled(
-                        QSharedPointer<const ParameterCollection::ParameterData>)),
-                    this,
-                    SLOT(onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData>)));
+            // Not by name: looking the names up takes longer than all else that is done for a row.
+            connect(m_parameter.data(), &IParameter::parameterDataChangedDecoupled, this,
+                    &FeatureTreeINodeItem::onParameterDataChanged);
         }
     };
     Core::guardedRun(site("FeatureTreeINodeItem::FeatureTreeINodeItem"),
@@ -525,9 +523,15 @@ void FeatureTreeINodeItem::onParameterDataChanged(QSharedPointer<const Parameter
         m_editorType = editorType(m_parameter);
         childCount();
     }
+    const int place = self ? row() : -1;
     if (self) {
         m_isValueAloneNew = isValueAloneNew;
-        emit nodeUpdated(row(), this);
+    }
+    if (self && m_isReporting) {
+        getExtension()->onNodeUpdated(place, this);
+    }
+    if (self) {
+        emit nodeUpdated(place, this);
     }
     if (self) {
         m_isValueAloneNew = false;

@@ -85,6 +85,9 @@ public:
     bool isValueAloneNew() const { return m_isValueAloneNew; }
     /*! Sets what marks search hits in the tool tip; not owned, may be null. */
     void setHighlighter(FeatureTreeHighlighter *highlighter);
+    /*! Sets whether the item tells its model of new snapshots. A model that adopts the item switches it on:
+     * the connection that it stands for would take as much memory as the item, and as long to make. */
+    void setReporting(bool reports) { m_isReporting = reports; }
     /*! Asks the parameter for a re-read that is published even when nothing changed. */
     void scheduleForcedParameterDataChangedCheck();
 
@@ -137,6 +140,7 @@ private:
     bool m_useUtf8 = false;
     bool m_hasWritten = false;
     bool m_isValueAloneNew = false;
+    bool m_isReporting = false;
     QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;
     QString m_unit;

@@ -285,6 +285,7 @@ void FeatureTreeLook::restoreCurrentRow(FeatureTreeView &view) const
 void FeatureTreeLook::restoreScrollPosition(FeatureTreeView &view) const
 {
     if (m_scrollPosition) {
+        const FeatureTreeView::Batch batch(&view); // no editors for rows that are scrolled away at once
         view.executeDelayedItemsLayout();
         view.horizontalScrollBar()->setValue(m_scrollPosition->x());
         view.verticalScrollBar()->setValue(m_scrollPosition->y());

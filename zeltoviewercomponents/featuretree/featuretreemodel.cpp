@@ -458,8 +458,7 @@ void FeatureTreeModel::adoptNodeItem(FeatureTreeINodeItem *item, bool isFullRowI
     item->setHighlighter(m_highlighter);
     item->SetIsFullRowItem(isFullRowItem);
     item->SetIsSpecialNode(false);
-    connect(item, SIGNAL(nodeUpdated(int, FeatureTreeINodeItem *)), this,
-            SLOT(onNodeUpdated(int, FeatureTreeINodeItem *)));
+    item->setReporting(true);
 }
 
 void FeatureTreeModel::addChildren(FeatureTreeINodeItem *parent)

@@ -17,6 +17,7 @@
 #include <platform/core/guard.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -30,6 +31,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.libs.zeltoViewerComponents.featureTreeView")
 
@@ -76,7 +78,8 @@ void frameRow(QPainter *painter, const QRect &row, const QColor &color)
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
-    , m_editors(std::make_unique<OpenEditors>(this))
+    , m_editors(std::make_unique<OpenEditors>(
+          this, [this](const QModelIndex &index) { return wantsEditor(itemAt(index)); }))
     , m_focus(std::make_unique<EditorFocus>(this, m_editors.get()))
 {
     keepBackgroundWhenDisabled();
@@ -152,12 +155,17 @@ void FeatureTreeView::createModel()
 
 IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension()
 {
-    return dynamic_cast<IFeatureTreeModelExtension *>(model());
+    // Asked for with every row that is looked at, and a cast takes longer than the rest.
+    if (m_castModel != model()) {
+        m_castModel = model();
+        m_extension = dynamic_cast<IFeatureTreeModelExtension *>(model());
+    }
+    return m_castModel ? m_extension : nullptr;
 }
 
 const IFeatureTreeModelExtension *FeatureTreeView::getFeatureExtension() const
 {
-    return dynamic_cast<const IFeatureTreeModelExtension *>(model());
+    return const_cast<FeatureTreeView *>(this)->getFeatureExtension();
 }
 
 FeatureTreeHighlighter *FeatureTreeView::getHightlighter()
@@ -191,8 +199,8 @@ bool FeatureTreeView::isOpen(const QModelIndex &parent) const
 
 bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
 {
-    return item->usePersistentEditor() && item->getVisibility() <= m_visibility
-        && item->getAccessMode() > GenApi::NA;
+    return item && item->usePersistentEditor() && item->ShowMe(m_visibility)
+        && item->getVisibility() <= m_visibility && item->getAccessMode() > GenApi::NA;
 }
 
 void FeatureTreeView::openPersistentEditor(const QModelIndex &index)
@@ -208,22 +216,27 @@ void FeatureTreeView::openPersistentEditorsForChildren(const QModelIndex &parent
     if (!isOpen(parent)) {
         return;
     }
+    OpenEditors::Rows wanted;
     const int count = model()->rowCount(parent);
-    for (int row = 0; row < count && !m_editors->isBudgetSpent(); ++row) {
+    for (int row = 0; row < count && wanted.size() <= OpenEditors::limit; ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
-        FeatureTreeItem *const item = itemAt(index);
-        if (item && item->ShowMe(m_visibility) && item->usePersistentEditor() && !indexWidget(index)) {
-            openPersistentEditor(index);
+        if (wantsEditor(itemAt(index))) {
+            wanted.append(index);
         }
     }
+    m_editors->equip(wanted, true);
 }
 
-void FeatureTreeView::ensureEditors()
+QWidget *FeatureTreeView::indexWidget(const QModelIndex &index) const
 {
-    m_editors->ensureNearViewport([this](const QModelIndex &index) {
-        FeatureTreeItem *const item = itemAt(index);
-        return item && wantsEditor(item) && item->ShowMe(m_visibility);
-    });
+    m_editors->equipViewport();
+    QWidget *const widget = QTreeView::indexWidget(index);
+    const bool isMissing = !widget && !m_wasShown && m_editors->isLimited()
+        && index.column() == FeatureTreeColumns::value && m_editors->isReachable(index);
+    if (isMissing) {
+        const_cast<FeatureTreeView *>(this)->openPersistentEditor(index);
+    }
+    return isMissing ? QTreeView::indexWidget(index) : widget;
 }
 
 void FeatureTreeView::doItemsLayout()
@@ -239,13 +252,29 @@ void FeatureTreeView::updateGeometries()
 {
     m_focus->takeFromUnseenRow();
     QTreeView::updateGeometries();
-    ensureEditors();
+    noteMovement();
 }
 
 void FeatureTreeView::scrollContentsBy(int dx, int dy)
 {
     QTreeView::scrollContentsBy(dx, dy);
-    ensureEditors();
+    noteMovement();
+}
+
+void FeatureTreeView::noteMovement()
+{
+    m_editors->noteMovement();
+    if (m_batches == 0) {
+        m_editors->equipViewport();
+    }
+}
+
+void FeatureTreeView::showEvent(QShowEvent *event)
+{
+    m_wasShown = true;
+    QTreeView::showEvent(event);
+    m_editors->noteMovement();
+    m_editors->equipViewport(); // at once, as what is shown is painted at once
 }
 
 void FeatureTreeView::updateRows(const QModelIndex &parent)
@@ -253,32 +282,42 @@ void FeatureTreeView::updateRows(const QModelIndex &parent)
     if (!model() || !isOpen(parent)) {
         return;
     }
+    if (m_batches > 0) {
+        m_areRowsStale = true;
+        return;
+    }
+    OpenEditors::Rows wanted;
+    updateRowsBelow(parent, wanted);
+    m_editors->equip(wanted, parent.isValid());
+}
+
+// Appends the rows that want an editor, and no more of them than tell whether there are too many.
+void FeatureTreeView::updateRowsBelow(const QModelIndex &parent, QList<QPersistentModelIndex> &wanted)
+{
     const int count = model()->rowCount(parent);
     for (int row = 0; row < count; ++row) {
-        updateRow(row, parent);
         const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
-        if (model()->hasChildren(index)) {
-            updateRows(index);
+        FeatureTreeItem *const item = itemAt(index);
+        if (!item) {
+            continue;
+        }
+        updateRow(index, item);
+        if (wanted.size() <= OpenEditors::limit && wantsEditor(item)) {
+            wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
+        }
+        if (item->hasChildren() && isExpanded(index)) {
+            updateRowsBelow(index, wanted);
         }
     }
 }
 
-void FeatureTreeView::updateRow(int row, const QModelIndex &parent)
+void FeatureTreeView::updateRow(const QModelIndex &index, const FeatureTreeItem *item)
 {
-    const QModelIndex index = model()->index(row, FeatureTreeColumns::value, parent);
-    FeatureTreeItem *const item = itemAt(index);
-    if (!item) {
-        return;
-    }
-    const bool mayBeFullRow = item->isCategory() || !qobject_cast<FeatureTreeINodeItem *>(item);
+    const bool mayBeFullRow = item->isCategory() || !qobject_cast<const FeatureTreeINodeItem *>(item);
     if (mayBeFullRow) {
         spanRow(index);
     }
-    const bool isShown = item->ShowMe(m_visibility);
-    showRow(row, parent, isShown);
-    if (isShown && item->usePersistentEditor() && !m_editors->isBudgetSpent() && !indexWidget(index)) {
-        openPersistentEditor(index);
-    }
+    showRow(index.row(), index.parent(), item->ShowMe(m_visibility));
 }
 
 void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
@@ -304,20 +343,37 @@ void FeatureTreeView::spanRow(const QModelIndex &index)
 {
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
-    if (isFirstColumnSpanned(index.row(), index.parent()) != isFullRow) {
-        setFirstColumnSpanned(index.row(), index.parent(), isFullRow);
+    const QModelIndex parent = index.parent();
+    if (isFirstColumnSpanned(index.row(), parent) != isFullRow) {
+        setFirstColumnSpanned(index.row(), parent, isFullRow);
     }
 }
 
 void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
 {
-    QTreeView::rowsInserted(parent, start, end);
-    if (m_isRebuilding || !isOpen(parent)) {
+    if (m_batches > 0 && !QAccessible::isActive()) {
+        m_areRowsStale = true; // the base would lay out all rows, and move all editors, for each of them
         return;
     }
-    for (int row = start; row <= end; ++row) {
-        updateRow(row, parent);
+    QTreeView::rowsInserted(parent, start, end);
+    if (!isOpen(parent)) {
+        return;
     }
+    if (m_batches > 0) {
+        m_areRowsStale = true;
+        return;
+    }
+    OpenEditors::Rows wanted;
+    for (int row = start; row <= end; ++row) {
+        const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
+        if (FeatureTreeItem *const item = itemAt(index)) {
+            updateRow(index, item);
+            if (wantsEditor(item)) {
+                wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
+            }
+        }
+    }
+    m_editors->equip(wanted, true);
 }
 
 void FeatureTreeView::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end)
@@ -334,10 +390,6 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
                                   const QList<int> &roles)
 {
     dropLockedEditor();
-    if (m_isRebuilding) {
-        QTreeView::dataChanged(topLeft, bottomRight, roles);
-        return;
-    }
     const bool isAsBefore = topLeft == bottomRight && isNameAsBefore(topLeft);
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
@@ -347,6 +399,11 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
                              }
                              updateCell(topLeft);
                          });
+    }
+    if (m_batches > 0) {
+        showInEditor(topLeft);
+        m_isLayoutStale = true; // which paints all rows
+        return;
     }
     executeDelayedItemsLayout();
     if (!isAsBefore) {
@@ -361,6 +418,13 @@ bool FeatureTreeView::isNameAsBefore(const QModelIndex &index) const
         ? qobject_cast<const FeatureTreeINodeItem *>(itemAt(index))
         : nullptr;
     return item && item->isValueAloneNew();
+}
+
+void FeatureTreeView::showInEditor(const QModelIndex &index)
+{
+    if (QWidget *const editor = QTreeView::indexWidget(index)) {
+        itemDelegate()->setEditorData(editor, index);
+    }
 }
 
 void FeatureTreeView::updateCell(const QModelIndex &index)
@@ -386,7 +450,7 @@ void FeatureTreeView::updateEditor(const QModelIndex &index, FeatureTreeItem *it
     const bool isHidden = isRowHidden(index.row(), index.parent());
     const bool isAvailable = item->getAccessMode() > GenApi::NA;
     const auto *const nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
-    QWidget *const editor = indexWidget(index);
+    QWidget *const editor = QTreeView::indexWidget(index);
     if (!editor) {
         if (!isHidden && isAvailable && item->usePersistentEditor() && m_editors->hasRoomFor(index)) {
             openPersistentEditor(index);
@@ -440,9 +504,7 @@ void FeatureTreeView::onLayoutChanged()
     m_focus->takeFromLostRow();
     m_editors->forgetClosed();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
-    if (!m_isRebuilding) {
-        updateRows(QModelIndex());
-    }
+    updateRows(QModelIndex());
     if (m_hadCurrent && !currentIndex().isValid()) {
         emit onCurrentChanged(QModelIndex()); // filtered out, of which the base tells nobody
     }
@@ -479,23 +541,23 @@ void FeatureTreeView::setExpandedRows(const std::function<bool(const QModelIndex
 void FeatureTreeView::setExpandedRows(const QModelIndex &top,
                                       const std::function<bool(const QModelIndex &)> &isExpanded)
 {
+    const Batch batch(this);
     const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout(); // so that expanding merely stores the state
-    expandBranch(top, 0, isOpen(top.parent()),
-                 [&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
+    expandBranch(top, 0, [&isExpanded](const QModelIndex &index, int) { return isExpanded(index); });
 }
 
 void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
 {
+    const Batch batch(this);
     const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout();
     for (int row = 0; row < model()->rowCount(); ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name), 0, true, isExpanded);
+        expandBranch(model()->index(row, FeatureTreeColumns::name), 0, isExpanded);
     }
 }
 
-void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, bool isReachable,
-                                   const ExpansionRule &isExpanded)
+void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, const ExpansionRule &isExpanded)
 {
     if (!model()->hasChildren(index)) {
         return;
@@ -503,17 +565,14 @@ void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, bool isR
     const bool expand = isExpanded(index, depth);
     if (expand != this->isExpanded(index)) {
         setExpanded(index, expand);
-        if (expand && isReachable) {
-            updateRows(index);
-        }
+        m_areRowsStale = m_areRowsStale || expand;
     }
     if (!expand && !mayHaveOpenRows(index)) {
         return; // nothing to close, and nothing to create for it
     }
     const int count = model()->rowCount(index);
     for (int row = 0; row < count; ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name, index), depth + 1, isReachable && expand,
-                     isExpanded);
+        expandBranch(model()->index(row, FeatureTreeColumns::name, index), depth + 1, isExpanded);
     }
 }
 
@@ -560,8 +619,10 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const bool isFavorite = branch.isValid() && current.parent() == branch;
     const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
     const QStringList selectedNames = selectedFavorites(branch);
-    const bool isScrolled = isVisible() && verticalScrollBar()->value() > 0;
-    const QPersistentModelIndex top = isScrolled && !isFavorite ? indexAt(QPoint(0, 0)) : QModelIndex();
+    const Batch batch(this);
+    if (!isFavorite && !m_topRow.isValid() && isVisible() && verticalScrollBar()->value() > 0) {
+        m_topRow = indexAt(QPoint(0, 0)); // rows that come and go above do not move what is looked at
+    }
     if (isFavorite) {
         // The base would make one neighbour after the other the current row while the rows go.
         dropEditor();
@@ -569,23 +630,17 @@ void FeatureTreeView::onFavoriteDataUpdated()
         selectionModel()->clear();
     }
 
-    {
-        const QScopedValueRollback<bool> rebuilding(m_isRebuilding, true);
-        extension->rebuildFavoriteItems();
-    }
-    for (const QString &name : selectedNames) {
-        const QModelIndex index = extension->findItemByFullName(name, nullptr, FeatureTreeColumns::name);
-        selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
-    updateRows(QModelIndex());
+    m_areRowsStale = true;
+    extension->rebuildFavoriteItems();
     if (m_highlighter.text().isEmpty() || !branch.isValid()) { // a search has its own expansion
         onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
     }
+    for (const QString &name : selectedNames) {
+        const QModelIndex index = favoriteNamed(name);
+        selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
     if (isFavorite) {
         restoreFavorite(currentName, current.row());
-    } else if (top.isValid()) {
-        executeDelayedItemsLayout();
-        scrollTo(top, PositionAtTop); // rows that come and go above do not move what is looked at
     }
 }
 
@@ -601,17 +656,25 @@ QStringList FeatureTreeView::selectedFavorites(const QModelIndex &branch) const
     return fullNames;
 }
 
+QModelIndex FeatureTreeView::favoriteNamed(const QString &fullName)
+{
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    FeatureTreeItem *const branch = itemAt(extension->GetFavoritesRootIndex());
+    return branch ? extension->findItemByFullName(fullName, branch, FeatureTreeColumns::name) : QModelIndex();
+}
+
 // Makes the favorite of that name the current row, or else what took its place.
 void FeatureTreeView::restoreFavorite(const QString &fullName, int row)
 {
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     const QModelIndex branch = extension->GetFavoritesRootIndex();
-    QModelIndex index = extension->findItemByFullName(fullName, nullptr, FeatureTreeColumns::name);
+    QModelIndex index = favoriteNamed(fullName);
     if (!index.isValid()) {
         const int last = model()->rowCount(branch) - 1;
         index = model()->index(std::min(row, last), FeatureTreeColumns::name, branch);
     }
-    const bool isUsable = index.flags().testFlag(Qt::ItemIsSelectable) && !isRowHidden(index.row(), branch);
+    const FeatureTreeItem *const item = itemAt(index);
+    const bool isUsable = index.flags().testFlag(Qt::ItemIsSelectable) && item && item->ShowMe(m_visibility);
     setCurrentIndex(isUsable ? index : branch);
 }
 
@@ -630,8 +693,38 @@ void FeatureTreeView::setVisibility(GenApi::EVisibility level)
     }
 }
 
+FeatureTreeView::Batch::Batch(FeatureTreeView *view)
+    : m_view(view)
+{
+    ++view->m_batches;
+}
+
+FeatureTreeView::Batch::~Batch()
+{
+    if (m_view && --m_view->m_batches == 0) {
+        m_view->finishBatch();
+    }
+}
+
+void FeatureTreeView::finishBatch()
+{
+    const bool areRowsStale = std::exchange(m_areRowsStale, false);
+    if (areRowsStale || std::exchange(m_isLayoutStale, false)) {
+        m_isLayoutStale = false;
+        scheduleDelayedItemsLayout();
+    }
+    if (areRowsStale) {
+        updateRows(QModelIndex());
+    }
+    if (const QModelIndex top = std::exchange(m_topRow, {}); top.isValid()) {
+        scrollTo(top, PositionAtTop);
+    }
+}
+
 void FeatureTreeView::paintEvent(QPaintEvent *event)
 {
+    executeDelayedItemsLayout();
+    m_editors->equipViewport();
     {
         const QScopedValueRollback<QRegion> painted(m_painted, event->region());
         QTreeView::paintEvent(event);

@@ -10,6 +10,8 @@
 
 #include <QElapsedTimer>
 #include <QPalette>
+#include <QPersistentModelIndex>
+#include <QPointer>
 #include <QRegion>
 #include <QStringList>
 #include <QTreeView>
@@ -26,14 +28,28 @@ class OpenEditors;
 /*! \brief The tree view of the feature tree.
  *
  * Builds its own models and delegate, keeps an in-place editor open on every row of the value column that
- * wants one, and hides rows above the user level. Up to 200 editors stay open wherever their rows are; beyond
- * that number they are open in and near the viewport and come and go as the view scrolls.
+ * wants one, and hides rows above the user level. Where more than 64 rows want an editor, those of the
+ * viewport have it before they are painted, the next ones in both directions when nothing else is to do, and
+ * others when they are scrolled to. In a view that was never shown, they are opened when they are asked for.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeView : public QTreeView
 {
     Q_OBJECT
 
 public:
+    /*! \brief One gesture with many consequences: while a batch lives, the view only notes what its model
+     * tells it. At the end of the outermost one it looks at its rows once, and lays them out once. */
+    class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT Batch
+    {
+    public:
+        explicit Batch(FeatureTreeView *view);
+        ~Batch();
+        Q_DISABLE_COPY_MOVE(Batch)
+
+    private:
+        QPointer<FeatureTreeView> m_view;
+    };
+
     explicit FeatureTreeView(QWidget *parent = nullptr);
     ~FeatureTreeView() override;
 
@@ -61,6 +77,9 @@ public:
     void setExpandedRows(const QModelIndex &top, const std::function<bool(const QModelIndex &)> &isExpanded);
     /*! Returns false for leaves and for branches whose rows nobody has asked for: none of these is open. */
     bool mayHaveOpenRows(const QModelIndex &branch) const;
+    /*! Returns the widget at \a index, as the base does. The editor of a row in the viewport is opened first
+     * if it is to be there when the row is painted. */
+    QWidget *indexWidget(const QModelIndex &index) const;
     /*! Lays out what is pending, so that expansion and geometry can be asked for. */
     using QTreeView::executeDelayedItemsLayout;
 
@@ -106,6 +125,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent *event) override;
 
 protected slots:
     void commitData(QWidget *editor) override;
@@ -129,16 +149,19 @@ private:
 
     bool isOpen(const QModelIndex &parent) const;
     void expandBranches(const ExpansionRule &isExpanded);
-    void expandBranch(const QModelIndex &index, int depth, bool isReachable, const ExpansionRule &isExpanded);
+    void expandBranch(const QModelIndex &index, int depth, const ExpansionRule &isExpanded);
 
-    void updateRow(int row, const QModelIndex &parent);
     bool isNameAsBefore(const QModelIndex &index) const;
+    void finishBatch();
+    void noteMovement();
+    void updateRowsBelow(const QModelIndex &parent, QList<QPersistentModelIndex> &wanted);
+    void updateRow(const QModelIndex &index, const FeatureTreeItem *item);
     void updateCell(const QModelIndex &index);
     void showRow(int row, const QModelIndex &parent, bool isShown);
     void spanRow(const QModelIndex &index);
 
     bool wantsEditor(FeatureTreeItem *item) const;
-    void ensureEditors();
+    void showInEditor(const QModelIndex &index);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void dropEditor();
     void dropLockedEditor();
@@ -149,15 +172,22 @@ private:
     void goToNeighbour(const QModelIndex &from, bool below);
 
     QStringList selectedFavorites(const QModelIndex &branch) const;
+    QModelIndex favoriteNamed(const QString &fullName);
     void restoreFavorite(const QString &fullName, int row);
 
+    QPointer<QAbstractItemModel> m_castModel; // whose extension is the one below
+    IFeatureTreeModelExtension *m_extension = nullptr;
     GenApi::EVisibility m_visibility = GenApi::Guru;
     FeatureTreeHighlighter m_highlighter;
     std::unique_ptr<OpenEditors> m_editors;
     std::unique_ptr<EditorFocus> m_focus;
     bool m_hadCurrent = false; // before the layout changed
     bool m_isExpandingMany = false; // the rows are updated elsewhere, and nothing is recorded
-    bool m_isRebuilding = false; // one look at the rows, and one layout, follow all the changes
+    int m_batches = 0; // that live
+    bool m_areRowsStale = false; // when the batch ends
+    bool m_isLayoutStale = false;
+    QPersistentModelIndex m_topRow; // of the viewport, before the batch
+    bool m_wasShown = false;
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
     bool m_keepsEditor = false; // nor does one close
     QPersistentModelIndex m_typingRow; // while another row is the current one for its menu

@@ -14,6 +14,7 @@
 #include "featuretreeview.h"
 #include "nodemapfilter.h"
 #include "searchedit.h"
+#include "sizedicon_p.h"
 #include "ui_featuretreewidget.h"
 
 #include <QAction>
@@ -42,12 +43,7 @@ QString resource(const QString &name)
 
 QIcon refreshIcon()
 {
-    QIcon icon;
-    for (const int size : {32, 64, 128, 256, 512}) {
-        icon.addFile(resource(QStringLiteral("refresh_%1.png").arg(size)), QSize(), QIcon::Normal,
-                     QIcon::Off);
-    }
-    return icon;
+    return QIcon(new SizedIconEngine(resource(QStringLiteral("refresh_%1.png")), {32, 64, 128, 256, 512}));
 }
 
 // Looks at the rows that exist and are not hidden at the level.
@@ -151,7 +147,7 @@ void FeatureTreeWidget::setUpActions()
     m_actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
     m_actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
 
-    m_actionTogglePolling = new QAction(refreshIcon(), tr("Polling"), this);
+    m_actionTogglePolling = new QAction(m_ui->resetButton->icon(), tr("Polling"), this);
     m_actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
     m_actionTogglePolling->setIconText(tr("Polling"));
     m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);

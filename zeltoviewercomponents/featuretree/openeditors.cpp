@@ -6,24 +6,46 @@
 #include "featuretreenames.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QTreeView>
 
 #include <algorithm>
+#include <limits>
 #include <map>
+#include <utility>
 
 namespace {
 
-constexpr qsizetype editorBudget = 200;
-constexpr int rowsBeyondViewport = 4;
+constexpr int idlePause = 30; // ms, longer than from one frame of scrolling to the next
+constexpr int idleSlice = 4; // ms at once, so that whoever goes on working waits for no more than that
+constexpr int openPages = 1;
+constexpr int keptPages = 2; // who scrolls back and forth finds the editors still there
+constexpr int closedAtOnce = 16;
+constexpr int unlimited = std::numeric_limits<int>::max();
 
+// Text that is yet to be entered, and what an editor is yet to hand out or to show when its time has come.
+bool hasUnfinishedWork(const QWidget *editor)
+{
+    const auto *const self = qobject_cast<const QLineEdit *>(editor);
+    const QList<QLineEdit *> lineEdits = editor->findChildren<QLineEdit *>();
+    const QList<QTimer *> timers = editor->findChildren<QTimer *>();
+    return (self && self->isModified())
+        || std::any_of(lineEdits.cbegin(), lineEdits.cend(),
+                       [](const QLineEdit *lineEdit) { return lineEdit->isModified(); })
+        || std::any_of(timers.cbegin(), timers.cend(), [](const QTimer *timer) { return timer->isActive(); });
+}
+
+// Also behind a menu, a list or another window, which the focus comes back from.
 bool isInUse(const QWidget *editor)
 {
-    const QWidget *const focus = QApplication::focusWidget();
+    const QWidget *const focus = editor->window()->focusWidget();
     const bool hasFocus = focus && (focus == editor || editor->isAncestorOf(focus));
     const QWidget *const popup = QApplication::activePopupWidget();
-    return hasFocus || (popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor));
+    const bool hasPopup = popup && (editor->isAncestorOf(popup) || popup->parentWidget() == editor);
+    const bool isPressed = QGuiApplication::mouseButtons() != Qt::NoButton && editor->underMouse();
+    return hasFocus || hasPopup || isPressed || hasUnfinishedWork(editor);
 }
 
 // Returns the rows on the way from the root, by which indexes sort from top to bottom.
@@ -38,9 +60,12 @@ QList<int> rowsTo(QModelIndex index)
 
 } // namespace
 
-OpenEditors::OpenEditors(QTreeView *view)
+OpenEditors::OpenEditors(QTreeView *view, RowTest wantsEditor)
     : m_view(view)
+    , m_wantsEditor(std::move(wantsEditor))
 {
+    m_idle.setSingleShot(true);
+    connect(&m_idle, SIGNAL(timeout()), this, SLOT(workWhenIdle()));
     // When an editor's row is filtered out, the base releases the editor but keeps its address as that of a
     // permanent one; a later editor at the same address could never be closed.
     connect(this, SIGNAL(editorDestroyed(QObject *)), view, SLOT(editorDestroyed(QObject *)));
@@ -63,21 +88,93 @@ void OpenEditors::open(const QModelIndex &index)
     connect(editor, SIGNAL(destroyed(QObject *)), this, SIGNAL(editorDestroyed(QObject *)));
 }
 
-void OpenEditors::ensureNearViewport(const std::function<bool(const QModelIndex &)> &wantsEditor)
+void OpenEditors::equip(const Rows &rows, bool areFurther)
 {
-    if (m_isEnsuring || !m_view->isVisible()) {
+    forgetClosed();
+    const auto isMissing = [this](const QPersistentModelIndex &row) { return !m_view->indexWidget(row); };
+    if (!areFurther) {
+        m_isLimited = rows.size() > limit;
+    } else {
+        makeRoom(std::count_if(rows.cbegin(), rows.cend(), isMissing));
+    }
+    noteMovement();
+    if (m_isLimited) {
+        m_view->viewport()->update();
         return;
     }
-    const QScopedValueRollback<bool> ensuring(m_isEnsuring, true); // what opens may lay out the view
-    forgetClosed();
-    const QModelIndexList near = rowsNearViewport();
-    for (const QModelIndex &index : near) {
-        if (!m_view->indexWidget(index) && wantsEditor(index)) {
-            open(index);
+    for (const QPersistentModelIndex &row : rows) {
+        if (row.isValid() && isMissing(row)) {
+            open(row);
         }
     }
-    if (m_editors.size() > editorBudget) {
-        closeFar(near);
+}
+
+void OpenEditors::makeRoom(qsizetype count)
+{
+    if (m_isLimited || m_editors.size() + count <= limit) {
+        return;
+    }
+    // Those of collapsed branches stay open, and are in nobody's way.
+    const auto used = std::count_if(m_editors.cbegin(), m_editors.cend(),
+                                    [this](const Editor &editor) { return isReachable(editor.index); });
+    m_isLimited = used + count > limit;
+}
+
+void OpenEditors::noteMovement()
+{
+    if (!std::exchange(m_hasMoved, true)) {
+        // Before the painting, which would have to paint once more what was opened meanwhile.
+        QMetaObject::invokeMethod(this, "equipViewport", Qt::QueuedConnection);
+    }
+    if (m_isLimited) {
+        m_idle.start(idlePause);
+    }
+}
+
+void OpenEditors::equipViewport()
+{
+    if (m_isEquipping || !m_hasMoved || !m_view->isVisible()) {
+        return;
+    }
+    m_hasMoved = false;
+    forgetClosed();
+    equipRows(rowsNearViewport(0), unlimited);
+    if (m_isLimited && m_editors.size() > limit) {
+        closeFar(); // who drags the scroll bar is never idle
+    }
+    if (m_isTabOrderStale) {
+        orderTabs();
+    }
+}
+
+// Returns whether the time sufficed.
+bool OpenEditors::equipRows(const QModelIndexList &rows, int milliseconds)
+{
+    const QScopedValueRollback<bool> equipping(m_isEquipping, true); // what opens may lay out the view
+    QElapsedTimer clock;
+    clock.start();
+    for (const QModelIndex &index : rows) {
+        if (m_view->indexWidget(index) || !m_wantsEditor(index)) {
+            continue;
+        }
+        if (clock.elapsed() >= milliseconds) {
+            return false;
+        }
+        open(index);
+    }
+    return true;
+}
+
+void OpenEditors::workWhenIdle()
+{
+    if (!m_isLimited || !m_view->isVisible()) {
+        return;
+    }
+    equipViewport();
+    forgetClosed();
+    if (!equipRows(rowsNearViewport(openPages), idleSlice) || !closeFar()) {
+        m_idle.start(0);
+        return;
     }
     if (m_isTabOrderStale) {
         orderTabs();
@@ -95,16 +192,14 @@ void OpenEditors::forgetClosed()
 void OpenEditors::forgetAll()
 {
     m_editors.clear();
+    m_isLimited = false;
 }
 
-bool OpenEditors::hasRoomFor(const QModelIndex &index) const
+bool OpenEditors::hasRoomFor(const QModelIndex &index)
 {
-    return !isBudgetSpent() || isNearViewport(index);
-}
-
-bool OpenEditors::isBudgetSpent() const
-{
-    return m_view->isVisible() && m_editors.size() >= editorBudget;
+    forgetClosed();
+    makeRoom(1);
+    return !m_isLimited || (m_view->isVisible() && isNearViewport(index, openPages));
 }
 
 bool OpenEditors::contains(const QWidget *editor) const
@@ -126,38 +221,60 @@ QModelIndex OpenEditors::rowOf(const QWidget *widget) const
     return {};
 }
 
-bool OpenEditors::isNearViewport(const QModelIndex &index) const
+bool OpenEditors::isNearViewport(const QModelIndex &index, int pages) const
 {
     const QRect row = m_view->visualRect(index);
-    const int margin = rowsBeyondViewport * row.height();
-    return row.isValid() && m_view->viewport()->rect().adjusted(0, -margin, 0, margin).intersects(row);
+    const QRect viewport = m_view->viewport()->rect();
+    const int margin = pages * viewport.height();
+    return row.isValid() && viewport.adjusted(0, -margin, 0, margin).intersects(row);
 }
 
-QModelIndexList OpenEditors::rowsNearViewport() const
+QModelIndexList OpenEditors::rowsNearViewport(int pages) const
 {
     QModelIndexList rows;
+    const int height = m_view->viewport()->height();
     QModelIndex index = m_view->indexAt(QPoint(0, 0));
-    for (int i = 0; i < rowsBeyondViewport && m_view->indexAbove(index).isValid(); ++i) {
-        index = m_view->indexAbove(index);
+    const int top = m_view->visualRect(index).top() - pages * height;
+    for (QModelIndex above = m_view->indexAbove(index);
+         above.isValid() && m_view->visualRect(above).bottom() >= top; above = m_view->indexAbove(above)) {
+        index = above;
     }
-    int below = 0;
-    while (index.isValid() && below <= rowsBeyondViewport) {
+    for (; index.isValid() && m_view->visualRect(index).top() < (1 + pages) * height;
+         index = m_view->indexBelow(index)) {
         rows.append(index.siblingAtColumn(FeatureTreeColumns::value));
-        below += m_view->visualRect(index).top() > m_view->viewport()->height() ? 1 : 0;
-        index = m_view->indexBelow(index);
     }
     return rows;
 }
 
-void OpenEditors::closeFar(const QModelIndexList &near)
+// Returns whether those that could be closed are closed: many at once would be felt.
+bool OpenEditors::closeFar()
 {
-    for (qsizetype i = m_editors.size() - 1; i >= 0 && m_editors.size() > editorBudget; --i) {
-        const Editor editor = m_editors[i];
-        if (!near.contains(editor.index) && !isInUse(editor.widget)) {
-            m_editors.removeAt(i);
-            m_view->closePersistentEditor(editor.index);
+    const QModelIndexList near = rowsNearViewport(keptPages);
+    const QList<Editor> editors = m_editors;
+    int closed = 0;
+    for (const Editor &editor : editors) {
+        if (near.contains(editor.index) || isInUse(editor.widget)) {
+            continue;
+        }
+        if (closed == closedAtOnce) {
+            break;
+        }
+        m_view->closePersistentEditor(editor.index);
+        ++closed;
+    }
+    forgetClosed();
+    return closed < closedAtOnce;
+}
+
+bool OpenEditors::isReachable(const QModelIndex &index) const
+{
+    for (QModelIndex row = index; row.isValid(); row = row.parent()) {
+        const QModelIndex parent = row.parent();
+        if (m_view->isRowHidden(row.row(), parent) || (parent.isValid() && !m_view->isExpanded(parent))) {
+            return false;
         }
     }
+    return index.isValid();
 }
 
 // The focus walks from top to bottom; the base leaves editors in the order in which they were opened.

@@ -6,6 +6,7 @@
 #include "editorkeys_p.h"
 #include "inputhint_p.h"
 #include "numbertext_p.h"
+#include "sharedpalette_p.h"
 
 #include <platform/core/formatdoublevalue.h>
 
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalBlocker>
+#include <QStyleOptionSpinBox>
 
 #include <algorithm>
 #include <cmath>
@@ -430,4 +432,10 @@ InputHint *ZeltoQtDoubleSpinBox::hint()
         m_hint = new InputHint(this, lineEdit());
     }
     return m_hint;
+}
+
+void ZeltoQtDoubleSpinBox::initStyleOption(QStyleOptionSpinBox *option) const
+{
+    QDoubleSpinBox::initStyleOption(option);
+    sharePalette(option);
 }

@@ -99,6 +99,7 @@ signals:
     void left();
 
 protected:
+    void initStyleOption(QStyleOptionSpinBox *option) const override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

@@ -7,12 +7,14 @@
 #include "editornumbers_p.h"
 #include "integertext_p.h"
 #include "numbertext_p.h"
+#include "sharedpalette_p.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyleOptionSpinBox>
 
 #include <utility>
 
@@ -250,4 +252,10 @@ void ZeltoQtSpinBox::endRepeatedSteps()
     QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton, Qt::NoButton,
                         Qt::NoModifier);
     QSpinBox::mouseReleaseEvent(&release);
+}
+
+void ZeltoQtSpinBox::initStyleOption(QStyleOptionSpinBox *option) const
+{
+    QSpinBox::initStyleOption(option);
+    sharePalette(option);
 }

@@ -58,6 +58,7 @@ public:
     void fixup(QString &text) const override;
 
 protected:
+    void initStyleOption(QStyleOptionSpinBox *option) const override;
     QString textFromValue(int value) const override;
     int valueFromText(const QString &text) const override;
     StepEnabled stepEnabled() const override;
