@@ -5,9 +5,9 @@
 
 #include <cameras/camera.h>
 #include <platform/core/exception.h>
+#include <zeltoviewercomponents/featuretree/waitcursor.h>
 
 #include <QDialogButtonBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -78,10 +78,10 @@ void CameraDialog::select(const QString &id)
 
 void CameraDialog::rescan()
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_list->clear();
     QString failure;
     try {
+        const WaitCursor cursor;
         const auto cameras = Cameras::Camera::list();
         for (const auto &camera : cameras) {
             const QString name = tr("%1 %2 (%3), %4")
@@ -96,7 +96,6 @@ void CameraDialog::rescan()
     } catch (const Core::Exception::BaseException &exception) {
         failure = exception.getMessage();
     }
-    QGuiApplication::restoreOverrideCursor();
     m_list->setCurrentRow(0);
     const QString empty =
         tr("No camera answers. Check its power, its cable and the network interface, then rescan.");

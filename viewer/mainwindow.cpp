@@ -9,6 +9,7 @@
 #include "descriptionpane.h"
 #include "filedrop.h"
 #include "ipconfiguration.h"
+#include "levels.h"
 #include "messagebar.h"
 #include "recentsources.h"
 #include "treemenu.h"
@@ -27,6 +28,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+#include <zeltoviewercomponents/featuretree/waitcursor.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
 
@@ -63,15 +65,6 @@ QString windowGroup()
 {
     return QStringLiteral("MainWindow");
 }
-
-/*! \brief Shows the wait cursor while it lives. */
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-};
 
 } // namespace
 
@@ -304,9 +297,8 @@ QMenu *MainWindow::createLevelMenu(QMenu *parent)
 {
     QMenu *const menu = parent->addMenu(tr("&Level"));
     m_levels = new QActionGroup(this);
-    const QStringList names{tr("&Beginner"), tr("&Expert"), tr("&Guru"), tr("&All Features")};
-    for (int level = 0; level < names.size(); ++level) {
-        QAction *const action = menu->addAction(names[level]);
+    for (int level = GenApi::Beginner; level <= GenApi::Invisible; ++level) {
+        QAction *const action = menu->addAction(Levels::menuText(static_cast<GenApi::EVisibility>(level)));
         action->setCheckable(true);
         action->setData(level);
         action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + level)));

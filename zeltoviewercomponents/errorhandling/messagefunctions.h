@@ -60,6 +60,11 @@ ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, co
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
                                                       QWidget *parent = nullptr);
 
+/*! Reports the exception that is being handled, by showException() or, when its type is unknown, by
+ * showUnexpectedException(); \a message says what failed. To be called inside a catch block. */
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCurrentException(const QString &context, const QString &message,
+                                                             QWidget *parent = nullptr);
+
 /*! Reports an exception of an unknown type; \a message says what failed. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void
 showUnexpectedException(const QString &context, const QString &message, QWidget *parent = nullptr);

@@ -166,21 +166,16 @@ QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
 // often.
 void FeatureTreeModel::reportReadFailure() const
 {
-    const QString context = QStringLiteral("FeatureTreeModel::data");
-    const QString text = tr("Failed to get a feature value");
     const bool report = !m_dataErrorShown;
     m_dataErrorShown = true;
     try {
         throw;
     } catch (const GenICam::GenericException &) {
         // A feature that is momentarily unreadable; its row shows that by itself.
-    } catch (const std::exception &exception) {
-        if (report) {
-            showException(context, exception, text);
-        }
     } catch (...) {
         if (report) {
-            showUnexpectedException(context, text);
+            showCurrentException(QStringLiteral("FeatureTreeModel::data"),
+                                 tr("Failed to get a feature value"));
         }
     }
 }
@@ -213,7 +208,6 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
 // Reports the exception that is being handled. The item is null when it is gone by now.
 void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPointer<IParameter> &parameter)
 {
-    const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
     if (item && item->editorType() == FeatureTreeItem::Command) {
         scheduleForcedParameterDataChangedCheck(item);
@@ -221,21 +215,10 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPo
     if (!m_deviceAlive) {
         return;
     }
-    const auto tell = [this, &parameter](const QString &message) {
-        if (parameter) {
-            emit writeFailed(parameter, message);
-        }
-    };
-    // The system's and the standard library's own exceptions all derive from std::exception.
-    try {
-        throw;
-    } catch (const std::exception &exception) {
-        tell(QString::fromUtf8(exception.what()));
-        showException(context, exception, text);
-    } catch (...) {
-        tell(text);
-        showUnexpectedException(context, text);
+    if (parameter) {
+        emit writeFailed(parameter, Core::currentExceptionText(text));
     }
+    showCurrentException(QStringLiteral("FeatureTreeModel::setData"), text);
 }
 
 QVariant FeatureTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -423,11 +406,8 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
         if (collection) {
             root = collection->parameter(nodeMapName + QLatin1Char('/') + FeatureTreeNames::root);
         }
-    } catch (const std::exception &exception) {
-        showException(context, exception, failure);
-        return;
     } catch (...) {
-        showUnexpectedException(context, failure);
+        showCurrentException(context, failure);
         return;
     }
     if (!root) {

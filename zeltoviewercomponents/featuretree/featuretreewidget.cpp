@@ -15,6 +15,7 @@
 #include "nodemapfilter.h"
 #include "searchedit.h"
 #include "ui_featuretreewidget.h"
+#include "waitcursor.h"
 
 #include <QAction>
 #include <QApplication>
@@ -68,15 +69,6 @@ bool &escapePressed()
     static bool pressed = false;
     return pressed;
 }
-
-/*! \brief Shows the wait cursor while it lives. */
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-};
 
 } // namespace
 

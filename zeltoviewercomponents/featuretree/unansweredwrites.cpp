@@ -3,22 +3,11 @@
 
 #include "unansweredwrites_p.h"
 
-#include <optional>
+#include <platform/parametercollection/valuewords.h>
 
 using namespace ParameterCollection;
 
 namespace {
-
-std::optional<bool> booleanFrom(const QString &text)
-{
-    if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0) {
-        return true;
-    }
-    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0) {
-        return false;
-    }
-    return std::nullopt;
-}
 
 QString valueOf(const IParameter &parameter)
 {
