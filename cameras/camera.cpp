@@ -6,6 +6,7 @@
 #include "aravis_p.h"
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
+#include "enginexml_p.h"
 #include "livecamera_p.h"
 #include "nodecollection_p.h"
 #include "session_p.h"
@@ -56,7 +57,7 @@ NodeMapSource simulatedMap(const QString &name, const QString &title, const QByt
     auto description = std::make_shared<Description>(xml);
     const auto registers = std::make_shared<SimulatedRegisters>();
     registers->load(registerLines);
-    DevicePtr device = newSimulatedDevice(xml, registers);
+    DevicePtr device = newSimulatedDevice(engineXml(xml), registers);
     return {name, title, std::move(device), std::move(description), registers};
 }
 

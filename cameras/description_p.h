@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringView>
 
 #include <utility>
 #include <vector>
@@ -108,7 +109,7 @@ private:
 
     static LinkKind linkKind(QStringView tag);
     static RegisterKind registerKind(QStringView tag);
-    int intern(const QString &name);
+    int intern(QStringView name);
     void readDocument(Reader &xml);
     void readNodes(Reader &xml, int depth);
     void readNode(Reader &xml, const QString &name, int owner);
@@ -134,7 +135,7 @@ private:
     QString m_modelName;
     QString m_standardNameSpace;
     std::vector<Node> m_nodes;
-    QHash<QString, int> m_indices;
+    QHash<QStringView, int> m_indices; //!< by the names that the nodes hold
     QList<int> m_published;
     QList<int> m_dividing;
     qint64 m_registerBytes = 0;
