@@ -23,6 +23,8 @@ class GenericException;
  *
  * Each logs where its kind requires it and hands the message to the global AsyncErrorQueue. Caption and
  * context reach the log alone. All may be called from any thread; none throws.
+ *
+ * \ingroup errors
  */
 
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, QWidget *parent = nullptr);

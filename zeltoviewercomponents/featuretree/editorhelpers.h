@@ -53,7 +53,10 @@ double withoutNoise(double value);
 double sumWithoutNoise(double a, double b);
 
 /*! \brief What a control makes of the limits of a feature: they are finite and in order, the increment is 0
- * when there is none. */
+ * when there is none.
+ *
+ * \ingroup editors
+ */
 struct FloatLimits
 {
     /*! Returns whether there are two limits: those as far away as numbers go are none. */
@@ -127,7 +130,10 @@ void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press);
 
 /*! \brief Keeps a text selected as a whole while another one takes its place: what is typed next replaces it.
- * A part of a text is no part of the next one, and is selected no longer. */
+ * A part of a text is no part of the next one, and is selected no longer.
+ *
+ * \ingroup editors
+ */
 class SelectedText
 {
 public:
@@ -142,7 +148,10 @@ private:
     QString m_selected;
 };
 
-/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes. */
+/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes.
+ *
+ * \ingroup editors
+ */
 class TypedText
 {
 public:

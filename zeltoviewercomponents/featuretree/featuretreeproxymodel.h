@@ -32,6 +32,8 @@ class FeatureTreeModel;
  * IFeatureTreeModelExtension it forwards to its source, a FeatureTreeModel; all indexes that go in and come
  * out are the proxy's, and a row that is filtered out gives an invalid one. A model serves one such proxy at
  * a time, which keeps its verdicts in the items.
+ *
+ * \ingroup search
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension

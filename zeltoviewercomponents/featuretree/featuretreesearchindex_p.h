@@ -15,6 +15,8 @@ class FeatureTreeItem;
  * A search through one long text touches no item but those it finds, which makes it several times faster than
  * asking row by row. Categories have no text to search in. The index is out of date once any item has come,
  * gone or changed its name.
+ *
+ * \ingroup search
  */
 class FeatureTreeSearchIndex
 {

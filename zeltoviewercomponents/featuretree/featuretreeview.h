@@ -27,6 +27,8 @@ class OpenEditors;
  * Builds its own models and delegate, keeps an in-place editor open on every row of the value column that
  * wants one, and hides rows above the user level. Up to 200 editors stay open wherever their rows are; beyond
  * that number they are open in and near the viewport and come and go as the view scrolls.
+ *
+ * \ingroup view
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeView : public QTreeView
 {

@@ -25,6 +25,8 @@ class IParameterCollection;
  * Items, delegate, view and widget reach the model through this interface. FeatureTreeModel implements it;
  * FeatureTreeProxyModel implements it by forwarding to its source, with proxy indexes going in and coming
  * out.
+ *
+ * \ingroup items
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IFeatureTreeModelExtension
 {

@@ -18,6 +18,8 @@ class QTreeView;
  *
  * Up to 200 editors stay open wherever their rows are. Beyond that number they are open in and near the
  * viewport and come and go as the view scrolls. Which rows want one is the view's business.
+ *
+ * \ingroup view
  */
 class OpenEditors : public QObject
 {

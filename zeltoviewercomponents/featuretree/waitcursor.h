@@ -5,7 +5,10 @@
 
 #include <QGuiApplication>
 
-/*! \brief Shows the wait cursor in all windows while it lives. */
+/*! \brief Shows the wait cursor in all windows while it lives.
+ *
+ * \ingroup controls
+ */
 class WaitCursor
 {
 public:
