@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "goalreporter.h"
-#include "stockprogram.h"
 
 #include <benchmark/benchmark.h>
 
@@ -24,10 +23,6 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
     QCoreApplication::setApplicationName(QStringLiteral("zelto-benchmarks"));
 
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == StockProgram::option()) {
-        return StockProgram::run(arguments);
-    }
     benchmark::Initialize(&argc, argv);
     const bool isAboutGoals = argc == 2 && qstrcmp(argv[1], "--goals") == 0;
     if (!isAboutGoals) {

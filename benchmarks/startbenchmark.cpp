@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "figure.h"
-#include "stockprogram.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -36,6 +34,7 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
 void startViewer(benchmark::State &state)
 {
     const QString viewer = QStringLiteral(ZELTO_VIEWER_PROGRAM);
+    const QString stock = QStringLiteral(ZELTO_STOCK_PROGRAM);
     const QTemporaryDir folder;
     const QString picture = folder.filePath(QStringLiteral("window.png"));
     const auto rows = outputOf(viewer, {QStringLiteral("--dump")}).count('\n');
@@ -51,9 +50,7 @@ void startViewer(benchmark::State &state)
     Figure figure(state);
     for (auto _ : state) {
         figure.oursTook(run(viewer, {QStringLiteral("--expand"), QStringLiteral("--screenshot"), picture}));
-        figure.baselineTook("stock",
-                            run(QCoreApplication::applicationFilePath(),
-                                {StockProgram::option(), QString::number(rows), picture}));
+        figure.baselineTook("stock", run(stock, {QString::number(rows), picture}));
     }
     figure.wantShareOf("stock", 1.3);
     state.counters["rows"] = static_cast<double>(rows);

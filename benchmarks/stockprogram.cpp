@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "stockprogram.h"
-
-#include "trees.h"
-#include "windows.h"
-
+#include <QApplication>
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -14,21 +10,23 @@
 #include <QStatusBar>
 #include <QTreeView>
 
-namespace StockProgram {
-
-QString option()
+/* What it takes to start a program that shows nothing but a stock view: zelto-stock-program ROWS FILE saves a
+ * picture of its window, as the viewer does for --screenshot, and ends. It is linked with Qt alone. */
+int main(int argc, char **argv)
 {
-    return QStringLiteral("--stock-program");
-}
-
-int run(const QStringList &arguments)
-{
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const int rows = arguments.value(1).toInt();
     QStandardItemModel model;
-    auto *category = new QStandardItem(QStringLiteral("Category"));
-    model.appendRow(category);
-    const QStringList names = featureNames(arguments.value(2).toInt());
-    for (const QString &name : names) {
-        category->appendRow({new QStandardItem(name), new QStandardItem(QStringLiteral("1"))});
+    QStandardItem *category = nullptr;
+    for (int i = 0; i < rows; ++i) {
+        auto *const name = new QStandardItem(QStringLiteral("Feature%1").arg(i));
+        if (i % 10 == 0) {
+            category = name;
+            model.appendRow({category, new QStandardItem});
+        } else {
+            category->appendRow({name, new QStandardItem(QString::number(i))});
+        }
     }
     QMainWindow window;
     window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Quit"));
@@ -36,13 +34,15 @@ int run(const QStringList &arguments)
     auto *const view = new QTreeView(&window);
     view->setUniformRowHeights(true);
     view->setModel(&model);
-    view->expandAll();
     view->header()->resizeSection(0, 320);
+    for (int row = 0; row < model.rowCount(); ++row) {
+        view->expand(model.index(row, 0));
+    }
     window.setCentralWidget(view);
     window.resize(QSize(1000, 700).boundedTo(window.screen()->availableSize() * 9 / 10)); // as the viewer
     window.show();
-    settle();
-    return window.grab().save(arguments.value(3), "PNG") ? 0 : 1;
+    for (int i = 0; i < 5; ++i) {
+        QCoreApplication::processEvents();
+    }
+    return window.grab().save(arguments.value(2), "PNG") ? 0 : 1;
 }
-
-} // namespace StockProgram

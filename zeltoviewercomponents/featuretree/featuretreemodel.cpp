@@ -290,6 +290,7 @@ bool FeatureTreeModel::readDraggedItems(const QMimeData &data, QList<FeatureTree
 bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                                     const QModelIndex &parent)
 {
+    // Wherever in the tree it lands, a drop is meant for the favorites.
     Q_UNUSED(column)
     Q_UNUSED(parent)
     if (action == Qt::IgnoreAction) {
@@ -419,6 +420,7 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
     const QPointer<FeatureTreeINodeItem> item(
         new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false));
     adoptNodeItem(item, true);
+    // A new layout, not a new row: who listens looks at all top rows again, and what was open stays open.
     emit layoutAboutToBeChanged();
     m_rootItem->appendChild(item);
     emit layoutChanged();
@@ -499,6 +501,8 @@ FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent,
         && (parameter->visibility() >= GenApi::Invisible || standsAbove(parent, parameter))) {
         return nullptr;
     }
+    // How texts are written is a matter of the whole model: the collection that was added last says it, also
+    // for rows of earlier ones that are made only now.
     auto *const item =
         new FeatureTreeINodeItem(parent->collection(), parameter, this, name, parent, m_childNodeFlag);
     adoptNodeItem(item, false);
@@ -531,7 +535,8 @@ void FeatureTreeModel::refresh()
                      });
 }
 
-// A copy, which keeps the collection alive while it is at work: it may have the tree cleared.
+// The camera itself; what was added behind it has no values that change by themselves. A copy, which keeps
+// the collection alive while it is at work: it may have the tree cleared.
 QSharedPointer<IParameterCollection> FeatureTreeModel::firstCollection() const
 {
     return m_collections.value(0).collection;
@@ -616,6 +621,7 @@ void FeatureTreeModel::refreshSpecialItems()
     }
 }
 
+// Announces nothing: whoever clears the model resets the views, too. What they hold points nowhere at once.
 void FeatureTreeModel::clear()
 {
     m_favoritesBranch->forgetRows();
@@ -631,7 +637,7 @@ void FeatureTreeModel::clear()
 
 QString FeatureTreeModel::GetParameterCollectionName(QSharedPointer<IParameterCollection> collection)
 {
-    Q_UNUSED(collection)
+    Q_UNUSED(collection) // rows and favorites know node maps by the name that they were added with
     return {};
 }
 
@@ -662,7 +668,8 @@ void FeatureTreeModel::insertTopItem(FeatureTreeItem *item)
 
 void FeatureTreeModel::createSearchRow()
 {
-    // The row is announced as the second top row, below the invisible root, and stands as the first.
+    // The row is announced as the second top row, below the invisible root, and stands as the first:
+    // hosts know it so, and FeatureTreeProxyModel sets it right.
     beginInsertRows(indexForItem(m_rootItem.get(), FeatureTreeColumns::name), 1, 1);
     m_searchHelpItem = new FeatureTreeItem(
         QStringLiteral("<HTML><B>X search results found (Y of them visible at higher user level)</B>"), this,

@@ -43,7 +43,7 @@ public:
     /*! Returns the model's extension, null when the model is of another kind. */
     IFeatureTreeModelExtension *getFeatureExtension();
     const IFeatureTreeModelExtension *getFeatureExtension() const;
-    /*! Returns what marks the search text in names. */
+    /*! Returns what marks the search text in names. Hosts call it by this spelling. */
     FeatureTreeHighlighter *getHightlighter();
 
     /*! Returns the settings group of the favorites. */
