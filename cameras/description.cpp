@@ -31,7 +31,6 @@ constexpr int longestText = 1024 * 1024;
 constexpr int mostEvaluations = 100000; // for one feature
 constexpr int mostEvaluationsInAll = 2000000;
 constexpr int lettersPerEvaluation = 1000; // of a formula: they take time, too
-constexpr qint64 longestShownRegister = 64;
 
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)

@@ -21,6 +21,8 @@ namespace Cameras {
 constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
 /*! In bytes, what all registers that are read may take together. */
 constexpr qint64 mostRegisterBytes = qint64(64) * 1024 * 1024;
+/*! In bytes; longer plain registers are not read, since nobody would read them. */
+constexpr qint64 longestShownRegister = 64;
 
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *

@@ -29,8 +29,6 @@ ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
-constexpr gint64 longestShownRegister = 64;
-
 ParameterType typeOf(ArvGcNode *node)
 {
     if (ARV_IS_GC_CATEGORY(node)) {
