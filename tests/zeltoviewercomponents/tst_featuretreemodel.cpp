@@ -889,7 +889,7 @@ void TestFeatureTreeModel::everyOperationMayThrow()
         m_model->dropMimeData(dragged.get(), Qt::MoveAction, -1, 0, QModelIndex());
         m_model->AddFavorite(m_collection->parameter(fullName), 0);
         m_model->flags(value);
-        for (const int role : {0, 2, 3, 9, 257, 262, 266, 270}) {
+        for (int role = 0; item && role <= FeatureTreeItem::FullNodeNameRole; ++role) {
             item->data(0, role);
             item->data(1, role);
         }
