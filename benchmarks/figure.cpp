@@ -26,6 +26,17 @@ Figure::~Figure()
     }
 }
 
+void Figure::oursTook(double seconds)
+{
+    m_ours.push_back(seconds);
+    m_state.SetIterationTime(seconds);
+}
+
+void Figure::baselineTook(const std::string &baseline, double seconds)
+{
+    m_baselines[baseline].push_back(seconds);
+}
+
 // The fastest turn: whatever else the machine does can only add to it.
 double Figure::chosenOf(const std::vector<double> &seconds) const
 {

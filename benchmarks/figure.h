@@ -34,17 +34,18 @@ public:
     template <typename Work>
     void ours(Work work)
     {
-        const double seconds = secondsOf(std::move(work));
-        m_ours.push_back(seconds);
-        m_state.SetIterationTime(seconds);
+        oursTook(secondsOf(std::move(work)));
     }
+    /*! Notes what the library's side of an iteration took where it is not work of this process. */
+    void oursTook(double seconds);
 
     /*! Times \a work as the side of \a baseline, a word that names counters. */
     template <typename Work>
     void baseline(const std::string &baseline, Work work)
     {
-        m_baselines[baseline].push_back(secondsOf(std::move(work)));
+        baselineTook(baseline, secondsOf(std::move(work)));
     }
+    void baselineTook(const std::string &baseline, double seconds);
 
     /*! States that the library is to take at most \a milliseconds. */
     void wantAtMost(double milliseconds);

@@ -10,6 +10,7 @@
 #include "camerarecord_p.h"
 #include "descriptionarchive_p.h"
 #include "engineturn_p.h"
+#include "enginexml_p.h"
 #include "livecamera_p.h"
 #include "nodecollection_p.h"
 #include "registerimage_p.h"
@@ -46,7 +47,7 @@ NodeMapSource simulatedMap(const QString &name, const QString &title, const QByt
     auto description = std::make_shared<Description>(xml);
     const auto registers = std::make_shared<SimulatedRegisters>();
     registers->load(registerLines);
-    DevicePtr device = newSimulatedDevice(xml, registers);
+    DevicePtr device = newSimulatedDevice(engineXml(xml), registers);
     return {name, title, std::move(device), std::move(description), registers};
 }
 

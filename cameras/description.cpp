@@ -31,7 +31,6 @@ constexpr int longestText = 1024 * 1024;
 constexpr int mostEvaluations = 100000; // for one feature
 constexpr int mostEvaluationsInAll = 2000000;
 constexpr int lettersPerEvaluation = 1000; // of a formula: they take time, too
-constexpr qint64 longestShownRegister = 64;
 
 // What nobody asks for by name is not kept; it makes up most of a description.
 bool isKept(QStringView tag)
@@ -91,16 +90,16 @@ public:
     }
 
     /*! Goes to the end of the element that has just begun. Returns the text in it but for that of elements
-     * in it. */
-    QString text()
+     * in it; valid until the next call. */
+    QStringView text()
     {
-        QString text;
+        m_text.resize(0); // which keeps the memory
         for (const int depth = m_depth; m_depth >= depth && !atEnd();) {
             if (next() == Characters && m_depth == depth) {
-                text += QXmlStreamReader::text();
+                m_text += QXmlStreamReader::text();
             }
         }
-        return text.trimmed();
+        return QStringView(m_text).trimmed();
     }
 
     void skip()
@@ -128,6 +127,7 @@ public:
     }
 
 private:
+    QString m_text;
     int m_depth = 0;
     int m_elements = 0;
 };
@@ -212,15 +212,15 @@ Description::RegisterKind Description::registerKind(QStringView tag)
     return tag == QLatin1String("Register") ? RegisterKind::Other : RegisterKind::None;
 }
 
-int Description::intern(const QString &name)
+int Description::intern(QStringView name)
 {
     const auto found = m_indices.constFind(name);
     if (found != m_indices.constEnd()) {
         return *found;
     }
     const int index = int(m_nodes.size());
-    m_indices.insert(name, index);
-    m_nodes.emplace_back().name = name;
+    m_nodes.emplace_back().name = name.toString();
+    m_indices.insert(m_nodes.back().name, index);
     return index;
 }
 
@@ -327,8 +327,8 @@ void Description::readNodeElement(Reader &xml, int node, Formulas &formulas)
     const bool isLink = tag.size() > 1 && tag[0] == QLatin1Char('p') && tag[1].isUpper();
     if (isLink) {
         const LinkKind kind = linkKind(tag);
-        const QString offset = xml.attributes().value(QLatin1String("pOffset")).toString();
-        if (!offset.isEmpty()) {
+        const QXmlStreamAttributes attributes = xml.attributes();
+        if (const QStringView offset = attributes.value(QLatin1String("pOffset")); !offset.isEmpty()) {
             m_nodes[node].links.push_back({LinkKind::Evaluated, intern(offset)});
         }
         if (kind == LinkKind::Ignored) {
@@ -342,11 +342,11 @@ void Description::readNodeElement(Reader &xml, int node, Formulas &formulas)
     }
     if (tag == QLatin1String("Expression") || tag == QLatin1String("Constant")) {
         const QString name = xml.attributes().value(QLatin1String("Name")).toString();
-        formulas.parts.emplace_back(name, xml.text());
+        formulas.parts.emplace_back(name, xml.text().toString());
         return;
     }
     if (tag.startsWith(QLatin1String("Formula"))) {
-        formulas.texts.append(xml.text());
+        formulas.texts.append(xml.text().toString());
         return;
     }
     if (!isKept(tag)) {
@@ -354,8 +354,7 @@ void Description::readNodeElement(Reader &xml, int node, Formulas &formulas)
         return;
     }
     const QString key = tag.toString();
-    const QString text = xml.text();
-    m_nodes[node].properties.emplace_back(key, text);
+    m_nodes[node].properties.emplace_back(key, xml.text().toString());
 }
 
 /*! \brief The state of the walk that gives each category its first place in the tree. */

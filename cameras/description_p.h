@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringView>
 
 #include <utility>
 #include <vector>
@@ -20,6 +21,8 @@ namespace Cameras {
 constexpr qint64 largestRegister = qint64(16) * 1024 * 1024;
 /*! In bytes, what all registers that are read may take together. */
 constexpr qint64 mostRegisterBytes = qint64(64) * 1024 * 1024;
+/*! In bytes; longer plain registers are not read, since nobody would read them. */
+constexpr qint64 longestShownRegister = 64;
 
 /*! \brief The static side of a GenICam description: text properties and the graph of links between nodes.
  *
@@ -130,7 +133,7 @@ private:
 
     static LinkKind linkKind(QStringView tag);
     static RegisterKind registerKind(QStringView tag);
-    int intern(const QString &name);
+    int intern(QStringView name);
     void readDocument(Reader &xml);
     void readNodes(Reader &xml, int depth);
     void readNode(Reader &xml, const QString &name, int owner);
@@ -156,7 +159,7 @@ private:
     QString m_modelName;
     QString m_standardNameSpace;
     std::vector<Node> m_nodes;
-    QHash<QString, int> m_indices;
+    QHash<QStringView, int> m_indices; //!< by the names that the nodes hold
     QList<int> m_published;
     QList<int> m_formulas;
     qint64 m_registerBytes = 0;

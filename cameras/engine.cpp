@@ -13,6 +13,7 @@
 #include <platform/core/logging.h>
 #include <platform/core/singleprecision.h>
 #include <platform/genicam/genericexception.h>
+#include <platform/parametercollection/valuewords.h>
 
 #include <algorithm>
 #include <cfloat>
@@ -27,8 +28,6 @@ namespace Cameras {
 ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
-
-constexpr gint64 longestShownRegister = 64;
 
 ParameterType typeOf(ArvGcNode *node)
 {
@@ -64,24 +63,6 @@ GenApi::EVisibility visibilityOf(ArvGcNode *node)
         return GenApi::Invisible;
     default:
         return GenApi::Beginner;
-    }
-}
-
-QSharedPointer<ParameterData> newData(ParameterType type)
-{
-    switch (type) {
-    case ParameterType::Integer:
-        return QSharedPointer<IntegerParameterData>::create();
-    case ParameterType::Float:
-        return QSharedPointer<FloatParameterData>::create();
-    case ParameterType::Boolean:
-        return QSharedPointer<BooleanParameterData>::create();
-    case ParameterType::Command:
-        return QSharedPointer<CommandParameterData>::create();
-    case ParameterType::Enumeration:
-        return QSharedPointer<EnumParameterData>::create();
-    default:
-        return QSharedPointer<ParameterData>::create(type);
     }
 }
 
@@ -184,7 +165,7 @@ void Engine::forgetLoss()
 
 Engine::Reading Engine::read(int node)
 {
-    Reading reading{newData(m_types[node]), GenApi::NI};
+    Reading reading{newParameterData(m_types[node]), GenApi::NI};
     ArvGcNode *found = m_nodes[node];
     if (!found) {
         return reading;
@@ -194,9 +175,7 @@ Engine::Reading Engine::read(int node)
     data.isCacheable =
         m_description->inheritedProperty(node, QStringLiteral("Cachable")) != QLatin1String("NoCache");
     reading.access = isEvaluable(node) ? readAccess(node) : GenApi::NA;
-    data.isImplemented = reading.access != GenApi::NI;
-    data.isReadable = reading.access == GenApi::RO || reading.access == GenApi::RW;
-    data.isWritable = reading.access == GenApi::WO || reading.access == GenApi::RW;
+    data.setAccessMode(reading.access);
     if (reading.access == GenApi::NI || reading.access == GenApi::NA) {
         return reading;
     }
@@ -353,7 +332,7 @@ bool Engine::readValue(int node, ParameterData &data)
     case ParameterType::Boolean: {
         auto &typed = static_cast<BooleanParameterData &>(data);
         typed.value = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(m_nodes[node]), failure);
-        typed.valueString = typed.value ? QStringLiteral("true") : QStringLiteral("false");
+        typed.valueString = booleanText(typed.value);
         return !failure.take();
     }
     case ParameterType::String: {
@@ -584,7 +563,7 @@ void Engine::writeText(int node, const QString &text)
         }
         refuse(node, text, tr("a number"));
     case ParameterType::Boolean:
-        if (const auto value = ValueText::toBoolean(text)) {
+        if (const auto value = booleanFrom(text)) {
             return writeBoolean(node, *value);
         }
         refuse(node, text, tr("true, false, 1 or 0"));

@@ -4,6 +4,7 @@
 #include "nodeparameter_p.h"
 
 #include <platform/genicam/genericexception.h>
+#include <platform/parametercollection/valuewords.h>
 
 #include <utility>
 
@@ -12,21 +13,6 @@ using namespace ParameterCollection;
 namespace Cameras {
 
 namespace {
-
-// In the order of GenApi::EVisibility and GenApi::EAccessMode.
-const QStringList &visibilityNames()
-{
-    static const QStringList names{QStringLiteral("Beginner"), QStringLiteral("Expert"),
-                                   QStringLiteral("Guru"), QStringLiteral("Invisible")};
-    return names;
-}
-
-const QStringList &accessModeNames()
-{
-    static const QStringList names{QStringLiteral("NI"), QStringLiteral("NA"), QStringLiteral("WO"),
-                                   QStringLiteral("RO"), QStringLiteral("RW")};
-    return names;
-}
 
 int indexOrThrow(const QStringList &names, const NodeHandle &handle, const QString &property,
                  const QString &value)
@@ -39,18 +25,6 @@ int indexOrThrow(const QStringList &names, const NodeHandle &handle, const QStri
                 .arg(feature, value, property, names.join(QLatin1String(", "))));
     }
     return int(index);
-}
-
-// What a snapshot allows, as an access mode.
-GenApi::EAccessMode accessOf(const ParameterData &data)
-{
-    if (!data.isImplemented) {
-        return GenApi::NI;
-    }
-    if (data.isReadable) {
-        return data.isWritable ? GenApi::RW : GenApi::RO;
-    }
-    return data.isWritable ? GenApi::WO : GenApi::NA;
 }
 
 template <typename Interface, typename Value>
@@ -92,7 +66,7 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
         return visibilityNames().value(data->visibility, defaultValue);
     }
     if (name == QLatin1String("AccessMode")) {
-        return accessModeNames().value(accessOf(*data), defaultValue);
+        return accessModeNames().value(data->accessMode(), defaultValue);
     }
     const bool isInherited = name == QLatin1String("Representation") || name == QLatin1String("Unit");
     const QString element = name == QLatin1String("Tooltip") ? QStringLiteral("ToolTip") : name;

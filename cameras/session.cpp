@@ -63,24 +63,6 @@ Tenants &tenants()
     return *tenants;
 }
 
-QSharedPointer<ParameterData> copyOf(const ParameterData &data)
-{
-    switch (data.type) {
-    case ParameterType::Integer:
-        return QSharedPointer<IntegerParameterData>::create(static_cast<const IntegerParameterData &>(data));
-    case ParameterType::Float:
-        return QSharedPointer<FloatParameterData>::create(static_cast<const FloatParameterData &>(data));
-    case ParameterType::Boolean:
-        return QSharedPointer<BooleanParameterData>::create(static_cast<const BooleanParameterData &>(data));
-    case ParameterType::Command:
-        return QSharedPointer<CommandParameterData>::create(static_cast<const CommandParameterData &>(data));
-    case ParameterType::Enumeration:
-        return QSharedPointer<EnumParameterData>::create(static_cast<const EnumParameterData &>(data));
-    default:
-        return QSharedPointer<ParameterData>::create(data);
-    }
-}
-
 } // namespace
 
 Session::Session() = default;
@@ -507,13 +489,12 @@ void Session::show(NodeState &state) const
     if (!state.imposedVisibility && !state.imposedAccess && !m_access.isReadOnly) {
         return;
     }
-    const QSharedPointer<ParameterData> data = copyOf(*state.own);
+    const QSharedPointer<ParameterData> data = state.own->copy();
     data->visibility = std::max(data->visibility, state.imposedVisibility.value_or(GenApi::Beginner));
     const GenApi::EAccessMode access = state.imposedAccess.value_or(GenApi::RW);
     data->isImplemented = data->isImplemented && access != GenApi::NI;
-    data->isReadable = data->isReadable && (access == GenApi::RO || access == GenApi::RW);
-    data->isWritable =
-        data->isWritable && (access == GenApi::WO || access == GenApi::RW) && !m_access.isReadOnly;
+    data->isReadable = data->isReadable && GenApi::isReadable(access);
+    data->isWritable = data->isWritable && GenApi::isWritable(access) && !m_access.isReadOnly;
     if (!data->isReadable) {
         data->valueString.clear();
     }

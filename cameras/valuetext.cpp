@@ -4,6 +4,7 @@
 #include "valuetext_p.h"
 
 #include <platform/core/formatdoublevalue.h>
+#include <platform/parametercollection/valuewords.h>
 
 #include <QLocale>
 #include <QStringList>
@@ -87,7 +88,9 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
     if (representation == QLatin1String("MACAddress") && trimmed.contains(QLatin1Char(':'))) {
         return fromBytes(trimmed, QLatin1Char(':'), 6, 16);
     }
-    if (const auto word = representation == QLatin1String("Boolean") ? toBoolean(trimmed) : std::nullopt) {
+    if (const auto word = representation == QLatin1String("Boolean")
+            ? ParameterCollection::booleanFrom(trimmed)
+            : std::nullopt) {
         return *word ? 1 : 0;
     }
     const qint64 value = trimmed.toLongLong(&ok, 10);
@@ -113,17 +116,6 @@ std::optional<double> toFloat(const QString &text)
     bool ok = false;
     const double value = text.trimmed().toDouble(&ok);
     return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
-
-std::optional<bool> toBoolean(const QString &text)
-{
-    if (text == QLatin1String("1") || text == QLatin1String("true")) {
-        return true;
-    }
-    if (text == QLatin1String("0") || text == QLatin1String("false")) {
-        return false;
-    }
-    return std::nullopt;
 }
 
 } // namespace Cameras::ValueText

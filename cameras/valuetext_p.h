@@ -25,6 +25,5 @@ bool isTooLong(const QString &text);
 /*! Returns whether \a address can be a subnet mask: its ones come before its zeros. */
 bool isSubnetMask(qint64 address);
 std::optional<double> toFloat(const QString &text);
-std::optional<bool> toBoolean(const QString &text);
 
 } // namespace Cameras::ValueText

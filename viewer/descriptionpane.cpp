@@ -3,6 +3,8 @@
 
 #include "descriptionpane.h"
 
+#include "levels.h"
+
 #include <platform/core/formatdoublevalue.h>
 #include <platform/core/guard.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
@@ -68,26 +70,17 @@ QString typeText(ParameterType type)
 
 QString accessText(const ParameterData &data)
 {
-    if (!data.isImplemented) {
+    switch (data.accessMode()) {
+    case GenApi::NI:
         return DescriptionPane::tr("Not implemented");
-    }
-    if (data.isReadable) {
-        return data.isWritable ? DescriptionPane::tr("Read and write") : DescriptionPane::tr("Read only");
-    }
-    return data.isWritable ? DescriptionPane::tr("Write only") : DescriptionPane::tr("Not available");
-}
-
-QString visibilityText(GenApi::EVisibility visibility)
-{
-    switch (visibility) {
-    case GenApi::Beginner:
-        return DescriptionPane::tr("Beginner");
-    case GenApi::Expert:
-        return DescriptionPane::tr("Expert");
-    case GenApi::Guru:
-        return DescriptionPane::tr("Guru");
+    case GenApi::RW:
+        return DescriptionPane::tr("Read and write");
+    case GenApi::RO:
+        return DescriptionPane::tr("Read only");
+    case GenApi::WO:
+        return DescriptionPane::tr("Write only");
     default:
-        return DescriptionPane::tr("Invisible");
+        return DescriptionPane::tr("Not available");
     }
 }
 
@@ -134,7 +127,7 @@ QString describe(const IParameter &parameter)
             page.row(DescriptionPane::tr("Access"), accessText(*data));
             addRange(page, *data, access->property(QStringLiteral("Unit")));
         }
-        page.row(DescriptionPane::tr("Visibility"), visibilityText(data->visibility));
+        page.row(DescriptionPane::tr("Visibility"), Levels::name(data->visibility));
     }
     page.row(DescriptionPane::tr("Unit"), access->property(QStringLiteral("Unit")));
     return page.html();

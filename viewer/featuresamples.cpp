@@ -18,7 +18,7 @@ const QString root = QStringLiteral("Root");
 bool hasEditor(const QSharedPointer<IParameter> &parameter)
 {
     return parameter && !parameter->isExcluded() && parameter->nodeAccessMode() >= GenApi::WO
-        && parameter->type() > ParameterType::Unknown && parameter->type() < ParameterType::Category;
+        && isFeatureType(parameter->type());
 }
 
 QString kindOf(const IParameter &parameter)

@@ -45,19 +45,7 @@ QHostAddress addressOf(const Feature &feature)
 
 bool isWritable(const Feature &feature)
 {
-    const GenApi::EAccessMode mode = feature->nodeAccessMode();
-    return mode == GenApi::RW || mode == GenApi::WO;
-}
-
-QString currentReason()
-{
-    try {
-        throw;
-    } catch (const std::exception &exception) {
-        return QString::fromUtf8(exception.what());
-    } catch (...) {
-        return IpConfiguration::tr("The reason is not known.");
-    }
+    return GenApi::isWritable(feature->nodeAccessMode());
 }
 
 void putBack(const PreviousValues &values)
@@ -154,7 +142,7 @@ void IpConfiguration::write(const QHostAddress &ipAddress, const QHostAddress &s
                 previous.prepend({feature, *value});
             }
         } catch (...) {
-            const QString reason = currentReason();
+            const QString reason = Core::currentExceptionText(tr("The reason is not known."));
             putBack(previous);
             throw Core::Exception::BaseException(tr("The IP configuration was not changed. %1").arg(reason));
         }

@@ -9,6 +9,7 @@
 #include "descriptionpane.h"
 #include "filedrop.h"
 #include "ipconfiguration.h"
+#include "levels.h"
 #include "messagebar.h"
 #include "openingpage.h"
 #include "recentsources.h"
@@ -29,6 +30,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+#include <zeltoviewercomponents/featuretree/waitcursor.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
 
@@ -313,9 +315,8 @@ QMenu *MainWindow::createLevelMenu(QMenu *parent)
 {
     QMenu *const menu = parent->addMenu(tr("&Level"));
     m_levels = new QActionGroup(this);
-    const QStringList names{tr("&Beginner"), tr("&Expert"), tr("&Guru"), tr("&All Features")};
-    for (int level = 0; level < names.size(); ++level) {
-        QAction *const action = menu->addAction(names[level]);
+    for (int level = GenApi::Beginner; level <= GenApi::Invisible; ++level) {
+        QAction *const action = menu->addAction(Levels::menuText(static_cast<GenApi::EVisibility>(level)));
         action->setCheckable(true);
         action->setData(level);
         action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + level)));

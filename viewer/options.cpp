@@ -3,9 +3,12 @@
 
 #include "options.h"
 
+#include <platform/parametercollection/valuewords.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -13,18 +16,12 @@ namespace {
 
 std::optional<GenApi::EVisibility> visibilityFrom(const QString &text)
 {
-    static const QList<std::pair<QString, GenApi::EVisibility>> levels{
-        {QStringLiteral("beginner"), GenApi::Beginner},
-        {QStringLiteral("expert"), GenApi::Expert},
-        {QStringLiteral("guru"), GenApi::Guru},
-        {QStringLiteral("invisible"), GenApi::Invisible},
-    };
-    for (const auto &[name, level] : levels) {
-        if (text.compare(name, Qt::CaseInsensitive) == 0) {
-            return level;
-        }
-    }
-    return std::nullopt;
+    const QStringList &names = ParameterCollection::visibilityNames();
+    const auto found = std::find_if(names.cbegin(), names.cend(), [&text](const QString &name) {
+        return text.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == names.cend() ? std::nullopt
+                                 : std::optional(static_cast<GenApi::EVisibility>(found - names.cbegin()));
 }
 
 // Options are read before there is an application that could translate; the command line speaks English.

@@ -28,6 +28,17 @@ QString detailLine(const GuardSite &site)
 
 } // namespace
 
+QString currentExceptionText(const QString &ifUnknown)
+{
+    try {
+        throw;
+    } catch (const std::exception &exception) { // the base of the system's own and the camera's, too
+        return QString::fromUtf8(exception.what());
+    } catch (...) {
+        return ifUnknown;
+    }
+}
+
 void logCurrentException(const GuardSite &site, const QString &headline) noexcept
 {
     Logging::createLogEntry(Logging::ELogLevel::Warning, site.category, headline);

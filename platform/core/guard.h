@@ -29,6 +29,12 @@ struct GuardSite
  */
 ZELTO_PLATFORM_EXPORT void logCurrentException(const GuardSite &site, const QString &headline) noexcept;
 
+/*! \brief Returns the text of the exception that is being handled, \a ifUnknown when its type has none.
+ *
+ * To be called inside a catch block.
+ */
+ZELTO_PLATFORM_EXPORT QString currentExceptionText(const QString &ifUnknown);
+
 /*! \brief Returns the result of \a work or, when it throws, logs the exception and returns \a fallback.
  *
  * \a headline is a text, or a callable that makes the text when it is needed.

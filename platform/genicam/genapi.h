@@ -29,6 +29,18 @@ enum EAccessMode : int {
     UndefinedAccessMode = 5,
 };
 
+/*! Returns whether \a mode lets a value be read. */
+constexpr bool isReadable(EAccessMode mode)
+{
+    return mode == RO || mode == RW;
+}
+
+/*! Returns whether \a mode lets a value be written. */
+constexpr bool isWritable(EAccessMode mode)
+{
+    return mode == WO || mode == RW;
+}
+
 /*! \brief How a floating-point feature wants to be printed. */
 enum EDisplayNotation : int {
     fnAutomatic = 0,

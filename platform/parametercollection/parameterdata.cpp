@@ -33,6 +33,29 @@ bool ParameterData::equals(const ParameterData &other) const
         && valueString == other.valueString;
 }
 
+QSharedPointer<ParameterData> ParameterData::copy() const
+{
+    return QSharedPointer<ParameterData>::create(*this);
+}
+
+GenApi::EAccessMode ParameterData::accessMode() const
+{
+    if (!isImplemented) {
+        return GenApi::NI;
+    }
+    if (isReadable) {
+        return isWritable ? GenApi::RW : GenApi::RO;
+    }
+    return isWritable ? GenApi::WO : GenApi::NA;
+}
+
+void ParameterData::setAccessMode(GenApi::EAccessMode mode)
+{
+    isImplemented = mode != GenApi::NI;
+    isReadable = GenApi::isReadable(mode);
+    isWritable = GenApi::isWritable(mode);
+}
+
 IntegerParameterData::IntegerParameterData()
     : ParameterData(ParameterType::Integer)
     , representation(QStringLiteral("PureNumber"))
@@ -40,6 +63,11 @@ IntegerParameterData::IntegerParameterData()
 }
 
 IntegerParameterData::~IntegerParameterData() = default;
+
+QSharedPointer<ParameterData> IntegerParameterData::copy() const
+{
+    return QSharedPointer<IntegerParameterData>::create(*this);
+}
 
 bool IntegerParameterData::equals(const ParameterData &other) const
 {
@@ -58,6 +86,11 @@ FloatParameterData::FloatParameterData()
 }
 
 FloatParameterData::~FloatParameterData() = default;
+
+QSharedPointer<ParameterData> FloatParameterData::copy() const
+{
+    return QSharedPointer<FloatParameterData>::create(*this);
+}
 
 bool FloatParameterData::equals(const ParameterData &other) const
 {
@@ -78,6 +111,11 @@ BooleanParameterData::BooleanParameterData()
 
 BooleanParameterData::~BooleanParameterData() = default;
 
+QSharedPointer<ParameterData> BooleanParameterData::copy() const
+{
+    return QSharedPointer<BooleanParameterData>::create(*this);
+}
+
 bool BooleanParameterData::equals(const ParameterData &other) const
 {
     return ParameterData::equals(other) && value == static_cast<const BooleanParameterData &>(other).value;
@@ -89,6 +127,11 @@ CommandParameterData::CommandParameterData()
 }
 
 CommandParameterData::~CommandParameterData() = default;
+
+QSharedPointer<ParameterData> CommandParameterData::copy() const
+{
+    return QSharedPointer<CommandParameterData>::create(*this);
+}
 
 bool CommandParameterData::equals(const ParameterData &other) const
 {
@@ -102,6 +145,11 @@ EnumParameterData::EnumParameterData()
 
 EnumParameterData::~EnumParameterData() = default;
 
+QSharedPointer<ParameterData> EnumParameterData::copy() const
+{
+    return QSharedPointer<EnumParameterData>::create(*this);
+}
+
 bool EnumParameterData::equals(const ParameterData &other) const
 {
     if (!ParameterData::equals(other)) {
@@ -109,6 +157,24 @@ bool EnumParameterData::equals(const ParameterData &other) const
     }
     const auto &typed = static_cast<const EnumParameterData &>(other);
     return symbolicNames == typed.symbolicNames && displayTexts == typed.displayTexts;
+}
+
+QSharedPointer<ParameterData> newParameterData(ParameterType type)
+{
+    switch (type) {
+    case ParameterType::Integer:
+        return QSharedPointer<IntegerParameterData>::create();
+    case ParameterType::Float:
+        return QSharedPointer<FloatParameterData>::create();
+    case ParameterType::Boolean:
+        return QSharedPointer<BooleanParameterData>::create();
+    case ParameterType::Command:
+        return QSharedPointer<CommandParameterData>::create();
+    case ParameterType::Enumeration:
+        return QSharedPointer<EnumParameterData>::create();
+    default:
+        return QSharedPointer<ParameterData>::create(type);
+    }
 }
 
 } // namespace ParameterCollection

@@ -25,6 +25,12 @@ enum class ParameterType : quint32 {
     Category = 7,
 };
 
+/*! Returns whether parameters of \a type are features: they have a value or do something. */
+constexpr bool isFeatureType(ParameterType type)
+{
+    return type > ParameterType::Unknown && type < ParameterType::Category;
+}
+
 /*! \brief Snapshot of a parameter's dynamic state.
  *
  * A snapshot is filled by its maker and shared as QSharedPointer<const ParameterData>; from then on it never
@@ -40,6 +46,13 @@ public:
 
     /*! Returns whether \a other is a record of the same class with the same contents. */
     virtual bool equals(const ParameterData &other) const;
+    /*! Returns a new record of the same class with the same contents. */
+    virtual QSharedPointer<ParameterData> copy() const;
+
+    /*! Returns what can be done with the parameter, as the three flags say it. */
+    GenApi::EAccessMode accessMode() const;
+    /*! Sets the three flags to what \a mode allows. */
+    void setAccessMode(GenApi::EAccessMode mode);
 
     ParameterType type;
     GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
@@ -57,6 +70,7 @@ public:
     IntegerParameterData();
     ~IntegerParameterData() override;
     bool equals(const ParameterData &other) const override;
+    QSharedPointer<ParameterData> copy() const override;
 
     qint64 value = 0;
     qint64 minimum = 0;
@@ -73,6 +87,7 @@ public:
     FloatParameterData();
     ~FloatParameterData() override;
     bool equals(const ParameterData &other) const override;
+    QSharedPointer<ParameterData> copy() const override;
 
     double value = 0.0;
     double minimum = 0.0;
@@ -90,6 +105,7 @@ public:
     BooleanParameterData();
     ~BooleanParameterData() override;
     bool equals(const ParameterData &other) const override;
+    QSharedPointer<ParameterData> copy() const override;
 
     bool value = false;
 };
@@ -101,6 +117,7 @@ public:
     CommandParameterData();
     ~CommandParameterData() override;
     bool equals(const ParameterData &other) const override;
+    QSharedPointer<ParameterData> copy() const override;
 
     bool isDone = true; //!< the command has completed, or never ran
 };
@@ -112,12 +129,16 @@ public:
     EnumParameterData();
     ~EnumParameterData() override;
     bool equals(const ParameterData &other) const override;
+    QSharedPointer<ParameterData> copy() const override;
 
     QStringList symbolicNames; //!< of the entries that can be chosen now
     QStringList displayTexts; //!< same length and order
 };
 
 using ParameterDataPtr = QSharedPointer<const ParameterData>;
+
+/*! Returns a new record of the class that parameters of \a type deliver. */
+ZELTO_PLATFORM_EXPORT QSharedPointer<ParameterData> newParameterData(ParameterType type);
 
 } // namespace ParameterCollection
 

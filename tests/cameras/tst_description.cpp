@@ -5,6 +5,7 @@
 
 #include <cameras/camera.h>
 #include <cameras/description_p.h>
+#include <cameras/enginexml_p.h>
 
 #include <platform/core/exception.h>
 #include <platform/parametercollection/iparameter.h>
@@ -45,6 +46,8 @@ private slots:
     void singlePrecisionIsShownAsItWasMeant();
     void groupsAndStructEntries();
     void currentEntryIsListed();
+    void engineSeesWhatItNeeds_data();
+    void engineSeesWhatItNeeds();
 
 private:
     QString saved(const QByteArray &contents);
@@ -547,6 +550,32 @@ void TestDescription::currentEntryIsListed()
     selector->setValueFromString("Green");
     QVERIFY_EXCEPTION_THROWN(selector->setValueFromString("Red"), std::exception);
     QCOMPARE(entries(), QStringList({"Far", "Green", "Far", "Green", "Green"}));
+}
+
+void TestDescription::engineSeesWhatItNeeds_data()
+{
+    columns<QByteArray, QByteArray>({"xml", "expected"});
+    const auto needs = [](const char *name, const QByteArray &xml, const QByteArray &expected) {
+        row(name, xml, expected);
+    };
+    const auto same = [](const char *name, const QByteArray &xml) { row(name, xml, xml); };
+    needs("blanks between tags", " <a>\r\n\t<b/> <c></c>\n</a>\n", " <a><b/><c></c></a>\n");
+    needs("a bracket in quotes", "<a b='\">' c=\"'> \">  <d/></a>", "<a b='\">' c=\"'> \"><d/></a>");
+    needs("unused", "<a>\n<ToolTip>  x > y\n</ToolTip>\n<b>1</b> <pInvalidator>c</pInvalidator></a>",
+          "<a><b>1</b></a>");
+    same("blanks are the value", "<a><Value>  </Value></a>");
+    same("blanks beside text", "<a> x <b/> y </a>");
+    same("a comment", "<a> <!-- > <b>  <c> --> <d/></a>");
+    same("verbatim", "<a><![CDATA[ <b>  <c> ]]> </a>");
+    same("unused ones that hold more", "<a><Description><![CDATA[</Description>]]></Description></a>");
+    same("broken off", "<a><b x='>");
+    same("another encoding", "<a> \x1b <b/></a>");
+}
+
+void TestDescription::engineSeesWhatItNeeds()
+{
+    QFETCH(const QByteArray, xml);
+    QTEST(engineXml(xml), "expected");
 }
 
 QTEST_GUILESS_MAIN(TestDescription)

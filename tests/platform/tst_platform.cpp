@@ -7,6 +7,7 @@
 #include <platform/core/logging.h>
 #include <platform/genicam/genericexception.h>
 #include <platform/parametercollection/parameterdata.h>
+#include <platform/parametercollection/valuewords.h>
 
 #include <support/logcapture.h>
 #include <support/table.h>
@@ -32,10 +33,10 @@ private slots:
     void logLevelsAndRules();
     void guardLogsAndFallsBack_data();
     void guardLogsAndFallsBack();
-    void exceptionsCarryTheirText();
     void formatDouble_data();
     void formatDouble();
     void snapshotsCompareByContents();
+    void factsHaveTheirWords();
 };
 
 void TestPlatform::categoryIdsAreStableAcrossThreads()
@@ -85,11 +86,12 @@ void TestPlatform::guardLogsAndFallsBack_data()
         row(name, fail, detail);
     };
     rowOf(
-        "own exception", [] { throw Core::Exception::BaseException("broken"); }, "Test::run:broken");
+        "own exception", [] { throw Core::Exception::BaseException("5 µs"); }, "Test::run:5 µs");
     rowOf(
         "standard exception", [] { throw std::runtime_error("broken"); }, "Test::run: broken");
     rowOf(
-        "GenICam exception", [] { throw GenICam::AccessException("broken"); }, "Test::run: broken");
+        "GenICam exception", [] { throw GenICam::AccessException("5 µs is short"); },
+        "Test::run: 5 µs is short");
     rowOf(
         "anything else", [] { throw 42; }, "Test::run: Unspecified exception occurred.");
 }
@@ -115,20 +117,6 @@ void TestPlatform::guardLogsAndFallsBack()
     log.clear();
     QVERIFY(Core::guardedRun(site, badHeadline, [] {}));
     QCOMPARE(log.messages(), QStringList());
-}
-
-void TestPlatform::exceptionsCarryTheirText()
-{
-    const QString text = "Belichtung: 5 µs ist zu kurz";
-    const Core::Exception::BaseException own(text);
-    QCOMPARE(own.getMessage(), text);
-    QCOMPARE(QString::fromUtf8(own.what()), own.getMessage());
-    try {
-        throw GenICam::OutOfRangeException(text);
-    } catch (const GenICam::GenericException &exception) {
-        QCOMPARE(QString::fromUtf8(exception.GetDescription()), text);
-    }
-    QVERIFY_EXCEPTION_THROWN(throw GenICam::TimeoutException(text), std::exception);
 }
 
 void TestPlatform::formatDouble_data()
@@ -168,6 +156,26 @@ void TestPlatform::snapshotsCompareByContents()
     EnumParameterData entries;
     entries.symbolicNames.append("Off");
     QVERIFY(!entries.equals(EnumParameterData()));
+}
+
+void TestPlatform::factsHaveTheirWords()
+{
+    for (int mode = GenApi::NI; mode <= GenApi::RW; ++mode) {
+        const auto type = static_cast<ParameterType>(mode);
+        const auto data = newParameterData(type);
+        data->setAccessMode(static_cast<GenApi::EAccessMode>(mode));
+        QCOMPARE(int(data->accessMode()), mode);
+        QCOMPARE(data->type, type);
+        QVERIFY(data->copy()->equals(*data));
+        QCOMPARE(accessModeNames().at(mode).contains(u'W'), data->isWritable);
+    }
+    ParameterData hidden;
+    hidden.isReadable = true;
+    QCOMPARE(hidden.accessMode(), GenApi::NI); // whatever else it says
+    QCOMPARE(visibilityNames().at(GenApi::Invisible), "Invisible");
+    QCOMPARE(booleanFrom("TRUE"), std::optional(true));
+    QCOMPARE(booleanFrom("0"), std::optional(false));
+    QCOMPARE(booleanFrom("yes"), std::nullopt);
 }
 
 QTEST_GUILESS_MAIN(TestPlatform)

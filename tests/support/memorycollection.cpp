@@ -3,6 +3,8 @@
 
 #include "memorycollection.h"
 
+#include <platform/parametercollection/valuewords.h>
+
 using namespace ParameterCollection;
 
 namespace {
@@ -12,9 +14,7 @@ QSharedPointer<Data> usableSnapshot(Arguments... arguments)
 {
     auto data = QSharedPointer<Data>::create(arguments...);
     data->visibility = GenApi::Beginner;
-    data->isReadable = true;
-    data->isWritable = true;
-    data->isImplemented = true;
+    data->setAccessMode(GenApi::RW);
     return data;
 }
 
@@ -49,11 +49,12 @@ QSharedPointer<Data> withNumber(const MemoryNode &node, const QString &text, Val
 QSharedPointer<ParameterData> withBoolean(const MemoryNode &node, const QString &text)
 {
     auto data = copyOf<BooleanParameterData>(node.snapshot);
-    data->value = text == QLatin1String("1") || text == QLatin1String("true");
-    if (!data->value && text != QLatin1String("0") && text != QLatin1String("false")) {
+    const auto value = booleanFrom(text);
+    if (!value) {
         refuse(node, text, QStringLiteral("1 or 0"));
     }
-    data->valueString = QVariant(data->value).toString();
+    data->value = *value;
+    data->valueString = booleanText(*value);
     return data;
 }
 
@@ -80,7 +81,7 @@ QSharedPointer<ParameterData> withText(const MemoryNode &node, const QString &te
         return data;
     }
     case ParameterType::String: {
-        auto data = copyOf<ParameterData>(node.snapshot);
+        auto data = node.snapshot->copy();
         data->valueString = text;
         return data;
     }
@@ -93,7 +94,7 @@ QSharedPointer<ParameterData> withText(const MemoryNode &node, const QString &te
 
 void writeMemoryNode(MemoryNode &node, const QString &text)
 {
-    if (!node.snapshot->isImplemented || !node.snapshot->isWritable) {
+    if (!GenApi::isWritable(node.snapshot->accessMode())) {
         throw GenICam::AccessException(QStringLiteral("%1 cannot be written now").arg(node.shortName));
     }
     node.snapshot = withText(node, text);

@@ -96,7 +96,7 @@ public:
     bool isWritableNow() const override
     {
         const auto data = entered("isWritableNow").snapshot;
-        return data && data->isImplemented && data->isWritable;
+        return data && GenApi::isWritable(data->accessMode());
     }
     GenApi::EVisibility visibility() const override
     {
@@ -128,13 +128,7 @@ public:
     bool isImposingAllowed() const override { return imposingAllowed; }
     GenApi::EAccessMode nodeAccessMode() const override
     {
-        if (!snapshot || !snapshot->isImplemented) {
-            return GenApi::NI;
-        }
-        if (snapshot->isReadable) {
-            return snapshot->isWritable ? GenApi::RW : GenApi::RO;
-        }
-        return snapshot->isWritable ? GenApi::WO : GenApi::NA;
+        return snapshot ? snapshot->accessMode() : GenApi::NI;
     }
 
     /*! Replaces the snapshot by a copy that \a change has changed. Publishes nothing. */

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <viewer/options.h>
+
 #include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -25,18 +28,12 @@ private slots:
 
     void failsInOneLine_data();
     void failsInOneLine();
-    void dumpsSilently_data();
-    void dumpsSilently();
-    void dumpShowsValues();
+    void answers_data();
+    void answers();
     void dumpIsLimited_data();
     void dumpIsLimited();
     void dumpForgetsTheWindow();
-    void dumpsADescriptionFile();
     void savesAndLoadsRegisters();
-    void dumpsSearchResults();
-    void dumpsFavorites();
-    void answersAboutItself_data();
-    void answersAboutItself();
     void takesScreenshots();
     void fullDeviceIsAFailure();
 
@@ -148,6 +145,12 @@ void TestViewerCli::failsInOneLine()
     QFETCH(const QString, named);
     QFETCH(const QByteArray, contents);
     QFETCH(const Changes, changes);
+    const QString error =
+        parseOptions(QStringList("zelto-viewer") + arguments.split(u' ', Qt::SkipEmptyParts)).error;
+    if (!error.isEmpty() && !arguments.startsWith("--frobnicate")) { // one that really runs is enough
+        QVERIFY2(error.contains(named) && !error.contains(u'\n'), qPrintable(error));
+        return;
+    }
     QFile file(path("given"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
     file.close();
@@ -160,36 +163,43 @@ void TestViewerCli::failsInOneLine()
     QVERIFY2(result.err.contains(named), qPrintable(result.err));
 }
 
-void TestViewerCli::dumpsSilently_data()
+void TestViewerCli::answers_data()
 {
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("expected");
     QTest::addColumn<Changes>("changes");
+
+    const auto row = [](const char *name, const char *arguments, const char *expected,
+                        const Changes &changes = {}) {
+        QTest::newRow(name) << arguments << expected << changes;
+    };
+    const char *const exposure = "\n        Exposure Time \\[us\\]\t5000\n";
     const QString runtime = "XDG_RUNTIME_DIR";
-    QTest::newRow("as it is") << Changes{};
-    QTest::newRow("no session") << Changes{{runtime, QString()}};
-    QTest::newRow("session directory is gone") << Changes{{runtime, "/dev/null/at/all"}};
-    QTest::newRow("session directory of another") << Changes{{runtime, "/usr"}};
-    QTest::newRow("no locale") << Changes{{"LC_ALL", "C"}};
-    QTest::newRow("no home") << Changes{{"HOME", "/dev/null"}, {"XDG_CONFIG_HOME", "/dev/null"}};
-    QTest::newRow("unreachable display") << Changes{{"DISPLAY", ":4711"}};
+    row("as it is", "--dump", exposure);
+    row("no session", "--dump", exposure, {{runtime, QString()}});
+    row("session directory is gone", "--dump", exposure, {{runtime, "/dev/null/at/all"}});
+    row("session directory of another", "--dump", exposure, {{runtime, "/usr"}});
+    row("no locale", "--dump", exposure, {{"LC_ALL", "C"}});
+    row("no home", "--dump", exposure, {{"HOME", "/dev/null"}, {"XDG_CONFIG_HOME", "/dev/null"}});
+    row("unreachable display", "--dump", exposure, {{"DISPLAY", ":4711"}});
+    row("a description file", "--dump --description " DESCRIPTION_FILE, "Exposure Time \\[us\\]\t");
+    row("a search", "--dump --search exposuretime", "^(?!(.|\n)*Width)(.|\n)*Exposure Time \\[us\\]\t5000\n");
+    row("favorites", "--favorites", "^    Add favorites[^\n]*\n$");
+    row("favorites in a search", "--favorites --search=exposure", "^$");
+    row("help", "--help", "Usage: zelto-viewer ", {{runtime, QString()}});
+    row("version", "--version", "^zelto-viewer ", {{runtime, QString()}});
+    row("list", "--list", "", {{runtime, QString()}});
 }
 
-void TestViewerCli::dumpsSilently()
+void TestViewerCli::answers()
 {
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, expected);
     QFETCH(const Changes, changes);
-    const Result result = run("--dump", changes);
+    const Result result = run(arguments, changes);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.err, QString());
-    QVERIFY(result.out.contains("Exposure Time [us]"));
-}
-
-void TestViewerCli::dumpShowsValues()
-{
-    const QString out = run("--dump").out;
-    QVERIFY2(out.contains("\n        Exposure Time [us]\t5000\n"), qPrintable(out));
-    const QStringList lines = out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString &line : lines) {
-        QVERIFY2(line.count(QLatin1Char('\t')) == 1 && !line.contains("<B>"), qPrintable(line));
-    }
+    QVERIFY2(result.out.contains(QRegularExpression(expected)), qPrintable(result.out));
 }
 
 void TestViewerCli::dumpIsLimited_data()
@@ -225,14 +235,6 @@ void TestViewerCli::dumpForgetsTheWindow()
     QCOMPARE(out.count(QLatin1Char('\n')), guru.count(QLatin1Char('\n')));
 }
 
-void TestViewerCli::dumpsADescriptionFile()
-{
-    const Result result = run("--dump --description " DESCRIPTION_FILE);
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.err, QString());
-    QVERIFY(result.out.contains("Exposure Time [us]\t"));
-}
-
 void TestViewerCli::savesAndLoadsRegisters()
 {
     const QString open = "--description " DESCRIPTION_FILE " ";
@@ -243,49 +245,6 @@ void TestViewerCli::savesAndLoadsRegisters()
     QCOMPARE(saved.exitCode, 0);
     QCOMPARE(saved.out + saved.err, QString());
     QCOMPARE(run("--dump " + open + "--registers " + path("state")).out, alive);
-}
-
-void TestViewerCli::dumpsSearchResults()
-{
-    const Result result = run("--dump --search exposuretime");
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.err, QString());
-    QVERIFY(result.out.contains("Exposure Time [us]\t5000\n"));
-    QVERIFY(!result.out.contains("Width"));
-}
-
-void TestViewerCli::dumpsFavorites()
-{
-    const Result result = run("--favorites");
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.err, QString());
-    QVERIFY2(result.out.startsWith("    Add favorites"), qPrintable(result.out));
-    QCOMPARE(result.out.count(QLatin1Char('\n')), 1);
-
-    const Result none = run("--favorites --search=exposure");
-    QCOMPARE(none.exitCode, 0);
-    QCOMPARE(none.out, QString());
-}
-
-void TestViewerCli::answersAboutItself_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("named");
-    QTest::newRow("help") << "--help"
-                          << "Usage: zelto-viewer ";
-    QTest::newRow("version") << "--version"
-                             << "zelto-viewer ";
-    QTest::newRow("list") << "--list" << QString();
-}
-
-void TestViewerCli::answersAboutItself()
-{
-    QFETCH(const QString, option);
-    QFETCH(const QString, named);
-    const Result result = run(option, {{"XDG_RUNTIME_DIR", QString()}});
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(result.err, QString());
-    QVERIFY2(result.out.contains(named), qPrintable(result.out));
 }
 
 void TestViewerCli::takesScreenshots()

@@ -65,7 +65,6 @@ private slots:
     void clampNeverFights();
     void someItemsDoNotFollowTheirParameter();
     void firstGoodSnapshotBringsItemToLife();
-    void exceptionsStayInside();
     void nodeWithoutProperties();
 
 private:
@@ -498,22 +497,6 @@ void TestFeatureTreeItems::firstGoodSnapshotBringsItemToLife()
     QVERIFY(item->ShowMe(GenApi::Beginner));
     QVERIFY(item->hasChildren());
     QCOMPARE(item->existingChildCount(), 1);
-}
-
-void TestFeatureTreeItems::exceptionsStayInside()
-{
-    for (const char *failing : {"propertyAccess", "property", "name", "parameterData", "isExcluded"}) {
-        m_collection->node("Gain")->fail({failing}, 1);
-        LogCapture log;
-        auto *const item = itemFor("Gain");
-        QVERIFY2(!log.entries().isEmpty(), failing);
-        for (const int role : {0, 2, 3, 9, 257, 262, 266, 270}) {
-            item->data(0, role);
-            item->data(1, role);
-        }
-        item->ShowMe(GenApi::Guru);
-        item->flags(1);
-    }
 }
 
 void TestFeatureTreeItems::nodeWithoutProperties()

@@ -130,22 +130,6 @@
         <translation>Nicht verfügbar</translation>
     </message>
     <message>
-        <source>Beginner</source>
-        <translation>Einsteiger</translation>
-    </message>
-    <message>
-        <source>Expert</source>
-        <translation>Experte</translation>
-    </message>
-    <message>
-        <source>Guru</source>
-        <translation>Guru</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Unsichtbar</translation>
-    </message>
-    <message>
         <source>%1 to %2%3</source>
         <translation>%1 bis %2%3</translation>
     </message>
@@ -203,6 +187,29 @@
     <message>
         <source>The IP configuration was not changed. %1</source>
         <translation>Die IP-Konfiguration wurde nicht geändert. %1</translation>
+    </message>
+</context>
+<context>
+    <name>Levels</name>
+    <message>
+        <source>&amp;Beginner</source>
+        <translation>&amp;Einsteiger</translation>
+    </message>
+    <message>
+        <source>&amp;Expert</source>
+        <translation>E&amp;xperte</translation>
+    </message>
+    <message>
+        <source>&amp;Guru</source>
+        <translation>&amp;Guru</translation>
+    </message>
+    <message>
+        <source>&amp;All Features</source>
+        <translation>&amp;Alle Merkmale</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
     </message>
 </context>
 <context>
@@ -294,22 +301,6 @@
     <message>
         <source>&amp;Level</source>
         <translation>&amp;Stufe</translation>
-    </message>
-    <message>
-        <source>&amp;Beginner</source>
-        <translation>&amp;Einsteiger</translation>
-    </message>
-    <message>
-        <source>&amp;Expert</source>
-        <translation>E&amp;xperte</translation>
-    </message>
-    <message>
-        <source>&amp;Guru</source>
-        <translation>&amp;Guru</translation>
-    </message>
-    <message>
-        <source>&amp;All Features</source>
-        <translation>&amp;Alle Merkmale</translation>
     </message>
     <message>
         <source>%1 %2</source>

@@ -17,6 +17,8 @@
  * Any thread may report; the queue hands the messages on one at a time, in order, from the event loop of the
  * thread that it belongs to, through displayError(). It shows nothing itself: the application connects the
  * signal to what does.
+ *
+ * \ingroup errors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AsyncErrorQueue : public QObject
 {

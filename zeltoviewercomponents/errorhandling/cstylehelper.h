@@ -17,6 +17,8 @@ class QWindow;
  * The scale is that of device-independent pixels: 1 on a screen whose text has the usual size, 2 where the
  * desktop asks for text twice as large. A scale that Qt itself applies to all pixels is not part of it, so
  * nothing is scaled twice. A helper belongs to its widget and follows it from screen to screen.
+ *
+ * \ingroup errors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT CStyleHelper : public QObject
 {

@@ -14,6 +14,8 @@
  * context menu copies the address. Addresses may come out of a camera's own description, so only web pages
  * and local files are accepted. Without an acceptable address the label is empty and out of the way of the
  * keyboard.
+ *
+ * \ingroup errors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HelpLink : public QLabel
 {

@@ -21,6 +21,8 @@ class QCheckBox;
  *
  * A key with slashes is a path, as everywhere in QSettings: reset() of "a" also takes back "a/b". A key of
  * nothing but slashes counts as empty; a box with an empty key remembers nothing.
+ *
+ * \ingroup errors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT MessageBoxCheckable : public QMessageBox
 {

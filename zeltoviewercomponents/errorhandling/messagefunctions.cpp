@@ -109,6 +109,17 @@ void showException(const QString &context, const std::exception &exception, QWid
     showException(context, exception, QString(), parent);
 }
 
+void showCurrentException(const QString &context, const QString &message, QWidget *parent)
+{
+    try {
+        throw;
+    } catch (const std::exception &exception) {
+        showException(context, exception, message, parent);
+    } catch (...) {
+        showUnexpectedException(context, message, parent);
+    }
+}
+
 void showUnexpectedException(const QString &context, const QString &message, QWidget *parent)
 {
     showCriticalMessage(QCoreApplication::translate("ErrorHandling", "Unexpected exception occurred"),

@@ -23,6 +23,8 @@ class GenericException;
  *
  * Each logs where its kind requires it and hands the message to the global AsyncErrorQueue. Caption and
  * context reach the log alone. All may be called from any thread; none throws.
+ *
+ * \ingroup errors
  */
 
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, QWidget *parent = nullptr);
@@ -59,6 +61,11 @@ ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, co
                                                       const QString &details, QWidget *parent = nullptr);
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
                                                       QWidget *parent = nullptr);
+
+/*! Reports the exception that is being handled, by showException() or, when its type is unknown, by
+ * showUnexpectedException(); \a message says what failed. To be called inside a catch block. */
+ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCurrentException(const QString &context, const QString &message,
+                                                             QWidget *parent = nullptr);
 
 /*! Reports an exception of an unknown type; \a message says what failed. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void

@@ -15,6 +15,8 @@
  * Always the second base of an editor, after its Qt widget class: the delegate finds it with a dynamic cast
  * of the widget. An editor never writes a parameter itself; it shows snapshots and hands out what the user
  * entered.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AbstractItemEditor
 {

@@ -11,7 +11,10 @@
 
 class EditorDataKeeper;
 
-/*! \brief Edits a boolean feature; hands out "1" or "0". */
+/*! \brief Edits a boolean feature; hands out "1" or "0".
+ *
+ * \ingroup editors
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT CheckBoxEditor : public QCheckBox, public AbstractItemEditor
 {
     Q_OBJECT

@@ -17,6 +17,8 @@ class ZeltoQtSpinBox;
  *
  * Values lie on the grid that starts at the minimum. Only the user's changes emit valueChanged(),
  * programmatic ones never do. A hint says when a limit or a grid point took the place of what was entered.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ComboSlider : public QWidget
 {

@@ -14,6 +14,8 @@ class ZeltoQtDoubleSpinBox;
 /*! \brief A spin box for doubles beside a slider of integer positions that carries the stepping.
  *
  * How positions and values belong together is the subclass's matter.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT DoubleComboSlider : public QWidget
 {

@@ -16,6 +16,8 @@ class ZeltoQtDoubleSpinBox;
  *
  * Tells its owner whether a refresh may overwrite what is shown: not while the user, who has the focus, has
  * changed it.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT DoubleSpinBox : public QWidget
 {

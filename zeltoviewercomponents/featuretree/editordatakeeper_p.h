@@ -17,6 +17,8 @@ class QWidget;
  * was entered. So the last data is shown again some time after a commit or focus loss that no refresh has
  * answered, and at once on Escape, before the delegate's event filter turns Escape into a focus loss and that
  * into a commit.
+ *
+ * \ingroup editors
  */
 class EditorDataKeeper : public QObject
 {

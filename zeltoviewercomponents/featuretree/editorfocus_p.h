@@ -15,6 +15,8 @@ class QWidget;
  * An editor gives the focus back to the view before its row goes, gets out of sight or is locked, or else the
  * focus would go on to the editor of whatever row comes next. The focus is that of the window, which an open
  * popup and another window do not take away.
+ *
+ * \ingroup view
  */
 class EditorFocus : public QObject
 {

@@ -19,6 +19,8 @@ class ParentFont;
 /*! \brief Edits an enumeration feature; hands out the symbolic name of the chosen entry.
  *
  * A refresh that comes while the list is open waits until the list hides.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT EnumEditor : public QComboBox, public AbstractItemEditor
 {

@@ -9,7 +9,10 @@
 
 #include <utility>
 
-/*! \brief One favorite feature: known by its node map and its name, whether or not a camera has it now. */
+/*! \brief One favorite feature: known by its node map and its name, whether or not a camera has it now.
+ *
+ * \ingroup favorites
+ */
 struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoriteEntry
 {
     QString featureName; //!< the name within the node map, such as "ExposureTime"

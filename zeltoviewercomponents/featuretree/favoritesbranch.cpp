@@ -313,13 +313,10 @@ bool FavoritesBranch::canAdd(const FeatureTreeItem *item) const
     if (!parameter || indexOf(item) >= 0) {
         return false;
     }
-    return Core::guarded(site("FeatureTreeModel::CanAddAsFavorite"),
-                         QStringLiteral("Failed to ask whether a feature can be a favorite"), false,
-                         [&parameter] {
-                             const ParameterType type = parameter->type();
-                             return !parameter->isExcluded() && type >= ParameterType::Integer
-                                 && type <= ParameterType::Enumeration;
-                         });
+    return Core::guarded(
+        site("FeatureTreeModel::CanAddAsFavorite"),
+        QStringLiteral("Failed to ask whether a feature can be a favorite"), false,
+        [&parameter] { return !parameter->isExcluded() && isFeatureType(parameter->type()); });
 }
 
 // A plain row of a favorite feature has its place in the list too; moving and removing act on the branch

@@ -18,6 +18,8 @@ class FeatureTreeModel;
  *
  * The rows follow the list one to one: a placeholder for each favorite, which a node item replaces as soon as
  * a collection has the feature. Rows come and go one change after the other, announced by the model.
+ *
+ * \ingroup favorites
  */
 class FavoritesBranch
 {

@@ -31,6 +31,8 @@ struct FavoritesList;
  * Other programs may use the same settings. What changed here is then done again on what they have stored,
  * and what changed there is taken over as soon as it is stored, where the settings are a file; elsewhere with
  * the next change made here. Only the expansion of the branch stays each program's own.
+ *
+ * \ingroup favorites
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoritesData : public QObject
 {

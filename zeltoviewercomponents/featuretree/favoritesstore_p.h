@@ -12,7 +12,10 @@
 
 #include <memory>
 
-/*! \brief What is stored of the favorites. */
+/*! \brief What is stored of the favorites.
+ *
+ * \ingroup favorites
+ */
 struct FavoritesList
 {
     /*! Returns whether both show the same favorites. */
@@ -30,6 +33,8 @@ struct FavoritesList
  *
  * Settings are merged key by key when several programs write them, which would mix the numbered entries of
  * two lists. Whoever reads, changes and writes therefore locks the others out meanwhile.
+ *
+ * \ingroup favorites
  */
 class FavoritesStore
 {

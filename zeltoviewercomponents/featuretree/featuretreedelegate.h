@@ -23,6 +23,8 @@ class IFeatureTreeModelExtension;
  *
  * Chooses the in-place editor for a row, hands it the row's parameter and snapshot, writes its value into the
  * model, and paints names with the search matches marked. Unusable rows silently get no editor.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeDelegate : public QStyledItemDelegate
 {

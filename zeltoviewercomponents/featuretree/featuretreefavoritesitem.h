@@ -7,7 +7,10 @@
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-/*! \brief The head of the favorites branch: drawn like a category, shown at every level, target of drops. */
+/*! \brief The head of the favorites branch: drawn like a category, shown at every level, target of drops.
+ *
+ * \ingroup items
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeFavoritesItem : public FeatureTreeItem
 {
     Q_OBJECT

@@ -13,6 +13,8 @@
 /*! \brief Finds the search text in displayed texts, whatever its letter case, and marks it.
  *
  * The colour is read from the settings ("FeatureTree/HighlightColor"), where it can be edited by hand.
+ *
+ * \ingroup search
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeHighlighter
 {

@@ -430,13 +430,7 @@ bool FeatureTreeINodeItem::ShowMe(GenApi::EVisibility level) const
 
 GenApi::EAccessMode FeatureTreeINodeItem::getAccessMode()
 {
-    if (!m_state.isImplemented) {
-        return GenApi::NI;
-    }
-    if (!m_state.isReadable) {
-        return m_state.isWritable ? GenApi::WO : GenApi::NA;
-    }
-    return m_state.isWritable ? GenApi::RW : GenApi::RO;
+    return m_data ? m_data->accessMode() : GenApi::NI;
 }
 
 GenApi::EVisibility FeatureTreeINodeItem::getVisibility()

@@ -18,6 +18,8 @@ class FeatureTreeHighlighter;
  * translations. It follows the parameter's change signal, brings a value that left its limits back into them,
  * and creates its children through the model when they are first needed. No exception of the parameter
  * library leaves it, except from setData(), whose caller reports it.
+ *
+ * \ingroup items
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeINodeItem : public FeatureTreeItem
 {

@@ -17,7 +17,8 @@
 
 namespace {
 
-// Integer (0), String (6), Reserved8 (8) and Category (10) open no permanent editor; all others do.
+// Integer (0), String (6), Reserved8 (8) and Category (10) open no permanent editor; all others do, also
+// those that have none to show. What is only typed in shows its text as well as an editor would.
 constexpr unsigned transientEditorTypes = 1345;
 
 quint64 revision = 1;

@@ -22,6 +22,8 @@ class IFeatureTreeModelExtension;
  * derive from it. An item owns its children and answers the model's questions for two columns, the name and
  * the value. It knows the model only through IFeatureTreeModelExtension and never knows a view. GUI thread
  * only.
+ *
+ * \ingroup items
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeItem : public QObject
 {

@@ -23,6 +23,8 @@ class FeatureTreeWidget;
  * A row is known by the full names from the top down to it, since a feature may stand in two categories; so a
  * look fits the tree of the same camera opened anew. Each part is present when it was taken or read, and a
  * tree keeps what the look does not have. The tree itself uses one to bring back what a search has changed.
+ *
+ * \ingroup view
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeLook
 {

@@ -166,21 +166,16 @@ QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
 // often.
 void FeatureTreeModel::reportReadFailure() const
 {
-    const QString context = QStringLiteral("FeatureTreeModel::data");
-    const QString text = tr("Failed to get a feature value");
     const bool report = !m_dataErrorShown;
     m_dataErrorShown = true;
     try {
         throw;
     } catch (const GenICam::GenericException &) {
         // A feature that is momentarily unreadable; its row shows that by itself.
-    } catch (const std::exception &exception) {
-        if (report) {
-            showException(context, exception, text);
-        }
     } catch (...) {
         if (report) {
-            showUnexpectedException(context, text);
+            showCurrentException(QStringLiteral("FeatureTreeModel::data"),
+                                 tr("Failed to get a feature value"));
         }
     }
 }
@@ -213,7 +208,6 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
 // Reports the exception that is being handled. The item is null when it is gone by now.
 void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPointer<IParameter> &parameter)
 {
-    const QString context = QStringLiteral("FeatureTreeModel::setData");
     const QString text = tr("Failed to set a feature value.");
     if (item && item->editorType() == FeatureTreeItem::Command) {
         scheduleForcedParameterDataChangedCheck(item);
@@ -221,21 +215,10 @@ void FeatureTreeModel::reportWriteFailure(FeatureTreeItem *item, const QSharedPo
     if (!m_deviceAlive) {
         return;
     }
-    const auto tell = [this, &parameter](const QString &message) {
-        if (parameter) {
-            emit writeFailed(parameter, message);
-        }
-    };
-    // The system's and the standard library's own exceptions all derive from std::exception.
-    try {
-        throw;
-    } catch (const std::exception &exception) {
-        tell(QString::fromUtf8(exception.what()));
-        showException(context, exception, text);
-    } catch (...) {
-        tell(text);
-        showUnexpectedException(context, text);
+    if (parameter) {
+        emit writeFailed(parameter, Core::currentExceptionText(text));
     }
+    showCurrentException(QStringLiteral("FeatureTreeModel::setData"), text);
 }
 
 QVariant FeatureTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -307,6 +290,7 @@ bool FeatureTreeModel::readDraggedItems(const QMimeData &data, QList<FeatureTree
 bool FeatureTreeModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                                     const QModelIndex &parent)
 {
+    // Wherever in the tree it lands, a drop is meant for the favorites.
     Q_UNUSED(column)
     Q_UNUSED(parent)
     if (action == Qt::IgnoreAction) {
@@ -423,11 +407,8 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
         if (collection) {
             root = collection->parameter(nodeMapName + QLatin1Char('/') + FeatureTreeNames::root);
         }
-    } catch (const std::exception &exception) {
-        showException(context, exception, failure);
-        return;
     } catch (...) {
-        showUnexpectedException(context, failure);
+        showCurrentException(context, failure);
         return;
     }
     if (!root) {
@@ -439,6 +420,7 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
     const QPointer<FeatureTreeINodeItem> item(
         new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false));
     adoptNodeItem(item, true);
+    // A new layout, not a new row: who listens looks at all top rows again, and what was open stays open.
     emit layoutAboutToBeChanged();
     m_rootItem->appendChild(item);
     emit layoutChanged();
@@ -518,6 +500,8 @@ FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent,
         && (parameter->visibility() >= GenApi::Invisible || standsAbove(parent, parameter))) {
         return nullptr;
     }
+    // How texts are written is a matter of the whole model: the collection that was added last says it, also
+    // for rows of earlier ones that are made only now.
     auto *const item =
         new FeatureTreeINodeItem(parent->collection(), parameter, this, name, parent, m_childNodeFlag);
     adoptNodeItem(item, false);
@@ -550,7 +534,8 @@ void FeatureTreeModel::refresh()
                      });
 }
 
-// A copy, which keeps the collection alive while it is at work: it may have the tree cleared.
+// The camera itself; what was added behind it has no values that change by themselves. A copy, which keeps
+// the collection alive while it is at work: it may have the tree cleared.
 QSharedPointer<IParameterCollection> FeatureTreeModel::firstCollection() const
 {
     return m_collections.value(0).collection;
@@ -635,6 +620,7 @@ void FeatureTreeModel::refreshSpecialItems()
     }
 }
 
+// Announces nothing: whoever clears the model resets the views, too. What they hold points nowhere at once.
 void FeatureTreeModel::clear()
 {
     m_favoritesBranch->forgetRows();
@@ -650,7 +636,7 @@ void FeatureTreeModel::clear()
 
 QString FeatureTreeModel::GetParameterCollectionName(QSharedPointer<IParameterCollection> collection)
 {
-    Q_UNUSED(collection)
+    Q_UNUSED(collection) // rows and favorites know node maps by the name that they were added with
     return {};
 }
 
@@ -681,7 +667,8 @@ void FeatureTreeModel::insertTopItem(FeatureTreeItem *item)
 
 void FeatureTreeModel::createSearchRow()
 {
-    // The row is announced as the second top row, below the invisible root, and stands as the first.
+    // The row is announced as the second top row, below the invisible root, and stands as the first:
+    // hosts know it so, and FeatureTreeProxyModel sets it right.
     beginInsertRows(indexForItem(m_rootItem.get(), FeatureTreeColumns::name), 1, 1);
     m_searchHelpItem = new FeatureTreeItem(
         QStringLiteral("<HTML><B>X search results found (Y of them visible at higher user level)</B>"), this,

@@ -25,6 +25,8 @@ class QTimer;
  * nobody was told a count before; every other one announces its rows. Polls the first collection on a timer
  * and serves drags into the favorites branch. GUI thread only; no exception of the parameter library leaves
  * it.
+ *
+ * \ingroup items
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeModel : public QAbstractItemModel,
                                                             public IFeatureTreeModelExtension

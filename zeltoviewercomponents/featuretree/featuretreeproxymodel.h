@@ -34,6 +34,8 @@ class FeatureTreeRoleFilter;
  * round. A source of another class that answers to the roles of FeatureTreeItem is filtered by these. As
  * IFeatureTreeModelExtension it forwards to its source, a FeatureTreeModel; all indexes that go in and come
  * out are the proxy's, and a row that is filtered out gives an invalid one.
+ *
+ * \ingroup search
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeProxyModel : public QSortFilterProxyModel,
                                                                  public IFeatureTreeModelExtension

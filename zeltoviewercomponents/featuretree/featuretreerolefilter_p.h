@@ -16,6 +16,8 @@ class QAbstractItemModel;
  *
  * Judges by what the rows answer to the roles of FeatureTreeItem, row by row; FeatureTreeProxyModel comes to
  * the same verdicts over the items, in one pass. A model without these roles passes as it is.
+ *
+ * \ingroup search
  */
 class FeatureTreeRoleFilter
 {

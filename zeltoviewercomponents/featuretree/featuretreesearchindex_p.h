@@ -22,6 +22,8 @@ class FeatureTreeItem;
  * by row. The children of an item have consecutive numbers, and higher ones than the item itself. Categories,
  * the search row and the top rows of collections have no text to search in. The numbers are out of date once
  * any item has come, gone or changed its name; the states are read again where rows have changed theirs.
+ *
+ * \ingroup search
  */
 class FeatureTreeSearchIndex
 {

@@ -31,6 +31,8 @@ class OpenEditors;
  * wants one, and hides rows above the user level. Where more than 64 rows want an editor, those of the
  * viewport have it before they are painted, the next ones in both directions when nothing else is to do, and
  * others when they are scrolled to. In a view that was never shown, they are opened when they are asked for.
+ *
+ * \ingroup view
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeView : public QTreeView
 {
@@ -58,7 +60,7 @@ public:
     /*! Returns the model's extension, null when the model is of another kind. */
     IFeatureTreeModelExtension *getFeatureExtension();
     const IFeatureTreeModelExtension *getFeatureExtension() const;
-    /*! Returns what marks the search text in names. */
+    /*! Returns what marks the search text in names. Hosts call it by this spelling. */
     FeatureTreeHighlighter *getHightlighter();
 
     /*! Returns the settings group of the favorites. */

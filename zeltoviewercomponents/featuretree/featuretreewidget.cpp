@@ -16,6 +16,7 @@
 #include "searchedit.h"
 #include "sizedicon_p.h"
 #include "ui_featuretreewidget.h"
+#include "waitcursor_p.h"
 
 #include <QAction>
 #include <QApplication>
@@ -64,15 +65,6 @@ bool &escapePressed()
     static bool pressed = false;
     return pressed;
 }
-
-/*! \brief Shows the wait cursor while it lives. */
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-};
 
 } // namespace
 

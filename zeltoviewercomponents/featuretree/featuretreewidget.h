@@ -37,6 +37,8 @@ class FeatureTreeWidgetClass;
  * Runs the search, owns the favorites actions and the keyboard shortcuts, keeps expansion and current row
  * over a search, and forwards refreshing, polling and the user level to the model. The application adds one
  * parameter collection per node map and shows the context menu that contextMenuRequested() hands out.
+ *
+ * \ingroup view
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeWidget : public TreeWidgetBase
 {

@@ -22,6 +22,8 @@ struct FloatEntry;
  * A step goes by the increment. Without one it changes the second digit of the value, or, where a limit is
  * missing, its last shown digit; how far it goes stays the same while the user is in the editor. A step that
  * the camera swallows is taken again tenfold.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatEditor : public DoubleSpinBox, public AbstractItemEditor
 {

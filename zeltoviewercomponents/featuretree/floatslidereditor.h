@@ -15,6 +15,8 @@ class EditorDataKeeper;
  *
  * The slider has the range and the step of the feature's alias, the integer called by the feature's name and
  * "/Alias"; the camera's answer to a write decides where the slider stands.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatSliderEditor : public TwoModeDoubleComboSlider,
                                                              public AbstractItemEditor

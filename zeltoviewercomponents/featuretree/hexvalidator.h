@@ -7,7 +7,10 @@
 
 #include <QIntValidator>
 
-/*! \brief Accepts 32-bit integers within limits, in decimal or, after "0x", in hexadecimal. */
+/*! \brief Accepts 32-bit integers within limits, in decimal or, after "0x", in hexadecimal.
+ *
+ * \ingroup controls
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HexValidator : public QIntValidator
 {
     Q_OBJECT

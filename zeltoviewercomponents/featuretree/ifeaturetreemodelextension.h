@@ -25,6 +25,8 @@ class IParameterCollection;
  * Items, delegate, view and widget reach the model through this interface. FeatureTreeModel implements it;
  * FeatureTreeProxyModel implements it by forwarding to its source, with proxy indexes going in and coming
  * out.
+ *
+ * \ingroup items
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IFeatureTreeModelExtension
 {
@@ -112,7 +114,7 @@ public:
     virtual void onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem) = 0;
     /*! Polls the first collection and arms the timer for the next time. */
     virtual void onTimerPoll() = 0;
-    /*! Returns the name of \a collection as the model knows it. */
+    /*! Returns an empty text: a model has no names for collections. Kept for hosts that ask. */
     virtual QString
     GetParameterCollectionName(QSharedPointer<ParameterCollection::IParameterCollection> collection) = 0;
     /*! Turns placeholders in the favorites branch into live rows where \a collection has their feature. */

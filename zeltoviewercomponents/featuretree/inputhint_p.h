@@ -17,6 +17,8 @@ class QLineEdit;
  * A text with a problem is marked as long as it stands there, and its tool tip says why; nothing else about
  * the text is changed. What was made of an entry ("3032 is the maximum") shows beside the editor for a while,
  * also when the focus has gone on.
+ *
+ * \ingroup editors
  */
 class InputHint : public QObject
 {

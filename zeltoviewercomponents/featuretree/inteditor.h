@@ -17,6 +17,8 @@ class InputHint;
  * The text goes to the parameter as it was typed, which refuses it when it is outside the limits. A text that
  * is no value of the feature's form is marked and never handed out. Both kinds stay for correction until the
  * user leaves the editor.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IntEditor : public QLineEdit, public AbstractItemEditor
 {

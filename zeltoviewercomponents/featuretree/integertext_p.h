@@ -9,7 +9,10 @@
 
 #include <optional>
 
-/*! \brief Judges the texts that users type as values of integer features. */
+/*! \brief Judges the texts that users type as values of integer features.
+ *
+ * \ingroup editors
+ */
 class IntegerText
 {
     Q_DECLARE_TR_FUNCTIONS(IntegerText)

@@ -15,6 +15,8 @@ class NumberStep;
  *
  * A step that the camera swallows, because it rounds values, is made again tenfold until the value moves or
  * a limit is reached.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IntSliderEditor : public ComboSlider, public AbstractItemEditor
 {

@@ -18,6 +18,8 @@ class QDomElement;
  * A filter file lies next to the application or, failing that, is embedded in the library. Its entries name
  * features and impose a visibility, an access mode or both on them. Failures are logged and change nothing
  * else.
+ *
+ * \ingroup search
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT NodeMapFilter
 {

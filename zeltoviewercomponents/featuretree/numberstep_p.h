@@ -19,6 +19,8 @@
  * it had. Such a step is taken again from where it began, tenfold. A refusal ends the step, since a wider one
  * is not what the user asked for; so does everything else that the user does. Silence is no answer: a camera
  * that says nothing is asked.
+ *
+ * \ingroup editors
  */
 class NumberStep : public QObject
 {

@@ -14,6 +14,8 @@
  * A number has the decimal sign of the language, no group separators and no unit: what could mean two
  * different numbers is none. Signs, digits and the exponent are understood as every keyboard has them, too,
  * and blanks around the number do not count.
+ *
+ * \ingroup editors
  */
 class NumberText
 {

@@ -21,6 +21,8 @@ class QTreeView;
  * viewport are opened before it is painted and those of one page above and below when nothing else is to do;
  * then, too, the ones farther away are closed, unless the user is at work in them. Which rows want an editor
  * is the view's business.
+ *
+ * \ingroup view
  */
 class OpenEditors : public QObject
 {

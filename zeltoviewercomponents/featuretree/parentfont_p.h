@@ -10,6 +10,8 @@ class QWidget;
 /*! \brief Gives a widget that has a style sheet the font of its parent, which Qt does not hand on to it.
  *
  * A font that the widget is given itself stays until the parent's changes.
+ *
+ * \ingroup controls
  */
 class ParentFont
 {

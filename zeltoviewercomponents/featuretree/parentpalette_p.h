@@ -13,6 +13,8 @@ class QWidget;
  *
  * The style sheets of parents and of the application reach the widget without help; where there are any, the
  * palette is left to them.
+ *
+ * \ingroup controls
  */
 class ParentPalette : public QObject
 {

@@ -17,6 +17,8 @@ class QAction;
  *
  * It paints its placeholder itself; the placeholder text of QLineEdit is to stay empty, or both would be
  * seen.
+ *
+ * \ingroup search
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SearchEdit : public QLineEdit
 {

@@ -13,6 +13,8 @@
  * Settings replace their file by another one and create it, with its folder, when they first have something
  * to keep. So the folder is watched, too, or the nearest one above it that exists. What happens in quick
  * succession is told once, and now and then something is told that was none of the file.
+ *
+ * \ingroup favorites
  */
 class SettingsWatcher : public QObject
 {

@@ -7,7 +7,10 @@
 
 #include <QObject>
 
-/*! \brief Reports the focus changes of the widgets it is installed on; lets every event through. */
+/*! \brief Reports the focus changes of the widgets it is installed on; lets every event through.
+ *
+ * \ingroup controls
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SpinBoxEventCatcher : public QObject
 {
     Q_OBJECT

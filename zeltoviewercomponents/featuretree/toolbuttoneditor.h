@@ -16,6 +16,8 @@ class EditorDataKeeper;
  *
  * While the command runs the button stays pressed and says so, and asks the parameter now and then whether it
  * is done. That it is done shows for a moment.
+ *
+ * \ingroup editors
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ToolButtonEditor : public QToolButton, public AbstractItemEditor
 {

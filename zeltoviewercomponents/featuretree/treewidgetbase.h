@@ -15,6 +15,8 @@ class QTreeView;
  *
  * A subclass may append a state of its own. The state is a versioned byte array; one of another version or of
  * a tree with another number of columns is refused.
+ *
+ * \ingroup view
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TreeWidgetBase : public QWidget
 {

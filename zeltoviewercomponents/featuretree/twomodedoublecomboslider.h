@@ -27,6 +27,8 @@ enum class ETwoModeDoubleComboSliderMode {
  *
  * A step goes as far as one position of the slider, at least as far as the increment and as can be shown;
  * where a limit is missing, it changes the last shown digit.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TwoModeDoubleComboSlider : public DoubleComboSlider
 {

@@ -3,24 +3,13 @@
 
 #include "unansweredwrites_p.h"
 
-#include <QMetaType>
+#include <platform/parametercollection/valuewords.h>
 
-#include <optional>
+#include <QMetaType>
 
 using namespace ParameterCollection;
 
 namespace {
-
-std::optional<bool> booleanFrom(const QString &text)
-{
-    if (text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0) {
-        return true;
-    }
-    if (text == QLatin1String("0") || text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0) {
-        return false;
-    }
-    return std::nullopt;
-}
 
 QString valueOf(const IParameter &parameter)
 {

@@ -14,6 +14,8 @@
  * A camera answers a write later, and until then the snapshot shows what was before: a value that equals it
  * would wrongly count as written. Belongs to the parameter and is shared by all its rows, whether they take
  * snapshots at present or not.
+ *
+ * \ingroup items
  */
 class UnansweredWrites : public QObject
 {

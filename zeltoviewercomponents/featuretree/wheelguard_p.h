@@ -12,6 +12,8 @@ class QWidget;
  * The controls of an editor get wheel events only while one of them has the focus because the user has
  * clicked or tabbed into it, else the parent gets them. A focus that came otherwise does not count: the user
  * may only be scrolling the view.
+ *
+ * \ingroup controls
  */
 class WheelGuard : public QObject
 {

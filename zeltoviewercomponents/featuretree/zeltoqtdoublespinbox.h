@@ -22,6 +22,8 @@ class InputHint;
  * Every key stays as typed until Return or leaving, which take a number, limited to the range. A text that is
  * no number is marked, Return keeps it, and leaving gives back the value. A menu, a tool tip or another
  * window is not leaving.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ZeltoQtDoubleSpinBox : public QDoubleSpinBox
 {

@@ -15,6 +15,8 @@
  * by leaving. Then the nearest limit takes its place. A text that is no number is kept by Return and replaced
  * by the value on leaving, as is a number outside the limits where the value is not known. A menu or another
  * window is not leaving.
+ *
+ * \ingroup controls
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ZeltoQtSpinBox : public QSpinBox
 {

@@ -13,6 +13,8 @@
  * Text that can still become right is Intermediate, and so is a complete address that must not be used for
  * what it is asked for: the user has to be able to edit it. fixup() mends what needs no guessing, first of
  * all the blanks that come with pasted text.
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AddressValidator : public QValidator
 {

@@ -28,6 +28,8 @@ class QUrl;
  * It takes and gives plain values and knows no device. Each field takes any text and says beside it, in
  * words, what is wrong with it; OK is enabled only for a configuration that a device can use. Blanks in
  * pasted text are removed, prefix lengths are turned into masks, and a mask is suggested for the address.
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IpAddressWidget : public QDialog
 {

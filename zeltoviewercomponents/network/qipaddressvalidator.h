@@ -11,6 +11,8 @@
  *
  * Addresses with a meaning of their own are not accepted: "this network", loopback, multicast, reserved and
  * broadcast addresses (RFC 1122, RFC 5771).
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QIpAddressValidator : public AddressValidator
 {

@@ -14,6 +14,8 @@
  * Neither the network's own address nor its broadcast address is accepted. Subnets of 31 bits have neither
  * (RFC 3021), a subnet of 32 bits is one device. A gateway is another device of the same subnet, or 0.0.0.0
  * for none.
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QIpAddressWithNetmaskValidator : public QIpAddressValidator
 {

@@ -12,6 +12,8 @@
 /*! \brief Accepts IPv4 subnet masks: contiguous ones, as a dotted quad or as a prefix length ("/24").
  *
  * fixup() turns a prefix length into the mask.
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QIpNetmaskValidator : public AddressValidator
 {

@@ -11,6 +11,8 @@
  *
  * Written as six octets of two hexadecimal digits with ":" or "-" between them, or as twelve digits; fixup()
  * makes it upper-case with colons. Group addresses are not accepted.
+ *
+ * \ingroup network
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QMacAddressValidator : public AddressValidator
 {

@@ -12,7 +12,10 @@
 
 namespace Plugin::FeatureTree {
 
-/*! \brief Lets plug-ins drive the feature tree, as its user does. */
+/*! \brief Lets plug-ins drive the feature tree, as its user does.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IFeatureTreeControlService : public Core::Service::IService
 {
     Q_OBJECT

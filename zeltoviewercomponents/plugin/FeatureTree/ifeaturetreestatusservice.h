@@ -14,7 +14,10 @@
 
 namespace Plugin::FeatureTree {
 
-/*! \brief Tells plug-ins what happens in the feature tree. The provider of the tree emits the signals. */
+/*! \brief Tells plug-ins what happens in the feature tree. The provider of the tree emits the signals.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IFeatureTreeStatusService : public Core::Service::IService
 {
     Q_OBJECT

@@ -15,7 +15,10 @@ class QWidget;
 
 namespace Plugin::Workbench {
 
-/*! \brief An item of the workbench: a page of the application's window that a plug-in contributes. */
+/*! \brief An item of the workbench: a page of the application's window that a plug-in contributes.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IWorkbenchBaseInfo : public Core::AppCoreComponents::IBaseInfo
 {
     Q_OBJECT

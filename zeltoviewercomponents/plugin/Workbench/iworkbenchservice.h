@@ -11,7 +11,10 @@
 
 namespace Plugin::Workbench {
 
-/*! \brief Tells plug-ins about the items of the workbench and lets them select one. */
+/*! \brief Tells plug-ins about the items of the workbench and lets them select one.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IWorkbenchService : public Core::Service::IService
 {
     Q_OBJECT

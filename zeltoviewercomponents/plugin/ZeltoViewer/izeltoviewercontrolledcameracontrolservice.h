@@ -9,7 +9,10 @@
 
 namespace Plugin::ZeltoViewer {
 
-/*! \brief Lets plug-ins release the camera that the viewer controls, and take it back. */
+/*! \brief Lets plug-ins release the camera that the viewer controls, and take it back.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IZeltoViewerControlledCameraControlService
     : public Core::Service::IService
 {

@@ -10,7 +10,10 @@
 
 namespace Plugin::ZeltoViewer {
 
-/*! \brief Tells plug-ins about the camera that the viewer controls. */
+/*! \brief Tells plug-ins about the camera that the viewer controls.
+ *
+ * \ingroup plugins
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IZeltoViewerControlledCameraStatusService
     : public Core::Service::IService
 {
