@@ -30,7 +30,6 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
-#include <zeltoviewercomponents/featuretree/waitcursor.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
 

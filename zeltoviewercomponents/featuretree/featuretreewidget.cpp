@@ -213,6 +213,7 @@ void FeatureTreeWidget::addParameterCollection(
     NodeMapFilter::apply(collection, roleName);
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     extension->SetDeviceAlive(true);
+    const FeatureTreeView::Batch batch(m_ui->treeView);
     pass([&] {
         extension->addParameterCollection(std::move(collection), rootName, roleName, isUtf8);
         if (!extension->getSearchHelpItem()) {
@@ -614,13 +615,16 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
     }
     const auto visibility = static_cast<GenApi::EVisibility>(level);
     commitEntered();
-    pass([this, visibility] { setVisibility(visibility); });
-    emit visibilityChanged(visibility);
-    if (!m_filterText.isEmpty()) {
-        m_ui->treeView->expandEverything();
+    {
+        const FeatureTreeView::Batch batch(m_ui->treeView);
+        pass([this, visibility] { setVisibility(visibility); });
+        emit visibilityChanged(visibility);
+        if (!m_filterText.isEmpty()) {
+            m_ui->treeView->expandEverything();
+        }
+        announceMatches();
+        showRefreshed();
     }
-    announceMatches();
-    showRefreshed();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -668,6 +672,7 @@ void FeatureTreeWidget::filter(const QString &text)
         saveExpandedStatus();
         saveSelectionStatus();
     }
+    std::optional<FeatureTreeView::Batch> batch(m_ui->treeView);
     FeatureTreeHighlighter &highlighter = *m_ui->treeView->getHightlighter();
     const FeatureTreeHighlighter before = highlighter;
     highlighter.setText(text);
@@ -689,6 +694,7 @@ void FeatureTreeWidget::filter(const QString &text)
     }
     m_isSearchRowStale = false;
     getFeatureExtension()->refreshSpecialItems();
+    batch.reset();
     if (wasSearching && !isSearching) {
         m_lookBeforeSearch.restoreScrollPosition(*m_ui->treeView);
         m_lookBeforeSearch = FeatureTreeLook();
@@ -718,6 +724,7 @@ void FeatureTreeWidget::onFiltered()
         return;
     }
     const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+    const FeatureTreeView::Batch batch(m_ui->treeView);
     const int before = m_visibleMatches;
     announceMatches();
     if (m_visibleMatches > before) {
