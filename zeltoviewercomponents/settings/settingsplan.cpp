@@ -61,10 +61,11 @@ public:
 
     void visit(const QString &name)
     {
-        if (m_seen.contains(name)) {
+        const auto known = m_seen.size();
+        m_seen.insert(name);
+        if (m_seen.size() == known) {
             return;
         }
-        m_seen.insert(name);
         const auto parameter = m_collection.parameter(name);
         if (!parameter || parameter->type() == ParameterType::Category || name == QLatin1String("Root")) {
             const QStringList children = m_collection.childNames(name, 0, false);
@@ -83,9 +84,10 @@ private:
     void note(const QString &name, const IParameter &parameter)
     {
         const auto properties = parameter.propertyAccess();
-        const QString yes = QStringLiteral("Yes");
-        facts.append({name, properties && properties->property(QStringLiteral("Streamable")) == yes,
-                      isOfValue(parameter.type()) && !isContents(name)});
+        const bool isSetting = isOfValue(parameter.type()) && !isContents(name);
+        const bool isStreamable = isSetting && properties
+            && properties->property(QStringLiteral("Streamable")) == QLatin1String("Yes");
+        facts.append({name, isStreamable, isSetting});
         const QString names = properties ? properties->property(QStringLiteral("pSelected")) : QString();
         if (!names.isEmpty() && !isContents(name)) {
             selected.insert(name, names.split(QLatin1Char('\t'), Qt::SkipEmptyParts));

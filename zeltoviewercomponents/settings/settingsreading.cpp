@@ -84,8 +84,8 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
 {
     QSet<QString> assigned;
     for (const SettingsPlan::Feature &feature : m_plan.features) {
-        if (feature.isWanted) {
-            assigned.unite(QSet<QString>(feature.selectors.cbegin(), feature.selectors.cend()));
+        for (const QString &selector : feature.isWanted ? feature.selectors : QStringList()) {
+            assigned.insert(selector);
         }
     }
     QList<GroupPtr> found;
@@ -97,8 +97,10 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
         GroupPtr group = feature.selectors.isEmpty() ? nullptr : bySelectors.value(feature.selectors);
         if (!group) {
             group = std::make_shared<Group>(Group{feature.selectors, {}});
-            bySelectors.insert(feature.selectors, group);
             found.append(group);
+            if (!feature.selectors.isEmpty()) {
+                bySelectors.insert(feature.selectors, group);
+            }
         }
         group->features.append(feature.name);
     }
@@ -146,7 +148,7 @@ void SettingsReading::beginLoop(const GroupPtr &group, int level, const Outcome 
         return;
     }
     // What is not accepted now would not be accepted at the end, when it is to be put back.
-    write(selector, original, [this, loop, entries](const Outcome &trial) {
+    writeBriefly(selector, original, [this, loop, entries](const Outcome &trial) {
         if (!trial.failure.isEmpty()) {
             note(tr("%1 cannot be changed: %2").arg(loop->selector, trial.failure));
         }
@@ -200,8 +202,8 @@ void SettingsReading::choose(const LoopPtr &loop, const QString &entry)
         goDeeper(loop, entry);
         return;
     }
-    write(loop->selector, entry,
-          [this, loop, entry](const Outcome &outcome) { onChosen(loop, entry, outcome); });
+    writeBriefly(loop->selector, entry,
+                 [this, loop, entry](const Outcome &outcome) { onChosen(loop, entry, outcome); });
 }
 
 void SettingsReading::onChosen(const LoopPtr &loop, const QString &entry, const Outcome &outcome)
@@ -231,7 +233,7 @@ void SettingsReading::leave(const LoopPtr &loop)
     if (SettingsValue::isSameText(loop->current, loop->original)) {
         return;
     }
-    write(loop->selector, loop->original, [this, loop](const Outcome &outcome) {
+    writeBriefly(loop->selector, loop->original, [this, loop](const Outcome &outcome) {
         if (!outcome.failure.isEmpty()) {
             note(tr("%1 cannot be put back to %2: %3").arg(loop->selector, loop->original, outcome.failure));
         }
