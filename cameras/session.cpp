@@ -546,7 +546,7 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
     if (shown && isOfInterest && !isLost()) {
         const bool isWhole = operation.detail == BatchOperation::Detail::Everything;
         const Engine::Reading reading =
-            engine.read(node, isWhole ? Engine::Extent::Whole : Engine::Extent::Brief);
+            engine.read(node, isWhole ? Engine::Extent::Limits : Engine::Extent::Value);
         noteLoss(batch.map);
         after = reading.data->valueString;
         outcome.data = reading.data;

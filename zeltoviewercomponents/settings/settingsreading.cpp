@@ -143,21 +143,6 @@ void SettingsReading::beginLoop(const GroupPtr &group, int level, const Outcome 
     }
     m_result.selected.insert(selector, m_plan.selected.value(selector));
     const auto loop = std::make_shared<Loop>(Loop{group, level, selector, original, original});
-    if (entries.size() == 1) {
-        goThrough(loop, {original});
-        return;
-    }
-    // What is not accepted now would not be accepted at the end, when it is to be put back.
-    writeBriefly(selector, original, [this, loop, entries](const Outcome &trial) {
-        if (!trial.failure.isEmpty()) {
-            note(tr("%1 cannot be changed: %2").arg(loop->selector, trial.failure));
-        }
-        goThrough(loop, trial.failure.isEmpty() ? entries : QStringList{loop->original});
-    });
-}
-
-void SettingsReading::goThrough(const LoopPtr &loop, const QStringList &entries)
-{
     expect(int((entries.size() - 1) * loop->group->features.size()));
     addCleanup([this, loop] { leave(loop); });
     for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry) {
@@ -172,7 +157,9 @@ QStringList SettingsReading::entriesOf(const QString &selector, const Outcome &o
         return {data.valueString};
     }
     if (data.type == ParameterType::Enumeration) {
-        return static_cast<const EnumParameterData &>(data).symbolicNames;
+        // What cannot be chosen now could not be put back.
+        const QStringList &names = static_cast<const EnumParameterData &>(data).symbolicNames;
+        return names.contains(data.valueString) ? names : QStringList{data.valueString};
     }
     if (data.type == ParameterType::Boolean) {
         return {QStringLiteral("false"), QStringLiteral("true")};
@@ -188,6 +175,10 @@ QStringList SettingsReading::entriesOf(const QString &selector, const Outcome &o
                  .arg(selector)
                  .arg(mostValues));
         return {};
+    }
+    if (number.value < number.minimum || number.value > number.maximum
+        || (quint64(number.value) - quint64(number.minimum)) % increment != 0) {
+        return {data.valueString};
     }
     QStringList values;
     for (quint64 step = 0; step <= steps; ++step) {
