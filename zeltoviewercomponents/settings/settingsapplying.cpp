@@ -67,6 +67,51 @@ void SettingsApplying::begin()
         all.push_back(&item);
     }
     addPass(all, true);
+    const QStringList selectors = unassignedSelectors();
+    for (const QString &selector : selectors) {
+        addStep([this, selector] { holdSelector(selector); });
+    }
+}
+
+// What stands in front of the first assignment of its selector is about the entry that is chosen now.
+QStringList SettingsApplying::unassignedSelectors() const
+{
+    QStringList found;
+    for (const Item &item : m_items) {
+        const auto &assigned = item.entry.setting.selectors;
+        const QStringList selectors = m_graph.selectorsOf(item.entry.setting.name);
+        if (!assigned.isEmpty() || selectors.isEmpty()) {
+            continue;
+        }
+        for (const QString &selector : selectors) {
+            if (!found.contains(selector)) {
+                found.append(selector);
+            }
+        }
+    }
+    return found;
+}
+
+void SettingsApplying::holdSelector(const QString &name)
+{
+    readBriefly(name, [this, name](const Outcome &outcome) {
+        if (!outcome.data || !outcome.data->isReadable) {
+            return;
+        }
+        m_selectorValues.insert(name, outcome.data->valueString);
+        for (Item &item : m_items) {
+            auto &setting = item.entry.setting;
+            const QStringList selectors = m_graph.selectorsOf(setting.name);
+            if (selectors.contains(name) && (setting.selectors.isEmpty() || item.isHeld)) {
+                item.isHeld = true;
+                setting.selectors.append({name, outcome.data->valueString, 0});
+                std::sort(setting.selectors.begin(), setting.selectors.end(),
+                          [&selectors](const auto &left, const auto &right) {
+                              return selectors.indexOf(left.name) < selectors.indexOf(right.name);
+                          });
+            }
+        }
+    });
 }
 
 void SettingsApplying::addPass(const Items &items, bool mayWrite)

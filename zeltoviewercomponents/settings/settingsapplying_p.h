@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -39,12 +40,15 @@ private:
     {
         SettingsReport::Entry entry;
         bool isSelector = false;
+        bool isHeld = false; // depends on selectors as they are at the start
         bool isSeen = false;
         bool isWritten = false;
     };
 
     using Items = std::vector<Item *>;
 
+    QStringList unassignedSelectors() const;
+    void holdSelector(const QString &name);
     void addPass(const Items &items, bool mayWrite);
     void afterPass();
     void afterCheck();
