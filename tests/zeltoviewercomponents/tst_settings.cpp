@@ -353,6 +353,13 @@ void TestSettings::reading_data()
         camera.select("Index", "Reverse");
     }) << QString(all).remove("Reverse=false ")
                              << "Index selects among more than 256 values";
+    QTest::newRow("too many combinations") << Change([](MemoryCollection &camera) {
+        for (const char *const name : {"One", "Two"}) {
+            camera.addInteger(name, "Root", 0, 0, 99);
+        }
+        camera.select("One", "Reverse");
+        camera.select("Two", "Reverse");
+    }) << QString() << "Two makes more than 4096 combinations";
     QTest::newRow("streamable") << Change([](MemoryCollection &camera) {
         for (const char *const name : {"Width", "Gain", "Serial", "Start"}) {
             camera.node(name)->properties.insert("Streamable", "Yes");

@@ -16,6 +16,7 @@ using namespace ParameterCollection;
 namespace {
 
 constexpr qint64 mostValues = 256; // of an integer selector; one of more selects a table
+constexpr qint64 mostCombinations = 4096; // of the entries of selectors that nest
 constexpr int mostNotes = 1000;
 
 bool isReadable(const BatchOutcome &outcome)
@@ -31,6 +32,7 @@ struct SettingsReading::Group
 {
     QStringList selectors; // outer ones first
     QStringList features;
+    QList<qint64> combinations; // so far, at each selector
 };
 
 /*! \brief One selector on its way through its entries. */
@@ -96,7 +98,7 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
         }
         GroupPtr group = feature.selectors.isEmpty() ? nullptr : bySelectors.value(feature.selectors);
         if (!group) {
-            group = std::make_shared<Group>(Group{feature.selectors, {}});
+            group = std::make_shared<Group>(Group{feature.selectors, {}, {}});
             found.append(group);
             if (!feature.selectors.isEmpty()) {
                 bySelectors.insert(feature.selectors, group);
@@ -137,10 +139,19 @@ void SettingsReading::beginLoop(const GroupPtr &group, int level, const Outcome 
         return;
     }
     const QString original = outcome.data->valueString;
-    const QStringList entries = entriesOf(selector, outcome);
+    QStringList entries = entriesOf(selector, outcome);
     if (entries.isEmpty()) {
         return;
     }
+    group->combinations.resize(level);
+    const qint64 outer = level > 0 ? std::max<qint64>(group->combinations.constLast(), 1) : 1;
+    if (outer * entries.size() > mostCombinations) {
+        note(tr("%1 makes more than %2 combinations; only the present one is read")
+                 .arg(selector)
+                 .arg(mostCombinations));
+        entries = QStringList{original};
+    }
+    group->combinations.append(outer * entries.size());
     m_result.selected.insert(selector, m_plan.selected.value(selector));
     const auto loop = std::make_shared<Loop>(Loop{group, level, selector, original, original});
     expect(int((entries.size() - 1) * loop->group->features.size()));
