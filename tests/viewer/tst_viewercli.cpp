@@ -45,6 +45,7 @@ private slots:
     void operations_data();
     void operations();
     void settingsGoThroughStandardStreams();
+    void streamableFeaturesAreTheSettings();
     void settingsOfAnotherModelNeedForce();
     void jsonIsOneDocument();
     void watchEndsCleanly();
@@ -389,6 +390,25 @@ void TestViewerCli::settingsGoThroughStandardStreams()
         QCOMPARE(run("--save -", {}, "/dev/full").exitCode, 2);
         QCOMPARE(run("--get Width", {}, "/dev/full").exitCode, 2);
     }
+}
+
+void TestViewerCli::streamableFeaturesAreTheSettings()
+{
+    QFile description(DESCRIPTION_FILE);
+    QVERIFY(description.open(QIODevice::ReadOnly));
+    QByteArray xml = description.readAll();
+    for (const char *const feature : {"<Integer Name=\"Width\"", "<Float Name=\"TriggerDelay\""}) {
+        const auto end = xml.indexOf('>', xml.indexOf(feature)) + 1;
+        xml.insert(end, "<Streamable>Yes</Streamable>");
+    }
+    QFile changed(path("streamable.xml"));
+    QVERIFY(changed.open(QIODevice::WriteOnly) && changed.write(xml) == xml.size());
+    changed.close();
+    QStringList lines = run("--description " + changed.fileName() + " --save -").out.split('\n');
+    lines.removeIf([](const QString &line) { return line.startsWith('#') || line.isEmpty(); });
+    QCOMPARE(lines.filter("Width\t").size(), 1);
+    QVERIFY(lines.filter("TriggerDelay\t").size() >= 1);
+    QCOMPARE(lines.size(), 1 + lines.filter("Trigger").size());
 }
 
 void TestViewerCli::settingsOfAnotherModelNeedForce()

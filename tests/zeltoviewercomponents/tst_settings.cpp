@@ -190,7 +190,7 @@ void TestSettings::otherFiles_data()
     QTest::newRow("blanks within the value") << QByteArray("UserID left camera\n") << "UserID=left camera";
     QTest::newRow("backslashes are plain") << QByteArray("UserID\tC:\\new\n") << "UserID=C:\\\\new";
     QTest::newRow("comments, no last line break")
-        << QByteArray("# {05D8C294}\n#\n\nWidth\t640") << "Width=640";
+        << QByteArray("# made elsewhere\n#\n\nWidth\t640") << "Width=640";
     QTest::newRow("full names") << QByteArray("@CameraDevice/Width\t640\n") << "@CameraDevice/Width=640";
     QTest::newRow("nothing") << QByteArray() << "";
 }
