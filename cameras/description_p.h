@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <utility>
@@ -89,6 +90,8 @@ public:
     /*! Returns where the links of \a kind lead to from \a node, in the description's order. */
     QList<int> linked(int node, LinkKind kind) const;
 
+    /*! Returns the names of the nodes that the selector \a node selects. */
+    QStringList selected(int node) const;
     /*! Returns the published nodes that can change when \a node is written, without \a node. */
     QList<int> dependents(int node) const;
     /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */

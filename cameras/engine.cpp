@@ -163,7 +163,7 @@ void Engine::forgetLoss()
     m_lossReason.clear();
 }
 
-Engine::Reading Engine::read(int node)
+Engine::Reading Engine::read(int node, Extent extent)
 {
     Reading reading{newParameterData(m_types[node]), GenApi::NI};
     ArvGcNode *found = m_nodes[node];
@@ -179,7 +179,11 @@ Engine::Reading Engine::read(int node)
     if (reading.access == GenApi::NI || reading.access == GenApi::NA) {
         return reading;
     }
-    readLimits(node, data);
+    if (extent != Extent::Value) {
+        readLimits(node, data);
+    } else if (data.type == ParameterType::Integer) {
+        static_cast<IntegerParameterData &>(data).representation = representation(node);
+    }
     if (!m_lossReason.isEmpty()) {
         // Every further access would wait for an answer again.
         return reading;
@@ -193,7 +197,7 @@ Engine::Reading Engine::read(int node)
         data.isReadable = false;
         data.valueString.clear();
     }
-    if (data.isReadable && data.type == ParameterType::Enumeration) {
+    if (data.isReadable && data.type == ParameterType::Enumeration && extent == Extent::Whole) {
         addCurrentEntry(node, static_cast<EnumParameterData &>(data));
     }
     return reading;

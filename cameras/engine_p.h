@@ -54,8 +54,15 @@ public:
 
     ParameterCollection::ParameterType type(int node) const;
 
+    /*! \brief What is read of a node. */
+    enum class Extent {
+        Value,
+        Limits, //!< also the limits, and the entries that can be chosen
+        Whole, //!< also the current entry where it is none of these
+    };
+
     /*! Reads the node; what cannot be read is told by the snapshot's flags. */
-    Reading read(int node);
+    Reading read(int node, Extent extent = Extent::Whole);
 
     /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
     void write(int node, const NodeValue &value);

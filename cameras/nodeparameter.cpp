@@ -61,12 +61,15 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
     if (name == QLatin1String("DisplayName") && nodeName == QLatin1String("Root")) {
         return m_handle.session->mapTitle(m_handle.map); // the top of each node map has that name
     }
-    const ParameterDataPtr data = m_handle.session->snapshot(m_handle.map, m_handle.node);
-    if (name == QLatin1String("Visibility")) {
-        return visibilityNames().value(data->visibility, defaultValue);
+    if (name == QLatin1String("Visibility") || name == QLatin1String("AccessMode")) {
+        const ParameterDataPtr data = m_handle.session->snapshot(m_handle.map, m_handle.node);
+        return name == QLatin1String("Visibility")
+            ? visibilityNames().value(data->visibility, defaultValue)
+            : accessModeNames().value(data->accessMode(), defaultValue);
     }
-    if (name == QLatin1String("AccessMode")) {
-        return accessModeNames().value(data->accessMode(), defaultValue);
+    if (name == QLatin1String("pSelected")) {
+        const QStringList selected = description.selected(m_handle.node);
+        return selected.isEmpty() ? defaultValue : selected.join(QLatin1Char('\t'));
     }
     const bool isInherited = name == QLatin1String("Representation") || name == QLatin1String("Unit");
     const QString element = name == QLatin1String("Tooltip") ? QStringLiteral("ToolTip") : name;

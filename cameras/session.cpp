@@ -63,6 +63,11 @@ Tenants &tenants()
     return *tenants;
 }
 
+GenApi::EAccessMode withoutWriting(GenApi::EAccessMode access)
+{
+    return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
+}
+
 } // namespace
 
 Session::Session() = default;
@@ -170,6 +175,7 @@ void Session::run(const Opener &opener)
     } catch (const std::exception &exception) {
         failure = QString::fromUtf8(exception.what()).simplified();
     }
+    dropBatches();
     // Engines end where they were used; that releases a live camera.
     for (const auto &map : m_maps) {
         map->engine.reset();
@@ -243,7 +249,8 @@ void Session::work()
     Lock lock(m_mutex);
     while (!m_isStopping && !m_isLost) {
         const auto hasWork = [this] {
-            return m_isStopping || m_isLost || !m_calls.empty() || !m_reads.empty() || isWatchDue();
+            return m_isStopping || m_isLost || !m_calls.empty() || !m_batches.empty() || !m_reads.empty()
+                || isWatchDue();
         };
         if (m_live && m_live->isWatchable()) {
             m_changed.wait_until(lock, m_nextWatch, hasWork);
@@ -270,6 +277,11 @@ void Session::workOnce(Lock &lock)
         m_calls.pop_front();
         lock.unlock();
         carryOut(call);
+        lock.lock();
+    } else if (!m_batches.empty()) {
+        const std::shared_ptr<Batch> batch = m_batches.front();
+        lock.unlock();
+        advance(*batch);
         lock.lock();
     } else if (!m_reads.empty()) {
         readNext(lock);
@@ -520,10 +532,7 @@ void Session::write(int map, int node, const NodeValue &value)
         throw GenICam::RuntimeException(tr("%1: %2").arg(name, m_lossReason));
     }
     if (m_access.isReadOnly) {
-        throw GenICam::AccessException(tr("%1: %2").arg(name,
-                                                        m_access.isFree
-                                                            ? tr("the camera is open read-only")
-                                                            : LiveCamera::heldWords(m_access.controller)));
+        throw GenICam::AccessException(tr("%1: %2").arg(name, readOnlyWords()));
     }
     m_calls.push_back(call);
     m_changed.notify_all();
@@ -549,6 +558,119 @@ void Session::carryOut(int map, const std::function<void(Engine &)> &task)
     if (call->failure) {
         std::rethrow_exception(call->failure);
     }
+}
+
+QString Session::readOnlyWords() const
+{
+    return m_access.isFree ? tr("the camera is open read-only") : LiveCamera::heldWords(m_access.controller);
+}
+
+void Session::runBatch(int map, std::shared_ptr<IBatch> steps)
+{
+    const auto batch = std::make_shared<Batch>(Batch{map, std::move(steps)});
+    {
+        const Lock lock(m_mutex);
+        if (!m_isStopping && !m_isFinished) {
+            m_batches.push_back(batch);
+            m_changed.notify_all();
+            return;
+        }
+    }
+    dropAsLost(*batch);
+}
+
+// One operation at a time, so that whoever waits for a write is served in between.
+void Session::advance(Batch &batch)
+{
+    std::optional<BatchOperation> operation;
+    Core::guardedRun({logCategory(), "Session::advance"}, QStringLiteral("Failed to go on with a batch"),
+                     [&] { operation = batch.steps->next(batch.outcome); });
+    if (operation) {
+        batch.outcome = carryOut(batch, *operation);
+        return;
+    }
+    readWhatChanged(batch);
+    const Lock lock(m_mutex);
+    m_batches.pop_front();
+}
+
+BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
+{
+    BatchOutcome outcome;
+    const int node = nodeOf(batch.map, operation.name);
+    Engine &engine = *m_maps[size_t(batch.map)]->engine;
+    const CameraAccess camera = access();
+    const ParameterDataPtr shown = node >= 0 ? snapshot(batch.map, node) : nullptr;
+    const bool isWrite = operation.kind == BatchOperation::Kind::Write;
+    if (shown && isWrite) {
+        try {
+            if (camera.isReadOnly) {
+                throw GenICam::AccessException(tr("%1: %2").arg(operation.name, readOnlyWords()));
+            }
+            if (!batch.before.contains(node)) {
+                batch.before.insert(node, shown->valueString);
+            }
+            engine.write(node, operation.value);
+        } catch (const std::exception &exception) {
+            outcome.failure = QString::fromUtf8(exception.what());
+        }
+        noteLoss(batch.map);
+    }
+    const bool isOfInterest =
+        operation.detail != BatchOperation::Detail::Nothing || !outcome.failure.isEmpty();
+    QString after = operation.value;
+    if (shown && isOfInterest && !isLost()) {
+        const bool isWhole = operation.detail == BatchOperation::Detail::Everything;
+        const Engine::Reading reading =
+            engine.read(node, isWhole ? Engine::Extent::Limits : Engine::Extent::Value);
+        noteLoss(batch.map);
+        after = reading.data->valueString;
+        outcome.data = reading.data;
+        outcome.access = camera.isReadOnly ? withoutWriting(reading.access) : reading.access;
+    }
+    if (shown && isWrite) {
+        batch.after.insert(node, after);
+    }
+    outcome.isLost = isLost();
+    return outcome;
+}
+
+// Selectors that were stepped and put back have changed nothing.
+void Session::readWhatChanged(const Batch &batch)
+{
+    const Lock lock(m_mutex);
+    for (auto written = batch.before.cbegin(); written != batch.before.cend(); ++written) {
+        const int node = written.key();
+        if (batch.after.value(node) == *written && !batch.after.value(node).isNull()) {
+            continue;
+        }
+        enqueue(batch.map, node, false);
+        const QList<int> dependents = description(batch.map)->dependents(node);
+        for (const int dependent : dependents) {
+            enqueue(batch.map, dependent, false);
+        }
+    }
+}
+
+// Nobody carries them out any more, and yet they have to come to their end.
+void Session::dropBatches()
+{
+    Lock lock(m_mutex);
+    m_isStopping = true; // no more of them
+    while (!m_batches.empty()) {
+        const std::shared_ptr<Batch> batch = m_batches.front();
+        m_batches.pop_front();
+        lock.unlock();
+        dropAsLost(*batch);
+        lock.lock();
+    }
+}
+
+void Session::dropAsLost(Batch &batch)
+{
+    BatchOutcome lost;
+    lost.isLost = true;
+    while (batch.steps->next(lost)) { }
 }
 
 // What has been sent may have been heard. Only a camera that does not answer is lost; another takes its time,
@@ -789,6 +911,20 @@ ParameterType Session::type(int map, int node) const
     return m_maps[size_t(map)]->nodes[size_t(node)].type;
 }
 
+int Session::nodeOf(int map, const QString &name) const
+{
+    const QString prefix = mapName(map) + QLatin1Char('/');
+    const QLatin1String suffix("/Alias");
+    QString shortName = name.startsWith(prefix) ? name.mid(prefix.size()) : name;
+    const bool isAlias = shortName.endsWith(suffix);
+    if (isAlias) {
+        shortName.chop(suffix.size());
+    }
+    const std::shared_ptr<const Description> nodes = description(map);
+    const int node = nodes->indexOf(shortName);
+    return isAlias && node >= 0 ? nodes->alias(node) : node;
+}
+
 ParameterDataPtr Session::snapshot(int map, int node) const
 {
     const Lock lock(m_mutex);
@@ -799,10 +935,7 @@ GenApi::EAccessMode Session::nodeAccess(int map, int node) const
 {
     const Lock lock(m_mutex);
     const GenApi::EAccessMode access = m_maps[size_t(map)]->nodes[size_t(node)].access;
-    if (!m_access.isReadOnly) {
-        return access;
-    }
-    return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
+    return m_access.isReadOnly ? withoutWriting(access) : access;
 }
 
 } // namespace Cameras

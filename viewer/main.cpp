@@ -3,10 +3,12 @@
 
 #include "cameraaddress.h"
 #include "colours.h"
+#include "commandline.h"
 #include "featuresamples.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "options.h"
+#include "treejson.h"
 
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
@@ -15,6 +17,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QJsonDocument>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QSaveFile>
@@ -105,7 +108,9 @@ int dumpTree(MainWindow &window, const Options &options)
     FeatureTreeView *const view = window.featureTree()->treeView();
     const QModelIndex top =
         options.favorites ? view->getFeatureExtension()->GetFavoritesRootIndex() : QModelIndex();
-    if (!options.favorites || top.isValid()) { // a search may leave nothing of the favorites
+    if (options.json) {
+        out << QJsonDocument(featureTreeJson(*view->model())).toJson();
+    } else if (!options.favorites || top.isValid()) { // a search may leave nothing of the favorites
         writeFeatureTree(out, *view->model(), top);
     }
     return finish(out);
@@ -180,6 +185,9 @@ int run(const Options &options)
 {
     if (options.list) {
         return listCameras();
+    }
+    if (!options.operations.isEmpty()) {
+        return CommandLine(*cameraAt(addressIn(options)), options).run();
     }
     if (options.editors) {
         return showGallery(options);

@@ -13,6 +13,7 @@
 #include "messagebar.h"
 #include "openingpage.h"
 #include "recentsources.h"
+#include "settingsactions.h"
 #include "treemenu.h"
 
 #include <cameras/cameraopening.h>
@@ -95,6 +96,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
+    , m_settings(new SettingsActions(m_tree, m_messages, this))
 {
     layOut();
     createMenus();
@@ -160,6 +162,7 @@ void MainWindow::connectTree()
     connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
             SLOT(onColumnResized(int, int, int)));
     connect(m_treeMenu, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
+    connect(m_settings, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
     m_tree->setCommandVeto([this](const QSharedPointer<ParameterCollection::IParameter> &command) {
         return !isExecutionWanted(*command);
     });
@@ -291,6 +294,8 @@ void MainWindow::createCameraMenu()
 {
     QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
     camera->setToolTipsVisible(true);
+    camera->addActions(m_settings->actions());
+    camera->addSeparator();
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
     // Whether a camera lets itself be configured changes with what it is doing.
@@ -473,6 +478,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
         m_tree->addParameterCollection(nodeMap.collection, nodeMap.title, nodeMap.name, nodeMap.usesUtf8);
     }
     const auto info = m_camera->info();
+    m_settings->setCamera(m_camera.get());
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
     m_pages->setCurrentWidget(m_tree);
@@ -492,6 +498,7 @@ void MainWindow::closeCamera()
     rememberCamera();
     m_lookAtLoss.reset();
     m_tree->setPolling(false);
+    m_settings->setCamera(nullptr);
     m_description->showParameter(nullptr);
     m_tree->clear();
     m_pages->setCurrentWidget(m_emptyPage);
@@ -684,6 +691,7 @@ void MainWindow::updateActions()
     m_controlAction->setToolTip(canTakeControl ? tr("Allows the camera's features to be changed")
                                                : tr("Only of a camera that is open read-only and free"));
     m_controlAction->setStatusTip(m_controlAction->toolTip());
+    m_settings->updateActions();
     updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());

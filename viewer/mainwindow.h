@@ -38,6 +38,7 @@ class QStackedWidget;
 class QTimer;
 class QToolButton;
 class RecentSources;
+class SettingsActions;
 class TreeMenu;
 class WorkbenchService;
 
@@ -72,6 +73,8 @@ public:
     bool isCameraOpen() const;
     /*! Returns whether a camera is being opened. */
     bool isOpening() const;
+    /*! Returns what saves and loads the camera's settings. */
+    SettingsActions *settings() const { return m_settings; }
     /*! Returns the parent of the services that plug-ins find. */
     QObject *services() const;
 
@@ -178,6 +181,7 @@ private:
     QActionGroup *m_levels = nullptr;
     QToolButton *m_levelButton = nullptr;
     RecentSources *m_recent = nullptr;
+    SettingsActions *m_settings;
     CameraMemory m_memory;
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;
