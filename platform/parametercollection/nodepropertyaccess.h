@@ -13,7 +13,8 @@ namespace ParameterCollection {
 /*! \brief Access to the static text properties of a node.
  *
  * Names are those of the GenICam description: "Unit", "Description", "Tooltip", "DocuURL", "DisplayName",
- * "Representation" and others. Two properties can be imposed: "Visibility" (the names of GenApi::EVisibility)
+ * "Representation", "Streamable" and others; "pSelected" gives the short names of the features that the node
+ * selects, separated by tabs. Two properties can be imposed: "Visibility" (the names of GenApi::EVisibility)
  * and "AccessMode" (the names of GenApi::EAccessMode). Imposing limits what snapshots and
  * IParameter::isWritableNow() report, never to more than the node itself grants.
  */
