@@ -8,6 +8,7 @@
 #include "commandquestion.h"
 #include "descriptionpane.h"
 #include "filedrop.h"
+#include "historyactions.h"
 #include "ipconfiguration.h"
 #include "messagebar.h"
 #include "recentsources.h"
@@ -29,6 +30,7 @@
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
+#include <zeltoviewercomponents/settings/changehistory.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -79,6 +81,7 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
     , m_treeMenu(new TreeMenu(m_tree, this))
+    , m_history(new HistoryActions(m_tree, this))
     , m_description(new DescriptionPane(this))
     , m_descriptionTimer(new QTimer(this))
     , m_messages(new MessageBar(this))
@@ -228,6 +231,8 @@ void MainWindow::createMenus()
 {
     createFileMenu();
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
+    edit->addActions(m_history->actions());
+    edit->addSeparator();
     m_copyAction = edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this,
                                    SLOT(copyTree()));
     createViewMenu();
@@ -406,6 +411,7 @@ void MainWindow::closeCamera()
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
+    m_history->history()->clear();
     m_pages->setCurrentIndex(1);
     m_camera.reset();
     m_failedWrites.clear();

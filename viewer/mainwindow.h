@@ -21,6 +21,7 @@
 
 class DescriptionPane;
 class FeatureTreeWidget;
+class HistoryActions;
 class MessageBar;
 class QAction;
 class QActionGroup;
@@ -141,6 +142,7 @@ private:
     bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
     TreeMenu *m_treeMenu;
+    HistoryActions *m_history;
     DescriptionPane *m_description;
     QTimer *m_descriptionTimer; // describes the current row when the rows have settled
     MessageBar *m_messages;

@@ -7,10 +7,10 @@
 #include "featuretreehighlighter.h"
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
-#include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
+#include <zeltoviewercomponents/settings/unansweredwrites_p.h>
 
 #include <QBrush>
 #include <QCoreApplication>
@@ -473,6 +473,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         return;
     }
     const QString text = value.toString();
+    UnansweredWrites::announce(*parameter, text);
     if (!m_useUtf8 && !isLatin1(text)) {
         throw GenICam::InvalidArgumentException(
             tr("%1: \"%2\" has characters outside Latin-1, which this camera cannot store.")

@@ -16,6 +16,8 @@
 #include "searchedit.h"
 #include "ui_featuretreewidget.h"
 
+#include <zeltoviewercomponents/settings/unansweredwrites_p.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -104,6 +106,11 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
             SLOT(onCurrentChanged(const QModelIndex &)));
     connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
     connect(view->model(), SIGNAL(filtered()), this, SLOT(onFiltered()));
+    // Whatever way a value takes into the tree, the model is where it passes.
+    connect(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onWritten(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(view->model(), SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)),
+            this, SLOT(onWriteFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
     connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(onFavoritesUpdated()));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
@@ -689,6 +696,25 @@ void FeatureTreeWidget::onFiltered()
         m_ui->treeView->expandEverything(); // what was found shows, also in branches that came with it
     }
     getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::onWritten(QSharedPointer<ParameterCollection::IParameter> parameter)
+{
+    tellEdited(parameter, QString());
+}
+
+void FeatureTreeWidget::onWriteFailed(QSharedPointer<ParameterCollection::IParameter> parameter,
+                                      QString message)
+{
+    tellEdited(parameter, message.isEmpty() ? tr("The camera gave no reason.") : message);
+}
+
+void FeatureTreeWidget::tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter,
+                                   const QString &refusal)
+{
+    const UnansweredWrites *const writes = UnansweredWrites::find(*parameter);
+    const auto attempt = writes ? writes->lastAttempt() : UnansweredWrites::Attempt();
+    emit edited(parameter, attempt.before, attempt.text, refusal);
 }
 
 void FeatureTreeWidget::showCounts()

@@ -184,6 +184,14 @@ signals:
     void pollingStateChanged(bool polling);
     /*! The user has shown or hidden favorites that the camera lacks. */
     void viewAllFavoritesStateChanged(bool viewAll);
+    /*! The user has written a value, or executed a command, for which both texts are null.
+     *
+     * \param before the value before, as text that the parameter takes back exactly; null when unknown
+     * \param after what was written
+     * \param refusal why the parameter did not take it; empty when it did
+     */
+    void edited(QSharedPointer<ParameterCollection::IParameter> parameter, QString before, QString after,
+                QString refusal);
     /*! The number of search results, and how many of them show at a higher level only. */
     void filterMatchesChanged(int total, int hidden);
 
@@ -202,6 +210,8 @@ protected:
 private slots:
     void onFavoritesUpdated();
     void onFiltered();
+    void onWritten(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onWriteFailed(QSharedPointer<ParameterCollection::IParameter> parameter, QString message);
 
 private:
     void updateActions();
@@ -217,6 +227,7 @@ private:
     void goToFirstMatch();
     void recordFavoritesExpansion();
     void filter(const QString &text);
+    void tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter, const QString &refusal);
     void showCounts();
     void setSearchRow(const QString &message, bool isShown);
     void moveCurrentFavorite(bool up);

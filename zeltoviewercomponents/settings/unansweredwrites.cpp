@@ -3,6 +3,8 @@
 
 #include "unansweredwrites_p.h"
 
+#include <QLocale>
+
 #include <optional>
 
 using namespace ParameterCollection;
@@ -45,6 +47,24 @@ bool isValueOf(const ParameterData &snapshot, const QString &text)
     return number && text.toDouble(&isNumber) == number->value && isNumber;
 }
 
+// What people read of a number may be rounded, and need not be a number that is taken back.
+QString exactValueText(const ParameterData &snapshot)
+{
+    if (!snapshot.isReadable) {
+        return {};
+    }
+    if (const auto *const boolean = dynamic_cast<const BooleanParameterData *>(&snapshot)) {
+        return boolean->value ? QStringLiteral("1") : QStringLiteral("0");
+    }
+    bool isNumber = false;
+    if (const auto *const number = dynamic_cast<const FloatParameterData *>(&snapshot)) {
+        const bool isExact = snapshot.valueString.toDouble(&isNumber) == number->value && isNumber;
+        return isExact ? snapshot.valueString
+                       : QString::number(number->value, 'g', QLocale::FloatingPointShortest);
+    }
+    return snapshot.valueString.isNull() ? QStringLiteral("") : snapshot.valueString;
+}
+
 UnansweredWrites::UnansweredWrites(IParameter &parameter)
     : QObject(&parameter)
 {
@@ -58,19 +78,33 @@ UnansweredWrites *UnansweredWrites::find(const IParameter &parameter)
     return parameter.findChild<UnansweredWrites *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+UnansweredWrites &UnansweredWrites::of(IParameter &parameter)
+{
+    UnansweredWrites *const writes = find(parameter);
+    return writes ? *writes : *new UnansweredWrites(parameter);
+}
+
+void UnansweredWrites::announce(IParameter &parameter, const QString &text)
+{
+    UnansweredWrites &writes = of(parameter);
+    const QSharedPointer<const ParameterData> snapshot = parameter.parameterData();
+    const bool knowsBetter = writes.isWaiting() && writes.m_isCertain;
+    writes.m_lastAttempt.before = knowsBetter ? writes.m_text
+        : snapshot                            ? exactValueText(*snapshot)
+                                              : QString();
+    writes.m_lastAttempt.text = text;
+}
+
 void UnansweredWrites::write(IParameter &parameter, const QString &text)
 {
-    UnansweredWrites *writes = find(parameter);
-    if (!writes) {
-        writes = new UnansweredWrites(parameter);
-    }
-    const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
-    writes->m_isCertain = false; // should it fail: the camera may have taken it
+    UnansweredWrites &writes = of(parameter);
+    const QString before = writes.isWaiting() ? writes.m_before : valueOf(parameter);
+    writes.m_isCertain = false; // should it fail: the camera may have taken it
     parameter.setValueFromString(text);
-    writes->m_before = before;
-    writes->m_text = text;
-    ++writes->m_count;
-    writes->m_isCertain = true;
+    writes.m_before = before;
+    writes.m_text = text;
+    ++writes.m_count;
+    writes.m_isCertain = true;
 }
 
 bool UnansweredWrites::isLast(const QString &text, const ParameterData &current) const

@@ -19,11 +19,22 @@ class UnansweredWrites : public QObject
     Q_OBJECT
 
 public:
+    /*! \brief A write, whether it succeeded or not. */
+    struct Attempt
+    {
+        QString before; //!< what the parameter held, as exactValueText() writes it
+        QString text;
+    };
+
     /*! Returns what is known of \a parameter, null when nothing was written to it. */
     static UnansweredWrites *find(const ParameterCollection::IParameter &parameter);
+    /*! Remembers that \a text is about to be written to \a parameter. */
+    static void announce(ParameterCollection::IParameter &parameter, const QString &text);
     /*! Writes \a text to \a parameter and remembers that. Throws what the parameter throws. */
     static void write(ParameterCollection::IParameter &parameter, const QString &text);
 
+    /*! Returns the write that was announced last. */
+    const Attempt &lastAttempt() const { return m_lastAttempt; }
     /*! Returns whether a write waits for its answer. */
     bool isWaiting() const { return m_count > 0; }
     /*! Returns whether \a text was written last and nothing has come since that tells otherwise; \a current
@@ -35,7 +46,9 @@ private slots:
 
 private:
     explicit UnansweredWrites(ParameterCollection::IParameter &parameter);
+    static UnansweredWrites &of(ParameterCollection::IParameter &parameter);
 
+    Attempt m_lastAttempt;
     QString m_text; // written last
     QString m_before; // the value before the first of the writes that wait
     int m_count = 0;
@@ -45,3 +58,7 @@ private:
 /*! Returns whether \a text stands for the value of \a snapshot, which has one: numbers can be written in
  * several ways, and addresses as numbers; booleans have two names for each of theirs. */
 bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QString &text);
+
+/*! Returns the value of \a snapshot as a text that the parameter takes back without losing a digit; a null
+ * one when there is no value to be read. */
+QString exactValueText(const ParameterCollection::ParameterData &snapshot);
