@@ -57,7 +57,7 @@ public:
         QStringList lines;
         for (int row = 0; row < history.changes()->rowCount(); ++row) {
             QStringList cells;
-            for (int column = ChangeHistory::nameColumn; column < ChangeHistory::columns; ++column) {
+            for (int column = ChangeHistory::NameColumn; column < ChangeHistory::ColumnCount; ++column) {
                 cells.append(history.changes()->index(row, column).data().toString());
             }
             lines.append(cells.join(QLatin1Char(' ')));

@@ -6,6 +6,9 @@
 #include <platform/core/formatdoublevalue.h>
 
 #include <QLocale>
+#include <QStringList>
+
+#include <algorithm>
 
 using namespace ParameterCollection;
 
@@ -23,9 +26,23 @@ QString Change::shown(const QString &value) const
     return isNumber ? formatFeatureValue(number, GenApi::fnAutomatic, allDigits, QLocale::c()) : value;
 }
 
-bool Change::changesNothing() const
+QString Change::title() const
 {
-    return kind == Kind::Value && !before.isNull() && isSameValueText(type, before, after);
+    QString title = name.section(QLatin1Char('/'), -1);
+    QStringList parts;
+    for (const FeatureSettings::Assignment &selector : selectors) {
+        parts.append(selector.name + QLatin1Char('=') + selector.value);
+    }
+    return parts.isEmpty() ? title : title + QStringLiteral(" [%1]").arg(parts.join(QLatin1String(", ")));
+}
+
+bool Change::isSameFeature(const Change &other) const
+{
+    return name == other.name
+        && std::equal(selectors.cbegin(), selectors.cend(), other.selectors.cbegin(), other.selectors.cend(),
+                      [](const auto &left, const auto &right) {
+                          return left.name == right.name && left.value == right.value;
+                      });
 }
 
 bool isSameValueText(ParameterType type, const QString &left, const QString &right)

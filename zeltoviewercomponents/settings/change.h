@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "featuresettings.h"
+
 #include <platform/parametercollection/parameterdata.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <QDateTime>
+#include <QList>
 #include <QString>
 
 /*! \brief One line of a history of changes: a value that was written, a command, or a file that was applied.
@@ -25,14 +27,17 @@ struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT Change
     ParameterCollection::ParameterType type = ParameterCollection::ParameterType::Unknown;
     qint64 time = 0; //!< in milliseconds since 1970
     QString name; //!< the full name of the parameter, or that of the file
+    QList<FeatureSettings::Assignment> selectors; //!< that the value depends on, outer ones first
     QString before; //!< as text that the parameter takes back exactly; null when unknown
     QString after; //!< what was written
     QString reason; //!< of a refusal
 
     /*! Returns \a value, which is before or after, as people read it. */
     QString shown(const QString &value) const;
-    /*! Returns whether both values are known to be the same. */
-    bool changesNothing() const;
+    /*! Returns the name for people, such as "Gain [GainSelector=Red]". */
+    QString title() const;
+    /*! Returns whether \a other is about the same feature under the same selectors. */
+    bool isSameFeature(const Change &other) const;
 };
 
 /*! Returns whether \a left and \a right, as texts, stand for the same value of a parameter of \a type. */

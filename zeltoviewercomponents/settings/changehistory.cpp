@@ -4,12 +4,16 @@
 #include "changehistory.h"
 
 #include "changelist_p.h"
+#include "featureselectors_p.h"
+#include "settingsapplier.h"
 #include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
+#include <platform/genicam/genericexception.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QUndoCommand>
 #include <QWeakPointer>
 
@@ -42,38 +46,77 @@ bool isNumber(ParameterType type)
     return type == ParameterType::Integer || type == ParameterType::Float;
 }
 
+QString failure(bool back)
+{
+    return back ? ChangeHistory::tr("Failed to undo a change.")
+                : ChangeHistory::tr("Failed to redo a change.");
+}
+
 } // namespace
 
 /*! \brief A change that can be taken back. The writing is done before the stack moves, not by it. */
 class ChangeHistory::Step : public QUndoCommand
 {
 public:
-    Step(const QSharedPointer<IParameter> &parameter, const ChangePtr &change)
-        : QUndoCommand(change->name.section(QLatin1Char('/'), -1))
-        , m_parameter(parameter)
-        , m_change(change)
+    explicit Step(const ChangePtr &change)
+        : m_change(change)
     {
     }
     ~Step() override = default;
 
     const ChangePtr &change() const { return m_change; }
 
-    void write(bool back) const
+private:
+    ChangePtr m_change;
+};
+
+class ChangeHistory::ValueStep : public Step
+{
+public:
+    ValueStep(const ChangePtr &change, const QSharedPointer<IParameter> &parameter)
+        : Step(change)
+        , m_parameter(parameter)
+    {
+        setText(change->title());
+    }
+    ~ValueStep() override = default;
+
+    void write(const FeatureSelectors &selectors, bool back) const
     {
         const QSharedPointer<IParameter> parameter = m_parameter.toStrongRef();
-        if (parameter) {
-            UnansweredWrites::write(*parameter, back ? m_change->before : m_change->after);
+        if (!parameter) {
+            throw GenICam::RuntimeException(tr("%1: the feature is gone").arg(change()->title()));
         }
+        selectors.write(*parameter, change()->selectors, back ? change()->before : change()->after);
     }
 
 private:
     QWeakPointer<IParameter> m_parameter;
-    ChangePtr m_change;
+};
+
+class ChangeHistory::FileStep : public Step
+{
+public:
+    FileStep(const ChangePtr &change, const FeatureSettings &settings, const FeatureSettings &former,
+             const QList<Change> &values)
+        : Step(change)
+        , settings(settings)
+        , former(former)
+        , values(values)
+    {
+        setText(QFileInfo(change->name).fileName());
+    }
+    ~FileStep() override = default;
+
+    const FeatureSettings settings;
+    const FeatureSettings former;
+    const QList<Change> values; //!< that the file has changed
 };
 
 ChangeHistory::ChangeHistory(QObject *parent)
     : QObject(parent)
     , m_list(new ChangeList(mostChanges, this))
+    , m_selectors(std::make_unique<FeatureSelectors>())
 {
     m_stack.setUndoLimit(mostChanges);
     connect(&m_stack, SIGNAL(indexChanged(int)), this, SIGNAL(stepsChanged()));
@@ -82,6 +125,13 @@ ChangeHistory::ChangeHistory(QObject *parent)
 ChangeHistory::~ChangeHistory()
 {
     m_stack.disconnect(this);
+}
+
+void ChangeHistory::open(const QList<SettingsNodeMap> &nodeMaps)
+{
+    clear();
+    m_nodeMaps = nodeMaps;
+    m_selectors->setNodeMaps(nodeMaps);
 }
 
 QAbstractItemModel *ChangeHistory::changes() const
@@ -97,12 +147,12 @@ Change ChangeHistory::change(const QModelIndex &index) const
 
 bool ChangeHistory::canUndo() const
 {
-    return m_stack.canUndo();
+    return m_stack.canUndo() && !m_task;
 }
 
 bool ChangeHistory::canRedo() const
 {
-    return m_stack.canRedo();
+    return m_stack.canRedo() && !m_task;
 }
 
 QString ChangeHistory::undoText() const
@@ -120,60 +170,41 @@ bool ChangeHistory::isModified() const
     return m_isModified;
 }
 
-bool ChangeHistory::write(const QSharedPointer<IParameter> &parameter, const QString &text)
+Change ChangeHistory::newChange(const IParameter &parameter) const
 {
-    QString refusal;
-    try {
-        UnansweredWrites::announce(*parameter, text);
-        UnansweredWrites::write(*parameter, text);
-    } catch (const std::exception &exception) {
-        refusal = QString::fromUtf8(exception.what());
-        showException(QStringLiteral("ChangeHistory::write"), exception,
-                      tr("Failed to set a feature value."));
-    }
-    const UnansweredWrites *const writes = UnansweredWrites::find(*parameter);
-    record(parameter, writes ? writes->lastAttempt().before : QString(), text, refusal);
-    return refusal.isEmpty();
+    Change change;
+    change.type = parameter.type();
+    change.name = parameter.fullName();
+    change.kind = change.type == ParameterType::Command ? Change::Kind::Command : Change::Kind::Value;
+    change.time = QDateTime::currentMSecsSinceEpoch();
+    return change;
 }
 
 void ChangeHistory::record(QSharedPointer<IParameter> parameter, QString before, QString after,
                            QString refusal)
 {
-    Change change;
-    const bool isKnown = Core::guardedRun({logCategory(), "ChangeHistory::record"},
-                                          QStringLiteral("Failed to record a change"), [&change, &parameter] {
-                                              change.type = parameter->type();
-                                              change.name = parameter->fullName();
-                                          });
-    if (!isKnown) {
-        return;
-    }
-    change.time = QDateTime::currentMSecsSinceEpoch();
-    change.before = before;
-    change.after = after;
-    change.reason = refusal;
-    change.result = refusal.isEmpty() ? Change::Result::Done : Change::Result::Refused;
-    if (change.type == ParameterType::Command) {
-        recordCommand(change);
-        return;
-    }
-    if (merge(change)) {
-        return;
-    }
-    const auto added = std::make_shared<Change>(change);
-    m_list->add(added);
-    if (change.result == Change::Result::Done) {
-        depart(change, change.before, change.after);
-        push(parameter, added);
-    }
+    const auto work = [this, &parameter, &before, &after, &refusal] {
+        Change change = newChange(*parameter);
+        change.reason = refusal;
+        change.result = refusal.isEmpty() ? Change::Result::Done : Change::Result::Refused;
+        if (change.kind == Change::Kind::Command) {
+            recordCommand(change);
+            return;
+        }
+        change.selectors = m_selectors->selectorsOf(change.name);
+        if (change.selectors.isEmpty() || m_selectors->areSettled(change.name)) {
+            change.before = before; // else it may be that of what the selectors pointed to until now
+        }
+        change.after = after;
+        add(parameter, change);
+    };
+    Core::guardedRun({logCategory(), "ChangeHistory::record"}, QStringLiteral("Failed to record a change"),
+                     work);
 }
 
 void ChangeHistory::recordCommand(const Change &change)
 {
-    const auto added = std::make_shared<Change>(change);
-    added->kind = Change::Kind::Command;
-    added->before = added->after = QString();
-    m_list->add(added);
+    m_list->add(std::make_shared<Change>(change));
     m_mergeable.reset();
     if (change.result == Change::Result::Done && overwritesSettings(change.name)) {
         m_stack.clear();
@@ -182,12 +213,30 @@ void ChangeHistory::recordCommand(const Change &change)
     }
 }
 
+void ChangeHistory::add(const QSharedPointer<IParameter> &parameter, const Change &change)
+{
+    if (merge(change)) {
+        return;
+    }
+    const auto added = std::make_shared<Change>(change);
+    m_list->add(added);
+    if (change.result == Change::Result::Refused) {
+        return;
+    }
+    m_mergeable.reset();
+    depart(change, change.before, change.after);
+    if (!change.before.isNull()) { // else nobody knows what to put back
+        m_mergeable = added;
+        m_sinceLast.start();
+        m_stack.push(new ValueStep(added, parameter));
+    }
+}
+
 // Returns whether the change became part of the step before it.
 bool ChangeHistory::merge(const Change &change)
 {
-    const bool isNext = m_mergeable && m_mergeable->name == change.name && isNumber(change.type)
-        && change.result == Change::Result::Done && !m_stack.canRedo()
-        && !m_sinceLast.hasExpired(longestPause);
+    const bool isNext = m_mergeable && isNumber(change.type) && change.result == Change::Result::Done
+        && m_mergeable->isSameFeature(change) && !m_sinceLast.hasExpired(longestPause);
     if (!isNext) {
         return false;
     }
@@ -199,68 +248,185 @@ bool ChangeHistory::merge(const Change &change)
     return true;
 }
 
-void ChangeHistory::push(const QSharedPointer<IParameter> &parameter, const ChangePtr &change)
+QString ChangeHistory::knownValue(const Change &feature) const
 {
-    if (change->before.isNull()) {
-        m_mergeable.reset();
-        return; // nobody knows what to put back
-    }
-    m_mergeable = change;
-    m_sinceLast.start();
-    m_stack.push(new Step(parameter, change));
+    const ChangePtr last = m_list->newestOf(feature);
+    return !last ? QString() : last->result == Change::Result::Undone ? last->before : last->after;
 }
 
-const ChangeHistory::Step *ChangeHistory::stepAt(int index) const
+bool ChangeHistory::putBack(const QModelIndex &index, Column column)
 {
-    return static_cast<const Step *>(m_stack.command(index));
+    const ChangePtr line = m_list->at(index);
+    const QString text = !line ? QString() : column == BeforeColumn ? line->before : line->after;
+    const auto parameter =
+        line && line->kind == Change::Kind::Value ? m_selectors->parameter(line->name) : nullptr;
+    if (!parameter || text.isNull() || m_task) {
+        return false;
+    }
+    Change change = newChange(*parameter);
+    change.selectors = line->selectors;
+    const bool isPresent = line->selectors.isEmpty() || change.isSameFeature([&] {
+        Change now = change;
+        now.selectors = m_selectors->selectorsOf(change.name);
+        return now;
+    }());
+    change.before = isPresent ? UnansweredWrites::presentText(*parameter) : knownValue(change);
+    change.after = text;
+    try {
+        m_selectors->write(*parameter, change.selectors, text);
+    } catch (const std::exception &exception) {
+        change.result = Change::Result::Refused;
+        change.reason = QString::fromUtf8(exception.what());
+        showException(QStringLiteral("ChangeHistory::putBack"), exception,
+                      tr("Failed to set a feature value."));
+    }
+    m_mergeable.reset();
+    add(parameter, change);
+    return change.result == Change::Result::Done;
+}
+
+void ChangeHistory::recordApplied(const QString &name, const FeatureSettings &settings,
+                                  const FeatureSettings &former, const SettingsReport &report)
+{
+    const auto change = std::make_shared<Change>();
+    change->kind = Change::Kind::File;
+    change->name = name;
+    change->time = QDateTime::currentMSecsSinceEpoch();
+    change->after = tr("values set: %1").arg(report.count(SettingsReport::Result::Set));
+    QList<Change> values;
+    QList<Change> others; // that did not get their value
+    for (const SettingsReport::Entry &entry : report.entries) {
+        Change value;
+        value.name = entry.setting.nodeMap + QLatin1Char('/') + entry.setting.name;
+        value.selectors = entry.setting.selectors;
+        value.before = entry.before;
+        value.after = entry.setting.value;
+        if (entry.result == SettingsReport::Result::Set) {
+            values.append(value);
+        } else if (entry.result != SettingsReport::Result::Unchanged
+                   && entry.result != SettingsReport::Result::Missing) {
+            value.before = entry.after;
+            others.append(value);
+        }
+    }
+    m_list->add(change);
+    m_mergeable.reset();
+    setUnmodified();
+    for (const Change &value : std::as_const(others)) {
+        depart(value, value.after, value.before);
+    }
+    if (!values.isEmpty() || report.count(SettingsReport::Result::Different) > 0) {
+        m_stack.push(new FileStep(change, settings, former, values));
+    }
+}
+
+const ChangeHistory::Step &ChangeHistory::nextStep(bool back) const
+{
+    return *static_cast<const Step *>(m_stack.command(back ? m_stack.index() - 1 : m_stack.index()));
 }
 
 bool ChangeHistory::undo()
 {
-    return m_stack.canUndo() && move(true);
+    return canUndo() && move(true);
 }
 
 bool ChangeHistory::redo()
 {
-    return m_stack.canRedo() && move(false);
+    return canRedo() && move(false);
+}
+
+// A slider that came back to where it was leaves a step that is none.
+void ChangeHistory::skipVoidSteps(bool back)
+{
+    const auto isVoid = [this, back] {
+        const Change &change = *nextStep(back).change();
+        return change.kind == Change::Kind::Value
+            && isSameValueText(change.type, change.before, change.after);
+    };
+    while ((back ? m_stack.canUndo() : m_stack.canRedo()) && isVoid()) {
+        back ? m_stack.undo() : m_stack.redo();
+    }
 }
 
 bool ChangeHistory::move(bool back)
 {
-    const Step &step = *stepAt(back ? m_stack.index() - 1 : m_stack.index());
-    const ChangePtr change = step.change();
-    try {
-        step.write(back);
-    } catch (const std::exception &exception) {
-        showException(QStringLiteral("ChangeHistory::move"), exception,
-                      back ? tr("Failed to undo a change.") : tr("Failed to redo a change."));
-        return false;
-    } catch (...) {
-        showUnexpectedException(QStringLiteral("ChangeHistory::move"),
-                                back ? tr("Failed to undo a change.") : tr("Failed to redo a change."));
+    skipVoidSteps(back);
+    if (!(back ? m_stack.canUndo() : m_stack.canRedo())) {
         return false;
     }
+    const Step &step = nextStep(back);
+    if (const auto *const file = dynamic_cast<const FileStep *>(&step)) {
+        begin(*file, back);
+        return true;
+    }
+    try {
+        static_cast<const ValueStep &>(step).write(*m_selectors, back);
+    } catch (const std::exception &exception) {
+        showException(QStringLiteral("ChangeHistory::move"), exception, failure(back));
+        return false;
+    } catch (...) {
+        showUnexpectedException(QStringLiteral("ChangeHistory::move"), failure(back));
+        return false;
+    }
+    const Change &change = *step.change();
+    depart(change, back ? change.after : change.before, back ? change.before : change.after);
+    finishMove(back);
+    return true;
+}
+
+void ChangeHistory::finishMove(bool back)
+{
+    const ChangePtr change = nextStep(back).change();
     m_mergeable.reset();
     change->result = back ? Change::Result::Undone : Change::Result::Done;
     m_list->update(change);
-    depart(*change, back ? change->after : change->before, back ? change->before : change->after);
     if (back) {
         m_stack.undo();
     } else {
         m_stack.redo();
     }
-    return true;
+}
+
+void ChangeHistory::begin(const FileStep &step, bool back)
+{
+    m_task = std::make_unique<SettingsApplier>(back ? step.former : step.settings, m_nodeMaps,
+                                               SettingsApplier::Before::Forget);
+    m_isTaskBack = back;
+    connect(m_task.get(), SIGNAL(finished()), this, SLOT(onTaskFinished()));
+    emit stepsChanged();
+    emit taskCreated(m_task.get());
+    m_task->start();
+}
+
+void ChangeHistory::onTaskFinished()
+{
+    const SettingsReport report = m_task->report();
+    m_task.release()->deleteLater(); // it is the sender
+    if (report.isSuccess()) {
+        for (const Change &value : static_cast<const FileStep &>(nextStep(m_isTaskBack)).values) {
+            depart(value, m_isTaskBack ? value.after : value.before,
+                   m_isTaskBack ? value.before : value.after);
+        }
+        finishMove(m_isTaskBack);
+        return;
+    }
+    m_isLost = true;
+    setModified(true);
+    showErrorMessage(failure(m_isTaskBack) + QLatin1Char(' ') + report.summary(),
+                     report.problems().join(QLatin1Char('\n')));
+    emit stepsChanged();
 }
 
 // Keeps account of a value that has become another one.
 void ChangeHistory::depart(const Change &change, const QString &from, const QString &to)
 {
-    const auto known = m_departures.find(change.name);
+    const QString key = change.name.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + change.title();
+    const auto known = m_departures.find(key);
     const QString origin = known == m_departures.end() ? from : known->from;
     if (!origin.isNull() && isSameValueText(change.type, origin, to)) {
-        m_departures.remove(change.name);
+        m_departures.remove(key);
     } else {
-        m_departures.insert(change.name, {origin, to});
+        m_departures.insert(key, {origin, to});
     }
     setModified(m_isLost || !m_departures.isEmpty());
 }
@@ -282,8 +448,11 @@ void ChangeHistory::setUnmodified()
 
 void ChangeHistory::clear()
 {
+    m_task.reset();
     m_mergeable.reset();
     m_stack.clear();
     m_list->clear();
+    m_nodeMaps.clear();
+    m_selectors->setNodeMaps({});
     setUnmodified();
 }

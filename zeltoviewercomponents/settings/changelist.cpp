@@ -5,7 +5,11 @@
 
 #include "changehistory.h"
 
+#include <QBrush>
+#include <QDateTime>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QPalette>
 
 #include <algorithm>
 
@@ -55,7 +59,7 @@ void ChangeList::update(const ChangePtr &change)
     const size_t unknown = m_changes.size() - m_announced;
     if (found != m_changes.crend() && age >= unknown) {
         const int row = static_cast<int>(age - unknown);
-        emit dataChanged(index(row, 0), index(row, ChangeHistory::columns - 1));
+        emit dataChanged(index(row, 0), index(row, ChangeHistory::ColumnCount - 1));
     }
 }
 
@@ -72,6 +76,15 @@ ChangeList::ChangePtr ChangeList::at(const QModelIndex &index) const
     return index.isValid() ? m_changes[m_announced - 1 - static_cast<size_t>(index.row())] : nullptr;
 }
 
+ChangeList::ChangePtr ChangeList::newestOf(const Change &feature) const
+{
+    const auto found =
+        std::find_if(m_changes.crbegin(), m_changes.crend(), [&feature](const ChangePtr &change) {
+            return change->result != Change::Result::Refused && change->isSameFeature(feature);
+        });
+    return found == m_changes.crend() ? nullptr : *found;
+}
+
 int ChangeList::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_announced);
@@ -79,7 +92,7 @@ int ChangeList::rowCount(const QModelIndex &parent) const
 
 int ChangeList::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : ChangeHistory::columns;
+    return parent.isValid() ? 0 : ChangeHistory::ColumnCount;
 }
 
 QVariant ChangeList::data(const QModelIndex &index, int role) const
@@ -93,6 +106,10 @@ QVariant ChangeList::data(const QModelIndex &index, int role) const
         return text(*change, index.column());
     case Qt::ToolTipRole:
         return toolTip(*change);
+    case Qt::ForegroundRole: // asked for at each painting, since the colours may change
+        return change->result == Change::Result::Done
+            ? QVariant()
+            : QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
     case ChangeHistory::NameRole:
         return change->kind == Change::Kind::File ? QString() : change->name;
     default:
@@ -103,15 +120,15 @@ QVariant ChangeList::data(const QModelIndex &index, int role) const
 QString ChangeList::text(const Change &change, int column) const
 {
     switch (column) {
-    case ChangeHistory::timeColumn:
+    case ChangeHistory::TimeColumn:
         return QDateTime::fromMSecsSinceEpoch(change.time).toString(QStringLiteral("HH:mm:ss"));
-    case ChangeHistory::nameColumn:
-        return change.name.section(QLatin1Char('/'), -1);
-    case ChangeHistory::beforeColumn:
+    case ChangeHistory::NameColumn:
+        return change.title();
+    case ChangeHistory::BeforeColumn:
         return change.shown(change.before);
-    case ChangeHistory::afterColumn:
+    case ChangeHistory::AfterColumn:
         return change.shown(change.after);
-    case ChangeHistory::resultColumn:
+    case ChangeHistory::ResultColumn:
         return change.result == Change::Result::Refused ? tr("refused: %1").arg(change.reason)
             : change.result == Change::Result::Undone   ? tr("undone")
             : change.kind == Change::Kind::Command      ? tr("executed")
@@ -124,7 +141,7 @@ QString ChangeList::text(const Change &change, int column) const
 QString ChangeList::toolTip(const Change &change) const
 {
     const QString when = QLocale().toString(QDateTime::fromMSecsSinceEpoch(change.time), QLocale::LongFormat);
-    return QStringLiteral("%1\n%2\n%3").arg(change.name, when, text(change, ChangeHistory::resultColumn));
+    return QStringLiteral("%1\n%2\n%3").arg(change.name, when, text(change, ChangeHistory::ResultColumn));
 }
 
 QVariant ChangeList::headerData(int section, Qt::Orientation orientation, int role) const
@@ -133,15 +150,15 @@ QVariant ChangeList::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     }
     switch (section) {
-    case ChangeHistory::timeColumn:
+    case ChangeHistory::TimeColumn:
         return tr("Time");
-    case ChangeHistory::nameColumn:
+    case ChangeHistory::NameColumn:
         return tr("Feature");
-    case ChangeHistory::beforeColumn:
+    case ChangeHistory::BeforeColumn:
         return tr("Before");
-    case ChangeHistory::afterColumn:
+    case ChangeHistory::AfterColumn:
         return tr("After");
-    case ChangeHistory::resultColumn:
+    case ChangeHistory::ResultColumn:
         return tr("Result");
     default:
         return {};

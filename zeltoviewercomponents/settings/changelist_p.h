@@ -29,7 +29,8 @@ public:
     /*! Tells views that \a change, one of the list, reads differently now. */
     void update(const ChangePtr &change);
     void clear();
-    ChangePtr newest() const { return m_changes.empty() ? nullptr : m_changes.back(); }
+    /*! Returns the last line about the same feature that told of a write, null without one. */
+    ChangePtr newestOf(const Change &feature) const;
     ChangePtr at(const QModelIndex &index) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

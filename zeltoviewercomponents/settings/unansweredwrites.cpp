@@ -84,15 +84,19 @@ UnansweredWrites &UnansweredWrites::of(IParameter &parameter)
     return writes ? *writes : *new UnansweredWrites(parameter);
 }
 
+QString UnansweredWrites::presentText(const IParameter &parameter)
+{
+    const UnansweredWrites *const writes = find(parameter);
+    if (writes && writes->isWaiting() && writes->m_isCertain) {
+        return writes->m_text;
+    }
+    const QSharedPointer<const ParameterData> snapshot = parameter.parameterData();
+    return snapshot ? exactValueText(*snapshot) : QString();
+}
+
 void UnansweredWrites::announce(IParameter &parameter, const QString &text)
 {
-    UnansweredWrites &writes = of(parameter);
-    const QSharedPointer<const ParameterData> snapshot = parameter.parameterData();
-    const bool knowsBetter = writes.isWaiting() && writes.m_isCertain;
-    writes.m_lastAttempt.before = knowsBetter ? writes.m_text
-        : snapshot                            ? exactValueText(*snapshot)
-                                              : QString();
-    writes.m_lastAttempt.text = text;
+    of(parameter).m_lastAttempt = {presentText(parameter), text};
 }
 
 void UnansweredWrites::write(IParameter &parameter, const QString &text)

@@ -28,6 +28,9 @@ public:
 
     /*! Returns what is known of \a parameter, null when nothing was written to it. */
     static UnansweredWrites *find(const ParameterCollection::IParameter &parameter);
+    /*! Returns what \a parameter holds, as exactValueText() writes it: what was written last, where its
+     * snapshot does not tell yet. */
+    static QString presentText(const ParameterCollection::IParameter &parameter);
     /*! Remembers that \a text is about to be written to \a parameter. */
     static void announce(ParameterCollection::IParameter &parameter, const QString &text);
     /*! Writes \a text to \a parameter and remembers that. Throws what the parameter throws. */

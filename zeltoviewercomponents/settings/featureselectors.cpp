@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "featureselectors_p.h"
+
+#include "unansweredwrites_p.h"
+
+#include <QScopeGuard>
+
+#include <algorithm>
+
+using namespace ParameterCollection;
+
+namespace {
+
+constexpr int deepestCategory = 100;
+
+QString shortName(const QString &fullName)
+{
+    return fullName.section(QLatin1Char('/'), -1);
+}
+
+QString nodeMapName(const QString &fullName)
+{
+    return fullName.section(QLatin1Char('/'), 0, 0);
+}
+
+} // namespace
+
+void FeatureSelectors::setNodeMaps(const QList<SettingsNodeMap> &nodeMaps)
+{
+    m_maps.clear();
+    for (const SettingsNodeMap &nodeMap : nodeMaps) {
+        m_maps.append({nodeMap, {}, false});
+    }
+}
+
+const FeatureSelectors::Map *FeatureSelectors::mapOf(const QString &fullName) const
+{
+    const QString name = nodeMapName(fullName);
+    const auto map = std::find_if(m_maps.begin(), m_maps.end(),
+                                  [&name](const Map &other) { return other.nodeMap.name == name; });
+    if (map == m_maps.end()) {
+        return nullptr;
+    }
+    if (!map->isRead) {
+        map->isRead = true;
+        readSelectors(*map);
+    }
+    return &*map;
+}
+
+void FeatureSelectors::readSelectors(Map &map)
+{
+    const IParameterCollection &collection = *map.nodeMap.collection;
+    const QStringList names = collection.childNames(QStringLiteral("Root"), deepestCategory, true);
+    for (const QString &name : names) {
+        const QSharedPointer<IParameter> parameter = collection.parameter(name);
+        if (!parameter || parameter->type() == ParameterType::Category) {
+            continue;
+        }
+        const QString selected = parameter->propertyAccess()->property(QStringLiteral("pSelected"));
+        const QStringList features = selected.split(QLatin1Char('\t'), Qt::SkipEmptyParts);
+        for (const QString &feature : features) {
+            QStringList &selectors = map.selectors[feature];
+            if (!selectors.contains(shortName(name))) { // one that stands in two categories
+                selectors.append(shortName(name));
+            }
+        }
+    }
+}
+
+void FeatureSelectors::collect(const Map &map, const QString &feature, QStringList &outerFirst)
+{
+    const QStringList selectors = map.selectors.value(feature);
+    for (const QString &selector : selectors) {
+        if (!outerFirst.contains(selector)) {
+            outerFirst.prepend(selector);
+            collect(map, selector, outerFirst);
+        }
+    }
+}
+
+QStringList FeatureSelectors::namesOf(const QString &fullName) const
+{
+    QStringList names;
+    if (const Map *const map = mapOf(fullName)) {
+        collect(*map, shortName(fullName), names);
+        names.removeAll(shortName(fullName));
+    }
+    return names;
+}
+
+QSharedPointer<IParameter> FeatureSelectors::parameter(const QString &fullName) const
+{
+    const Map *const map = mapOf(fullName);
+    return map ? map->nodeMap.collection->parameter(fullName) : nullptr;
+}
+
+FeatureSelectors::Assignments FeatureSelectors::selectorsOf(const QString &fullName) const
+{
+    Assignments selectors;
+    const QStringList names = namesOf(fullName);
+    for (const QString &name : names) {
+        if (const auto selector = parameter(nodeMapName(fullName) + QLatin1Char('/') + name)) {
+            selectors.append({name, UnansweredWrites::presentText(*selector), 0});
+        }
+    }
+    return selectors;
+}
+
+bool FeatureSelectors::areSettled(const QString &fullName) const
+{
+    const QStringList names = namesOf(fullName);
+    return std::none_of(names.cbegin(), names.cend(), [this, &fullName](const QString &name) {
+        const auto selector = parameter(nodeMapName(fullName) + QLatin1Char('/') + name);
+        const UnansweredWrites *const writes = selector ? UnansweredWrites::find(*selector) : nullptr;
+        return writes && writes->isWaiting();
+    });
+}
+
+void FeatureSelectors::write(IParameter &parameter, const Assignments &selectors, const QString &text) const
+{
+    QList<std::pair<QSharedPointer<IParameter>, QString>> moved; // selectors, and where they were
+    const auto putBack = qScopeGuard([&moved] {
+        for (auto selector = moved.crbegin(); selector != moved.crend(); ++selector) {
+            try {
+                UnansweredWrites::write(*selector->first, selector->second);
+            } catch (const std::exception &) {
+                // What matters has been written; where the selector is now can be seen.
+            }
+        }
+    });
+    for (const FeatureSettings::Assignment &wanted : selectors) {
+        const auto selector =
+            this->parameter(nodeMapName(parameter.fullName()) + QLatin1Char('/') + wanted.name);
+        const QString present = selector ? UnansweredWrites::presentText(*selector) : wanted.value;
+        if (present != wanted.value) {
+            UnansweredWrites::write(*selector, wanted.value);
+            moved.append({selector, present});
+        }
+    }
+    UnansweredWrites::write(parameter, text);
+}
