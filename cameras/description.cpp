@@ -749,6 +749,17 @@ int Description::valueNode(int node) const
     return -1;
 }
 
+QStringList Description::selected(int node) const
+{
+    QStringList names;
+    for (const Link &link : m_nodes[node].links) {
+        if (link.kind == LinkKind::Selected) {
+            names.append(m_nodes[link.target].name);
+        }
+    }
+    return names;
+}
+
 QList<int> Description::dependents(int node) const
 {
     // A write goes down to the nodes that hold the value; whoever reads one of those is affected.

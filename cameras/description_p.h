@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <utility>
 #include <vector>
@@ -65,6 +66,8 @@ public:
     /*! Returns the node that holds the value of \a node, -1 when there is none. */
     int valueNode(int node) const;
 
+    /*! Returns the names of the nodes that the selector \a node selects. */
+    QStringList selected(int node) const;
     /*! Returns the published nodes that can change when \a node is written, without \a node. */
     QList<int> dependents(int node) const;
     /*! Returns the milliseconds after which \a node is due again, 0 when it is not polled. */

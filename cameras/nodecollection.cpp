@@ -5,6 +5,8 @@
 
 #include "nodeparameter_p.h"
 
+#include <utility>
+
 using namespace ParameterCollection;
 
 namespace Cameras {
@@ -25,32 +27,19 @@ NodeCollection::~NodeCollection()
     m_session->setListener(m_map, nullptr);
 }
 
-int NodeCollection::nodeOf(const QString &name) const
-{
-    const QString prefix = m_session->mapName(m_map) + QLatin1Char('/');
-    const QLatin1String suffix("/Alias");
-    QString shortName = name.startsWith(prefix) ? name.mid(prefix.size()) : name;
-    const bool isAlias = shortName.endsWith(suffix);
-    if (isAlias) {
-        shortName.chop(suffix.size());
-    }
-    const int node = m_description->indexOf(shortName);
-    return isAlias && node >= 0 ? m_description->alias(node) : node;
-}
-
 QSharedPointer<IParameter> NodeCollection::parameter(const QString &name) const
 {
-    return m_parameters.value(nodeOf(name));
+    return m_parameters.value(m_session->nodeOf(m_map, name));
 }
 
 bool NodeCollection::hasParameter(const QString &name) const
 {
-    return m_parameters.contains(nodeOf(name));
+    return m_parameters.contains(m_session->nodeOf(m_map, name));
 }
 
 QStringList NodeCollection::childNames(const QString &parent, int depth, bool fullNames) const
 {
-    const int node = nodeOf(parent);
+    const int node = m_session->nodeOf(m_map, parent);
     if (node < 0) {
         return {};
     }
@@ -81,6 +70,11 @@ void NodeCollection::poll(int elapsedMilliseconds)
 QString NodeCollection::deviceClass() const
 {
     return m_session->info()->deviceClass();
+}
+
+void NodeCollection::runBatch(std::shared_ptr<IBatch> batch)
+{
+    m_session->runBatch(m_map, std::move(batch));
 }
 
 void NodeCollection::deliver()

@@ -5,6 +5,7 @@
 
 #include "session_p.h"
 
+#include <platform/parametercollection/ibatchrunner.h>
 #include <platform/parametercollection/iparametercollection.h>
 
 #include <QHash>
@@ -17,9 +18,11 @@ namespace Cameras {
  *
  * Changes that the worker reports are emitted here, on the thread of the collection.
  */
-class NodeCollection : public ParameterCollection::IParameterCollection
+class NodeCollection : public ParameterCollection::IParameterCollection,
+                       public ParameterCollection::IBatchRunner
 {
     Q_OBJECT
+    Q_INTERFACES(ParameterCollection::IBatchRunner)
 
 public:
     NodeCollection(std::shared_ptr<Session> session, int map);
@@ -31,13 +34,12 @@ public:
     void refresh() override;
     void poll(int elapsedMilliseconds) override;
     QString deviceClass() const override;
+    void runBatch(std::shared_ptr<ParameterCollection::IBatch> batch) override;
 
 private slots:
     void deliver();
 
 private:
-    int nodeOf(const QString &name) const;
-
     std::shared_ptr<Session> m_session;
     int m_map;
     std::shared_ptr<const Description> m_description;

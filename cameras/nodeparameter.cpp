@@ -94,6 +94,10 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
     if (name == QLatin1String("AccessMode")) {
         return accessModeNames().value(accessOf(*data), defaultValue);
     }
+    if (name == QLatin1String("pSelected")) {
+        const QStringList selected = description.selected(m_handle.node);
+        return selected.isEmpty() ? defaultValue : selected.join(QLatin1Char('\t'));
+    }
     const bool isInherited = name == QLatin1String("Representation") || name == QLatin1String("Unit");
     const QString element = name == QLatin1String("Tooltip") ? QStringLiteral("ToolTip") : name;
     QString text = isInherited ? description.inheritedProperty(m_handle.node, element)

@@ -68,6 +68,11 @@ LeftThreads &leftThreads()
     return threads;
 }
 
+GenApi::EAccessMode withoutWriting(GenApi::EAccessMode access)
+{
+    return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
+}
+
 QSharedPointer<ParameterData> copyOf(const ParameterData &data)
 {
     switch (data.type) {
@@ -147,6 +152,7 @@ void Session::run(const Opener &opener)
         const Lock lock(m_mutex);
         m_openFailure = std::current_exception();
     }
+    dropBatches();
     // Engines end where they were used; that releases a live camera.
     for (const auto &map : m_maps) {
         map->engine.reset();
@@ -200,7 +206,7 @@ void Session::work()
     Lock lock(m_mutex);
     for (;;) {
         const auto hasWork = [this] {
-            return m_isStopping || !m_calls.empty() || !m_reads.empty() || isWatchDue();
+            return m_isStopping || !m_calls.empty() || !m_batches.empty() || !m_reads.empty() || isWatchDue();
         };
         if (m_live && m_live->isWatchable() && !m_isLost) {
             m_changed.wait_until(lock, m_nextWatch, hasWork);
@@ -226,7 +232,12 @@ void Session::work()
             lock.lock();
             continue;
         }
-        if (!m_reads.empty()) {
+        if (!m_batches.empty()) {
+            const std::shared_ptr<Batch> batch = m_batches.front();
+            lock.unlock();
+            advance(*batch);
+            lock.lock();
+        } else if (!m_reads.empty()) {
             readNext(lock);
         }
     }
@@ -461,10 +472,7 @@ void Session::write(int map, int node, const NodeValue &value)
         throw GenICam::RuntimeException(tr("%1: %2").arg(name, m_lossReason));
     }
     if (m_access.isReadOnly) {
-        throw GenICam::AccessException(tr("%1: %2").arg(name,
-                                                        m_access.isFree
-                                                            ? tr("the camera is open read-only")
-                                                            : LiveCamera::heldWords(m_access.controller)));
+        throw GenICam::AccessException(tr("%1: %2").arg(name, readOnlyWords()));
     }
     m_calls.push_back(call);
     m_changed.notify_all();
@@ -474,6 +482,102 @@ void Session::write(int map, int node, const NodeValue &value)
     if (call->failure) {
         std::rethrow_exception(call->failure);
     }
+}
+
+QString Session::readOnlyWords() const
+{
+    return m_access.isFree ? tr("the camera is open read-only") : LiveCamera::heldWords(m_access.controller);
+}
+
+void Session::runBatch(int map, std::shared_ptr<IBatch> steps)
+{
+    const auto batch = std::make_shared<Batch>(Batch{map, std::move(steps)});
+    {
+        const Lock lock(m_mutex);
+        if (!m_isStopping && !m_isFinished) {
+            m_batches.push_back(batch);
+            m_changed.notify_all();
+            return;
+        }
+    }
+    dropAsLost(*batch);
+}
+
+// One operation at a time, so that whoever waits for a write is served in between.
+void Session::advance(Batch &batch)
+{
+    std::optional<BatchOperation> operation;
+    Core::guardedRun({logCategory(), "Session::advance"}, QStringLiteral("Failed to go on with a batch"),
+                     [&] { operation = batch.steps->next(batch.outcome); });
+    if (operation) {
+        batch.outcome = carryOut(batch, *operation);
+        return;
+    }
+    readWhatChanged(batch);
+    const Lock lock(m_mutex);
+    m_batches.pop_front();
+}
+
+BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
+{
+    BatchOutcome outcome;
+    const int node = nodeOf(batch.map, operation.name);
+    Engine &engine = *m_maps[size_t(batch.map)]->engine;
+    const CameraAccess camera = access();
+    const bool isPublished = node >= 0 && snapshot(batch.map, node);
+    if (isPublished && operation.kind == BatchOperation::Kind::Write) {
+        try {
+            if (camera.isReadOnly) {
+                throw GenICam::AccessException(tr("%1: %2").arg(operation.name, readOnlyWords()));
+            }
+            batch.written.push_back(node);
+            engine.write(node, operation.value);
+        } catch (const std::exception &exception) {
+            outcome.failure = QString::fromUtf8(exception.what());
+        }
+        noteLoss(batch.map);
+    }
+    if (isPublished && !isLost()) {
+        const Engine::Reading reading = engine.read(node);
+        noteLoss(batch.map);
+        outcome.data = reading.data;
+        outcome.access = camera.isReadOnly ? withoutWriting(reading.access) : reading.access;
+    }
+    outcome.isLost = isLost();
+    return outcome;
+}
+
+void Session::readWhatChanged(const Batch &batch)
+{
+    const Lock lock(m_mutex);
+    for (const int node : batch.written) {
+        enqueue(batch.map, node, false);
+        const QList<int> dependents = description(batch.map)->dependents(node);
+        for (const int dependent : dependents) {
+            enqueue(batch.map, dependent, false);
+        }
+    }
+}
+
+// Nobody carries them out any more, and yet they have to come to their end.
+void Session::dropBatches()
+{
+    Lock lock(m_mutex);
+    m_isStopping = true; // no more of them
+    while (!m_batches.empty()) {
+        const std::shared_ptr<Batch> batch = m_batches.front();
+        m_batches.pop_front();
+        lock.unlock();
+        dropAsLost(*batch);
+        lock.lock();
+    }
+}
+
+void Session::dropAsLost(Batch &batch)
+{
+    BatchOutcome lost;
+    lost.isLost = true;
+    while (batch.steps->next(lost)) { }
 }
 
 // Only a camera that does not answer is lost; another takes its time, or leaves the write alone.
@@ -663,6 +767,20 @@ ParameterType Session::type(int map, int node) const
     return m_maps[size_t(map)]->nodes[size_t(node)].type;
 }
 
+int Session::nodeOf(int map, const QString &name) const
+{
+    const QString prefix = mapName(map) + QLatin1Char('/');
+    const QLatin1String suffix("/Alias");
+    QString shortName = name.startsWith(prefix) ? name.mid(prefix.size()) : name;
+    const bool isAlias = shortName.endsWith(suffix);
+    if (isAlias) {
+        shortName.chop(suffix.size());
+    }
+    const std::shared_ptr<const Description> nodes = description(map);
+    const int node = nodes->indexOf(shortName);
+    return isAlias && node >= 0 ? nodes->alias(node) : node;
+}
+
 ParameterDataPtr Session::snapshot(int map, int node) const
 {
     const Lock lock(m_mutex);
@@ -673,10 +791,7 @@ GenApi::EAccessMode Session::nodeAccess(int map, int node) const
 {
     const Lock lock(m_mutex);
     const GenApi::EAccessMode access = m_maps[size_t(map)]->nodes[size_t(node)].access;
-    if (!m_access.isReadOnly) {
-        return access;
-    }
-    return access == GenApi::RW ? GenApi::RO : access == GenApi::WO ? GenApi::NA : access;
+    return m_access.isReadOnly ? withoutWriting(access) : access;
 }
 
 void Session::startReadLog()

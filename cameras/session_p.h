@@ -11,6 +11,7 @@
 #include <cameras/cameras_export.h>
 
 #include <platform/core/camerainfo.h>
+#include <platform/parametercollection/ibatchrunner.h>
 #include <platform/parametercollection/parameterdata.h>
 
 #include <QCoreApplication>
@@ -87,6 +88,8 @@ public:
     std::shared_ptr<const Description> description(int map) const;
     std::shared_ptr<SimulatedRegisters> registers(int map) const;
     ParameterCollection::ParameterType type(int map, int node) const;
+    /*! Returns the node called \a name, in short, in full or as an alias; -1 when there is none. */
+    int nodeOf(int map, const QString &name) const;
 
     ParameterCollection::ParameterDataPtr snapshot(int map, int node) const;
     GenApi::EAccessMode nodeAccess(int map, int node) const;
@@ -98,6 +101,9 @@ public:
     void requestRead(int map, int node, bool force);
     void refresh(int map);
     void poll(int map, int elapsedMilliseconds);
+
+    /*! Carries out \a batch, between other calls; reads wait for its end. */
+    void runBatch(int map, std::shared_ptr<ParameterCollection::IBatch> batch);
 
     /*! Names the object whose slot deliver() is invoked for each snapshot that takePublished() has to give.
      */
@@ -155,6 +161,14 @@ private:
         std::exception_ptr failure;
     };
 
+    struct Batch
+    {
+        int map;
+        std::shared_ptr<ParameterCollection::IBatch> steps;
+        ParameterCollection::BatchOutcome outcome = {}; //!< of the operation before
+        std::vector<int> written = {};
+    };
+
     struct Read
     {
         int map;
@@ -168,6 +182,13 @@ private:
     void work();
     void readNext(Lock &lock);
     void carryOut(const std::shared_ptr<Call> &call);
+    void advance(Batch &batch);
+    ParameterCollection::BatchOutcome carryOut(Batch &batch,
+                                               const ParameterCollection::BatchOperation &operation);
+    void readWhatChanged(const Batch &batch);
+    void dropBatches();
+    static void dropAsLost(Batch &batch);
+    QString readOnlyWords() const;
     void carryOutWrite(int map, int node, const NodeValue &value);
     void readNow(int map, int node, bool force);
     [[noreturn]] void giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name);
@@ -192,6 +213,7 @@ private:
     Core::CameraPoolComponents::CameraInfoPtr m_info;
     std::vector<std::unique_ptr<MapState>> m_maps;
     std::deque<std::shared_ptr<Call>> m_calls;
+    std::deque<std::shared_ptr<Batch>> m_batches; // the first one is under way
     std::deque<Read> m_reads;
     std::exception_ptr m_openFailure;
     QObject *m_cameraListener = nullptr;

@@ -60,8 +60,8 @@ public:
     virtual ~IBatchRunner();
 
     /*! Carries out \a batch and returns at once. Other operations on the collection are served in between.
-     * Parameters whose values may have changed publish them when the batch is over, not while it runs. Without
-     * a device, operations are answered as lost, so that every batch comes to its end. */
+     * Parameters whose values may have changed publish them when the batch is over, not while it runs.
+     * Without a device, operations are answered as lost, so that every batch comes to its end. */
     virtual void runBatch(std::shared_ptr<IBatch> batch) = 0;
 
 protected:

@@ -11,11 +11,13 @@
 
 #include <QList>
 
+#include <memory>
+
 /*! \brief Brings a camera into the state that settings describe.
  *
  * Features that have their value already are not written. What is refused is tried again after the others
- * until nothing more succeeds, so that the order of features that limit each other does not matter. In the end
- * all is read back.
+ * until nothing more succeeds, so that the order of features that limit each other does not matter. In the
+ * end all is read back.
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsApplier : public SettingsTask
 {
@@ -48,6 +50,8 @@ private:
     FeatureSettings m_settings;
     FeatureSettings m_former;
     SettingsReport m_report;
-    int m_next = 0;
+    QList<FeatureSettings::NodeMap> m_placed; // as the camera has the features
+    bool m_isPlaced = false;
+    int m_next = 0; // of these
     int m_nextToKeep = 0; // of the node maps whose state is read first
 };

@@ -19,8 +19,8 @@ struct SettingsDifference
     FeatureSettings::Setting there; //!< without a value when only here
 };
 
-/*! Returns in what \a here and \a there differ, in the order of \a here, what is only there at the end. Numbers
- * that are written differently are the same, and so are those that a single precision register cannot tell
- * apart. */
+/*! Returns in what \a here and \a there differ, in the order of \a here, what is only there at the end.
+ * Numbers that are written differently are the same, and so are those that a single precision register cannot
+ * tell apart. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QList<SettingsDifference> compare(const FeatureSettings &here,
                                                                      const FeatureSettings &there);

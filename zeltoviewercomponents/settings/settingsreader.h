@@ -26,8 +26,8 @@ public:
     explicit SettingsReader(const QList<SettingsNodeMap> &nodeMaps, QObject *parent = nullptr);
     ~SettingsReader() override;
 
-    /*! Returns what was read; after a cancellation or a loss, as far as that went. The origin is for the caller
-     * to fill in. */
+    /*! Returns what was read; after a cancellation or a loss, as far as that went. The origin is for the
+     * caller to fill in. */
     const FeatureSettings &settings() const;
     /*! Returns what could not be read although it belongs to the settings, a line for each. */
     const QStringList &notes() const;

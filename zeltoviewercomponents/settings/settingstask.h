@@ -52,7 +52,8 @@ public slots:
 
 signals:
     void started();
-    /*! \a done of about \a total features are done, \a feature is next. Sent no more than some times a second.
+    /*! \a done of about \a total features are done, \a feature is next. Sent no more than some times a
+     * second.
      */
     void progress(int done, int total, const QString &feature);
     void finished();
@@ -72,11 +73,10 @@ private slots:
     void onScriptFinished();
 
 private:
-    class LoopRunner;
-
     QList<SettingsNodeMap> m_nodeMaps;
     std::shared_ptr<SettingsScript> m_script;
-    std::unique_ptr<LoopRunner> m_runner; // where the collection has none
+    int m_done = 0; // with the scripts before
+    int m_total = 0; // with this one
     bool m_isRunning = false;
     bool m_isCancelled = false;
     bool m_isLost = false;

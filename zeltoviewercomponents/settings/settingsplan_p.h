@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "settingsgraph_p.h"
+
+#include <platform/parametercollection/iparametercollection.h>
+#include <platform/parametercollection/parameterdata.h>
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/*! \brief What is fixed about the features of a node map, as far as settings are about it. */
+struct SettingsPlan
+{
+    struct Feature
+    {
+        QString name;
+        QStringList selectors; //!< outer ones first
+        bool isWanted = false; //!< may belong to the settings
+    };
+
+    /*! Asks \a collection, on its thread. What throws or is missing is left out. */
+    static SettingsPlan of(const ParameterCollection::IParameterCollection &collection);
+
+    QList<Feature> features; //!< in the order of the tree, each once
+    QHash<QString, QStringList> selected; //!< by selector
+    bool knowsStreamable = false; //!< whether the description says which features belong to the settings
+};

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "settingsvalue_p.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <optional>
+
+using namespace ParameterCollection;
+
+namespace SettingsValue {
+
+namespace {
+
+std::optional<qint64> integerFrom(const QString &text)
+{
+    bool ok = false;
+    if (text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive)) {
+        const quint64 value = text.mid(2).toULongLong(&ok, 16);
+        return ok ? std::optional(qint64(value)) : std::nullopt;
+    }
+    const qint64 value = text.toLongLong(&ok, 10);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> numberFrom(const QString &text)
+{
+    bool ok = false;
+    const double value = text.toDouble(&ok);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+std::optional<bool> wordFrom(const QString &text)
+{
+    if (text == QLatin1String("true")) {
+        return true;
+    }
+    return text == QLatin1String("false") ? std::optional(false) : std::nullopt;
+}
+
+std::optional<bool> booleanFrom(const QString &text)
+{
+    if (text == QLatin1String("1") || text == QLatin1String("0")) {
+        return text == QLatin1String("1");
+    }
+    return wordFrom(text);
+}
+
+// Registers of single precision hold most floating-point features.
+bool isSameNumber(double left, double right, double resolution)
+{
+    const double finest = std::max(std::abs(left), std::abs(right)) * FLT_EPSILON;
+    return left == right || std::abs(left - right) <= std::max(finest, resolution);
+}
+
+} // namespace
+
+bool isSame(const ParameterData &data, const QString &text)
+{
+    if (data.valueString == text) {
+        return true;
+    }
+    const QString trimmed = text.trimmed();
+    switch (data.type) {
+    case ParameterType::Integer: {
+        const auto value = integerFrom(trimmed);
+        // Addresses differ in the case of their letters at most.
+        return value ? *value == static_cast<const IntegerParameterData &>(data).value
+                     : data.valueString.compare(trimmed, Qt::CaseInsensitive) == 0;
+    }
+    case ParameterType::Float: {
+        const auto &typed = static_cast<const FloatParameterData &>(data);
+        const auto value = numberFrom(trimmed);
+        return value && isSameNumber(typed.value, *value, typed.increment / 2.0);
+    }
+    case ParameterType::Boolean: {
+        const auto value = booleanFrom(trimmed);
+        return value && *value == static_cast<const BooleanParameterData &>(data).value;
+    }
+    default:
+        return false;
+    }
+}
+
+bool isSameText(const QString &left, const QString &right)
+{
+    if (left == right) {
+        return true;
+    }
+    if (wordFrom(left) || wordFrom(right)) {
+        return booleanFrom(left) && booleanFrom(left) == booleanFrom(right);
+    }
+    const auto integer = integerFrom(left);
+    const auto otherInteger = integerFrom(right);
+    if (integer && otherInteger) {
+        return *integer == *otherInteger;
+    }
+    const auto number = numberFrom(left);
+    const auto otherNumber = numberFrom(right);
+    return number && otherNumber && isSameNumber(*number, *otherNumber, 0.0);
+}
+
+} // namespace SettingsValue
