@@ -5,13 +5,16 @@
 
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/settings/changehistory.h>
+#include <zeltoviewercomponents/settings/changehistorywidget.h>
 
 #include <QAction>
 #include <QKeySequence>
 
-HistoryActions::HistoryActions(FeatureTreeWidget *tree, QObject *parent)
-    : QObject(parent)
+HistoryActions::HistoryActions(FeatureTreeWidget *tree, QWidget *window)
+    : QObject(window)
+    , m_tree(tree)
     , m_history(new ChangeHistory(this))
+    , m_panel(new ChangeHistoryWidget(m_history, window))
     , m_undo(new QAction(this))
     , m_redo(new QAction(this))
 {
@@ -28,10 +31,56 @@ HistoryActions::HistoryActions(FeatureTreeWidget *tree, QObject *parent)
 
 HistoryActions::~HistoryActions() = default;
 
+void HistoryActions::open(const QList<SettingsNodeMap> &nodeMaps)
+{
+    m_history->open(nodeMaps);
+    m_file.clear();
+    emit fileStateChanged();
+}
+
+void HistoryActions::close()
+{
+    open({});
+}
+
+bool HistoryActions::differsFromFile() const
+{
+    return !m_file.isEmpty() && m_history->isModified();
+}
+
+void HistoryActions::onLoaded(const FeatureSettings &settings, const FeatureSettings &former,
+                              const SettingsReport &report, const QString &fileName)
+{
+    m_history->recordApplied(fileName, settings, former, report);
+    m_history->setUnmodified(report);
+    m_file = fileName;
+    emit fileStateChanged();
+}
+
+void HistoryActions::onSaved(const FeatureSettings &settings, const QString &fileName)
+{
+    Q_UNUSED(settings)
+    m_history->setUnmodified();
+    m_file = fileName;
+    emit fileStateChanged();
+}
+
+void HistoryActions::onTakenOver(const QString &name, const FeatureSettings &settings,
+                                 const FeatureSettings &former, const SettingsReport &report)
+{
+    m_history->recordApplied(name, settings, former, report);
+}
+
+// Nothing can be written to a camera that was lost.
 void HistoryActions::updateActions()
 {
-    m_undo->setText(m_history->canUndo() ? tr("&Undo %1").arg(m_history->undoText()) : tr("&Undo"));
-    m_undo->setEnabled(m_history->canUndo());
-    m_redo->setText(m_history->canRedo() ? tr("&Redo %1").arg(m_history->redoText()) : tr("&Redo"));
-    m_redo->setEnabled(m_history->canRedo());
+    const bool canWrite = m_tree->isEnabled();
+    const auto update = [canWrite](QAction *action, bool isPossible, const QString &text) {
+        action->setText(text);
+        action->setEnabled(canWrite && isPossible);
+    };
+    update(m_undo, m_history->canUndo(),
+           m_history->canUndo() ? tr("&Undo %1").arg(m_history->undoText()) : tr("&Undo"));
+    update(m_redo, m_history->canRedo(),
+           m_history->canRedo() ? tr("&Redo %1").arg(m_history->redoText()) : tr("&Redo"));
 }

@@ -6,6 +6,7 @@
 #include "cameradialog.h"
 #include "colours.h"
 #include "commandquestion.h"
+#include "comparison.h"
 #include "descriptionpane.h"
 #include "filedrop.h"
 #include "historyactions.h"
@@ -31,11 +32,15 @@
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
 #include <zeltoviewercomponents/settings/changehistory.h>
+#include <zeltoviewercomponents/settings/changehistorywidget.h>
+#include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
+#include <zeltoviewercomponents/settings/settingstask.h>
 
 #include <QActionGroup>
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -82,6 +87,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
     , m_treeMenu(new TreeMenu(m_tree, this))
     , m_history(new HistoryActions(m_tree, this))
+    , m_comparison(new Comparison(this))
     , m_description(new DescriptionPane(this))
     , m_descriptionTimer(new QTimer(this))
     , m_messages(new MessageBar(this))
@@ -158,6 +164,70 @@ void MainWindow::connectTree()
     });
     m_tree->installEventFilter(this); // for its width
     connectModel();
+    connectSettings();
+}
+
+void MainWindow::connectSettings()
+{
+    connect(m_history, SIGNAL(fileStateChanged()), this, SLOT(updateTitle()));
+    connect(m_history->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
+    connect(m_comparison->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
+    connect(m_history->history(), SIGNAL(taskCreated(SettingsTask *)), this,
+            SLOT(onTaskCreated(SettingsTask *)));
+    connect(m_comparison, SIGNAL(taskCreated(SettingsTask *)), this, SLOT(onTaskCreated(SettingsTask *)));
+    connect(m_comparison, SIGNAL(applied(QString, FeatureSettings, FeatureSettings, SettingsReport)),
+            m_history, SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
+    connect(m_comparison, SIGNAL(compared()), this, SLOT(showDifferences()));
+    connect(m_comparison, SIGNAL(failed(QString, QString)), this, SLOT(showFailure(QString, QString)));
+}
+
+// The name of the file stands in the title as that of a document would, with the platform's mark beside it.
+void MainWindow::updateTitle()
+{
+    const QString model = m_camera ? m_camera->info()->modelName() : QString();
+    const QString file = QFileInfo(m_history->settingsFile()).fileName();
+    setWindowTitle(model.isEmpty()      ? tr("Zelto Viewer")
+                       : file.isEmpty() ? tr("%1 – Zelto Viewer").arg(model)
+                                        : tr("%1[*] – %2 – Zelto Viewer").arg(file, model));
+    setWindowModified(m_history->differsFromFile());
+}
+
+void MainWindow::goToFeature(const QString &fullName)
+{
+    if (m_tree->showFeature(fullName)) {
+        m_tree->setFocus();
+    } else {
+        statusBar()->showMessage(tr("This feature is not shown at the current level"), statusTime);
+    }
+}
+
+void MainWindow::showDifferences()
+{
+    if (auto *const dock = qobject_cast<QDockWidget *>(m_comparison->panel()->parentWidget())) {
+        dock->show();
+        dock->raise();
+    }
+}
+
+void MainWindow::onTaskCreated(SettingsTask *task)
+{
+    connect(task, SIGNAL(started()), this, SLOT(onTaskStarted()));
+    connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
+}
+
+void MainWindow::onTaskStarted()
+{
+    m_tree->setResting(true);
+}
+
+void MainWindow::onTaskFinished()
+{
+    m_tree->setResting(false);
+}
+
+void MainWindow::showFailure(const QString &message, const QString &details)
+{
+    m_messages->showMessage(message, details);
 }
 
 // The widget keeps silent about the current row while a search is typed; what the pane shows is true all the
@@ -213,18 +283,25 @@ void MainWindow::createServices()
 
 void MainWindow::createPanels()
 {
+    addPanel(m_history->panel());
+    addPanel(m_comparison->panel());
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
-        auto *const dock = new QDockWidget(panel->windowTitle(), this);
-        dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
-        dock->setWidget(panel);
-        addDockWidget(Qt::RightDockWidgetArea, dock);
-        dock->hide(); // the tree has the room until the user asks for the panel
-        m_panels->addAction(dock->toggleViewAction());
-        m_panels->menuAction()->setVisible(true);
-        m_workbench->addPage(panel);
+        addPanel(panel);
     }
     m_services->setParent(this); // the last child, so that panels go first
+}
+
+void MainWindow::addPanel(QWidget *panel)
+{
+    auto *const dock = new QDockWidget(panel->windowTitle(), this);
+    dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
+    dock->setWidget(panel);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide(); // the tree has the room until the user asks for the panel
+    m_panels->addAction(dock->toggleViewAction());
+    m_panels->menuAction()->setVisible(true);
+    m_workbench->addPage(panel);
 }
 
 void MainWindow::createMenus()
@@ -288,6 +365,8 @@ void MainWindow::createCameraMenu()
     camera->setToolTipsVisible(true);
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
+    camera->addSeparator();
+    m_comparison->addTo(camera);
     // Whether a camera lets itself be configured changes with what it is doing.
     connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
 }
@@ -396,7 +475,12 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     m_tree->setFocus(); // which went elsewhere when the camera before was lost or closed
     m_tree->expandRootNodes();
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
-    setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
+    QList<SettingsNodeMap> settingsMaps;
+    for (const Cameras::NodeMap &nodeMap : nodeMaps) {
+        settingsMaps.append({nodeMap.name, nodeMap.collection});
+    }
+    m_history->open(settingsMaps);
+    m_comparison->open(settingsMaps);
     updateActions();
     if (m_camera->isReadOnly()) {
         showAccess();
@@ -408,16 +492,18 @@ void MainWindow::closeCamera()
 {
     rememberCamera();
     m_pollsAfterReconnect = false;
+    m_history->close();
+    m_comparison->close();
+    m_tree->setResting(false); // what was under way has ended with them
     m_tree->setPolling(false);
     m_description->showParameter(nullptr);
     m_tree->clear();
-    m_history->history()->clear();
     m_pages->setCurrentIndex(1);
     m_camera.reset();
     m_failedWrites.clear();
     m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
-    setWindowTitle(tr("Zelto Viewer"));
+    updateTitle();
     updateActions();
 }
 
@@ -468,6 +554,7 @@ void MainWindow::onCameraLost(const QString &reason)
     m_pollsAfterReconnect = m_tree->getPolling();
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
+    m_history->updateActions();
     m_messages->showAction(reason, tr("Reconnect"));
     updateActions();
 }
@@ -545,8 +632,20 @@ void MainWindow::closeCameraIfWanted()
     }
 }
 
+// Values that differ from the settings file, about which somebody may have forgotten to save them.
+bool MainWindow::isLosingOfChangesWanted()
+{
+    return !isCameraOpen() || !m_history->differsFromFile()
+        || confirm(QStringLiteral("CloseChangedSettings"), tr("Close Camera"),
+                   tr("Values of the camera differ from the settings file %1.\nClose without saving them?")
+                       .arg(QFileInfo(m_history->settingsFile()).fileName()));
+}
+
 bool MainWindow::isCloseWanted()
 {
+    if (!isLosingOfChangesWanted()) {
+        return false;
+    }
     const bool isLive = isCameraOpen() && !m_source.camera.isEmpty();
     return !isLive
         || confirm(
@@ -799,6 +898,10 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!isLosingOfChangesWanted()) {
+        event->ignore();
+        return;
+    }
     saveState();
     rememberCamera();
     QMainWindow::closeEvent(event);

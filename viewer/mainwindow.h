@@ -19,6 +19,7 @@
 
 #include <memory>
 
+class Comparison;
 class DescriptionPane;
 class FeatureTreeWidget;
 class HistoryActions;
@@ -33,6 +34,7 @@ class QStackedWidget;
 class QTimer;
 class QToolButton;
 class RecentSources;
+class SettingsTask;
 class TreeMenu;
 class WorkbenchService;
 
@@ -105,13 +107,22 @@ private slots:
     void onControlRefused(const QString &reason);
     void copyTree();
     void updateActions();
+    void updateTitle();
+    void goToFeature(const QString &fullName);
+    void showDifferences();
+    void onTaskCreated(SettingsTask *task);
+    void onTaskStarted();
+    void onTaskFinished();
+    void showFailure(const QString &message, const QString &details);
 
 private:
     void layOut();
     void connectTree();
     void connectModel();
+    void connectSettings();
     void createServices();
     void createPanels();
+    void addPanel(QWidget *panel);
     void createMenus();
     void createFileMenu();
     void createViewMenu();
@@ -121,6 +132,7 @@ private:
     QString ipObstacle() const;
     FeatureTreeLook currentLook();
     bool isCloseWanted();
+    bool isLosingOfChangesWanted();
     bool confirm(const QString &key, const QString &title, const QString &text);
     bool isExecutionWanted(const ParameterCollection::IParameter &command);
     QMenu *createLevelMenu(QMenu *parent);
@@ -143,6 +155,7 @@ private:
     FeatureTreeWidget *m_tree;
     TreeMenu *m_treeMenu;
     HistoryActions *m_history;
+    Comparison *m_comparison;
     DescriptionPane *m_description;
     QTimer *m_descriptionTimer; // describes the current row when the rows have settled
     MessageBar *m_messages;

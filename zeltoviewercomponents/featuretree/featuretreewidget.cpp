@@ -275,6 +275,30 @@ void FeatureTreeWidget::setCommandVeto(CommandVeto veto)
     }
 }
 
+void FeatureTreeWidget::setResting(bool resting)
+{
+    if (resting == m_isResting) {
+        return;
+    }
+    m_isResting = resting;
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    if (resting) {
+        m_pollsAfterRest = extension->GetPolling();
+        m_followsAfterRest = extension->getGenICamCallbackEnable();
+        m_focusAfterRest = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
+    }
+    extension->EnablePolling(!resting && m_pollsAfterRest);
+    extension->setGenICamCallbacksEnable(!resting && m_followsAfterRest);
+    for (QWidget *const part :
+         {static_cast<QWidget *>(m_ui->treeView), static_cast<QWidget *>(m_ui->checkBoxPolling),
+          static_cast<QWidget *>(m_ui->resetButton)}) {
+        part->setEnabled(!resting);
+    }
+    if (!resting && m_focusAfterRest && !QApplication::focusWidget()) {
+        m_focusAfterRest->setFocus();
+    }
+}
+
 void FeatureTreeWidget::on_resetButton_clicked()
 {
     Refresh();

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QModelIndex>
 #include <QPoint>
+#include <QPointer>
 #include <QSharedPointer>
 #include <QString>
 
@@ -66,6 +67,9 @@ public:
     /*! Tells that the device does not answer any more: nothing is polled or written until collections are
      * added. */
     void deviceIsClosed();
+    /*! Sets whether the tree rests: it cannot be edited, polls and adjusts nothing, as long as others work on
+     * all of the camera's features. Afterwards it shows what they are then. */
+    void setResting(bool resting);
     /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
     void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
@@ -244,6 +248,10 @@ private:
     int m_visibleMatches = 0; // as told last
     bool m_isFiltering = false; // the filter is being set, and the counts follow
     bool m_expandOnRefresh = false;
+    bool m_isResting = false;
+    QPointer<QWidget> m_focusAfterRest;
+    bool m_pollsAfterRest = false;
+    bool m_followsAfterRest = false;
     QString m_cameraType;
     QSharedPointer<Core::AppCoreComponents::IBaseInfo> m_baseInfo;
 };

@@ -3,6 +3,8 @@
 
 #include "change.h"
 
+#include "settingsvalue_p.h"
+
 #include <platform/core/formatdoublevalue.h>
 
 #include <QLocale>
@@ -69,5 +71,5 @@ bool isSameValueText(ParameterType type, const QString &left, const QString &rig
         const double b = right.toDouble(&isRight);
         return isLeft && isRight && a == b;
     }
-    return false;
+    return type == ParameterType::Unknown && SettingsValue::isSameText(left, right);
 }

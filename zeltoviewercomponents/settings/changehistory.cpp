@@ -46,6 +46,23 @@ bool isNumber(ParameterType type)
     return type == ParameterType::Integer || type == ParameterType::Float;
 }
 
+// The features of a report that came to \a result, with what they were and what was asked for.
+QList<Change> changesOf(const SettingsReport &report, SettingsReport::Result result)
+{
+    QList<Change> changes;
+    for (const SettingsReport::Entry &entry : report.entries) {
+        if (entry.result == result) {
+            Change change;
+            change.name = entry.setting.nodeMap + QLatin1Char('/') + entry.setting.name;
+            change.selectors = entry.setting.selectors;
+            change.before = result == SettingsReport::Result::Different ? entry.after : entry.before;
+            change.after = entry.setting.value;
+            changes.append(change);
+        }
+    }
+    return changes;
+}
+
 QString failure(bool back)
 {
     return back ? ChangeHistory::tr("Failed to undo a change.")
@@ -293,30 +310,27 @@ void ChangeHistory::recordApplied(const QString &name, const FeatureSettings &se
     change->name = name;
     change->time = QDateTime::currentMSecsSinceEpoch();
     change->after = tr("values set: %1").arg(report.count(SettingsReport::Result::Set));
-    QList<Change> values;
-    QList<Change> others; // that did not get their value
-    for (const SettingsReport::Entry &entry : report.entries) {
-        Change value;
-        value.name = entry.setting.nodeMap + QLatin1Char('/') + entry.setting.name;
-        value.selectors = entry.setting.selectors;
-        value.before = entry.before;
-        value.after = entry.setting.value;
-        if (entry.result == SettingsReport::Result::Set) {
-            values.append(value);
-        } else if (entry.result != SettingsReport::Result::Unchanged
-                   && entry.result != SettingsReport::Result::Missing) {
-            value.before = entry.after;
-            others.append(value);
-        }
-    }
+    const QList<Change> values = changesOf(report, SettingsReport::Result::Set);
     m_list->add(change);
     m_mergeable.reset();
-    setUnmodified();
-    for (const Change &value : std::as_const(others)) {
-        depart(value, value.after, value.before);
+    for (const Change &value : values) {
+        depart(value, value.before, value.after);
     }
     if (!values.isEmpty() || report.count(SettingsReport::Result::Different) > 0) {
         m_stack.push(new FileStep(change, settings, former, values));
+    }
+}
+
+// What the camera would not take differs from what was asked for.
+void ChangeHistory::setUnmodified(const SettingsReport &report)
+{
+    setUnmodified();
+    for (const auto result : {SettingsReport::Result::Refused, SettingsReport::Result::Different,
+                              SettingsReport::Result::NotTried}) {
+        const QList<Change> values = changesOf(report, result);
+        for (const Change &value : values) {
+            depart(value, value.after, value.before);
+        }
     }
 }
 

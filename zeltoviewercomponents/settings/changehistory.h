@@ -72,6 +72,8 @@ public:
      * and takes what holds now for what isModified() compares with. \a former brings back what was before. */
     void recordApplied(const QString &name, const FeatureSettings &settings, const FeatureSettings &former,
                        const SettingsReport &report);
+    /*! Takes settings that were applied for those that isModified() compares with. */
+    void setUnmodified(const SettingsReport &report);
     /*! Writes the value that a line of changes() has in \a column, before or after, once more, under the same
      * selectors, and records that. Returns whether it was taken. */
     bool putBack(const QModelIndex &index, Column column);

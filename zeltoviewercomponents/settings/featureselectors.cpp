@@ -5,9 +5,11 @@
 
 #include "unansweredwrites_p.h"
 
+#include <QHash>
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -15,14 +17,25 @@ namespace {
 
 constexpr int deepestCategory = 100;
 
-QString shortName(const QString &fullName)
-{
-    return fullName.section(QLatin1Char('/'), -1);
-}
-
 QString nodeMapName(const QString &fullName)
 {
     return fullName.section(QLatin1Char('/'), 0, 0);
+}
+
+// Of all features, tables too, which do not belong to a camera's settings and yet can be changed.
+SettingsGraph graphOf(const IParameterCollection &collection)
+{
+    QHash<QString, QStringList> selected;
+    const QStringList names = collection.childNames(QStringLiteral("Root"), deepestCategory, false);
+    for (const QString &name : names) {
+        const QSharedPointer<IParameter> parameter = collection.parameter(name);
+        const auto properties = parameter ? parameter->propertyAccess() : nullptr;
+        const QString features = properties ? properties->property(QStringLiteral("pSelected")) : QString();
+        if (!features.isEmpty()) {
+            selected.insert(name, features.split(QLatin1Char('\t'), Qt::SkipEmptyParts));
+        }
+    }
+    return SettingsGraph(selected);
 }
 
 } // namespace
@@ -31,7 +44,7 @@ void FeatureSelectors::setNodeMaps(const QList<SettingsNodeMap> &nodeMaps)
 {
     m_maps.clear();
     for (const SettingsNodeMap &nodeMap : nodeMaps) {
-        m_maps.append({nodeMap, {}, false});
+        m_maps.append({nodeMap, SettingsGraph(), false});
     }
 }
 
@@ -45,50 +58,15 @@ const FeatureSelectors::Map *FeatureSelectors::mapOf(const QString &fullName) co
     }
     if (!map->isRead) {
         map->isRead = true;
-        readSelectors(*map);
+        map->graph = graphOf(*map->nodeMap.collection);
     }
     return &*map;
 }
 
-void FeatureSelectors::readSelectors(Map &map)
-{
-    const IParameterCollection &collection = *map.nodeMap.collection;
-    const QStringList names = collection.childNames(QStringLiteral("Root"), deepestCategory, true);
-    for (const QString &name : names) {
-        const QSharedPointer<IParameter> parameter = collection.parameter(name);
-        if (!parameter || parameter->type() == ParameterType::Category) {
-            continue;
-        }
-        const QString selected = parameter->propertyAccess()->property(QStringLiteral("pSelected"));
-        const QStringList features = selected.split(QLatin1Char('\t'), Qt::SkipEmptyParts);
-        for (const QString &feature : features) {
-            QStringList &selectors = map.selectors[feature];
-            if (!selectors.contains(shortName(name))) { // one that stands in two categories
-                selectors.append(shortName(name));
-            }
-        }
-    }
-}
-
-void FeatureSelectors::collect(const Map &map, const QString &feature, QStringList &outerFirst)
-{
-    const QStringList selectors = map.selectors.value(feature);
-    for (const QString &selector : selectors) {
-        if (!outerFirst.contains(selector)) {
-            outerFirst.prepend(selector);
-            collect(map, selector, outerFirst);
-        }
-    }
-}
-
 QStringList FeatureSelectors::namesOf(const QString &fullName) const
 {
-    QStringList names;
-    if (const Map *const map = mapOf(fullName)) {
-        collect(*map, shortName(fullName), names);
-        names.removeAll(shortName(fullName));
-    }
-    return names;
+    const Map *const map = mapOf(fullName);
+    return map ? map->graph.selectorsOf(fullName.section(QLatin1Char('/'), -1)) : QStringList();
 }
 
 QSharedPointer<IParameter> FeatureSelectors::parameter(const QString &fullName) const

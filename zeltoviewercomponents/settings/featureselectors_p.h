@@ -4,11 +4,11 @@
 #pragma once
 
 #include "featuresettings.h"
+#include "settingsgraph_p.h"
 #include "settingstask.h"
 
 #include <platform/parametercollection/iparameter.h>
 
-#include <QHash>
 #include <QList>
 #include <QSharedPointer>
 #include <QString>
@@ -41,13 +41,11 @@ private:
     struct Map
     {
         SettingsNodeMap nodeMap;
-        QHash<QString, QStringList> selectors; // by the short name of what they select
+        SettingsGraph graph;
         bool isRead = false;
     };
 
     const Map *mapOf(const QString &fullName) const;
-    static void readSelectors(Map &map);
-    static void collect(const Map &map, const QString &feature, QStringList &outerFirst);
     QStringList namesOf(const QString &fullName) const;
 
     mutable QList<Map> m_maps; // read when first asked
