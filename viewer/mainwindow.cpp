@@ -283,25 +283,27 @@ void MainWindow::createServices()
 
 void MainWindow::createPanels()
 {
-    addPanel(m_history->panel());
-    addPanel(m_comparison->panel());
+    // Below, since they are wide; one behind the other, since that takes rows from the tree.
+    QDockWidget *const changes = addPanel(m_history->panel(), Qt::BottomDockWidgetArea);
+    tabifyDockWidget(changes, addPanel(m_comparison->panel(), Qt::BottomDockWidgetArea));
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
-        addPanel(panel);
+        addPanel(panel, Qt::RightDockWidgetArea);
     }
     m_services->setParent(this); // the last child, so that panels go first
 }
 
-void MainWindow::addPanel(QWidget *panel)
+QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)
 {
     auto *const dock = new QDockWidget(panel->windowTitle(), this);
     dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
     dock->setWidget(panel);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    addDockWidget(area, dock);
     dock->hide(); // the tree has the room until the user asks for the panel
     m_panels->addAction(dock->toggleViewAction());
     m_panels->menuAction()->setVisible(true);
     m_workbench->addPage(panel);
+    return dock;
 }
 
 void MainWindow::createMenus()

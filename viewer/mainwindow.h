@@ -26,6 +26,7 @@ class HistoryActions;
 class MessageBar;
 class QAction;
 class QActionGroup;
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QModelIndex;
@@ -122,7 +123,7 @@ private:
     void connectSettings();
     void createServices();
     void createPanels();
-    void addPanel(QWidget *panel);
+    QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
     void createMenus();
     void createFileMenu();
     void createViewMenu();
