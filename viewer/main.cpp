@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "colours.h"
+#include "commandline.h"
 #include "featuresamples.h"
 #include "languages.h"
 #include "mainwindow.h"
@@ -149,6 +150,9 @@ int run(const Options &options)
 {
     if (options.list) {
         return listCameras();
+    }
+    if (!options.operations.isEmpty()) {
+        return CommandLine(*MainWindow::cameraFor(options), options).run();
     }
     if (options.editors) {
         return showGallery(options);

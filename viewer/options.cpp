@@ -5,6 +5,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHash>
+#include <QList>
 
 #include <array>
 #include <utility>
@@ -36,7 +38,9 @@ void addOptions(QCommandLineParser &parser)
     };
     parser.setApplicationDescription(
         QStringLiteral("Shows a camera's features in a tree. Without --description and "
-                       "--camera an embedded simulated camera is opened."));
+                       "--camera an embedded simulated camera is opened. --get, --set, --execute, --save, "
+                       "--load, --compare and --watch are carried out on it in the order given, without a "
+                       "window. Exit codes: 0 done, 1 refused or different, 2 wrong usage or not opened."));
     add("description", "Open a camera description file on simulated registers.", "file");
     add("camera", "Open the live camera with this id (see --list).", "id");
     add("list", "List the cameras that are reachable and exit.");
@@ -45,10 +49,110 @@ void addOptions(QCommandLineParser &parser)
     add("visibility", "User level: beginner, expert, guru or invisible.", "level");
     add("search", "Search the features for this text.", "text");
     add("expand", "Expand all branches.");
+    add("get", "Print the value of a feature; may be repeated.", "name");
+    add("set", "Change a feature; may be repeated.", "name=value");
+    add("execute", "Execute a command; may be repeated.", "name");
+    add("save", "Save the camera's settings to a file; - is the standard output.", "file");
+    add("load", "Bring the settings in a file to the camera; - is the standard input.", "file");
+    add("force", "Load settings of another camera model, too.");
+    add("compare", "Print in what the camera's settings and those in a file differ.", "file");
+    add("watch", "Print the value of a feature again and again, as CSV; may be repeated.", "name");
+    add("interval", "Milliseconds between two rows of --watch, 1000 by default.", "ms");
+    add("count", "Number of rows of --watch; without it, until interrupted.", "n");
+    add("output", "Form of --dump, --get and --compare: text or json.", "form");
     add("editors", "Show the gallery of value editors.");
     add("screenshot", "Render the window to a PNG file, without a display, and exit.", "file");
     add("help", "Show this help.");
     add("version", "Show the version.");
+}
+
+const QList<std::pair<QString, Operation::Kind>> &operationNames()
+{
+    static const QList<std::pair<QString, Operation::Kind>> names{
+        {QStringLiteral("get"), Operation::Kind::Get},
+        {QStringLiteral("set"), Operation::Kind::Set},
+        {QStringLiteral("execute"), Operation::Kind::Execute},
+        {QStringLiteral("save"), Operation::Kind::Save},
+        {QStringLiteral("load"), Operation::Kind::Load},
+        {QStringLiteral("compare"), Operation::Kind::Compare},
+        {QStringLiteral("watch"), Operation::Kind::Watch},
+    };
+    return names;
+}
+
+// The parser keeps the order of all options, and that of the values of each.
+QList<Operation> operationsFrom(const QCommandLineParser &parser)
+{
+    QList<Operation> operations;
+    QHash<QString, qsizetype> used;
+    const QStringList options = parser.optionNames();
+    for (const QString &option : options) {
+        for (const auto &[name, kind] : operationNames()) {
+            if (name == option) {
+                operations.append({kind, parser.values(name).value(used[name]++)});
+            }
+        }
+    }
+    return operations;
+}
+
+bool isPositive(const QString &text)
+{
+    bool ok = false;
+    return text.toInt(&ok) > 0 && ok;
+}
+
+// Returns what is wrong with the options about operations on a camera, empty when nothing is.
+QString mistakeInOperations(const QCommandLineParser &parser)
+{
+    const QList<Operation> operations = operationsFrom(parser);
+    int inputs = 0;
+    for (const Operation &operation : operations) {
+        if (operation.argument.isEmpty()) {
+            return QStringLiteral("The value of an option is empty.");
+        }
+        if (operation.kind == Operation::Kind::Set && operation.argument.indexOf(QLatin1Char('=')) < 1) {
+            return QStringLiteral("--set expects NAME=VALUE, not '%1'.").arg(operation.argument);
+        }
+        const bool reads =
+            operation.kind == Operation::Kind::Load || operation.kind == Operation::Kind::Compare;
+        inputs += reads && operation.argument == QLatin1String("-") ? 1 : 0;
+    }
+    if (inputs > 1) {
+        return QStringLiteral("The standard input can be read only once.");
+    }
+    for (const char *const other :
+         {"list", "dump", "favorites", "editors", "screenshot", "expand", "search", "visibility"}) {
+        if (!operations.isEmpty() && parser.isSet(QString::fromLatin1(other))) {
+            return QStringLiteral("--%1 cannot be combined with operations on a camera.")
+                .arg(QString::fromLatin1(other));
+        }
+    }
+    for (const char *const number : {"interval", "count"}) {
+        const QString name = QString::fromLatin1(number);
+        if (parser.isSet(name) && !isPositive(parser.value(name))) {
+            return QStringLiteral("--%1 expects a positive number, not '%2'.").arg(name, parser.value(name));
+        }
+    }
+    const QString form = parser.value(QStringLiteral("output"));
+    if (parser.isSet(QStringLiteral("output")) && form != QLatin1String("text")
+        && form != QLatin1String("json")) {
+        return QStringLiteral("Unknown output '%1', expected text or json.").arg(form);
+    }
+    // Options that would have no effect.
+    static constexpr std::array needs{std::pair{"interval", "watch"}, std::pair{"count", "watch"},
+                                      std::pair{"force", "load"}};
+    for (const auto &[option, needed] : needs) {
+        if (parser.isSet(QString::fromLatin1(option)) && !parser.isSet(QString::fromLatin1(needed))) {
+            return QStringLiteral("--%1 needs --%2.")
+                .arg(QString::fromLatin1(option), QString::fromLatin1(needed));
+        }
+    }
+    const bool hasForm = parser.isSet(QStringLiteral("dump")) || parser.isSet(QStringLiteral("get"))
+        || parser.isSet(QStringLiteral("compare"));
+    return parser.isSet(QStringLiteral("output")) && !hasForm
+        ? QStringLiteral("--output needs --dump, --get or --compare.")
+        : QString();
 }
 
 // Without an application object the parser does not know the program's name.
@@ -89,6 +193,10 @@ QString mistakeIn(const QCommandLineParser &parser)
             return QStringLiteral("--%1 and --%2 exclude each other.").arg(one, other);
         }
     }
+    const QString mistake = mistakeInOperations(parser);
+    if (!mistake.isEmpty()) {
+        return mistake;
+    }
     const QString level = parser.value(QStringLiteral("visibility"));
     if (parser.isSet(QStringLiteral("visibility")) && !visibilityFrom(level)) {
         return QStringLiteral("Unknown visibility '%1', expected beginner, expert, guru or invisible.")
@@ -115,6 +223,13 @@ Options optionsFrom(const QCommandLineParser &parser)
     options.expand = parser.isSet(QStringLiteral("expand"));
     options.search = parser.value(QStringLiteral("search"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
+    options.operations = operationsFrom(parser);
+    options.json = parser.value(QStringLiteral("output")) == QLatin1String("json");
+    options.force = parser.isSet(QStringLiteral("force"));
+    if (parser.isSet(QStringLiteral("interval"))) {
+        options.interval = parser.value(QStringLiteral("interval")).toInt();
+    }
+    options.count = parser.value(QStringLiteral("count")).toInt();
     options.visibility = visibilityFrom(parser.value(QStringLiteral("visibility")));
     if (!options.visibility && (options.dump || options.favorites)) {
         // What a script reads must not depend on the level that the window was left at.
@@ -127,7 +242,7 @@ Options optionsFrom(const QCommandLineParser &parser)
 
 bool Options::isInteractive() const
 {
-    return !list && !dump && !favorites && screenshot.isEmpty() && helpText.isEmpty();
+    return !list && !dump && !favorites && operations.isEmpty() && screenshot.isEmpty() && helpText.isEmpty();
 }
 
 ParsedOptions parseOptions(const QStringList &arguments)

@@ -5,10 +5,20 @@
 
 #include <platform/genicam/genapi.h>
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+
+/*! \brief One thing that is done with an open camera without a window. */
+struct Operation
+{
+    enum class Kind { Get, Set, Execute, Save, Load, Compare, Watch };
+
+    Kind kind = Kind::Get;
+    QString argument; //!< name of a feature, NAME=VALUE or a file
+};
 
 /*! \brief What the command line asks for. */
 struct Options
@@ -22,6 +32,11 @@ struct Options
     bool expand = false;
     QString search;
     QString screenshot;
+    QList<Operation> operations; //!< in the order in which they are carried out
+    int interval = 1000; //!< in milliseconds, between the rows of a watch
+    int count = 0; //!< of the rows of a watch; 0 for no end
+    bool json = false;
+    bool force = false; //!< loads settings of another model
     std::optional<GenApi::EVisibility> visibility; //!< absent: as the window remembers it
     QString helpText; //!< when help or version is asked for, the answer
 

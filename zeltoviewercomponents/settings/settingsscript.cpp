@@ -20,6 +20,7 @@ SettingsScript::~SettingsScript() = default;
 
 std::optional<BatchOperation> SettingsScript::next(const BatchOutcome &previous)
 {
+    m_operation.reset();
     if (!std::exchange(m_hasBegun, true)) {
         begin();
     } else if (previous.isLost) {
@@ -30,8 +31,9 @@ std::optional<BatchOperation> SettingsScript::next(const BatchOutcome &previous)
     }
     if (m_isCancelled && !std::exchange(m_isCleaningUp, true)) {
         std::erase_if(m_steps, [](const Entry &entry) { return !entry.isCleanup; });
+        m_operation.reset();
+        m_handler = nullptr;
     }
-    m_operation.reset();
     while (!m_operation && !m_steps.empty()) {
         const Step step = std::move(m_steps.back().step);
         m_steps.pop_back();

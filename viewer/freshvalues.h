@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <platform/parametercollection/iparameter.h>
+
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QSharedPointer>
+#include <QString>
+
+/*! \brief Reads features anew from the camera and waits for it. */
+class FreshValues : public QObject
+{
+    Q_OBJECT
+
+public:
+    using ParameterPtr = QSharedPointer<ParameterCollection::IParameter>;
+
+    explicit FreshValues(const QList<ParameterPtr> &parameters, QObject *parent = nullptr);
+    ~FreshValues() override;
+
+    /*! Has all features read. Returns whether each of them has answered in time; runs the event loop
+     * meanwhile. */
+    bool read();
+
+signals:
+    void complete();
+
+private slots:
+    void onData();
+
+private:
+    QList<ParameterPtr> m_parameters;
+    QSet<QObject *> m_awaited;
+};
