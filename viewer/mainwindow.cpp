@@ -300,6 +300,7 @@ QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)
     dock->setWidget(panel);
     addDockWidget(area, dock);
     dock->hide(); // the tree has the room until the user asks for the panel
+    connect(dock->toggleViewAction(), SIGNAL(triggered()), dock, SLOT(raise())); // from behind another
     m_panels->addAction(dock->toggleViewAction());
     m_panels->menuAction()->setVisible(true);
     m_workbench->addPage(panel);

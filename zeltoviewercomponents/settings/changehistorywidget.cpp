@@ -110,7 +110,8 @@ void ChangeHistoryWidget::layOut()
     top->addWidget(m_search, 1);
     top->addWidget(saveButton);
     auto *const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) / 2;
+    layout->setContentsMargins(margin, margin, margin, margin);
     layout->addLayout(top);
     layout->addWidget(m_view, 1);
     setFocusProxy(m_view);

@@ -102,7 +102,8 @@ void SettingsComparisonWidget::layOut()
     bottom->addWidget(buttonFor(m_takeOverAll));
     bottom->addStretch(1);
     auto *const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) / 2;
+    layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(m_title);
     layout->addLayout(top);
     layout->addLayout(kinds);
