@@ -4,6 +4,7 @@
 #include "comparison.h"
 
 #include "cameradialog.h"
+#include "settingsorigin.h"
 
 #include <cameras/camera.h>
 #include <platform/core/exception.h>
@@ -20,16 +21,6 @@
 #include <algorithm>
 
 namespace {
-
-QList<SettingsNodeMap> nodeMapsOf(const Cameras::Camera &camera)
-{
-    QList<SettingsNodeMap> nodeMaps;
-    const auto all = camera.nodeMaps();
-    for (const Cameras::NodeMap &nodeMap : all) {
-        nodeMaps.append({nodeMap.name, nodeMap.collection});
-    }
-    return nodeMaps;
-}
 
 // What of \a settings is also in \a known.
 FeatureSettings onlyThoseOf(const FeatureSettings &known, const FeatureSettings &settings)
@@ -78,7 +69,7 @@ void Comparison::open(const QList<SettingsNodeMap> &nodeMaps)
     close();
     m_nodeMaps = nodeMaps;
     m_opened = presentSettings(nodeMaps);
-    m_menu->setEnabled(true);
+    setBusy(false);
 }
 
 void Comparison::close()
@@ -87,13 +78,20 @@ void Comparison::close()
     m_applier.reset();
     m_other.reset();
     m_nodeMaps.clear();
-    m_menu->setEnabled(false);
+    setBusy(false);
     m_panel->clear();
 }
 
-bool Comparison::isBusy() const
+bool Comparison::canStart() const
 {
-    return m_reader || m_applier;
+    return !m_isBusy && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
+}
+
+void Comparison::setBusy(bool busy)
+{
+    m_isBusy = busy;
+    m_menu->setEnabled(!busy && !m_nodeMaps.isEmpty());
+    m_panel->setTakingOver(!busy && !m_nodeMaps.isEmpty());
 }
 
 void Comparison::askForFile()
@@ -148,13 +146,13 @@ void Comparison::askForCamera()
 
 void Comparison::compareWith(std::unique_ptr<Cameras::Camera> other)
 {
-    if (isBusy() || m_nodeMaps.isEmpty()) {
+    if (!canStart()) {
         return;
     }
     m_other = std::move(other);
-    m_reader = std::make_unique<SettingsReader>(nodeMapsOf(*m_other));
+    m_reader = std::make_unique<SettingsReader>(settingsNodeMaps(*m_other));
+    emit taskCreated(m_reader.get()); // whose receivers hear of the end first
     connect(m_reader.get(), SIGNAL(finished()), this, SLOT(onOtherRead()));
-    emit taskCreated(m_reader.get());
     m_reader->start();
 }
 
@@ -181,12 +179,12 @@ void Comparison::compareWith(const QString &title, const FeatureSettings &there,
 
 void Comparison::compareAgain()
 {
-    if (isBusy() || m_nodeMaps.isEmpty()) {
+    if (!canStart()) {
         return;
     }
     m_reader = std::make_unique<SettingsReader>(m_nodeMaps);
-    connect(m_reader.get(), SIGNAL(finished()), this, SLOT(onHereRead()));
     emit taskCreated(m_reader.get());
+    connect(m_reader.get(), SIGNAL(finished()), this, SLOT(onHereRead()));
     m_reader->start();
 }
 
@@ -203,12 +201,12 @@ void Comparison::onHereRead()
 
 void Comparison::takeOver(const FeatureSettings &settings)
 {
-    if (isBusy() || m_nodeMaps.isEmpty()) {
+    if (!canStart()) {
         return;
     }
     m_applier = std::make_unique<SettingsApplier>(settings, m_nodeMaps);
-    connect(m_applier.get(), SIGNAL(finished()), this, SLOT(onTakenOver()));
     emit taskCreated(m_applier.get());
+    connect(m_applier.get(), SIGNAL(finished()), this, SLOT(onTakenOver()));
     m_applier->start();
 }
 

@@ -45,6 +45,10 @@ public:
     /*! Compares with the settings file \a fileName. */
     void compareWithFile(const QString &fileName);
 
+public slots:
+    /*! Sets whether something is at work on the camera, so that comparisons have to wait. */
+    void setBusy(bool busy);
+
 signals:
     /*! \a task is about to begin on the open camera. */
     void taskCreated(SettingsTask *task);
@@ -69,7 +73,7 @@ private slots:
 private:
     void compareWith(std::unique_ptr<Cameras::Camera> other);
     void compareWith(const QString &title, const FeatureSettings &there, bool onlyKnown);
-    bool isBusy() const;
+    bool canStart() const;
 
     QWidget *m_window;
     SettingsComparisonWidget *m_panel;
@@ -78,6 +82,7 @@ private:
     FeatureSettings m_opened; // as snapshots told when the camera was opened
     QString m_title; // of what is compared with
     FeatureSettings m_there;
+    bool m_isBusy = false;
     bool m_onlyKnown = false; // features that are only here tell nothing
     std::unique_ptr<Cameras::Camera> m_other; // while it is read
     std::unique_ptr<SettingsReader> m_reader;

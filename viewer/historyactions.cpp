@@ -51,6 +51,10 @@ bool HistoryActions::differsFromFile() const
 void HistoryActions::onLoaded(const FeatureSettings &settings, const FeatureSettings &former,
                               const SettingsReport &report, const QString &fileName)
 {
+    if (fileName.isEmpty()) {
+        m_history->recordApplied(tr("what was before"), settings, former, report);
+        return; // not a state that anybody saved
+    }
     m_history->recordApplied(fileName, settings, former, report);
     m_history->setUnmodified(report);
     m_file = fileName;
@@ -71,10 +75,10 @@ void HistoryActions::onTakenOver(const QString &name, const FeatureSettings &set
     m_history->recordApplied(name, settings, former, report);
 }
 
-// Nothing can be written to a camera that was lost.
+// Nothing can be written to a camera that was lost, or on which something else is at work.
 void HistoryActions::updateActions()
 {
-    const bool canWrite = m_tree->isEnabled();
+    const bool canWrite = m_tree->isEnabled() && !m_tree->isResting();
     const auto update = [canWrite](QAction *action, bool isPossible, const QString &text) {
         action->setText(text);
         action->setEnabled(canWrite && isPossible);

@@ -43,7 +43,7 @@ public:
     bool differsFromFile() const;
 
 public slots:
-    /*! The file \a fileName was applied to the camera. */
+    /*! The file \a fileName was applied to the camera, or what was before it when the name is empty. */
     void onLoaded(const FeatureSettings &settings, const FeatureSettings &former,
                   const SettingsReport &report, const QString &fileName);
     /*! The camera's settings were saved to \a fileName. */

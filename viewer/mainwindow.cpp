@@ -13,6 +13,7 @@
 #include "ipconfiguration.h"
 #include "messagebar.h"
 #include "recentsources.h"
+#include "settingsactions.h"
 #include "treemenu.h"
 
 #include <platform/core/exception.h>
@@ -34,6 +35,7 @@
 #include <zeltoviewercomponents/settings/changehistory.h>
 #include <zeltoviewercomponents/settings/changehistorywidget.h>
 #include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
+#include <zeltoviewercomponents/settings/settingsprogress.h>
 #include <zeltoviewercomponents/settings/settingstask.h>
 
 #include <QActionGroup>
@@ -96,6 +98,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
     , m_services(new QObject)
+    , m_settings(new SettingsActions(m_tree, m_messages, this))
 {
     layOut();
     createMenus();
@@ -159,6 +162,7 @@ void MainWindow::connectTree()
     connect(m_tree->treeView()->header(), SIGNAL(sectionResized(int, int, int)), this,
             SLOT(onColumnResized(int, int, int)));
     connect(m_treeMenu, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
+    connect(m_settings, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
     m_tree->setCommandVeto([this](const QSharedPointer<ParameterCollection::IParameter> &command) {
         return !isExecutionWanted(*command);
     });
@@ -170,6 +174,11 @@ void MainWindow::connectTree()
 void MainWindow::connectSettings()
 {
     connect(m_history, SIGNAL(fileStateChanged()), this, SLOT(updateTitle()));
+    connect(m_settings, SIGNAL(applied(FeatureSettings, FeatureSettings, SettingsReport, QString)), m_history,
+            SLOT(onLoaded(FeatureSettings, FeatureSettings, SettingsReport, QString)));
+    connect(m_settings, SIGNAL(saved(FeatureSettings, QString)), m_history,
+            SLOT(onSaved(FeatureSettings, QString)));
+    connect(m_tree, SIGNAL(restingChanged(bool)), m_comparison, SLOT(setBusy(bool)));
     connect(m_history->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
     connect(m_comparison->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
     connect(m_history->history(), SIGNAL(taskCreated(SettingsTask *)), this,
@@ -211,6 +220,8 @@ void MainWindow::showDifferences()
 
 void MainWindow::onTaskCreated(SettingsTask *task)
 {
+    auto *const progress = new SettingsProgress(task, tr("Camera Settings"), this);
+    connect(task, SIGNAL(destroyed()), progress, SLOT(deleteLater()));
     connect(task, SIGNAL(started()), this, SLOT(onTaskStarted()));
     connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
 }
@@ -366,6 +377,8 @@ void MainWindow::createCameraMenu()
 {
     QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
     camera->setToolTipsVisible(true);
+    camera->addActions(m_settings->actions());
+    camera->addSeparator();
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
     camera->addSeparator();
@@ -472,18 +485,15 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
         m_tree->addParameterCollection(nodeMap.collection, nodeMap.title, nodeMap.name, nodeMap.usesUtf8);
     }
     const auto info = m_camera->info();
+    m_settings->setCamera(m_camera.get());
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
     m_pages->setCurrentWidget(m_tree);
     m_tree->setFocus(); // which went elsewhere when the camera before was lost or closed
     m_tree->expandRootNodes();
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
-    QList<SettingsNodeMap> settingsMaps;
-    for (const Cameras::NodeMap &nodeMap : nodeMaps) {
-        settingsMaps.append({nodeMap.name, nodeMap.collection});
-    }
-    m_history->open(settingsMaps);
-    m_comparison->open(settingsMaps);
+    m_history->open(m_settings->nodeMaps());
+    m_comparison->open(m_settings->nodeMaps());
     updateActions();
     if (m_camera->isReadOnly()) {
         showAccess();
@@ -499,6 +509,7 @@ void MainWindow::closeCamera()
     m_comparison->close();
     m_tree->setResting(false); // what was under way has ended with them
     m_tree->setPolling(false);
+    m_settings->setCamera(nullptr);
     m_description->showParameter(nullptr);
     m_tree->clear();
     m_pages->setCurrentIndex(1);
@@ -719,6 +730,7 @@ void MainWindow::updateActions()
     m_controlAction->setToolTip(canTakeControl ? tr("Allows the camera's features to be changed")
                                                : tr("Only of a camera that is open read-only and free"));
     m_controlAction->setStatusTip(m_controlAction->toolTip());
+    m_settings->updateActions();
     updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());

@@ -35,6 +35,7 @@ class QStackedWidget;
 class QTimer;
 class QToolButton;
 class RecentSources;
+class SettingsActions;
 class SettingsTask;
 class TreeMenu;
 class WorkbenchService;
@@ -67,6 +68,8 @@ public:
     FeatureTreeWidget *featureTree() const;
     /*! Returns whether a camera is open and answers. */
     bool isCameraOpen() const;
+    /*! Returns what saves and loads the camera's settings. */
+    SettingsActions *settings() const { return m_settings; }
     /*! Returns the parent of the services that plug-ins find. */
     QObject *services() const;
 
@@ -170,6 +173,7 @@ private:
     QActionGroup *m_levels = nullptr;
     QToolButton *m_levelButton = nullptr;
     RecentSources *m_recent = nullptr;
+    SettingsActions *m_settings;
     CameraMemory m_memory;
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;

@@ -98,6 +98,9 @@ void writeMemoryNode(MemoryNode &node, const QString &text)
     }
     node.snapshot = withText(node, text);
     node.writes.append(text);
+    if (node.written) {
+        node.written();
+    }
 }
 
 MemoryPropertyAccess::MemoryPropertyAccess(MemoryNode *node)
@@ -243,6 +246,29 @@ QSharedPointer<MemoryPlain> MemoryCollection::addString(const QString &name, con
     auto data = usableSnapshot<ParameterData>(ParameterType::String);
     data->valueString = value;
     return add<MemoryPlain>(name, parent, data);
+}
+
+void MemoryCollection::select(const QString &selector, const QString &feature)
+{
+    MemoryNode *const selecting = node(selector);
+    MemoryNode *const selected = node(feature);
+    QString &names = selecting->properties[QStringLiteral("pSelected")];
+    names += names.isEmpty() ? feature : QLatin1Char('\t') + feature;
+    using Snapshots = QHash<QString, QSharedPointer<ParameterData>>;
+    const auto snapshots = QSharedPointer<Snapshots>::create();
+    const auto first = selected->snapshot;
+    selected->written = [=, before = selected->written] {
+        if (before) {
+            before();
+        }
+        snapshots->insert(selecting->snapshot->valueString, selected->snapshot);
+    };
+    selecting->written = [=, before = selecting->written] {
+        if (before) {
+            before();
+        }
+        selected->snapshot = snapshots->value(selecting->snapshot->valueString, first);
+    };
 }
 
 void MemoryCollection::setAlias(const QString &name, const QString &alias)

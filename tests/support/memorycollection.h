@@ -31,6 +31,9 @@ struct MemoryNode
      * carried out; may throw, to play a failing parameter. */
     std::function<void(const QString &operation)> before;
 
+    /*! Called after a write was carried out, to play a camera that changes something else with it. */
+    std::function<void()> written;
+
     QStringList writes; //!< every value that was written, as text
     int executions = 0;
     int forcedChecks = 0;
@@ -234,6 +237,8 @@ public:
     QSharedPointer<MemoryBoolean> addBoolean(const QString &name, const QString &parent, bool value = false);
     QSharedPointer<MemoryCommand> addCommand(const QString &name, const QString &parent);
     QSharedPointer<MemoryPlain> addString(const QString &name, const QString &parent, const QString &value);
+    /*! Makes \a selector select \a feature, which has a value for each of the selector's from then on. */
+    void select(const QString &selector, const QString &feature);
     /*! Makes \a alias what look-ups of \a name followed by "/Alias" find. */
     void setAlias(const QString &name, const QString &alias);
 

@@ -297,6 +297,7 @@ void FeatureTreeWidget::setResting(bool resting)
     if (!resting && m_focusAfterRest && !QApplication::focusWidget()) {
         m_focusAfterRest->setFocus();
     }
+    emit restingChanged(resting);
 }
 
 void FeatureTreeWidget::on_resetButton_clicked()

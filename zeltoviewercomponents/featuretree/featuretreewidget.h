@@ -70,6 +70,8 @@ public:
     /*! Sets whether the tree rests: it cannot be edited, polls and adjusts nothing, as long as others work on
      * all of the camera's features. Afterwards it shows what they are then. */
     void setResting(bool resting);
+    /*! Returns whether the tree rests. */
+    bool isResting() const { return m_isResting; }
     /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
     void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
@@ -188,6 +190,8 @@ signals:
     void pollingStateChanged(bool polling);
     /*! The user has shown or hidden favorites that the camera lacks. */
     void viewAllFavoritesStateChanged(bool viewAll);
+    /*! The tree has begun to rest, or works again. */
+    void restingChanged(bool resting);
     /*! The user has written a value, or executed a command, for which both texts are null.
      *
      * \param before the value before, as text that the parameter takes back exactly; null when unknown

@@ -406,9 +406,9 @@ void ChangeHistory::begin(const FileStep &step, bool back)
     m_task = std::make_unique<SettingsApplier>(back ? step.former : step.settings, m_nodeMaps,
                                                SettingsApplier::Before::Forget);
     m_isTaskBack = back;
+    emit taskCreated(m_task.get()); // whose receivers hear of the end first
     connect(m_task.get(), SIGNAL(finished()), this, SLOT(onTaskFinished()));
     emit stepsChanged();
-    emit taskCreated(m_task.get());
     m_task->start();
 }
 

@@ -102,7 +102,8 @@ void SettingsApplying::afterPass()
         addStep([this] { afterCheck(); });
         Items written;
         for (Item &item : m_items) {
-            if (item.entry.result == Result::Set || item.entry.result == Result::Unchanged) {
+            const bool isFine = item.entry.result == Result::Set || item.entry.result == Result::Unchanged;
+            if (isFine && !item.isSelector) { // they are still on their way
                 written.push_back(&item);
             }
         }

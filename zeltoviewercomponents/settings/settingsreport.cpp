@@ -55,29 +55,32 @@ QStringList SettingsReport::problems() const
 
 QString SettingsReport::problem(const Entry &entry)
 {
-    const QString title = entry.setting.title();
-    QString text;
+    if (entry.result == Result::Set || entry.result == Result::Unchanged) {
+        return {};
+    }
+    const QString text = tr("%1: %2").arg(entry.setting.title(), resultText(entry));
+    return entry.setting.line > 0 ? tr("line %1: %2").arg(entry.setting.line).arg(text) : text;
+}
+
+QString SettingsReport::resultText(const Entry &entry)
+{
     switch (entry.result) {
     case Result::Set:
+        return tr("set");
     case Result::Unchanged:
-        return {};
-    case Result::Refused:
+        return tr("unchanged");
+    case Result::Refused: {
         // The camera's own words name the feature, which stands there already.
-        text = tr("%1: refused: %2")
-                   .arg(title,
-                        entry.reason.startsWith(entry.setting.name + QLatin1String(": "))
-                            ? entry.reason.mid(entry.setting.name.size() + 2)
-                            : entry.reason);
-        break;
-    case Result::Missing:
-        text = tr("%1: the camera has no such feature").arg(title);
-        break;
-    case Result::Different:
-        text = tr("%1: \"%2\" was written, \"%3\" is read back").arg(title, entry.setting.value, entry.after);
-        break;
-    case Result::NotTried:
-        text = tr("%1: not tried").arg(title);
-        break;
+        const QString name = entry.setting.name + QLatin1String(": ");
+        return tr("refused: %1")
+            .arg(entry.reason.startsWith(name) ? entry.reason.mid(name.size()) : entry.reason);
     }
-    return entry.setting.line > 0 ? tr("line %1: %2").arg(entry.setting.line).arg(text) : text;
+    case Result::Missing:
+        return tr("the camera has no such feature");
+    case Result::Different:
+        return tr("\"%1\" was written, \"%2\" is read back").arg(entry.setting.value, entry.after);
+    case Result::NotTried:
+        return tr("not tried");
+    }
+    return {};
 }

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /*! \brief What came of applying settings to a camera, feature by feature. */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReport
@@ -45,6 +46,9 @@ public:
     QStringList problems() const;
     /*! Returns what went wrong with \a entry, empty when nothing did. */
     static QString problem(const Entry &entry);
+
+    /*! Returns what came of \a entry in a few words, with the reason of a refusal. */
+    static QString resultText(const Entry &entry);
 
     QList<Entry> entries;
     bool isCancelled = false;

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "settingsreport.h"
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QDialog>
+
+class QCheckBox;
+class QTreeWidget;
+
+/*! \brief Shows what came of applying settings, the features with problems first of all. */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsReportDialog(const SettingsReport &report, QWidget *parent = nullptr);
+    ~SettingsReportDialog() override;
+
+signals:
+    /*! The user wants back what was before. */
+    void putBackRequested();
+
+private slots:
+    void fill();
+    void copy();
+    void putBack();
+
+private:
+    SettingsReport m_report;
+    QCheckBox *m_all;
+    QTreeWidget *m_list;
+};
