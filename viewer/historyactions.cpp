@@ -23,6 +23,8 @@ HistoryActions::HistoryActions(FeatureTreeWidget *tree, QWidget *window)
     connect(m_undo, SIGNAL(triggered()), m_history, SLOT(undo()));
     connect(m_redo, SIGNAL(triggered()), m_history, SLOT(redo()));
     connect(m_history, SIGNAL(stepsChanged()), this, SLOT(updateActions()));
+    connect(m_history, SIGNAL(modifiedChanged(bool)), this, SIGNAL(fileStateChanged()));
+    connect(tree, SIGNAL(restingChanged(bool)), this, SLOT(updateActions()));
     connect(tree, SIGNAL(edited(QSharedPointer<ParameterCollection::IParameter>, QString, QString, QString)),
             m_history,
             SLOT(record(QSharedPointer<ParameterCollection::IParameter>, QString, QString, QString)));
