@@ -20,6 +20,7 @@
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/services/cameracontrolservice.h>
 #include <viewer/services/camerastatusservice.h>
+#include <viewer/services/featureservice.h>
 #include <viewer/services/featuretreecontrolservice.h>
 #include <viewer/services/featuretreestatusservice.h>
 #include <viewer/services/workbenchservice.h>
@@ -275,6 +276,7 @@ QWidget *MainWindow::createEmptyPage()
 
 void MainWindow::createServices()
 {
+    new FeatureService(m_settings, m_services);
     new FeatureTreeControlService(m_tree, m_services);
     new FeatureTreeStatusService(m_tree, m_services);
     (new CameraControlService(this, m_services))->setObjectName(Plugin::ServiceName::Device);

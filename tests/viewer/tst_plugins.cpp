@@ -78,7 +78,7 @@ void TestPlugins::init()
     QSettings().clear();
     m_window = std::make_unique<MainWindow>();
     m_window->openCamera(Options());
-    m_window->findChild<QDockWidget *>()->show();
+    m_window->findChild<QDockWidget *>("visitedFeaturesDock")->show();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
