@@ -5,6 +5,16 @@
 
 #include <algorithm>
 
+namespace {
+
+QVariant alignmentOf(int column)
+{
+    const Qt::Alignment side = column == WatchModel::NameColumn ? Qt::AlignLeading : Qt::AlignTrailing;
+    return QVariant(side | Qt::AlignVCenter);
+}
+
+} // namespace
+
 WatchModel::~WatchModel() = default;
 
 bool WatchModel::add(const WatchedFeature::ParameterPtr &parameter)
@@ -63,8 +73,8 @@ QVariant WatchModel::data(const QModelIndex &index, int role) const
     if (role == Qt::ToolTipRole) {
         return feature.fullName();
     }
-    if (role == Qt::TextAlignmentRole && index.column() != NameColumn) {
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole) {
+        return alignmentOf(index.column());
     }
     if (role != Qt::DisplayRole) {
         return {};
@@ -87,6 +97,9 @@ QVariant WatchModel::data(const QModelIndex &index, int role) const
 
 QVariant WatchModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (role == Qt::TextAlignmentRole) {
+        return alignmentOf(section);
+    }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }

@@ -97,6 +97,19 @@ QSize WatchPlot::sizeHint() const
     return {60 * fontMetrics().averageCharWidth(), 2 * minimumSizeHint().height()};
 }
 
+// In milliseconds, the same in all lanes, so that what happens together stands one below the other.
+qint64 WatchPlot::shownTime() const
+{
+    if (m_span > 0) {
+        return m_span * qint64(1000);
+    }
+    qint64 longest = 1000;
+    for (const WatchedFeature *const feature : m_model->features()) {
+        longest = std::max(longest, feature->elapsed());
+    }
+    return longest;
+}
+
 QColor WatchPlot::lineColor(int number) const
 {
     const bool isDark = palette().color(QPalette::Base).lightness() < 128;
@@ -125,8 +138,8 @@ WatchPlot::Scale WatchPlot::scaleOf(const QRect &area, const WatchedFeature &fea
 {
     Scale scale;
     scale.area = area;
-    scale.end = std::max<qint64>(1000, feature.elapsed());
-    scale.begin = m_span > 0 ? std::max<qint64>(0, scale.end - m_span * qint64(1000)) : 0;
+    scale.end = feature.elapsed();
+    scale.begin = scale.end - shownTime();
     scale.lowest = std::numeric_limits<double>::infinity();
     scale.highest = -scale.lowest;
     for (const WatchSeries::Bucket &bucket : feature.series().buckets()) {

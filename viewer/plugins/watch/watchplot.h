@@ -40,6 +40,7 @@ private:
     Scale scaleOf(const QRect &area, const WatchedFeature &feature) const;
     QColor lineColor(int number) const;
     int laneHeight() const;
+    qint64 shownTime() const;
 
     const WatchModel *m_model;
     int m_span = 0; // in seconds
