@@ -22,9 +22,10 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <utility>
+
+#include <unistd.h>
 
 using namespace ParameterCollection;
 
@@ -122,7 +123,7 @@ CommandLine::CommandLine(Cameras::Camera &camera, const Options &options)
     , m_features(camera.nodeMaps())
 {
     // Unbuffered: rows of a watch are seen at once, and a full disk is noticed where it matters.
-    (void)m_out.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);
+    (void)m_out.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
 int CommandLine::fail(const QString &reason, ExitCode code)
@@ -298,7 +299,7 @@ FeatureSettings CommandLine::settingsIn(const QString &fileName) const
         return FeatureSettings::load(fileName);
     }
     QFile in;
-    (void)in.open(stdin, QIODevice::ReadOnly);
+    (void)in.open(STDIN_FILENO, QIODevice::ReadOnly);
     try {
         return FeatureSettings::read(in);
     } catch (const Core::Exception::BaseException &exception) {
@@ -309,6 +310,9 @@ FeatureSettings CommandLine::settingsIn(const QString &fileName) const
 int CommandLine::load(const QString &fileName)
 {
     const FeatureSettings settings = settingsIn(fileName);
+    if (settings.isEmpty()) {
+        return fail(tr("%1: there are no settings in it").arg(fileName), Failed);
+    }
     if (!m_options.force && !isOfModel(settings, m_camera)) {
         return fail(tr("%1: these are settings of %2, and this is %3; --force loads them all the same")
                         .arg(fileName, settings.origin.model, m_camera.info()->modelName()),

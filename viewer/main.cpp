@@ -7,6 +7,7 @@
 #include "languages.h"
 #include "mainwindow.h"
 #include "options.h"
+#include "treejson.h"
 
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
@@ -15,6 +16,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QJsonDocument>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
@@ -99,7 +101,9 @@ int dumpTree(MainWindow &window, const Options &options)
     FeatureTreeView *const view = window.featureTree()->treeView();
     const QModelIndex top =
         options.favorites ? view->getFeatureExtension()->GetFavoritesRootIndex() : QModelIndex();
-    if (!options.favorites || top.isValid()) { // a search may leave nothing of the favorites
+    if (options.json) {
+        out << QJsonDocument(featureTreeJson(*view->model())).toJson();
+    } else if (!options.favorites || top.isValid()) { // a search may leave nothing of the favorites
         writeFeatureTree(out, *view->model(), top);
     }
     return finish(out);

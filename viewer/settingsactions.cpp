@@ -193,6 +193,7 @@ void SettingsActions::run(SettingsTask *task, const QString &title, const char *
 
 void SettingsActions::endTask()
 {
+    m_task->disconnect(this);
     m_task.release()->deleteLater(); // it may be the sender of the signal that led here
     m_tree->setResting(false);
     updateActions();

@@ -1,8 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <QDateTime>
 #include <QFile>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QSettings>
@@ -38,6 +42,12 @@ private slots:
     void answersAboutItself();
     void takesScreenshots();
     void fullDeviceIsAFailure();
+    void operations_data();
+    void operations();
+    void settingsGoThroughStandardStreams();
+    void settingsOfAnotherModelNeedForce();
+    void jsonIsOneDocument();
+    void watchEndsCleanly();
 
 private:
     struct Result
@@ -48,7 +58,8 @@ private:
     };
 
     /*! Runs the viewer with \a arguments, which blanks separate. */
-    Result run(const QString &arguments, const Changes &changes = {}, const QString &outFile = {}) const;
+    Result run(const QString &arguments, const Changes &changes = {}, const QString &outFile = {},
+               const QByteArray &in = {}) const;
     QString path(const QString &name) const { return m_dir->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -61,7 +72,7 @@ void TestViewerCli::init()
 }
 
 TestViewerCli::Result TestViewerCli::run(const QString &arguments, const Changes &changes,
-                                         const QString &outFile) const
+                                         const QString &outFile, const QByteArray &in) const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
@@ -81,6 +92,8 @@ TestViewerCli::Result TestViewerCli::run(const QString &arguments, const Changes
         process.setStandardOutputFile(outFile);
     }
     process.start(VIEWER_PROGRAM, arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    process.write(in);
+    process.closeWriteChannel();
     Result result;
     if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
         result.exitCode = process.exitCode();
@@ -120,6 +133,25 @@ void TestViewerCli::failsInOneLine_data()
     row("--screenshot a.png --description /dev/null", "/dev/null");
     row("--screenshot /dev/null/a.png", "/dev/null/a.png");
     row("--dump --camera Nobody-0", "Nobody-0");
+    row("--get ExposureTme", "no feature ExposureTme; did you mean ExposureTime?");
+    row("--set Width=320 --get @CameraDevice/Gian", "did you mean @CameraDevice/Gain?");
+    row("--get Xyzzyxyzzy", "no feature Xyzzyxyzzy");
+    row("--get TriggerSoftware", "TriggerSoftware");
+    row("--execute Width", "Width");
+    row("--set Width", "NAME=VALUE");
+    row("--get=", "empty");
+    row("--get Width --dump", "--dump");
+    row("--watch Width --count 0", "--count");
+    row("--interval 10", "--interval needs --watch");
+    row("--get Width --force", "--force needs --load");
+    row("--list --output json", "--output needs");
+    row("--get Width --output xml", "xml");
+    row("--load - --compare -", "only once");
+    row("--load missing.txt", "missing.txt");
+    row("--load .", "directory");
+    row("--load given", "given: there are no settings");
+    row("--save /nowhere/at.all", "/nowhere/at.all");
+    row("--save /dev/full/x", "/dev/full/x");
     row("", "display");
     row("", "display", {{"DISPLAY", ":4711"}, {"QT_QPA_PLATFORM", "xcb"}});
     row("--dump --description missing.xml", "missing.xml",
@@ -289,6 +321,143 @@ void TestViewerCli::fullDeviceIsAFailure()
     const Result result = run("--dump", {}, "/dev/full");
     QCOMPARE(result.exitCode, 2);
     QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
+}
+
+void TestViewerCli::operations_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QByteArray>("file"); // "given"
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("out"); // lines joined by blanks, tabs as ":"
+    QTest::addColumn<QString>("named"); // in the one line of error, empty for none
+    const QByteArray narrow("Width\t640\n");
+    const auto row = [](const char *arguments, int exitCode, const char *out, const char *named = "",
+                        const QByteArray &file = {}) {
+        QTest::newRow(arguments) << arguments << file << exitCode << out << named;
+    };
+    row("--get Width --get @CameraDevice/ExposureTime", 0, "Width:1920 @CameraDevice/ExposureTime:5000");
+    row("--get Width --set Width=640 --get Width", 0, "Width:1920 Width:640");
+    row("--set TriggerSelector=LineStart --get TriggerDelay", 0, "TriggerDelay:20");
+    row("--set Width=1 --get Width", 1, "", "Width: \"1\" is out of range");
+    row("--set DeviceModelName=x --set Width=640 --get Width", 1, "", "DeviceModelName");
+    row("--execute UserSetLoad --get Width", 0, "Width:1920");
+    row("--load given --get Width", 0, "Width:640", "", narrow);
+    row("--compare given --get Width", 1, "Width:1920:640 Width:1920", "", "Width 640\n");
+    row("--load given --compare given", 0, "", "", narrow);
+    row("--load given --get Height", 1, "", "given: line 2: Width: refused: ", "Height\t64\nWidth\tmuch\n");
+    row("--load given --get Nobody", 2, "", "no feature Nobody", narrow);
+    row("--load given", 1, "", "line 1: Nobody: the camera has no such feature", "Nobody\t1\n");
+    row("--watch Width --count 2 --interval 1", 0, "", "");
+}
+
+void TestViewerCli::operations()
+{
+    QFETCH(QString, arguments);
+    QFETCH(const QByteArray, file);
+    QFETCH(const int, exitCode);
+    QFETCH(const QString, out);
+    QFETCH(const QString, named);
+    QFile given(path("given"));
+    QVERIFY(given.open(QIODevice::WriteOnly) && given.write(file) == file.size());
+    given.close();
+    const Result result = run(arguments.replace(" given", ' ' + given.fileName()));
+    if (!result.out.startsWith("time,")) {
+        // Of a comparison with a part of the settings, what is only on the camera is left out here.
+        QStringList lines = result.out.split('\n', Qt::SkipEmptyParts);
+        lines.removeIf([&](const QString &line) { return line.endsWith('\t'); });
+        QCOMPARE(lines.join(' ').replace('\t', ':'), out);
+    }
+    QVERIFY2(result.err.contains(named) && result.err.count('\n') == (named.isEmpty() ? 0 : 1),
+             qPrintable(result.err));
+    QVERIFY(result.exitCode == exitCode || (arguments.contains("--compare") && result.exitCode == 1));
+}
+
+void TestViewerCli::settingsGoThroughStandardStreams()
+{
+    const Result saved = run("--set Width=640 --set DeviceUserID=a\tb --save -");
+    QCOMPARE(saved.exitCode, 0);
+    QCOMPARE(saved.err, QString());
+    QVERIFY2(saved.out.contains("\nWidth\t640\n") && saved.out.contains("\nDeviceUserID\ta\\tb\n"),
+             qPrintable(saved.out));
+    const Result loaded = run("--load - --get Width --get DeviceUserID", {}, {}, saved.out.toUtf8());
+    QCOMPARE(loaded.exitCode, 0);
+    QCOMPARE(loaded.out, "Width\t640\nDeviceUserID\ta\\tb\n");
+    QCOMPARE(run("--compare -", {}, {}, saved.out.toUtf8()).exitCode, 1);
+    QCOMPARE(run("--set Width=640 --set DeviceUserID=a\tb --compare -", {}, {}, saved.out.toUtf8()).exitCode,
+             0);
+    if (QFile::exists("/dev/full")) {
+        QCOMPARE(run("--save -", {}, "/dev/full").exitCode, 2);
+        QCOMPARE(run("--get Width", {}, "/dev/full").exitCode, 2);
+    }
+}
+
+void TestViewerCli::settingsOfAnotherModelNeedForce()
+{
+    const QByteArray other("# Camera settings 1\n# Model: Other\nWidth\t640\n");
+    const Result refused = run("--load - --get Width", {}, {}, other);
+    QCOMPARE(refused.exitCode, 2);
+    QVERIFY2(refused.err.contains("Other") && refused.err.contains("--force"), qPrintable(refused.err));
+    const Result forced = run("--force --load - --get Width", {}, {}, other);
+    QCOMPARE(forced.exitCode, 0);
+    QCOMPARE(forced.out, "Width\t640\n");
+}
+
+void TestViewerCli::jsonIsOneDocument()
+{
+    const auto parsed = [this](const QString &arguments) {
+        const Result result = run(arguments + " --output json", {}, {}, "Width\t640\n");
+        return QJsonDocument::fromJson(result.out.toUtf8());
+    };
+    const QJsonObject both = parsed("--get Width --get ExposureTime --compare -").object();
+    const QJsonArray values = both.value("get").toArray();
+    QCOMPARE(values.size(), 2);
+    QCOMPARE(values[1].toObject().value("fullName").toString(), "@CameraDevice/ExposureTime");
+    QCOMPARE(values[1].toObject().value("value").toString(), "5000");
+    bool hasWidth = false;
+    for (const QJsonValue difference : both.value("compare").toArray()) {
+        const QJsonObject object = difference.toObject();
+        hasWidth = hasWidth
+            || (object.value("name") == "Width" && object.value("camera") == "1920"
+                && object.value("file") == "640");
+    }
+    QVERIFY(hasWidth);
+    const QJsonArray tree = parsed("--dump --search ExposureTime").array();
+    const QByteArray text = QJsonDocument(tree).toJson();
+    QVERIFY2(tree.size() >= 1 && text.contains("\"value\": \"5000\""), text.constData());
+}
+
+void TestViewerCli::watchEndsCleanly()
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", path("config"));
+    process.setProcessEnvironment(environment);
+    process.start(VIEWER_PROGRAM,
+                  {"--set", "TriggerSelector=FrameStart", "--watch", "ExposureTime", "--watch",
+                   "DeviceTemperature", "--interval", "20"});
+    QByteArray out;
+    while (out.count('\n') < 5 && process.waitForReadyRead(20000)) {
+        out += process.readAllStandardOutput();
+    }
+    process.terminate(); // as Ctrl+C does
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    out += process.readAllStandardOutput();
+    QVERIFY(out.endsWith('\n'));
+    const QList<QByteArray> lines = out.trimmed().split('\n');
+    QCOMPARE(lines[0], "time,ExposureTime,DeviceTemperature");
+    QDateTime before;
+    for (const QByteArray &line : lines.mid(1)) {
+        const QList<QByteArray> cells = line.split(',');
+        QCOMPARE(cells.size(), 3);
+        const QDateTime time = QDateTime::fromString(QString::fromLatin1(cells[0]), Qt::ISODateWithMs);
+        QVERIFY2(time.isValid() && (!before.isValid() || time > before), line.constData());
+        before = time;
+        QCOMPARE(cells[1], "5000");
+        QVERIFY(cells[2].toDouble() > 0.0);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestViewerCli)

@@ -583,4 +583,124 @@ Was die Datei enthält, geht verloren.</translation>
         <translation>Die Datei gibt es zurzeit nicht</translation>
     </message>
 </context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>&amp;Save Settings…</source>
+        <translation>Einstellungen &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Load Settings…</source>
+        <translation>Einstellungen &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Saves all values that can be changed to a text file</source>
+        <translation>Speichert alle änderbaren Werte in eine Textdatei</translation>
+    </message>
+    <message>
+        <source>Brings the values in a file to the camera</source>
+        <translation>Bringt die Werte in einer Datei zur Kamera</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Load Settings</source>
+        <translation>Einstellungen laden</translation>
+    </message>
+    <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>Kameraeinstellungen (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1: there are no settings in it</source>
+        <translation>%1: darin sind keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>These are settings of the model %1, and the open camera is a %2.
+Load them all the same?</source>
+        <translation>Das sind Einstellungen des Modells %1, und die offene Kamera ist eine %2.
+Trotzdem laden?</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Laden</translation>
+    </message>
+    <message>
+        <source>No settings were saved.</source>
+        <translation>Es wurden keine Einstellungen gespeichert.</translation>
+    </message>
+    <message>
+        <source>The settings were saved, but for some that cannot be read.</source>
+        <translation>Die Einstellungen wurden gespeichert, bis auf einige, die nicht gelesen werden können.</translation>
+    </message>
+    <message>
+        <source>The settings were saved to %1.</source>
+        <translation>Die Einstellungen wurden in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>What was before is back. %1</source>
+        <translation>Der vorige Stand ist wieder da. %1</translation>
+    </message>
+    <message>
+        <source>Settings loaded. %1</source>
+        <translation>Einstellungen geladen. %1</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>no feature %1</source>
+        <translation>kein Merkmal %1</translation>
+    </message>
+    <message>
+        <source>no feature %1; did you mean %2?</source>
+        <translation>kein Merkmal %1; meinten Sie %2?</translation>
+    </message>
+    <message>
+        <source>%1: this is no feature that has a value</source>
+        <translation>%1: das ist kein Merkmal mit einem Wert</translation>
+    </message>
+    <message>
+        <source>%1: it cannot be read now</source>
+        <translation>%1: kann jetzt nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not answer</source>
+        <translation>%1: die Kamera antwortet nicht</translation>
+    </message>
+    <message>
+        <source>%1: this is no command</source>
+        <translation>%1: das ist kein Befehl</translation>
+    </message>
+    <message>
+        <source>the camera does not answer</source>
+        <translation>die Kamera antwortet nicht</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>standard input: %1</source>
+        <translation>Standardeingabe: %1</translation>
+    </message>
+    <message>
+        <source>%1: there are no settings in it</source>
+        <translation>%1: darin sind keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1: these are settings of %2, and this is %3; --force loads them all the same</source>
+        <translation>%1: das sind Einstellungen von %2, und dies ist %3; --force lädt sie trotzdem</translation>
+    </message>
+    <message>
+        <source>Cannot write to the standard output.</source>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
 </TS>

@@ -485,4 +485,219 @@
         <translation>Dieser Wert wurde abgelehnt.</translation>
     </message>
 </context>
+<context>
+    <name>FeatureSettings</name>
+    <message>
+        <source>%1: it is a directory</source>
+        <translation>%1: das ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>longer than %1 KiB</source>
+        <translation>länger als %1 KiB</translation>
+    </message>
+    <message>
+        <source>a file of more than %1 MiB holds no camera settings</source>
+        <translation>eine Datei von mehr als %1 MiB enthält keine Kameraeinstellungen</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>this is no UTF-8 text</source>
+        <translation>das ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a feature</source>
+        <translation>„%1“ ist kein Name eines Merkmals</translation>
+    </message>
+    <message>
+        <source>%1 has no value</source>
+        <translation>%1 hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>there are more than %1 values</source>
+        <translation>es sind mehr als %1 Werte</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReading</name>
+    <message>
+        <source>%1 cannot be changed: %2</source>
+        <translation>%1 kann nicht geändert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 selects among more than %2 values; what it selects is left out</source>
+        <translation>%1 wählt unter mehr als %2 Werten; was davon abhängt, bleibt weg</translation>
+    </message>
+    <message>
+        <source>%1=%2 cannot be chosen: %3</source>
+        <translation>%1=%2 kann nicht gewählt werden: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be put back to %2: %3</source>
+        <translation>%1 kann nicht auf %2 zurückgestellt werden: %3</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsApplying</name>
+    <message>
+        <source>%1 is no feature that has a value</source>
+        <translation>%1 ist kein Merkmal mit einem Wert</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReport</name>
+    <message numerus="yes">
+        <source>%n set</source>
+        <translation>
+            <numerusform>%n gesetzt</numerusform>
+            <numerusform>%n gesetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unchanged</source>
+        <translation>
+            <numerusform>%n unverändert</numerusform>
+            <numerusform>%n unverändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n refused</source>
+        <translation>
+            <numerusform>%n abgelehnt</numerusform>
+            <numerusform>%n abgelehnt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <translation>
+            <numerusform>%n nicht vorhanden</numerusform>
+            <numerusform>%n nicht vorhanden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n read back differently</source>
+        <translation>
+            <numerusform>%n anders zurückgelesen</numerusform>
+            <numerusform>%n anders zurückgelesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not tried</source>
+        <translation>
+            <numerusform>%n nicht versucht</numerusform>
+            <numerusform>%n nicht versucht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The camera was lost: %1.</source>
+        <translation>Die Kamera ging verloren: %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Abgebrochen: %1.</translation>
+    </message>
+    <message>
+        <source>Done: %1.</source>
+        <translation>Fertig: %1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>set</source>
+        <translation>gesetzt</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>unverändert</translation>
+    </message>
+    <message>
+        <source>refused: %1</source>
+        <translation>abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>the camera has no such feature</source>
+        <translation>die Kamera hat kein solches Merkmal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written, &quot;%2&quot; is read back</source>
+        <translation>„%1“ wurde geschrieben, „%2“ wird zurückgelesen</translation>
+    </message>
+    <message>
+        <source>not tried</source>
+        <translation>nicht versucht</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsProgress</name>
+    <message>
+        <source>Starting…</source>
+        <translation>Beginn …</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Abbruch …</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReportDialog</name>
+    <message>
+        <source>Settings Loaded</source>
+        <translation>Einstellungen geladen</translation>
+    </message>
+    <message>
+        <source>Show &amp;all features</source>
+        <translation>&amp;Alle Merkmale zeigen</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Merkmal</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Asked for</source>
+        <translation>Verlangt</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back What Was Before</source>
+        <translation>&amp;Vorigen Stand wiederherstellen</translation>
+    </message>
+</context>
 </TS>
