@@ -10,6 +10,16 @@
 #include <QAction>
 #include <QKeySequence>
 
+namespace {
+
+// The name of a file may have the character that marks letters on the keyboard.
+QString inMenu(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
 HistoryActions::HistoryActions(FeatureTreeWidget *tree, QWidget *window)
     : QObject(window)
     , m_tree(tree)
@@ -86,7 +96,7 @@ void HistoryActions::updateActions()
         action->setEnabled(canWrite && isPossible);
     };
     update(m_undo, m_history->canUndo(),
-           m_history->canUndo() ? tr("&Undo %1").arg(m_history->undoText()) : tr("&Undo"));
+           m_history->canUndo() ? tr("&Undo %1").arg(inMenu(m_history->undoText())) : tr("&Undo"));
     update(m_redo, m_history->canRedo(),
-           m_history->canRedo() ? tr("&Redo %1").arg(m_history->redoText()) : tr("&Redo"));
+           m_history->canRedo() ? tr("&Redo %1").arg(inMenu(m_history->redoText())) : tr("&Redo"));
 }

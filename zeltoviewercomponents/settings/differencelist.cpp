@@ -49,7 +49,7 @@ QVariant DifferenceList::data(const QModelIndex &index, int role) const
         return {};
     }
     if (lacksValue) {
-        return tr("<none>");
+        return tr("no value");
     }
     switch (index.column()) {
     case NameColumn:
