@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QSet>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -68,8 +69,16 @@ void Comparison::open(const QList<SettingsNodeMap> &nodeMaps)
 {
     close();
     m_nodeMaps = nodeMaps;
-    m_opened = presentSettings(nodeMaps);
+    m_opened = FeatureSettings();
+    QTimer::singleShot(0, this, SLOT(takeOpened())); // the window is shown first
     setBusy(false);
+}
+
+void Comparison::takeOpened()
+{
+    if (m_opened.isEmpty()) {
+        m_opened = presentSettings(m_nodeMaps);
+    }
 }
 
 void Comparison::close()

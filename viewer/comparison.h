@@ -60,6 +60,7 @@ signals:
     void failed(const QString &message, const QString &details);
 
 private slots:
+    void takeOpened();
     void askForFile();
     void compareWithOpened();
     void askForDescription();

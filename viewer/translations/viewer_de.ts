@@ -856,16 +856,16 @@ Trotzdem laden?</translation>
         <translation>&amp;Neu beginnen</translation>
     </message>
     <message>
-        <source>Sa&amp;ve</source>
-        <translation>S&amp;peichern</translation>
+        <source>M&amp;ore</source>
+        <translation>&amp;Mehr</translation>
     </message>
     <message>
-        <source>As &amp;CSV…</source>
-        <translation>Als &amp;CSV…</translation>
+        <source>Save as &amp;CSV…</source>
+        <translation>Als &amp;CSV speichern…</translation>
     </message>
     <message>
-        <source>As P&amp;NG…</source>
-        <translation>Als P&amp;NG…</translation>
+        <source>Save as P&amp;NG…</source>
+        <translation>Als P&amp;NG speichern…</translation>
     </message>
     <message>
         <source>Watch</source>

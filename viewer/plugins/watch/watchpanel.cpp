@@ -64,8 +64,8 @@ WatchPanel::WatchPanel(Finder finder, QWidget *parent)
     , m_remove(addPanelAction(tr("&Remove"), SLOT(removeSelected())))
     , m_pause(new QAction(tr("&Pause"), this))
     , m_restart(addPanelAction(tr("Re&start"), SLOT(restart())))
-    , m_saveCsv(addPanelAction(tr("As &CSV…"), SLOT(saveCsv())))
-    , m_savePng(addPanelAction(tr("As P&NG…"), SLOT(savePng())))
+    , m_saveCsv(addPanelAction(tr("Save as &CSV…"), SLOT(saveCsv())))
+    , m_savePng(addPanelAction(tr("Save as P&NG…"), SLOT(savePng())))
 {
     setObjectName(QStringLiteral("watch"));
     setWindowTitle(tr("Watch"));
@@ -97,20 +97,23 @@ QWidget *WatchPanel::createButtons()
     auto *const bar = new QWidget(this);
     auto *const layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
-    for (QAction *const action : {m_add, m_remove, m_pause, m_restart}) {
+    for (QAction *const action : {m_add, m_remove, m_pause}) {
         auto *const button = new QToolButton(bar);
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::TabFocus);
         layout->addWidget(button);
     }
-    auto *const save = new QToolButton(bar);
-    save->setText(tr("Sa&ve"));
-    save->setPopupMode(QToolButton::InstantPopup);
-    save->setFocusPolicy(Qt::TabFocus);
-    auto *const menu = new QMenu(save);
+    auto *const more = new QToolButton(bar);
+    more->setText(tr("M&ore"));
+    more->setPopupMode(QToolButton::InstantPopup);
+    more->setFocusPolicy(Qt::TabFocus);
+    auto *const menu = new QMenu(more);
+    menu->setToolTipsVisible(true);
+    menu->addAction(m_restart);
+    menu->addSeparator();
     menu->addActions({m_saveCsv, m_savePng});
-    save->setMenu(menu);
-    layout->addWidget(save);
+    more->setMenu(menu);
+    layout->addWidget(more);
     layout->addStretch(1);
     layout->addWidget(m_span);
     return bar;
@@ -122,6 +125,8 @@ void WatchPanel::layOut()
     m_span->addItem(tr("Last minute"), 60);
     m_span->addItem(tr("Last 10 minutes"), 600);
     m_span->addItem(tr("Last hour"), 3600);
+    m_span->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_span->setMinimumContentsLength(6); // a panel may be narrow
     m_span->setAccessibleName(tr("Time that the plot shows"));
     connect(m_span, SIGNAL(currentIndexChanged(int)), this, SLOT(setSpan(int)));
     m_view->setModel(m_model);
