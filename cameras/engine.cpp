@@ -184,7 +184,7 @@ void Engine::forgetLoss()
     m_lossReason.clear();
 }
 
-Engine::Reading Engine::read(int node)
+Engine::Reading Engine::read(int node, Extent extent)
 {
     Reading reading{newData(m_types[node]), GenApi::NI};
     ArvGcNode *found = m_nodes[node];
@@ -202,7 +202,11 @@ Engine::Reading Engine::read(int node)
     if (reading.access == GenApi::NI || reading.access == GenApi::NA) {
         return reading;
     }
-    readLimits(node, data);
+    if (extent == Extent::Whole) {
+        readLimits(node, data);
+    } else if (data.type == ParameterType::Integer) {
+        static_cast<IntegerParameterData &>(data).representation = representation(node);
+    }
     if (!m_lossReason.isEmpty()) {
         // Every further access would wait for an answer again.
         return reading;
@@ -216,7 +220,7 @@ Engine::Reading Engine::read(int node)
         data.isReadable = false;
         data.valueString.clear();
     }
-    if (data.isReadable && data.type == ParameterType::Enumeration) {
+    if (data.isReadable && data.type == ParameterType::Enumeration && extent == Extent::Whole) {
         addCurrentEntry(node, static_cast<EnumParameterData &>(data));
     }
     return reading;

@@ -53,8 +53,11 @@ public:
 
     ParameterCollection::ParameterType type(int node) const;
 
+    /*! What is read of a node: its value alone, or also the limits and entries. */
+    enum class Extent { Brief, Whole };
+
     /*! Reads the node; what cannot be read is told by the snapshot's flags. */
-    Reading read(int node);
+    Reading read(int node, Extent extent = Extent::Whole);
 
     /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
     void write(int node, const NodeValue &value);

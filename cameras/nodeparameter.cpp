@@ -87,12 +87,10 @@ QString NodeProperties::property(const QString &name, const QString &defaultValu
     if (name == QLatin1String("DisplayName") && nodeName == QLatin1String("Root")) {
         return m_handle.session->mapTitle(m_handle.map); // the top of each node map has that name
     }
-    const ParameterDataPtr data = m_handle.session->snapshot(m_handle.map, m_handle.node);
-    if (name == QLatin1String("Visibility")) {
-        return visibilityNames().value(data->visibility, defaultValue);
-    }
-    if (name == QLatin1String("AccessMode")) {
-        return accessModeNames().value(accessOf(*data), defaultValue);
+    if (name == QLatin1String("Visibility") || name == QLatin1String("AccessMode")) {
+        const ParameterDataPtr data = m_handle.session->snapshot(m_handle.map, m_handle.node);
+        return name == QLatin1String("Visibility") ? visibilityNames().value(data->visibility, defaultValue)
+                                                   : accessModeNames().value(accessOf(*data), defaultValue);
     }
     if (name == QLatin1String("pSelected")) {
         const QStringList selected = description.selected(m_handle.node);

@@ -524,22 +524,29 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
     const int node = nodeOf(batch.map, operation.name);
     Engine &engine = *m_maps[size_t(batch.map)]->engine;
     const CameraAccess camera = access();
-    const bool isPublished = node >= 0 && snapshot(batch.map, node);
-    if (isPublished && operation.kind == BatchOperation::Kind::Write) {
+    const ParameterDataPtr shown = node >= 0 ? snapshot(batch.map, node) : nullptr;
+    const bool isWrite = operation.kind == BatchOperation::Kind::Write;
+    if (shown && isWrite) {
         try {
             if (camera.isReadOnly) {
                 throw GenICam::AccessException(tr("%1: %2").arg(operation.name, readOnlyWords()));
             }
-            batch.written.push_back(node);
+            if (!batch.before.contains(node)) {
+                batch.before.insert(node, shown->valueString);
+            }
             engine.write(node, operation.value);
         } catch (const std::exception &exception) {
             outcome.failure = QString::fromUtf8(exception.what());
         }
         noteLoss(batch.map);
     }
-    if (isPublished && !isLost()) {
-        const Engine::Reading reading = engine.read(node);
+    if (shown && !isLost()) {
+        const Engine::Reading reading =
+            engine.read(node, operation.isBrief ? Engine::Extent::Brief : Engine::Extent::Whole);
         noteLoss(batch.map);
+        if (isWrite) {
+            batch.after.insert(node, reading.data->valueString);
+        }
         outcome.data = reading.data;
         outcome.access = camera.isReadOnly ? withoutWriting(reading.access) : reading.access;
     }
@@ -547,10 +554,15 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
     return outcome;
 }
 
+// Selectors that were stepped and put back have changed nothing.
 void Session::readWhatChanged(const Batch &batch)
 {
     const Lock lock(m_mutex);
-    for (const int node : batch.written) {
+    for (auto written = batch.before.cbegin(); written != batch.before.cend(); ++written) {
+        const int node = written.key();
+        if (batch.after.value(node) == *written && !batch.after.value(node).isNull()) {
+            continue;
+        }
         enqueue(batch.map, node, false);
         const QList<int> dependents = description(batch.map)->dependents(node);
         for (const int dependent : dependents) {

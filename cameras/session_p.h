@@ -15,6 +15,7 @@
 #include <platform/parametercollection/parameterdata.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -166,7 +167,8 @@ private:
         int map;
         std::shared_ptr<ParameterCollection::IBatch> steps;
         ParameterCollection::BatchOutcome outcome = {}; //!< of the operation before
-        std::vector<int> written = {};
+        QHash<int, QString> before = {}; //!< of the nodes that were written, what they showed
+        QHash<int, QString> after = {};
     };
 
     struct Read

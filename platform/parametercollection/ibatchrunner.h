@@ -23,6 +23,7 @@ struct BatchOperation
 
     Kind kind = Kind::Read;
     QString name; //!< as IParameterCollection::parameter() takes it
+    bool isBrief = false; //!< limits and entries are of no interest; the runner may leave them out
     QString value; //!< to be written, as IParameter::setValueFromString() takes it
 };
 

@@ -150,7 +150,7 @@ void SettingsApplying::finishSelector(Item &item)
         return;
     }
     reach(item, 0, [this, &item] {
-        read(item.entry.setting.name, [this, &item](const Outcome &outcome) {
+        readBriefly(item.entry.setting.name, [this, &item](const Outcome &outcome) {
             if (!outcome.data || !SettingsValue::isSame(*outcome.data, item.entry.setting.value)) {
                 addStep([this, &item] { writeItem(item); });
             }
@@ -190,7 +190,7 @@ void SettingsApplying::reach(Item &item, qsizetype level, const Step &then)
         const auto known = m_selectorValues.constFind(selectors[level].name);
         if (known == m_selectorValues.constEnd()
             || !SettingsValue::isSameText(*known, selectors[level].value)) {
-            read(selectors[level].name, [this, &item, level, then](const Outcome &outcome) {
+            readBriefly(selectors[level].name, [this, &item, level, then](const Outcome &outcome) {
                 onSelectorRead(item, level, then, outcome);
             });
             return;
@@ -251,8 +251,18 @@ const FeatureSettings::Setting *SettingsApplying::original(const FeatureSettings
 
 void SettingsApplying::look(Item &item, bool mayWrite)
 {
-    read(item.entry.setting.name,
-         [this, &item, mayWrite](const Outcome &outcome) { judge(item, mayWrite, outcome); });
+    const QString name = item.entry.setting.name;
+    readBriefly(name, [this, &item, name, mayWrite](const Outcome &outcome) {
+        const bool hasResolution = outcome.data && outcome.data->type == ParameterType::Float;
+        if (!hasResolution || SettingsValue::isSame(*outcome.data, item.entry.setting.value)) {
+            judge(item, mayWrite, outcome);
+            return;
+        }
+        // What the register can tell apart is among the limits.
+        addStep([this, &item, name, mayWrite] {
+            read(name, [this, &item, mayWrite](const Outcome &whole) { judge(item, mayWrite, whole); });
+        });
+    });
 }
 
 void SettingsApplying::judge(Item &item, bool mayWrite, const Outcome &outcome)
@@ -291,8 +301,16 @@ void SettingsApplying::judge(Item &item, bool mayWrite, const Outcome &outcome)
 
 void SettingsApplying::writeItem(Item &item)
 {
-    write(item.entry.setting.name, item.entry.setting.value,
-          [this, &item](const Outcome &outcome) { onWritten(item, outcome); });
+    write(item.entry.setting.name, item.entry.setting.value, [this, &item](const Outcome &outcome) {
+        const bool hasResolution = outcome.data && outcome.data->type == ParameterType::Float;
+        if (!hasResolution || !outcome.failure.isEmpty()) {
+            onWritten(item, outcome);
+            return;
+        }
+        addStep([this, &item] {
+            read(item.entry.setting.name, [this, &item](const Outcome &whole) { onWritten(item, whole); });
+        });
+    });
 }
 
 void SettingsApplying::onWritten(Item &item, const Outcome &outcome)

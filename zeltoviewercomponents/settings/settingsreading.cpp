@@ -120,7 +120,7 @@ void SettingsReading::enter(const GroupPtr &group, int level)
 void SettingsReading::readFeature(const QString &name)
 {
     noteProgress(name);
-    read(name, [this, name](const Outcome &outcome) {
+    readBriefly(name, [this, name](const Outcome &outcome) {
         if (isReadable(outcome) && (m_plan.knowsStreamable || outcome.access == GenApi::RW)) {
             m_result.assignments.append({name, outcome.data->valueString, 0});
         }

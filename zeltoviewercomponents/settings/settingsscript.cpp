@@ -73,13 +73,19 @@ void SettingsScript::tell(const std::function<void(QObject *)> &send)
 
 void SettingsScript::read(const QString &name, Handler handler)
 {
-    m_operation = {BatchOperation::Kind::Read, name, QString()};
+    m_operation = {BatchOperation::Kind::Read, name, false, QString()};
     m_handler = std::move(handler);
+}
+
+void SettingsScript::readBriefly(const QString &name, Handler handler)
+{
+    read(name, std::move(handler));
+    m_operation->isBrief = true;
 }
 
 void SettingsScript::write(const QString &name, const QString &value, Handler handler)
 {
-    m_operation = {BatchOperation::Kind::Write, name, value};
+    m_operation = {BatchOperation::Kind::Write, name, true, value};
     m_handler = std::move(handler);
 }
 

@@ -45,6 +45,8 @@ protected:
 
     /*! Has the step end with an access. */
     void read(const QString &name, Handler handler);
+    /*! As read(), without limits and entries. */
+    void readBriefly(const QString &name, Handler handler);
     void write(const QString &name, const QString &value, Handler handler);
     void addStep(Step step);
     /*! Adds a step that is done even when the batch is cancelled. */
