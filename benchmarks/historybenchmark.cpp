@@ -40,7 +40,7 @@ public:
     LoopbackCamera &operator=(const LoopbackCamera &) = delete;
 
     const Cameras::Camera *operator->() const { return m_camera.get(); }
-    explicit operator bool() const { return m_camera != nullptr; }
+    explicit operator bool() const { return m_camera && !m_camera->isReadOnly(); }
 
 private:
     ArvGvFakeCamera *m_server;

@@ -82,6 +82,11 @@ public:
     ~Step() override = default;
 
     const ChangePtr &change() const { return m_change; }
+    QString name() const
+    {
+        return m_change->kind == Change::Kind::File ? QFileInfo(m_change->name).fileName()
+                                                    : m_change->title();
+    }
 
 private:
     ChangePtr m_change;
@@ -94,7 +99,6 @@ public:
         : Step(change)
         , m_parameter(parameter)
     {
-        setText(change->title());
     }
     ~ValueStep() override = default;
 
@@ -121,7 +125,6 @@ public:
         , former(former)
         , values(values)
     {
-        setText(QFileInfo(change->name).fileName());
     }
     ~FileStep() override = default;
 
@@ -174,12 +177,12 @@ bool ChangeHistory::canRedo() const
 
 QString ChangeHistory::undoText() const
 {
-    return m_stack.undoText();
+    return m_stack.canUndo() ? nextStep(true).name() : QString();
 }
 
 QString ChangeHistory::redoText() const
 {
-    return m_stack.redoText();
+    return m_stack.canRedo() ? nextStep(false).name() : QString();
 }
 
 bool ChangeHistory::isModified() const
@@ -434,7 +437,8 @@ void ChangeHistory::onTaskFinished()
 // Keeps account of a value that has become another one.
 void ChangeHistory::depart(const Change &change, const QString &from, const QString &to)
 {
-    const QString key = change.name.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + change.title();
+    const QString key =
+        change.selectors.isEmpty() ? change.name : change.name + QLatin1Char('/') + change.title();
     const auto known = m_departures.find(key);
     const QString origin = known == m_departures.end() ? from : known->from;
     if (!origin.isNull() && isSameValueText(change.type, origin, to)) {

@@ -43,6 +43,7 @@ SettingsGraph graphOf(const IParameterCollection &collection)
 void FeatureSelectors::setNodeMaps(const QList<SettingsNodeMap> &nodeMaps)
 {
     m_maps.clear();
+    m_selectors.clear();
     for (const SettingsNodeMap &nodeMap : nodeMaps) {
         m_maps.append({nodeMap, SettingsGraph(), false});
     }
@@ -63,10 +64,25 @@ const FeatureSelectors::Map *FeatureSelectors::mapOf(const QString &fullName) co
     return &*map;
 }
 
-QStringList FeatureSelectors::namesOf(const QString &fullName) const
+// Asked at each write of a user, and always about the same few features.
+const FeatureSelectors::Selectors &FeatureSelectors::selectorsBefore(const QString &fullName) const
 {
-    const Map *const map = mapOf(fullName);
-    return map ? map->graph.selectorsOf(fullName.section(QLatin1Char('/'), -1)) : QStringList();
+    const auto known = m_selectors.constFind(fullName);
+    if (known != m_selectors.constEnd()) {
+        return *known;
+    }
+    Selectors selectors;
+    if (const Map *const map = mapOf(fullName)) {
+        const QStringList names = map->graph.selectorsOf(fullName.section(QLatin1Char('/'), -1));
+        for (const QString &name : names) {
+            const auto selector =
+                map->nodeMap.collection->parameter(map->nodeMap.name + QLatin1Char('/') + name);
+            if (selector) {
+                selectors.append(selector);
+            }
+        }
+    }
+    return *m_selectors.insert(fullName, selectors);
 }
 
 QSharedPointer<IParameter> FeatureSelectors::parameter(const QString &fullName) const
@@ -77,22 +93,18 @@ QSharedPointer<IParameter> FeatureSelectors::parameter(const QString &fullName) 
 
 FeatureSelectors::Assignments FeatureSelectors::selectorsOf(const QString &fullName) const
 {
-    Assignments selectors;
-    const QStringList names = namesOf(fullName);
-    for (const QString &name : names) {
-        if (const auto selector = parameter(nodeMapName(fullName) + QLatin1Char('/') + name)) {
-            selectors.append({name, UnansweredWrites::presentText(*selector), 0});
-        }
+    Assignments present;
+    for (const auto &selector : selectorsBefore(fullName)) {
+        present.append({selector->name(), UnansweredWrites::presentText(*selector), 0});
     }
-    return selectors;
+    return present;
 }
 
 bool FeatureSelectors::areSettled(const QString &fullName) const
 {
-    const QStringList names = namesOf(fullName);
-    return std::none_of(names.cbegin(), names.cend(), [this, &fullName](const QString &name) {
-        const auto selector = parameter(nodeMapName(fullName) + QLatin1Char('/') + name);
-        const UnansweredWrites *const writes = selector ? UnansweredWrites::find(*selector) : nullptr;
+    const Selectors &selectors = selectorsBefore(fullName);
+    return std::none_of(selectors.cbegin(), selectors.cend(), [](const auto &selector) {
+        const UnansweredWrites *const writes = UnansweredWrites::find(*selector);
         return writes && writes->isWaiting();
     });
 }

@@ -9,6 +9,7 @@
 
 #include <platform/parametercollection/iparameter.h>
 
+#include <QHash>
 #include <QList>
 #include <QSharedPointer>
 #include <QString>
@@ -46,7 +47,9 @@ private:
     };
 
     const Map *mapOf(const QString &fullName) const;
-    QStringList namesOf(const QString &fullName) const;
+    using Selectors = QList<QSharedPointer<ParameterCollection::IParameter>>;
+    const Selectors &selectorsBefore(const QString &fullName) const;
 
     mutable QList<Map> m_maps; // read when first asked
+    mutable QHash<QString, Selectors> m_selectors; // by the full name of what they select, outer ones first
 };
