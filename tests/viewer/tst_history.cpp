@@ -12,6 +12,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,6 +41,8 @@ private slots:
     void closingAsks();
     void goesToTheFeature();
     void comparesWithTheStateWhenOpened();
+    void comparesWithFilesAndDescriptions_data();
+    void comparesWithFilesAndDescriptions();
 
 private:
     QAction *action(const QString &text) const;
@@ -96,7 +101,8 @@ QString TestHistory::value(const QString &feature) const
 void TestHistory::save()
 {
     m_window->settings()->saveTo(m_folder.filePath(QStringLiteral("bench.txt")));
-    QTRY_VERIFY2(m_window->windowTitle().startsWith(QLatin1String("bench.txt[*] ")), qPrintable(m_window->windowTitle()));
+    QTRY_VERIFY2(m_window->windowTitle().startsWith(QLatin1String("bench.txt[*] ")),
+                 qPrintable(m_window->windowTitle()));
 }
 
 void TestHistory::titleTellsOfChanges()
@@ -168,6 +174,48 @@ void TestHistory::comparesWithTheStateWhenOpened()
     QTest::keySequence(m_window->featureTree()->treeView(), QKeySequence::Undo); // one step
     QTRY_COMPARE(value(QStringLiteral("DeviceUserID")), QStringLiteral("lab"));
     QTRY_COMPARE(value(QStringLiteral("Gain")), QStringLiteral("2.5"));
+}
+
+void TestHistory::comparesWithFilesAndDescriptions_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QString>("title");
+    const QString file = m_folder.filePath(QStringLiteral("lab.txt"));
+    QFile settings(file);
+    QVERIFY(settings.open(QFile::WriteOnly));
+    settings.write("DeviceUserID\tlab\n");
+    QTest::newRow("file") << QStringLiteral("A File…") << file << QStringLiteral("Differences from lab.txt");
+    QTest::newRow("description") << QStringLiteral("Another Description…") << QStringLiteral(DESCRIPTION_FILE)
+                                 << QStringLiteral("Differences from Simulated Camera");
+}
+
+void TestHistory::comparesWithFilesAndDescriptions()
+{
+    QFETCH(const QString, entry);
+    QFETCH(const QString, fileName);
+    QFETCH(const QString, title);
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&timer, &fileName] {
+        if (auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+            timer.stop();
+            dialog->findChild<QLineEdit *>()->setText(fileName);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        }
+    });
+    timer.start(50);
+    action(entry)->trigger();
+    auto *const panel = m_window->findChild<SettingsComparisonWidget *>();
+    const QAbstractItemModel *const rows = panel->findChild<QTreeView *>()->model();
+    QTRY_VERIFY(rows->rowCount() > 0);
+    const auto labels = panel->findChildren<QLabel *>();
+    QVERIFY2(labels.constFirst()->text().startsWith(title), qPrintable(labels.constFirst()->text()));
+    bool isUserIdSeen = false;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        isUserIdSeen = isUserIdSeen || rows->index(row, 0).data() == QStringLiteral("DeviceUserID");
+    }
+    QVERIFY(isUserIdSeen);
+    QVERIFY(!m_window->featureTree()->isResting());
 }
 
 QTEST_MAIN(TestHistory)
