@@ -187,7 +187,7 @@ void TestHistory::comparesWithFilesAndDescriptions_data()
     settings.write("DeviceUserID\tlab\n");
     QTest::newRow("file") << QStringLiteral("A File…") << file << QStringLiteral("Differences from lab.txt");
     QTest::newRow("description") << QStringLiteral("Another Description…") << QStringLiteral(DESCRIPTION_FILE)
-                                 << QStringLiteral("Differences from Simulated Camera");
+                                 << QStringLiteral("Differences from SimulatedCamera");
 }
 
 void TestHistory::comparesWithFilesAndDescriptions()
