@@ -202,7 +202,7 @@ Engine::Reading Engine::read(int node, Extent extent)
     if (reading.access == GenApi::NI || reading.access == GenApi::NA) {
         return reading;
     }
-    if (extent == Extent::Whole) {
+    if (extent != Extent::Value) {
         readLimits(node, data);
     } else if (data.type == ParameterType::Integer) {
         static_cast<IntegerParameterData &>(data).representation = representation(node);

@@ -53,8 +53,12 @@ public:
 
     ParameterCollection::ParameterType type(int node) const;
 
-    /*! What is read of a node: its value alone, or also the limits and entries. */
-    enum class Extent { Brief, Whole };
+    /*! \brief What is read of a node. */
+    enum class Extent {
+        Value,
+        Limits, //!< also the limits, and the entries that can be chosen
+        Whole, //!< also the current entry where it is none of these
+    };
 
     /*! Reads the node; what cannot be read is told by the snapshot's flags. */
     Reading read(int node, Extent extent = Extent::Whole);

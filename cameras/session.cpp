@@ -540,15 +540,20 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
         }
         noteLoss(batch.map);
     }
-    if (shown && !isLost()) {
+    const bool isOfInterest =
+        operation.detail != BatchOperation::Detail::Nothing || !outcome.failure.isEmpty();
+    QString after = operation.value;
+    if (shown && isOfInterest && !isLost()) {
+        const bool isWhole = operation.detail == BatchOperation::Detail::Everything;
         const Engine::Reading reading =
-            engine.read(node, operation.isBrief ? Engine::Extent::Brief : Engine::Extent::Whole);
+            engine.read(node, isWhole ? Engine::Extent::Limits : Engine::Extent::Value);
         noteLoss(batch.map);
-        if (isWrite) {
-            batch.after.insert(node, reading.data->valueString);
-        }
+        after = reading.data->valueString;
         outcome.data = reading.data;
         outcome.access = camera.isReadOnly ? withoutWriting(reading.access) : reading.access;
+    }
+    if (shown && isWrite) {
+        batch.after.insert(node, after);
     }
     outcome.isLost = isLost();
     return outcome;

@@ -21,10 +21,17 @@ struct BatchOperation
 {
     enum class Kind { Read, Write };
 
+    /*! \brief What the outcome is to tell of the parameter; more is allowed. */
+    enum class Detail {
+        Nothing, //!< unless the operation is refused
+        Value, //!< without limits and entries
+        Everything,
+    };
+
     Kind kind = Kind::Read;
     QString name; //!< as IParameterCollection::parameter() takes it
-    bool isBrief = false; //!< limits and entries are of no interest; the runner may leave them out
     QString value; //!< to be written, as IParameter::setValueFromString() takes it
+    Detail detail = Detail::Everything;
 };
 
 /*! \brief What came of a BatchOperation. */

@@ -330,7 +330,7 @@ void TestSettings::reading_data()
                                           << plain
             + "Source=A Trigger=Off Source=B Trigger=Off Source=A Channel=1 Gain=1 Channel=1 "
               "Source=B Channel=1 Gain=1 Channel=1 Source=A"
-                                          << "Channel cannot be changed: Channel is locked";
+                                          << "Channel=0 cannot be chosen: Channel is locked";
     QTest::newRow("an entry that cannot be chosen") << Change([](MemoryCollection &camera) {
         auto *const node = camera.node("Source");
         node->written = [node, before = node->written] {

@@ -47,7 +47,7 @@ QList<FeatureSettings::NodeMap> placed(const FeatureSettings &settings,
 {
     QList<FeatureSettings::NodeMap> found;
     for (const SettingsNodeMap &nodeMap : nodeMaps) {
-        found.append({nodeMap.name, {}, SettingsPlan::of(*nodeMap.collection).selected, false});
+        found.append({nodeMap.name, {}, SettingsPlan::of(nodeMap.collection).selected, false});
     }
     for (const FeatureSettings::NodeMap &section : settings.nodeMaps) {
         for (FeatureSettings::Assignment assignment : section.assignments) {
@@ -97,7 +97,7 @@ std::shared_ptr<SettingsScript> SettingsApplier::nextScript(int *nodeMap)
     if (m_nextToKeep < nodeMaps().size() && !isCancelled() && !isLost()) {
         *nodeMap = m_nextToKeep++;
         const SettingsNodeMap &place = nodeMaps()[*nodeMap];
-        return std::make_shared<SettingsReading>(place.name, SettingsPlan::of(*place.collection));
+        return std::make_shared<SettingsReading>(place.name, SettingsPlan::of(place.collection));
     }
     if (!m_isPlaced && !nodeMaps().isEmpty()) {
         m_isPlaced = true;

@@ -163,13 +163,13 @@ void SettingsApplying::putBack(const FeatureSettings::Setting &selector)
     for (const FeatureSettings::Assignment &outer : selector.selectors) {
         if (m_selectorValues.value(outer.name) != outer.value) {
             addCleanup([this, selector] { putBack(selector); });
-            write(outer.name, outer.value,
-                  [this, outer](const Outcome &) { knowSelector(outer.name, outer.value); });
+            writeBriefly(outer.name, outer.value,
+                         [this, outer](const Outcome &) { knowSelector(outer.name, outer.value); });
             return;
         }
     }
-    write(selector.name, selector.value,
-          [this, selector](const Outcome &) { knowSelector(selector.name, selector.value); });
+    writeBriefly(selector.name, selector.value,
+                 [this, selector](const Outcome &) { knowSelector(selector.name, selector.value); });
 }
 
 // Whoever depends on the selector shows other values from now on, other selectors included.
@@ -221,7 +221,7 @@ void SettingsApplying::onSelectorRead(Item &item, qsizetype level, const Step &t
         m_originals.append(before);
     }
     addStep([this, &item, level, then, selector] {
-        write(selector.name, selector.value, [this, &item, level, then](const Outcome &written) {
+        writeBriefly(selector.name, selector.value, [this, &item, level, then](const Outcome &written) {
             onSelectorWritten(item, level, then, written);
         });
     });

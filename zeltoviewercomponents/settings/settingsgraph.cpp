@@ -36,6 +36,9 @@ QStringList SettingsGraph::selectedBy(const QString &selector) const
 QStringList SettingsGraph::selectorsOf(const QString &name) const
 {
     QStringList found;
+    if (!m_selectors.contains(name)) {
+        return found;
+    }
     QStringList path;
     collect(name, found, path);
     return found;

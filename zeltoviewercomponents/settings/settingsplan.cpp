@@ -8,6 +8,7 @@
 #include <platform/parametercollection/nodepropertyaccess.h>
 
 #include <QSet>
+#include <QWeakPointer>
 
 #include <algorithm>
 
@@ -39,6 +40,12 @@ bool isOfValue(ParameterType type)
     }
 }
 
+bool isOfEntries(ParameterType type)
+{
+    return type == ParameterType::Integer || type == ParameterType::Enumeration
+        || type == ParameterType::Boolean;
+}
+
 // Tables and files are contents of a camera, not settings; they are known by the standard's names.
 bool isContents(const QString &name)
 {
@@ -48,7 +55,8 @@ bool isContents(const QString &name)
         QStringLiteral("FileOpenMode"),     QStringLiteral("FileOperationSelector"),
         QStringLiteral("FileAccessBuffer"), QStringLiteral("FileAccessOffset"),
         QStringLiteral("FileAccessLength")};
-    return contents.contains(name);
+    const bool isCandidate = name.startsWith(QLatin1String("LUT")) || name.startsWith(QLatin1String("File"));
+    return isCandidate && contents.contains(name);
 }
 
 class Collector
@@ -61,10 +69,11 @@ public:
 
     void visit(const QString &name)
     {
-        if (m_seen.contains(name)) {
+        const auto known = m_seen.size();
+        m_seen.insert(name);
+        if (m_seen.size() == known) {
             return;
         }
-        m_seen.insert(name);
         const auto parameter = m_collection.parameter(name);
         if (!parameter || parameter->type() == ParameterType::Category || name == QLatin1String("Root")) {
             const QStringList children = m_collection.childNames(name, 0, false);
@@ -83,10 +92,12 @@ private:
     void note(const QString &name, const IParameter &parameter)
     {
         const auto properties = parameter.propertyAccess();
-        const QString yes = QStringLiteral("Yes");
-        facts.append({name, properties && properties->property(QStringLiteral("Streamable")) == yes,
-                      isOfValue(parameter.type()) && !isContents(name)});
-        const QString names = properties ? properties->property(QStringLiteral("pSelected")) : QString();
+        const bool isSetting = isOfValue(parameter.type()) && !isContents(name);
+        const bool isStreamable = isSetting && properties
+            && properties->property(QStringLiteral("Streamable")) == QLatin1String("Yes");
+        facts.append({name, isStreamable, isSetting});
+        const bool maySelect = properties && isOfEntries(parameter.type());
+        const QString names = maySelect ? properties->property(QStringLiteral("pSelected")) : QString();
         if (!names.isEmpty() && !isContents(name)) {
             selected.insert(name, names.split(QLatin1Char('\t'), Qt::SkipEmptyParts));
         }
@@ -96,9 +107,7 @@ private:
     QSet<QString> m_seen;
 };
 
-} // namespace
-
-SettingsPlan SettingsPlan::of(const IParameterCollection &collection)
+SettingsPlan planOf(const IParameterCollection &collection)
 {
     Collector collector(collection);
     Core::guardedRun({logCategory(), "SettingsPlan::of"},
@@ -114,4 +123,22 @@ SettingsPlan SettingsPlan::of(const IParameterCollection &collection)
                               facts.hasText && (facts.isStreamable || !plan.knowsStreamable)});
     }
     return plan;
+}
+
+} // namespace
+
+SettingsPlan SettingsPlan::of(const CollectionPtr &collection)
+{
+    struct Known
+    {
+        QWeakPointer<IParameterCollection> collection;
+        SettingsPlan plan;
+    };
+    static QHash<const IParameterCollection *, Known> plans;
+    const auto found = plans.constFind(collection.data());
+    if (found != plans.constEnd() && found->collection == collection) {
+        return found->plan;
+    }
+    plans.removeIf([](const auto &entry) { return entry.value().collection.isNull(); });
+    return plans.insert(collection.data(), {collection, planOf(*collection)})->plan;
 }

@@ -10,6 +10,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSharedPointer>
 #include <QString>
 #include <QStringList>
 
@@ -23,8 +24,11 @@ struct SettingsPlan
         bool isWanted = false; //!< may belong to the settings
     };
 
-    /*! Asks \a collection, on its thread. What throws or is missing is left out. */
-    static SettingsPlan of(const ParameterCollection::IParameterCollection &collection);
+    using CollectionPtr = QSharedPointer<ParameterCollection::IParameterCollection>;
+
+    /*! Asks \a collection, on its thread, the first time; what it says is kept as long as the collection
+     * lives. What throws or is missing is left out. */
+    static SettingsPlan of(const CollectionPtr &collection);
 
     QList<Feature> features; //!< in the order of the tree, each once
     QHash<QString, QStringList> selected; //!< by selector

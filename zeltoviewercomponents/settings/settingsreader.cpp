@@ -30,7 +30,7 @@ std::shared_ptr<SettingsScript> SettingsReader::nextScript(int *nodeMap)
     }
     *nodeMap = m_next++;
     const SettingsNodeMap &place = nodeMaps()[*nodeMap];
-    return std::make_shared<SettingsReading>(place.name, SettingsPlan::of(*place.collection));
+    return std::make_shared<SettingsReading>(place.name, SettingsPlan::of(place.collection));
 }
 
 void SettingsReader::take(SettingsScript &script)

@@ -84,8 +84,8 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
 {
     QSet<QString> assigned;
     for (const SettingsPlan::Feature &feature : m_plan.features) {
-        if (feature.isWanted) {
-            assigned.unite(QSet<QString>(feature.selectors.cbegin(), feature.selectors.cend()));
+        for (const QString &selector : feature.isWanted ? feature.selectors : QStringList()) {
+            assigned.insert(selector);
         }
     }
     QList<GroupPtr> found;
@@ -97,8 +97,10 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
         GroupPtr group = feature.selectors.isEmpty() ? nullptr : bySelectors.value(feature.selectors);
         if (!group) {
             group = std::make_shared<Group>(Group{feature.selectors, {}});
-            bySelectors.insert(feature.selectors, group);
             found.append(group);
+            if (!feature.selectors.isEmpty()) {
+                bySelectors.insert(feature.selectors, group);
+            }
         }
         group->features.append(feature.name);
     }
@@ -141,21 +143,6 @@ void SettingsReading::beginLoop(const GroupPtr &group, int level, const Outcome 
     }
     m_result.selected.insert(selector, m_plan.selected.value(selector));
     const auto loop = std::make_shared<Loop>(Loop{group, level, selector, original, original});
-    if (entries.size() == 1) {
-        goThrough(loop, {original});
-        return;
-    }
-    // What is not accepted now would not be accepted at the end, when it is to be put back.
-    write(selector, original, [this, loop, entries](const Outcome &trial) {
-        if (!trial.failure.isEmpty()) {
-            note(tr("%1 cannot be changed: %2").arg(loop->selector, trial.failure));
-        }
-        goThrough(loop, trial.failure.isEmpty() ? entries : QStringList{loop->original});
-    });
-}
-
-void SettingsReading::goThrough(const LoopPtr &loop, const QStringList &entries)
-{
     expect(int((entries.size() - 1) * loop->group->features.size()));
     addCleanup([this, loop] { leave(loop); });
     for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry) {
@@ -170,7 +157,9 @@ QStringList SettingsReading::entriesOf(const QString &selector, const Outcome &o
         return {data.valueString};
     }
     if (data.type == ParameterType::Enumeration) {
-        return static_cast<const EnumParameterData &>(data).symbolicNames;
+        // What cannot be chosen now could not be put back.
+        const QStringList &names = static_cast<const EnumParameterData &>(data).symbolicNames;
+        return names.contains(data.valueString) ? names : QStringList{data.valueString};
     }
     if (data.type == ParameterType::Boolean) {
         return {QStringLiteral("false"), QStringLiteral("true")};
@@ -187,6 +176,10 @@ QStringList SettingsReading::entriesOf(const QString &selector, const Outcome &o
                  .arg(mostValues));
         return {};
     }
+    if (number.value < number.minimum || number.value > number.maximum
+        || (quint64(number.value) - quint64(number.minimum)) % increment != 0) {
+        return {data.valueString};
+    }
     QStringList values;
     for (quint64 step = 0; step <= steps; ++step) {
         values.append(QString::number(number.minimum + qint64(step * increment)));
@@ -200,8 +193,8 @@ void SettingsReading::choose(const LoopPtr &loop, const QString &entry)
         goDeeper(loop, entry);
         return;
     }
-    write(loop->selector, entry,
-          [this, loop, entry](const Outcome &outcome) { onChosen(loop, entry, outcome); });
+    writeBriefly(loop->selector, entry,
+                 [this, loop, entry](const Outcome &outcome) { onChosen(loop, entry, outcome); });
 }
 
 void SettingsReading::onChosen(const LoopPtr &loop, const QString &entry, const Outcome &outcome)
@@ -231,7 +224,7 @@ void SettingsReading::leave(const LoopPtr &loop)
     if (SettingsValue::isSameText(loop->current, loop->original)) {
         return;
     }
-    write(loop->selector, loop->original, [this, loop](const Outcome &outcome) {
+    writeBriefly(loop->selector, loop->original, [this, loop](const Outcome &outcome) {
         if (!outcome.failure.isEmpty()) {
             note(tr("%1 cannot be put back to %2: %3").arg(loop->selector, loop->original, outcome.failure));
         }

@@ -40,7 +40,6 @@ private:
     void enter(const GroupPtr &group, int level);
     void beginLoop(const GroupPtr &group, int level, const Outcome &selector);
     QStringList entriesOf(const QString &selector, const Outcome &outcome);
-    void goThrough(const LoopPtr &loop, const QStringList &entries);
     void choose(const LoopPtr &loop, const QString &entry);
     void onChosen(const LoopPtr &loop, const QString &entry, const Outcome &outcome);
     void goDeeper(const LoopPtr &loop, const QString &entry);

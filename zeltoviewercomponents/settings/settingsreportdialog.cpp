@@ -36,6 +36,7 @@ SettingsReportDialog::SettingsReportDialog(const SettingsReport &report, QWidget
     auto *const backButton =
         buttons->addButton(tr("&Put Back What Was Before"), QDialogButtonBox::ActionRole);
     backButton->setEnabled(report.count(Result::Set) + report.count(Result::Different) > 0 && !report.isLost);
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(summary);
     layout->addWidget(m_list);
@@ -47,7 +48,7 @@ SettingsReportDialog::SettingsReportDialog(const SettingsReport &report, QWidget
     connect(backButton, SIGNAL(clicked()), this, SLOT(putBack()));
     m_all->setChecked(report.isSuccess());
     fill();
-    constexpr int columns = 110;
+    constexpr int columns = 130;
     constexpr int lines = 24;
     resize(fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines);
     m_list->header()->setStretchLastSection(true);

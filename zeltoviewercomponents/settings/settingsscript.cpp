@@ -73,19 +73,28 @@ void SettingsScript::tell(const std::function<void(QObject *)> &send)
 
 void SettingsScript::read(const QString &name, Handler handler)
 {
-    m_operation = {BatchOperation::Kind::Read, name, false, QString()};
-    m_handler = std::move(handler);
+    ask({BatchOperation::Kind::Read, name, QString(), BatchOperation::Detail::Everything},
+        std::move(handler));
 }
 
 void SettingsScript::readBriefly(const QString &name, Handler handler)
 {
-    read(name, std::move(handler));
-    m_operation->isBrief = true;
+    ask({BatchOperation::Kind::Read, name, QString(), BatchOperation::Detail::Value}, std::move(handler));
 }
 
 void SettingsScript::write(const QString &name, const QString &value, Handler handler)
 {
-    m_operation = {BatchOperation::Kind::Write, name, true, value};
+    ask({BatchOperation::Kind::Write, name, value, BatchOperation::Detail::Value}, std::move(handler));
+}
+
+void SettingsScript::writeBriefly(const QString &name, const QString &value, Handler handler)
+{
+    ask({BatchOperation::Kind::Write, name, value, BatchOperation::Detail::Nothing}, std::move(handler));
+}
+
+void SettingsScript::ask(const BatchOperation &operation, Handler handler)
+{
+    m_operation = operation;
     m_handler = std::move(handler);
 }
 

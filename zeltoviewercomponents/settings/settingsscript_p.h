@@ -48,6 +48,8 @@ protected:
     /*! As read(), without limits and entries. */
     void readBriefly(const QString &name, Handler handler);
     void write(const QString &name, const QString &value, Handler handler);
+    /*! As write(), with no look at what the feature is then, unless it refuses. */
+    void writeBriefly(const QString &name, const QString &value, Handler handler);
     void addStep(Step step);
     /*! Adds a step that is done even when the batch is cancelled. */
     void addCleanup(Step step);
@@ -63,6 +65,7 @@ private:
         bool isCleanup = false;
     };
 
+    void ask(const ParameterCollection::BatchOperation &operation, Handler handler);
     void tell(const std::function<void(QObject *)> &send);
 
     std::vector<Entry> m_steps;

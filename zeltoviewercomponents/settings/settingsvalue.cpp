@@ -48,6 +48,16 @@ std::optional<bool> booleanFrom(const QString &text)
     return wordFrom(text);
 }
 
+// Most texts are names of entries, of which nobody needs to know that they are no numbers.
+bool mayBeNumber(const QString &text)
+{
+    if (text.isEmpty()) {
+        return false;
+    }
+    const char16_t first = text.at(0).unicode();
+    return first <= u'9' || first == u'i' || first == u'n'; // also "inf" and "nan"
+}
+
 // Registers of single precision hold most floating-point features.
 bool isSameNumber(double left, double right, double resolution)
 {
@@ -91,6 +101,9 @@ bool isSameText(const QString &left, const QString &right)
     }
     if (wordFrom(left) || wordFrom(right)) {
         return booleanFrom(left) && booleanFrom(left) == booleanFrom(right);
+    }
+    if (!mayBeNumber(left) || !mayBeNumber(right)) {
+        return false;
     }
     const auto integer = integerFrom(left);
     const auto otherInteger = integerFrom(right);

@@ -538,10 +538,6 @@
 <context>
     <name>SettingsReading</name>
     <message>
-        <source>%1 cannot be changed: %2</source>
-        <translation>%1 kann nicht geändert werden: %2</translation>
-    </message>
-    <message>
         <source>%1 selects among more than %2 values; what it selects is left out</source>
         <translation>%1 wählt unter mehr als %2 Werten; was davon abhängt, bleibt weg</translation>
     </message>
