@@ -31,7 +31,7 @@ bool canBeSet(const IParameterCollection &collection, const QString &name)
 void addPresent(QList<FeatureSettings::Setting> &settings, const SettingsNodeMap &nodeMap)
 {
     const IParameterCollection &collection = *nodeMap.collection;
-    const SettingsPlan plan = SettingsPlan::of(collection);
+    const SettingsPlan plan = SettingsPlan::of(nodeMap.collection);
     const SettingsGraph graph(plan.selected);
     for (const SettingsPlan::Feature &feature : plan.features) {
         if (!feature.isWanted || graph.isSelector(feature.name) || !canBeSet(collection, feature.name)) {
