@@ -6,8 +6,10 @@
 #include "cameradialog.h"
 #include "colours.h"
 #include "commandquestion.h"
+#include "comparison.h"
 #include "descriptionpane.h"
 #include "filedrop.h"
+#include "historyactions.h"
 #include "ipconfiguration.h"
 #include "levels.h"
 #include "messagebar.h"
@@ -21,6 +23,7 @@
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/services/cameracontrolservice.h>
 #include <viewer/services/camerastatusservice.h>
+#include <viewer/services/featureservice.h>
 #include <viewer/services/featuretreecontrolservice.h>
 #include <viewer/services/featuretreestatusservice.h>
 #include <viewer/services/workbenchservice.h>
@@ -33,6 +36,11 @@
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 #include <zeltoviewercomponents/plugin/names.h>
+#include <zeltoviewercomponents/settings/changehistory.h>
+#include <zeltoviewercomponents/settings/changehistorywidget.h>
+#include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
+#include <zeltoviewercomponents/settings/settingsprogress.h>
+#include <zeltoviewercomponents/settings/settingstask.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -85,6 +93,8 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
     , m_treeMenu(new TreeMenu(m_tree, this))
+    , m_history(new HistoryActions(m_tree, this))
+    , m_comparison(new Comparison(this))
     , m_description(new DescriptionPane(this))
     , m_descriptionTimer(new QTimer(this))
     , m_messages(new MessageBar(this))
@@ -168,6 +178,77 @@ void MainWindow::connectTree()
     });
     m_tree->installEventFilter(this); // for its width
     connectModel();
+    connectSettings();
+}
+
+void MainWindow::connectSettings()
+{
+    connect(m_history, SIGNAL(fileStateChanged()), this, SLOT(updateTitle()));
+    connect(m_settings, SIGNAL(applied(FeatureSettings, FeatureSettings, SettingsReport, QString)), m_history,
+            SLOT(onLoaded(FeatureSettings, FeatureSettings, SettingsReport, QString)));
+    connect(m_settings, SIGNAL(saved(FeatureSettings, QString)), m_history,
+            SLOT(onSaved(FeatureSettings, QString)));
+    connect(m_tree, SIGNAL(restingChanged(bool)), m_comparison, SLOT(setBusy(bool)));
+    connect(m_history->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
+    connect(m_comparison->panel(), SIGNAL(featureRequested(QString)), this, SLOT(goToFeature(QString)));
+    connect(m_history->history(), SIGNAL(taskCreated(SettingsTask *)), this,
+            SLOT(onTaskCreated(SettingsTask *)));
+    connect(m_comparison, SIGNAL(taskCreated(SettingsTask *)), this, SLOT(onTaskCreated(SettingsTask *)));
+    connect(m_comparison, SIGNAL(applied(QString, FeatureSettings, FeatureSettings, SettingsReport)),
+            m_history, SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
+    connect(m_comparison, SIGNAL(compared()), this, SLOT(showDifferences()));
+    connect(m_comparison, SIGNAL(failed(QString, QString)), this, SLOT(showFailure(QString, QString)));
+}
+
+// The name of the file stands in the title as that of a document would, with the platform's mark beside it.
+void MainWindow::updateTitle()
+{
+    const QString model = m_camera ? m_camera->info()->modelName() : QString();
+    const QString file = QFileInfo(m_history->settingsFile()).fileName();
+    setWindowTitle(model.isEmpty()      ? tr("Zelto Viewer")
+                       : file.isEmpty() ? tr("%1 – Zelto Viewer").arg(model)
+                                        : tr("%1[*] – %2 – Zelto Viewer").arg(file, model));
+    setWindowModified(m_history->differsFromFile());
+}
+
+void MainWindow::goToFeature(const QString &fullName)
+{
+    if (m_tree->showFeature(fullName)) {
+        m_tree->setFocus();
+    } else {
+        statusBar()->showMessage(tr("This feature is not shown at the current level"), statusTime);
+    }
+}
+
+void MainWindow::showDifferences()
+{
+    if (auto *const dock = qobject_cast<QDockWidget *>(m_comparison->panel()->parentWidget())) {
+        dock->show();
+        dock->raise();
+    }
+}
+
+void MainWindow::onTaskCreated(SettingsTask *task)
+{
+    auto *const progress = new SettingsProgress(task, tr("Camera Settings"), this);
+    connect(task, SIGNAL(destroyed()), progress, SLOT(deleteLater()));
+    connect(task, SIGNAL(started()), this, SLOT(onTaskStarted()));
+    connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
+}
+
+void MainWindow::onTaskStarted()
+{
+    m_tree->setResting(true);
+}
+
+void MainWindow::onTaskFinished()
+{
+    m_tree->setResting(false);
+}
+
+void MainWindow::showFailure(const QString &message, const QString &details)
+{
+    m_messages->showMessage(message, details);
 }
 
 // The widget keeps silent about the current row while a search is typed; what the pane shows is true all the
@@ -204,6 +285,7 @@ QWidget *MainWindow::createEmptyPage()
 
 void MainWindow::createServices()
 {
+    new FeatureService(m_settings, m_services);
     new FeatureTreeControlService(m_tree, m_services);
     new FeatureTreeStatusService(m_tree, m_services);
     (new CameraControlService(this, m_services))->setObjectName(Plugin::ServiceName::Device);
@@ -223,24 +305,36 @@ void MainWindow::createServices()
 
 void MainWindow::createPanels()
 {
+    // Below, since they are wide; one behind the other, since that takes rows from the tree.
+    QDockWidget *const changes = addPanel(m_history->panel(), Qt::BottomDockWidgetArea);
+    tabifyDockWidget(changes, addPanel(m_comparison->panel(), Qt::BottomDockWidgetArea));
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
-        auto *const dock = new QDockWidget(panel->windowTitle(), this);
-        dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
-        dock->setWidget(panel);
-        addDockWidget(Qt::RightDockWidgetArea, dock);
-        dock->hide(); // the tree has the room until the user asks for the panel
-        m_panels->addAction(dock->toggleViewAction());
-        m_panels->menuAction()->setVisible(true);
-        m_workbench->addPage(panel);
+        addPanel(panel, Qt::RightDockWidgetArea);
     }
     m_services->setParent(this); // the last child, so that panels go first
+}
+
+QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)
+{
+    auto *const dock = new QDockWidget(panel->windowTitle(), this);
+    dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
+    dock->setWidget(panel);
+    addDockWidget(area, dock);
+    dock->hide(); // the tree has the room until the user asks for the panel
+    connect(dock->toggleViewAction(), SIGNAL(triggered()), dock, SLOT(raise())); // from behind another
+    m_panels->addAction(dock->toggleViewAction());
+    m_panels->menuAction()->setVisible(true);
+    m_workbench->addPage(panel);
+    return dock;
 }
 
 void MainWindow::createMenus()
 {
     createFileMenu();
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
+    edit->addActions(m_history->actions());
+    edit->addSeparator();
     m_copyAction = edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this,
                                    SLOT(copyTree()));
     createViewMenu();
@@ -298,6 +392,8 @@ void MainWindow::createCameraMenu()
     camera->addSeparator();
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
+    camera->addSeparator();
+    m_comparison->addTo(camera);
     // Whether a camera lets itself be configured changes with what it is doing.
     connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
 }
@@ -485,7 +581,8 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     m_tree->setFocus(); // which went elsewhere when the camera before was lost or closed
     m_tree->expandRootNodes();
     m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
-    setWindowTitle(tr("%1 – Zelto Viewer").arg(info->modelName()));
+    m_history->open(m_settings->nodeMaps());
+    m_comparison->open(m_settings->nodeMaps());
     updateActions();
     if (m_camera->isReadOnly()) {
         showAccess();
@@ -497,6 +594,9 @@ void MainWindow::closeCamera()
     endOpening();
     rememberCamera();
     m_lookAtLoss.reset();
+    m_history->close();
+    m_comparison->close();
+    m_tree->setResting(false); // what was under way has ended with them
     m_tree->setPolling(false);
     m_settings->setCamera(nullptr);
     m_description->showParameter(nullptr);
@@ -506,7 +606,7 @@ void MainWindow::closeCamera()
     m_failedWrites.clear();
     m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
-    setWindowTitle(tr("Zelto Viewer"));
+    updateTitle();
     updateActions();
 }
 
@@ -550,6 +650,7 @@ void MainWindow::onCameraLost(const QString &reason)
     m_lookAtLoss->remove(FeatureTreeLook::Level); // which can be changed all the time
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
+    m_history->updateActions();
     m_messages->showAction(reason, tr("Reconnect"));
     updateActions();
 }
@@ -619,8 +720,20 @@ void MainWindow::closeCameraIfWanted()
     }
 }
 
+// Values that differ from the settings file, about which somebody may have forgotten to save them.
+bool MainWindow::isLosingOfChangesWanted()
+{
+    return !isCameraOpen() || !m_history->differsFromFile()
+        || confirm(QStringLiteral("CloseChangedSettings"), tr("Close Camera"),
+                   tr("Values of the camera differ from the settings file %1.\nClose without saving them?")
+                       .arg(QFileInfo(m_history->settingsFile()).fileName()));
+}
+
 bool MainWindow::isCloseWanted()
 {
+    if (!isLosingOfChangesWanted()) {
+        return false;
+    }
     const bool isLive = isCameraOpen() && m_source.isLive();
     return !isLive
         || confirm(
@@ -861,6 +974,10 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!isLosingOfChangesWanted()) {
+        event->ignore();
+        return;
+    }
     saveState();
     rememberCamera();
     endOpening();

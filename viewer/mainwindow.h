@@ -24,12 +24,15 @@ namespace Cameras {
 class CameraOpening;
 }
 
+class Comparison;
 class DescriptionPane;
 class FeatureTreeWidget;
+class HistoryActions;
 class MessageBar;
 class OpeningPage;
 class QAction;
 class QActionGroup;
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QModelIndex;
@@ -39,6 +42,7 @@ class QTimer;
 class QToolButton;
 class RecentSources;
 class SettingsActions;
+class SettingsTask;
 class TreeMenu;
 class WorkbenchService;
 
@@ -122,13 +126,22 @@ private slots:
     void onControlRefused(const QString &reason);
     void copyTree();
     void updateActions();
+    void updateTitle();
+    void goToFeature(const QString &fullName);
+    void showDifferences();
+    void onTaskCreated(SettingsTask *task);
+    void onTaskStarted();
+    void onTaskFinished();
+    void showFailure(const QString &message, const QString &details);
 
 private:
     void layOut();
     void connectTree();
     void connectModel();
+    void connectSettings();
     void createServices();
     void createPanels();
+    QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
     void createMenus();
     void createFileMenu();
     void createViewMenu();
@@ -138,6 +151,7 @@ private:
     QString ipObstacle() const;
     FeatureTreeLook currentLook();
     bool isCloseWanted();
+    bool isLosingOfChangesWanted();
     bool confirm(const QString &key, const QString &title, const QString &text);
     bool isExecutionWanted(const ParameterCollection::IParameter &command);
     QMenu *createLevelMenu(QMenu *parent);
@@ -165,6 +179,8 @@ private:
     bool m_isFittingColumns = false;
     FeatureTreeWidget *m_tree;
     TreeMenu *m_treeMenu;
+    HistoryActions *m_history;
+    Comparison *m_comparison;
     DescriptionPane *m_description;
     QTimer *m_descriptionTimer; // describes the current row when the rows have settled
     MessageBar *m_messages;

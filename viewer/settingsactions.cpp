@@ -8,7 +8,6 @@
 
 #include <cameras/camera.h>
 #include <platform/core/exception.h>
-#include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingsprogress.h>
@@ -46,6 +45,7 @@ SettingsActions::SettingsActions(FeatureTreeWidget *tree, MessageBar *messages, 
     m_load->setShortcut(QKeySequence(tr("Ctrl+L")));
     connect(m_save, SIGNAL(triggered()), this, SLOT(save()));
     connect(m_load, SIGNAL(triggered()), this, SLOT(load()));
+    connect(m_tree, SIGNAL(restingChanged(bool)), this, SLOT(updateActions()));
     updateActions();
 }
 
@@ -83,7 +83,7 @@ void SettingsActions::setCamera(Cameras::Camera *camera)
 
 void SettingsActions::updateActions()
 {
-    const bool isUsable = m_camera && !m_camera->isLost() && !m_task;
+    const bool isUsable = m_camera && !m_camera->isLost() && !m_tree->isResting();
     m_save->setEnabled(isUsable);
     m_load->setEnabled(isUsable && !m_camera->isReadOnly());
     m_save->setToolTip(tr("Saves all values that can be changed to a text file"));
@@ -186,7 +186,7 @@ void SettingsActions::run(SettingsTask *task, const QString &title, const char *
     auto *const progress = new SettingsProgress(task, title, window());
     connect(task, SIGNAL(destroyed()), progress, SLOT(deleteLater()));
     connect(task, SIGNAL(finished()), this, finishedSlot);
-    setTreeResting(true);
+    m_tree->setResting(true);
     updateActions();
     task->start();
 }
@@ -195,20 +195,8 @@ void SettingsActions::endTask()
 {
     m_task->disconnect(this);
     m_task.release()->deleteLater(); // it may be the sender of the signal that led here
-    setTreeResting(false);
+    m_tree->setResting(false);
     updateActions();
-}
-
-void SettingsActions::setTreeResting(bool resting)
-{
-    if (resting) {
-        m_wasPolling = m_tree->getPolling();
-    }
-    m_tree->setPolling(!resting && m_wasPolling);
-    m_tree->treeView()->setEnabled(!resting);
-    if (!resting) {
-        m_tree->setFocus();
-    }
 }
 
 void SettingsActions::onReadFinished()

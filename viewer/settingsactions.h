@@ -73,7 +73,6 @@ private slots:
 private:
     void run(SettingsTask *task, const QString &title, const char *finishedSlot);
     void endTask();
-    void setTreeResting(bool resting);
     bool isWanted(const FeatureSettings &settings);
     void showReport(const SettingsReport &report);
     void warn(const QString &text);
@@ -89,5 +88,4 @@ private:
     FeatureSettings m_former; // before what was applied last
     QString m_fileName; // of the task
     QString m_lastFile;
-    bool m_wasPolling = false;
 };

@@ -5,6 +5,7 @@
 #include <cameras/camera.h>
 #include <cameras/deviceptr_p.h>
 #include <platform/parametercollection/iparameter.h>
+#include <viewer/cameraaddress.h>
 #include <viewer/mainwindow.h>
 #include <viewer/messagebar.h>
 #include <viewer/settingsactions.h>
@@ -236,7 +237,7 @@ void TestCameraSettings::cameraInOtherHands()
 void TestCameraSettings::windowSavesAndLoads()
 {
     MainWindow window;
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     window.show();
     SettingsActions *const actions = window.settings();
     const QString fileName = m_dir.filePath("saved.txt");
@@ -281,7 +282,7 @@ void TestCameraSettings::windowNamesWhatIsWrong()
     QFETCH(const QByteArray, text);
     QFETCH(const QString, named);
     MainWindow window;
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     window.show();
     window.settings()->loadFrom(write(text));
     QVERIFY(!window.settings()->isBusy());
@@ -307,7 +308,7 @@ void TestCameraSettings::windowAsksAboutAnotherModel()
     QFETCH(const QByteArray, model);
     QFETCH(const int, answer);
     MainWindow window;
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     window.show();
     QString question;
     QTimer::singleShot(0, this, [&] {
@@ -326,14 +327,14 @@ void TestCameraSettings::windowAsksAboutAnotherModel()
 void TestCameraSettings::windowClosesTheCameraMeanwhile()
 {
     MainWindow window;
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     window.show();
     window.settings()->saveTo(m_dir.filePath("never.txt"));
     window.closeCamera();
     QVERIFY(!window.settings()->isBusy());
     QTest::qWait(100);
     QVERIFY(!QFile::exists(m_dir.filePath("never.txt")));
-    window.openCamera(Options());
+    window.showCamera({}, cameraAt({}));
     QVERIFY(window.featureTree()->isEnabled());
 }
 

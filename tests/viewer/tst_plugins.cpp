@@ -4,6 +4,7 @@
 #include <support/logcapture.h>
 #include <viewer/mainwindow.h>
 #include <viewer/plugins/pluginhost.h>
+#include <viewer/settingsactions.h>
 
 #include <zeltoviewercomponents/errorhandling/helplink.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
@@ -24,6 +25,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
+#include <QTreeView>
 
 #include <memory>
 
@@ -54,6 +57,7 @@ private slots:
     void listIsLimitedToTwenty();
     void visitsLeadBack();
     void goneFeaturesAreSurvived();
+    void watchGoesOnAfterReconnecting();
     void workbenchSelectsPages();
     void brokenPluginsAreLeftOut();
     void helpLinkFollowsTheFeature();
@@ -78,7 +82,7 @@ void TestPlugins::init()
     QSettings().clear();
     m_window = std::make_unique<MainWindow>();
     m_window->showCamera({}, cameraAt({}));
-    m_window->findChild<QDockWidget *>()->show();
+    m_window->findChild<QDockWidget *>("visitedFeaturesDock")->show();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
@@ -246,13 +250,29 @@ void TestPlugins::goneFeaturesAreSurvived()
     QCOMPARE(visitedNames(), QStringList{feature("Width")});
 }
 
+void TestPlugins::watchGoesOnAfterReconnecting()
+{
+    auto *const panel = m_window->findChild<QWidget *>("watch");
+    const QAbstractItemModel *const rows = panel->findChild<QTreeView *>()->model();
+    QVERIFY(show("Gain"));
+    const auto buttons = panel->findChildren<QToolButton *>();
+    buttons.first()->click(); // "Add"
+    QTRY_COMPARE(rows->index(0, 1).data().toString(), "0");
+    auto *const control = service<ZeltoViewer::IZeltoViewerControlledCameraControlService>();
+    QVERIFY(control->setCameraOpen(false));
+    QVERIFY(control->setCameraOpen(true));
+    m_window->settings()->nodeMaps().first().collection->parameter("Gain")->setValueFromString("3");
+    QTRY_COMPARE(rows->index(0, 1).data().toString(), "3");
+    QVERIFY(m_window->isCameraOpen());
+}
+
 void TestPlugins::workbenchSelectsPages()
 {
     auto *const workbench = service<Workbench::IWorkbenchService>();
     QCOMPARE(workbench->objectName(), ServiceName::Workbench);
     QSignalSpy selected(workbench, &Workbench::IWorkbenchService::selectedItemChanged);
     QSignalSpy destroyed(workbench, &Workbench::IWorkbenchService::itemDestroyed);
-    auto *const dock = m_window->findChild<QDockWidget *>();
+    auto *const dock = m_window->findChild<QDockWidget *>("visitedFeaturesDock");
     dock->hide();
 
     QVERIFY(workbench->selectItem("visitedFeatures"));

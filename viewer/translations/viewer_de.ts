@@ -500,6 +500,24 @@ Open a description file or connect to a camera (menu File).</source>
         <source>&amp;All Features</source>
         <translation>&amp;Alle Merkmale</translation>
     </message>
+    <message>
+        <source>%1[*] – %2 – Zelto Viewer</source>
+        <translation>%1[*] – %2 – Zelto Viewer</translation>
+    </message>
+    <message>
+        <source>This feature is not shown at the current level</source>
+        <translation>Dieses Merkmal wird auf der aktuellen Stufe nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>Camera Settings</source>
+        <translation>Kameraeinstellungen</translation>
+    </message>
+    <message>
+        <source>Values of the camera differ from the settings file %1.
+Close without saving them?</source>
+        <translation>Werte der Kamera weichen von der Einstellungsdatei %1 ab.
+Schließen, ohne sie zu speichern?</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -779,6 +797,213 @@ Trotzdem laden?</translation>
     <message>
         <source>Cannot write to the standard output.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Comparison</name>
+    <message>
+        <source>Compare &amp;With</source>
+        <translation>&amp;Vergleichen mit</translation>
+    </message>
+    <message>
+        <source>A &amp;File…</source>
+        <translation>Einer &amp;Datei…</translation>
+    </message>
+    <message>
+        <source>The State When &amp;Opened</source>
+        <translation>Dem Zustand beim Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Another &amp;Description…</source>
+        <translation>Einer anderen &amp;Beschreibung…</translation>
+    </message>
+    <message>
+        <source>Another &amp;Camera…</source>
+        <translation>Einer anderen &amp;Kamera…</translation>
+    </message>
+    <message>
+        <source>Compare With a Settings File</source>
+        <translation>Mit einer Einstellungsdatei vergleichen</translation>
+    </message>
+    <message>
+        <source>the state when opened</source>
+        <translation>dem Zustand beim Öffnen</translation>
+    </message>
+    <message>
+        <source>Compare With Another Description</source>
+        <translation>Mit einer anderen Beschreibung vergleichen</translation>
+    </message>
+    <message>
+        <source>Camera descriptions (*.xml *.zip);;All files (*)</source>
+        <translation>Kamerabeschreibungen (*.xml *.zip);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>what was before</source>
+        <translation>was vorher war</translation>
+    </message>
+</context>
+<context>
+    <name>WatchModel</name>
+    <message>
+        <source>Feature</source>
+        <translation>Merkmal</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittel</translation>
+    </message>
+</context>
+<context>
+    <name>WatchPlot</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 ago</source>
+        <translation>vor %1</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>Plot of the watched features</source>
+        <translation>Verlauf der beobachteten Merkmale</translation>
+    </message>
+    <message>
+        <source>Make a feature current in the tree, and add it.</source>
+        <translation>Wählen Sie im Baum ein Merkmal und fügen Sie es hinzu.</translation>
+    </message>
+</context>
+<context>
+    <name>WatchPanel</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>Re&amp;start</source>
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message>
+        <source>M&amp;ore</source>
+        <translation>&amp;Mehr</translation>
+    </message>
+    <message>
+        <source>Save as &amp;CSV…</source>
+        <translation>Als &amp;CSV speichern…</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;NG…</source>
+        <translation>Als P&amp;NG speichern…</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Beobachten</translation>
+    </message>
+    <message>
+        <source>Values of chosen features over time</source>
+        <translation>Werte gewählter Merkmale im Verlauf der Zeit</translation>
+    </message>
+    <message>
+        <source>Forgets the values so far</source>
+        <translation>Vergisst die bisherigen Werte</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>Last minute</source>
+        <translation>Letzte Minute</translation>
+    </message>
+    <message>
+        <source>Last 10 minutes</source>
+        <translation>Letzte 10 Minuten</translation>
+    </message>
+    <message>
+        <source>Last hour</source>
+        <translation>Letzte Stunde</translation>
+    </message>
+    <message>
+        <source>Time that the plot shows</source>
+        <translation>Zeit, die der Verlauf zeigt</translation>
+    </message>
+    <message>
+        <source>Watches the current feature of the tree, %1</source>
+        <translation>Beobachtet das aktuelle Merkmal des Baums, %1</translation>
+    </message>
+    <message>
+        <source>Watches the current feature of the tree, if it is a number or a Boolean</source>
+        <translation>Beobachtet das aktuelle Merkmal des Baums, wenn es eine Zahl oder ein Wahrheitswert ist</translation>
+    </message>
+    <message>
+        <source>Save Watched Values</source>
+        <translation>Beobachtete Werte speichern</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save the Plot</source>
+        <translation>Verlauf speichern</translation>
+    </message>
+    <message>
+        <source>Images (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 </TS>

@@ -141,11 +141,23 @@ void EditorFocus::follow(QWidget *old, QWidget *now)
     }
 }
 
+// A line edit claims the keys of undoing and redoing even when there is nothing of its own to undo; then they
+// are about the values that were written.
+bool EditorFocus::isForHost(const QKeyEvent &key, QObject *input)
+{
+    return (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo))
+        && !isTypedInto(static_cast<QWidget *>(input));
+}
+
 bool EditorFocus::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn
         && static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason) {
         emit returned();
+    }
+    if (event->type() == QEvent::ShortcutOverride && isForHost(*static_cast<QKeyEvent *>(event), watched)) {
+        event->ignore();
+        return true;
     }
     if (event->type() != QEvent::KeyPress) {
         return false;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QKeyEvent>
 #include <QModelIndex>
 #include <QObject>
 
@@ -67,6 +68,7 @@ private:
     QWidget *editorAround(QWidget *widget) const;
     QWidget *nextOutsideView() const;
     void escape(QObject *input, QEvent *event);
+    static bool isForHost(const QKeyEvent &key, QObject *input);
 
     QTreeView *m_view;
     const OpenEditors *m_editors;

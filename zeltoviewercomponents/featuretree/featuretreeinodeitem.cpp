@@ -7,10 +7,10 @@
 #include "featuretreenames.h"
 #include "ifeaturetreemodelextension.h"
 #include "representation_p.h"
-#include "unansweredwrites_p.h"
 
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
+#include <zeltoviewercomponents/settings/unansweredwrites_p.h>
 
 #include <QBrush>
 #include <QCoreApplication>
@@ -465,6 +465,7 @@ void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)
         }
         return;
     }
+    UnansweredWrites::announce(*parameter, value.toString());
     const QString text = value.typeId() == QMetaType::Double ? QString() : value.toString();
     if (!m_useUtf8 && !isLatin1(text)) {
         throw GenICam::InvalidArgumentException(

@@ -18,6 +18,8 @@
 #include "ui_featuretreewidget.h"
 #include "waitcursor_p.h"
 
+#include <zeltoviewercomponents/settings/unansweredwrites_p.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -93,6 +95,11 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     connect(view->model(), SIGNAL(pollingStateChanged(bool)), this, SLOT(onPollingStateChanged(bool)));
     connect(view->model(), SIGNAL(judged()), this, SLOT(onJudged()));
     connect(view->model(), SIGNAL(filtered()), this, SLOT(onFiltered()));
+    // Whatever way a value takes into the tree, the model is where it passes.
+    connect(view->model(), SIGNAL(written(QSharedPointer<ParameterCollection::IParameter>)), this,
+            SLOT(onWritten(QSharedPointer<ParameterCollection::IParameter>)));
+    connect(view->model(), SIGNAL(writeFailed(QSharedPointer<ParameterCollection::IParameter>, QString)),
+            this, SLOT(onWriteFailed(QSharedPointer<ParameterCollection::IParameter>, QString)));
     connect(&getFeatureExtension()->GetFavorites(), SIGNAL(dataUpdated()), this, SLOT(onFavoritesUpdated()));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
@@ -260,6 +267,31 @@ void FeatureTreeWidget::setCommandVeto(CommandVeto veto)
     if (auto *const delegate = qobject_cast<FeatureTreeDelegate *>(m_ui->treeView->itemDelegate())) {
         delegate->setCommandVeto(std::move(veto));
     }
+}
+
+void FeatureTreeWidget::setResting(bool resting)
+{
+    if (resting == m_isResting) {
+        return;
+    }
+    m_isResting = resting;
+    IFeatureTreeModelExtension *const extension = getFeatureExtension();
+    if (resting) {
+        m_pollsAfterRest = extension->GetPolling();
+        m_followsAfterRest = extension->getGenICamCallbackEnable();
+        m_focusAfterRest = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
+    }
+    extension->EnablePolling(!resting && m_pollsAfterRest);
+    extension->setGenICamCallbacksEnable(!resting && m_followsAfterRest);
+    for (QWidget *const part :
+         {static_cast<QWidget *>(m_ui->treeView), static_cast<QWidget *>(m_ui->checkBoxPolling),
+          static_cast<QWidget *>(m_ui->resetButton)}) {
+        part->setEnabled(!resting);
+    }
+    if (!resting && m_focusAfterRest && !QApplication::focusWidget()) {
+        m_focusAfterRest->setFocus();
+    }
+    emit restingChanged(resting);
 }
 
 void FeatureTreeWidget::on_resetButton_clicked()
@@ -731,6 +763,25 @@ void FeatureTreeWidget::onFiltered()
         m_ui->treeView->expandEverything(); // what was found shows, also in branches that came with it
     }
     getFeatureExtension()->refreshSpecialItems();
+}
+
+void FeatureTreeWidget::onWritten(QSharedPointer<ParameterCollection::IParameter> parameter)
+{
+    tellEdited(parameter, QString());
+}
+
+void FeatureTreeWidget::onWriteFailed(QSharedPointer<ParameterCollection::IParameter> parameter,
+                                      QString message)
+{
+    tellEdited(parameter, message.isEmpty() ? tr("The camera gave no reason.") : message);
+}
+
+void FeatureTreeWidget::tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter,
+                                   const QString &refusal)
+{
+    const UnansweredWrites *const writes = UnansweredWrites::find(*parameter);
+    const auto attempt = writes ? writes->lastAttempt() : UnansweredWrites::Attempt();
+    emit edited(parameter, attempt.before, attempt.text, refusal);
 }
 
 // The counts are known before the rows follow, so the row that shows them is one of those.

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QModelIndex>
 #include <QPoint>
+#include <QPointer>
 #include <QSharedPointer>
 #include <QString>
 
@@ -69,6 +70,11 @@ public:
     /*! Tells that the device does not answer any more: nothing is polled or written until collections are
      * added. */
     void deviceIsClosed();
+    /*! Sets whether the tree rests: it cannot be edited, polls and adjusts nothing, as long as others work on
+     * all of the camera's features. Afterwards it shows what they are then. */
+    void setResting(bool resting);
+    /*! Returns whether the tree rests. */
+    bool isResting() const { return m_isResting; }
     /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
     void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
@@ -187,6 +193,16 @@ signals:
     void pollingStateChanged(bool polling);
     /*! The user has shown or hidden favorites that the camera lacks. */
     void viewAllFavoritesStateChanged(bool viewAll);
+    /*! The tree has begun to rest, or works again. */
+    void restingChanged(bool resting);
+    /*! The user has written a value, or executed a command, for which both texts are null.
+     *
+     * \param before the value before, as text that the parameter takes back exactly; null when unknown
+     * \param after what was written
+     * \param refusal why the parameter did not take it; empty when it did
+     */
+    void edited(QSharedPointer<ParameterCollection::IParameter> parameter, QString before, QString after,
+                QString refusal);
     /*! The number of search results, and how many of them show at a higher level only. */
     void filterMatchesChanged(int total, int hidden);
 
@@ -206,6 +222,8 @@ private slots:
     void onFavoritesUpdated();
     void onJudged();
     void onFiltered();
+    void onWritten(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onWriteFailed(QSharedPointer<ParameterCollection::IParameter> parameter, QString message);
 
 private:
     void updateActions();
@@ -227,6 +245,7 @@ private:
     void announceMatches();
     void showRefreshed();
     void updateMarks(const FeatureTreeHighlighter &before);
+    void tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter, const QString &refusal);
     void moveCurrentFavorite(bool up);
 
     std::unique_ptr<Ui::FeatureTreeWidgetClass> m_ui;
@@ -242,6 +261,10 @@ private:
     bool m_isFiltering = false; // a pass is part of an action that tells of it at its end
     bool m_isSearchRowStale = false; // its text was set and not told of
     bool m_expandOnRefresh = false;
+    bool m_isResting = false;
+    QPointer<QWidget> m_focusAfterRest;
+    bool m_pollsAfterRest = false;
+    bool m_followsAfterRest = false;
     QString m_cameraType;
     QSharedPointer<Core::AppCoreComponents::IBaseInfo> m_baseInfo;
 };

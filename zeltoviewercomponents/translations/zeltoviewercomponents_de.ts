@@ -187,6 +187,10 @@
         <source>&lt;B&gt;%1 search results (%2 of them visible at higher user level)&lt;/B&gt;</source>
         <translation>&lt;B&gt;%1 Treffer (%2 davon erst auf höherer Benutzerstufe sichtbar)&lt;/B&gt;</translation>
     </message>
+    <message>
+        <source>The camera gave no reason.</source>
+        <translation>Die Kamera nennt keinen Grund.</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeWidgetClass</name>
@@ -698,6 +702,197 @@
     <message>
         <source>&amp;Put Back What Was Before</source>
         <translation>&amp;Vorigen Stand wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeHistory</name>
+    <message>
+        <source>Failed to undo a change.</source>
+        <translation>Eine Änderung konnte nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Failed to redo a change.</source>
+        <translation>Eine Änderung konnte nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>%1: the feature is gone</source>
+        <translation>%1: das Merkmal gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>Failed to set a feature value.</source>
+        <translation>Der Wert eines Merkmals konnte nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>values set: %1</source>
+        <translation>gesetzte Werte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeHistoryWidget</name>
+    <message>
+        <source>&amp;Go to Feature</source>
+        <translation>Zum Merkmal &amp;gehen</translation>
+    </message>
+    <message>
+        <source>Put &amp;Back the Value Before</source>
+        <translation>Wert vor&amp;her wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Set the Value &amp;After Again</source>
+        <translation>Wert nach&amp;her erneut setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save as Text…</source>
+        <translation>Als Text &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>What was changed since the camera was opened</source>
+        <translation>Was geändert wurde, seit die Kamera geöffnet ist</translation>
+    </message>
+    <message>
+        <source>Search changes</source>
+        <translation>Änderungen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Save Changes as Text</source>
+        <translation>Änderungen als Text speichern</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt);;All files (*)</source>
+        <translation>Textdateien (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeList</name>
+    <message>
+        <source>refused: %1</source>
+        <translation>abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>undone</source>
+        <translation>rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>executed</source>
+        <translation>ausgeführt</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Merkmal</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceList</name>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Merkmal</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>There</source>
+        <translation>Dort</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsComparisonWidget</name>
+    <message>
+        <source>&amp;Go to Feature</source>
+        <translation>Zum Merkmal &amp;gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over</source>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>Take Over &amp;All</source>
+        <translation>&amp;Alle übernehmen</translation>
+    </message>
+    <message>
+        <source>Compare A&amp;gain</source>
+        <translation>&amp;Neu vergleichen</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>In what the camera differs from a file, another camera or how it was</source>
+        <translation>Worin die Kamera von einer Datei, einer anderen Kamera oder ihrem früheren Zustand abweicht</translation>
+    </message>
+    <message>
+        <source>Sets the values from there that are selected</source>
+        <translation>Setzt die ausgewählten Werte von dort</translation>
+    </message>
+    <message>
+        <source>Sets all values from there that are shown</source>
+        <translation>Setzt alle gezeigten Werte von dort</translation>
+    </message>
+    <message>
+        <source>Search differences</source>
+        <translation>Unterschiede durchsuchen</translation>
+    </message>
+    <message>
+        <source>No difference from %1</source>
+        <translation>Kein Unterschied zu: %1</translation>
+    </message>
+    <message>
+        <source>Differences from %1</source>
+        <translation>Unterschiede zu: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is compared.</source>
+        <translation>Es wird nichts verglichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Different (%1)</source>
+        <translation>&amp;Verschieden (%1)</translation>
+    </message>
+    <message>
+        <source>Only &amp;here (%1)</source>
+        <translation>Nur &amp;hier (%1)</translation>
+    </message>
+    <message>
+        <source>Only th&amp;ere (%1)</source>
+        <translation>Nur &amp;dort (%1)</translation>
     </message>
 </context>
 </TS>

@@ -22,11 +22,25 @@ class UnansweredWrites : public QObject
     Q_OBJECT
 
 public:
+    /*! \brief A write, whether it succeeded or not. */
+    struct Attempt
+    {
+        QString before; //!< what the parameter held, as exactValueText() writes it
+        QString text;
+    };
+
     /*! Returns what is known of \a parameter, null when nothing was written to it. */
     static UnansweredWrites *find(const ParameterCollection::IParameter &parameter);
+    /*! Returns what \a parameter holds, as exactValueText() writes it: what was written last, where its
+     * snapshot does not tell yet. */
+    static QString presentText(const ParameterCollection::IParameter &parameter);
+    /*! Remembers that \a text is about to be written to \a parameter. */
+    static void announce(ParameterCollection::IParameter &parameter, const QString &text);
     /*! Writes \a value to \a parameter, as text, and remembers that. Throws what the parameter throws. */
     static void write(ParameterCollection::IParameter &parameter, const QVariant &value);
 
+    /*! Returns the write that was announced last. */
+    const Attempt &lastAttempt() const { return m_lastAttempt; }
     /*! Returns whether a write waits for its answer. */
     bool isWaiting() const { return m_count > 0; }
     /*! Returns whether \a value was written last and nothing has come since that tells otherwise; \a current
@@ -38,7 +52,9 @@ private slots:
 
 private:
     explicit UnansweredWrites(ParameterCollection::IParameter &parameter);
+    static UnansweredWrites &of(ParameterCollection::IParameter &parameter);
 
+    Attempt m_lastAttempt;
     QVariant m_value; // written last
     QString m_before; // the value before the first of the writes that wait
     int m_count = 0;
@@ -48,3 +64,7 @@ private:
 /*! Returns whether \a value, a number or a text, stands for that of \a snapshot, which has one: numbers can
  * be written in several ways, and addresses as numbers; booleans have two names for each of theirs. */
 bool isValueOf(const ParameterCollection::ParameterData &snapshot, const QVariant &value);
+
+/*! Returns the value of \a snapshot as a text that the parameter takes back without losing a digit; a null
+ * one when there is no value to be read. */
+QString exactValueText(const ParameterCollection::ParameterData &snapshot);

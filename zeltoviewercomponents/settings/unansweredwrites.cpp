@@ -5,6 +5,7 @@
 
 #include <platform/parametercollection/valuewords.h>
 
+#include <QLocale>
 #include <QMetaType>
 
 using namespace ParameterCollection;
@@ -40,6 +41,24 @@ bool isValueOf(const ParameterData &snapshot, const QVariant &value)
     return number && text.toDouble(&isNumber) == number->value && isNumber;
 }
 
+// What people read of a number may be rounded, and need not be a number that is taken back.
+QString exactValueText(const ParameterData &snapshot)
+{
+    if (!snapshot.isReadable) {
+        return {};
+    }
+    if (const auto *const boolean = dynamic_cast<const BooleanParameterData *>(&snapshot)) {
+        return boolean->value ? QStringLiteral("1") : QStringLiteral("0");
+    }
+    bool isNumber = false;
+    if (const auto *const number = dynamic_cast<const FloatParameterData *>(&snapshot)) {
+        const bool isExact = snapshot.valueString.toDouble(&isNumber) == number->value && isNumber;
+        return isExact ? snapshot.valueString
+                       : QString::number(number->value, 'g', QLocale::FloatingPointShortest);
+    }
+    return snapshot.valueString.isNull() ? QStringLiteral("") : snapshot.valueString;
+}
+
 UnansweredWrites::UnansweredWrites(IParameter &parameter)
     : QObject(&parameter)
 {
@@ -53,19 +72,37 @@ UnansweredWrites *UnansweredWrites::find(const IParameter &parameter)
     return parameter.findChild<UnansweredWrites *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+UnansweredWrites &UnansweredWrites::of(IParameter &parameter)
+{
+    UnansweredWrites *const writes = find(parameter);
+    return writes ? *writes : *new UnansweredWrites(parameter);
+}
+
+QString UnansweredWrites::presentText(const IParameter &parameter)
+{
+    const UnansweredWrites *const writes = find(parameter);
+    if (writes && writes->isWaiting() && writes->m_isCertain) {
+        return writes->m_value.toString();
+    }
+    const QSharedPointer<const ParameterData> snapshot = parameter.parameterData();
+    return snapshot ? exactValueText(*snapshot) : QString();
+}
+
+void UnansweredWrites::announce(IParameter &parameter, const QString &text)
+{
+    of(parameter).m_lastAttempt = {presentText(parameter), text};
+}
+
 void UnansweredWrites::write(IParameter &parameter, const QVariant &value)
 {
-    UnansweredWrites *writes = find(parameter);
-    if (!writes) {
-        writes = new UnansweredWrites(parameter);
-    }
-    const QString before = writes->isWaiting() ? writes->m_before : valueOf(parameter);
-    writes->m_isCertain = false; // should it fail: the camera may have taken it
+    UnansweredWrites &writes = of(parameter);
+    const QString before = writes.isWaiting() ? writes.m_before : valueOf(parameter);
+    writes.m_isCertain = false; // should it fail: the camera may have taken it
     parameter.setValueFromString(value.toString());
-    writes->m_before = before;
-    writes->m_value = value;
-    ++writes->m_count;
-    writes->m_isCertain = true;
+    writes.m_before = before;
+    writes.m_value = value;
+    ++writes.m_count;
+    writes.m_isCertain = true;
 }
 
 bool UnansweredWrites::isLast(const QVariant &value, const ParameterData &current) const

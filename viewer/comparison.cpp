@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "comparison.h"
+
+#include "cameradialog.h"
+#include "settingsorigin.h"
+
+#include <cameras/camera.h>
+#include <platform/core/exception.h>
+#include <zeltoviewercomponents/settings/presentsettings.h>
+#include <zeltoviewercomponents/settings/settingsapplier.h>
+#include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
+#include <zeltoviewercomponents/settings/settingsreader.h>
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QSet>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+// What of \a settings is also in \a known.
+FeatureSettings onlyThoseOf(const FeatureSettings &known, const FeatureSettings &settings)
+{
+    QSet<QString> features;
+    const auto keyOf = [](const FeatureSettings::Setting &setting) {
+        return setting.nodeMap + QLatin1Char('/') + setting.title();
+    };
+    const auto knownSettings = known.settings();
+    for (const FeatureSettings::Setting &setting : knownSettings) {
+        features.insert(keyOf(setting));
+    }
+    QList<FeatureSettings::Setting> wanted = settings.settings();
+    wanted.removeIf([&features, &keyOf](const FeatureSettings::Setting &setting) {
+        return !features.contains(keyOf(setting));
+    });
+    return FeatureSettings::of(wanted);
+}
+
+} // namespace
+
+Comparison::Comparison(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+    , m_panel(new SettingsComparisonWidget(window))
+    , m_menu(new QMenu(tr("Compare &With"), window))
+{
+    m_menu->addAction(tr("A &File…"), this, SLOT(askForFile()));
+    m_menu->addAction(tr("The State When &Opened"), this, SLOT(compareWithOpened()));
+    m_menu->addAction(tr("Another &Description…"), this, SLOT(askForDescription()));
+    m_menu->addAction(tr("Another &Camera…"), this, SLOT(askForCamera()));
+    connect(m_panel, SIGNAL(refreshRequested()), this, SLOT(compareAgain()));
+    connect(m_panel, SIGNAL(takeOverRequested(FeatureSettings)), this, SLOT(takeOver(FeatureSettings)));
+    close();
+}
+
+Comparison::~Comparison() = default;
+
+void Comparison::addTo(QMenu *menu)
+{
+    menu->addMenu(m_menu);
+}
+
+void Comparison::open(const QList<SettingsNodeMap> &nodeMaps)
+{
+    close();
+    m_nodeMaps = nodeMaps;
+    m_opened = FeatureSettings();
+    QTimer::singleShot(0, this, SLOT(takeOpened())); // the window is shown first
+    setBusy(false);
+}
+
+void Comparison::takeOpened()
+{
+    if (m_opened.isEmpty()) {
+        m_opened = presentSettings(m_nodeMaps);
+    }
+}
+
+void Comparison::close()
+{
+    m_reader.reset();
+    m_applier.reset();
+    m_other.reset();
+    m_nodeMaps.clear();
+    setBusy(false);
+    m_panel->clear();
+}
+
+bool Comparison::canStart() const
+{
+    return !m_isBusy && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
+}
+
+void Comparison::setBusy(bool busy)
+{
+    m_isBusy = busy;
+    m_menu->setEnabled(!busy && !m_nodeMaps.isEmpty());
+    m_panel->setTakingOver(!busy && !m_nodeMaps.isEmpty());
+}
+
+void Comparison::askForFile()
+{
+    const QString fileName = QFileDialog::getOpenFileName(m_window, tr("Compare With a Settings File"));
+    if (!fileName.isEmpty()) {
+        compareWithFile(fileName);
+    }
+}
+
+void Comparison::compareWithFile(const QString &fileName)
+{
+    try {
+        compareWith(QFileInfo(fileName).fileName(), FeatureSettings::load(fileName), false);
+    } catch (const Core::Exception::BaseException &exception) {
+        emit failed(exception.getMessage(), QString());
+    }
+}
+
+void Comparison::compareWithOpened()
+{
+    compareWith(tr("the state when opened"), m_opened, true);
+}
+
+void Comparison::askForDescription()
+{
+    const QString fileName =
+        QFileDialog::getOpenFileName(m_window, tr("Compare With Another Description"), QString(),
+                                     tr("Camera descriptions (*.xml *.zip);;All files (*)"));
+    if (fileName.isEmpty()) {
+        return;
+    }
+    try {
+        compareWith(Cameras::Camera::openDescription(fileName));
+    } catch (const Core::Exception::BaseException &exception) {
+        emit failed(exception.getMessage(), QString());
+    }
+}
+
+void Comparison::askForCamera()
+{
+    CameraDialog dialog(m_window);
+    if (dialog.exec() != QDialog::Accepted || dialog.cameraId().isEmpty()) {
+        return;
+    }
+    try {
+        compareWith(Cameras::Camera::openLive(dialog.cameraId()));
+    } catch (const Core::Exception::BaseException &exception) {
+        emit failed(exception.getMessage(), QString());
+    }
+}
+
+void Comparison::compareWith(std::unique_ptr<Cameras::Camera> other)
+{
+    if (!canStart()) {
+        return;
+    }
+    m_other = std::move(other);
+    m_reader = std::make_unique<SettingsReader>(settingsNodeMaps(*m_other));
+    emit taskCreated(m_reader.get()); // whose receivers hear of the end first
+    connect(m_reader.get(), SIGNAL(finished()), this, SLOT(onOtherRead()));
+    m_reader->start();
+}
+
+void Comparison::onOtherRead()
+{
+    const bool isComplete = !m_reader->isCancelled() && !m_reader->isLost();
+    const FeatureSettings there = m_reader->settings();
+    const auto info = m_other->info();
+    m_reader.release()->deleteLater(); // it is the sender
+    m_other.reset();
+    if (isComplete) {
+        compareWith(QStringLiteral("%1 %2").arg(info->modelName(), info->serialNumber()).trimmed(), there,
+                    false);
+    }
+}
+
+void Comparison::compareWith(const QString &title, const FeatureSettings &there, bool onlyKnown)
+{
+    m_title = title;
+    m_there = there;
+    m_onlyKnown = onlyKnown;
+    compareAgain();
+}
+
+void Comparison::compareAgain()
+{
+    if (!canStart()) {
+        return;
+    }
+    m_reader = std::make_unique<SettingsReader>(m_nodeMaps);
+    emit taskCreated(m_reader.get());
+    connect(m_reader.get(), SIGNAL(finished()), this, SLOT(onHereRead()));
+    m_reader->start();
+}
+
+void Comparison::onHereRead()
+{
+    const bool isComplete = !m_reader->isCancelled() && !m_reader->isLost();
+    const FeatureSettings here = m_reader->settings();
+    m_reader.release()->deleteLater(); // it is the sender
+    if (isComplete) {
+        m_panel->setComparison(m_title, m_onlyKnown ? onlyThoseOf(m_there, here) : here, m_there);
+        emit compared();
+    }
+}
+
+void Comparison::takeOver(const FeatureSettings &settings)
+{
+    if (!canStart()) {
+        return;
+    }
+    m_applier = std::make_unique<SettingsApplier>(settings, m_nodeMaps);
+    emit taskCreated(m_applier.get());
+    connect(m_applier.get(), SIGNAL(finished()), this, SLOT(onTakenOver()));
+    m_applier->start();
+}
+
+void Comparison::onTakenOver()
+{
+    const std::unique_ptr<SettingsApplier, void (*)(SettingsApplier *)> applier(
+        m_applier.release(), [](SettingsApplier *sender) { sender->deleteLater(); });
+    emit applied(m_title, applier->settings(), applier->former(), applier->report());
+    if (!applier->report().isSuccess()) {
+        emit failed(applier->report().summary(), applier->report().problems().join(QLatin1Char('\n')));
+    }
+    if (!applier->isLost()) {
+        compareAgain();
+    }
+}

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "changehistorywidget.h"
+
+#include "changehistory.h"
+
+#include <zeltoviewercomponents/errorhandling/messagefunctions.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSaveFile>
+#include <QSortFilterProxyModel>
+#include <QStyle>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// One line, whatever a text feature holds.
+QString escaped(QString text)
+{
+    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+        .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+        .replace(QLatin1Char('\r'), QLatin1String("\\r"))
+        .replace(QLatin1Char('\t'), QLatin1String("\\t"));
+}
+
+} // namespace
+
+ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent)
+    : QWidget(parent)
+    , m_history(history)
+    , m_search(new QLineEdit(this))
+    , m_view(new QTreeView(this))
+    , m_filter(new QSortFilterProxyModel(this))
+    , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
+    , m_putBackBefore(addListAction(tr("Put &Back the Value Before"), SLOT(putBackBefore())))
+    , m_putBackAfter(addListAction(tr("Set the Value &After Again"), SLOT(putBackAfter())))
+    , m_copy(addListAction(tr("&Copy"), SLOT(copy())))
+    , m_save(addListAction(tr("&Save as Text…"), SLOT(save())))
+{
+    setObjectName(QStringLiteral("changes"));
+    setWindowTitle(tr("Changes"));
+    setToolTip(tr("What was changed since the camera was opened"));
+    m_filter->setFilterKeyColumn(-1);
+    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filter->setSourceModel(history->changes());
+    m_copy->setShortcut(QKeySequence::Copy);
+    m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    layOut();
+    connect(m_search, SIGNAL(textChanged(QString)), this, SLOT(search(QString)));
+    connect(m_view, SIGNAL(doubleClicked(QModelIndex)), this, SLOT(goToFeature()));
+    connect(m_view, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showMenu(QPoint)));
+    connect(m_view->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,
+            SLOT(updateActions()));
+    connect(m_filter, SIGNAL(modelReset()), this, SLOT(updateActions()));
+    updateActions();
+}
+
+ChangeHistoryWidget::~ChangeHistoryWidget() = default;
+
+QAction *ChangeHistoryWidget::addListAction(const QString &text, const char *slot)
+{
+    auto *const action = new QAction(text, this);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, SIGNAL(triggered()), this, slot);
+    return action;
+}
+
+void ChangeHistoryWidget::layOut()
+{
+    m_search->setPlaceholderText(tr("Search changes"));
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_search->setClearButtonEnabled(true);
+    auto *const saveButton = new QToolButton(this);
+    saveButton->setDefaultAction(m_save);
+    saveButton->setAutoRaise(true);
+
+    m_view->setModel(m_filter);
+    m_view->setAccessibleName(windowTitle());
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setAlternatingRowColors(true);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->addAction(m_copy);
+    m_view->installEventFilter(this);
+    const int width = fontMetrics().averageCharWidth();
+    m_view->header()->resizeSection(ChangeHistory::TimeColumn,
+                                    fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + 4 * width);
+    m_view->header()->resizeSection(ChangeHistory::NameColumn, 26 * width);
+    m_view->header()->resizeSection(ChangeHistory::BeforeColumn, 14 * width);
+    m_view->header()->resizeSection(ChangeHistory::AfterColumn, 14 * width);
+
+    auto *const top = new QHBoxLayout;
+    top->addWidget(m_search, 1);
+    top->addWidget(saveButton);
+    auto *const layout = new QVBoxLayout(this);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) / 2;
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addLayout(top);
+    layout->addWidget(m_view, 1);
+    setFocusProxy(m_view);
+}
+
+QModelIndex ChangeHistoryWidget::current() const
+{
+    return m_filter->mapToSource(m_view->currentIndex());
+}
+
+void ChangeHistoryWidget::search(const QString &text)
+{
+    m_filter->setFilterFixedString(text);
+}
+
+// QAbstractItemView leaves it to the platform whether Enter activates a row; here it always goes there.
+bool ChangeHistoryWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            goToFeature();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ChangeHistoryWidget::updateActions()
+{
+    const Change change = m_history ? m_history->change(current()) : Change();
+    const bool isValue = change.kind == Change::Kind::Value;
+    m_go->setEnabled(current().isValid() && change.kind != Change::Kind::File);
+    m_putBackBefore->setEnabled(isValue && !change.before.isNull());
+    m_putBackAfter->setEnabled(isValue && !change.after.isNull());
+    m_copy->setEnabled(current().isValid());
+}
+
+void ChangeHistoryWidget::goToFeature()
+{
+    const QString name = current().data(ChangeHistory::NameRole).toString();
+    if (!name.isEmpty()) {
+        emit featureRequested(name);
+    }
+}
+
+void ChangeHistoryWidget::putBack(int column)
+{
+    if (m_history) {
+        m_history->putBack(current(), static_cast<ChangeHistory::Column>(column));
+    }
+}
+
+void ChangeHistoryWidget::putBackBefore()
+{
+    putBack(ChangeHistory::BeforeColumn);
+}
+
+void ChangeHistoryWidget::putBackAfter()
+{
+    putBack(ChangeHistory::AfterColumn);
+}
+
+QString ChangeHistoryWidget::lineOf(const QModelIndex &index) const
+{
+    const Change change = m_history->change(m_filter->mapToSource(index));
+    const QString result = index.siblingAtColumn(ChangeHistory::ResultColumn).data().toString();
+    const QString path = change.kind == Change::Kind::File
+        ? change.name
+        : change.name.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/') + change.title();
+    return QStringList{QDateTime::fromMSecsSinceEpoch(change.time).toString(Qt::ISODateWithMs), escaped(path),
+                       escaped(change.shown(change.before)), escaped(change.shown(change.after)),
+                       escaped(result)}
+        .join(QLatin1Char('\t'));
+}
+
+QString ChangeHistoryWidget::text() const
+{
+    QString text;
+    for (int row = 0; m_history && row < m_filter->rowCount(); ++row) {
+        text += lineOf(m_filter->index(row, 0)) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+void ChangeHistoryWidget::copy()
+{
+    QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const QModelIndex &row : std::as_const(rows)) {
+        lines.append(lineOf(row));
+    }
+    QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void ChangeHistoryWidget::save()
+{
+    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Changes as Text"), QString(),
+                                                          tr("Text files (*.txt);;All files (*)"));
+    if (fileName.isEmpty()) {
+        return;
+    }
+    QSaveFile file(fileName);
+    const QByteArray bytes = text().toUtf8();
+    if (!file.open(QSaveFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        showErrorMessage(tr("Cannot write %1: %2").arg(fileName, file.errorString()), this);
+    }
+}
+
+void ChangeHistoryWidget::showMenu(const QPoint &pos)
+{
+    updateActions();
+    QMenu menu(this);
+    menu.addActions({m_go, m_putBackBefore, m_putBackAfter});
+    menu.addSeparator();
+    menu.addActions({m_copy, m_save});
+    menu.exec(m_view->viewport()->mapToGlobal(pos));
+}

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+class ChangeHistory;
+class QAction;
+class QLineEdit;
+class QModelIndex;
+class QPoint;
+class QSortFilterProxyModel;
+class QTreeView;
+
+/*! \brief Lists the changes of a history, the newest first, with a search over all columns.
+ *
+ * A double click or Enter asks the host to go to the feature; the context menu puts values back, copies and
+ * saves what is listed.
+ */
+class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ChangeHistoryWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ChangeHistoryWidget(ChangeHistory *history, QWidget *parent = nullptr);
+    ~ChangeHistoryWidget() override;
+
+    /*! Returns the listed changes as lines of text with tabs between the columns. */
+    QString text() const;
+
+signals:
+    /*! The user wants to see the feature of that full name. */
+    void featureRequested(const QString &fullName);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    void search(const QString &text);
+    void goToFeature();
+    void putBackBefore();
+    void putBackAfter();
+    void copy();
+    void save();
+    void showMenu(const QPoint &pos);
+    void updateActions();
+
+private:
+    QAction *addListAction(const QString &text, const char *slot);
+    void layOut();
+    void putBack(int column);
+    QString lineOf(const QModelIndex &index) const;
+    QModelIndex current() const;
+
+    QPointer<ChangeHistory> m_history;
+    QLineEdit *m_search;
+    QTreeView *m_view;
+    QSortFilterProxyModel *m_filter;
+    QAction *m_go;
+    QAction *m_putBackBefore;
+    QAction *m_putBackAfter;
+    QAction *m_copy;
+    QAction *m_save;
+};

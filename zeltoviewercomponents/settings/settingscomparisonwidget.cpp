@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "settingscomparisonwidget.h"
+
+#include "differencelist_p.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using Kind = SettingsDifference::Kind;
+
+SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
+    : QWidget(parent)
+    , m_list(new DifferenceList(this))
+    , m_filter(new DifferenceFilter(this))
+    , m_view(new QTreeView(this))
+    , m_title(new QLabel(this))
+    , m_search(new QLineEdit(this))
+    , m_kinds{new QCheckBox(this), new QCheckBox(this), new QCheckBox(this)}
+    , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
+    , m_takeOver(addListAction(tr("&Take Over"), SLOT(takeOver())))
+    , m_takeOverAll(addListAction(tr("Take Over &All"), SLOT(takeOverAll())))
+    , m_refresh(addListAction(tr("Compare A&gain"), SIGNAL(refreshRequested())))
+{
+    setObjectName(QStringLiteral("differences"));
+    setWindowTitle(tr("Differences"));
+    setToolTip(tr("In what the camera differs from a file, another camera or how it was"));
+    m_takeOver->setToolTip(tr("Sets the values from there that are selected"));
+    m_takeOverAll->setToolTip(tr("Sets all values from there that are shown"));
+    m_refresh->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
+    m_filter->setSourceModel(m_list);
+    m_filter->setFilterKeyColumn(-1);
+    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    layOut();
+    for (QCheckBox *const kind : m_kinds) {
+        kind->setChecked(true);
+        connect(kind, SIGNAL(toggled(bool)), this, SLOT(onKindToggled()));
+    }
+    connect(m_search, SIGNAL(textChanged(QString)), this, SLOT(search(QString)));
+    connect(m_view, SIGNAL(doubleClicked(QModelIndex)), this, SLOT(goToFeature()));
+    connect(m_view, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showMenu(QPoint)));
+    connect(m_view->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
+            SLOT(updateActions()));
+    clear();
+}
+
+SettingsComparisonWidget::~SettingsComparisonWidget() = default;
+
+QAction *SettingsComparisonWidget::addListAction(const QString &text, const char *slot)
+{
+    auto *const action = new QAction(text, this);
+    connect(action, SIGNAL(triggered()), this, slot);
+    return action;
+}
+
+void SettingsComparisonWidget::layOut()
+{
+    m_title->setWordWrap(true);
+    m_search->setPlaceholderText(tr("Search differences"));
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_search->setClearButtonEnabled(true);
+    m_view->setModel(m_filter);
+    m_view->setAccessibleName(windowTitle());
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setAlternatingRowColors(true);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_view->installEventFilter(this);
+    m_view->header()->resizeSection(DifferenceList::NameColumn, 30 * fontMetrics().averageCharWidth());
+
+    const auto buttonFor = [this](QAction *action) {
+        auto *const button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setFocusPolicy(Qt::TabFocus);
+        return button;
+    };
+    auto *const top = new QHBoxLayout;
+    top->addWidget(m_search, 1);
+    top->addWidget(buttonFor(m_refresh));
+    auto *const kinds = new QHBoxLayout;
+    for (const Kind kind : {Kind::Different, Kind::OnlyHere, Kind::OnlyThere}) {
+        kinds->addWidget(m_kinds[static_cast<size_t>(kind)]);
+    }
+    kinds->addStretch(1);
+    auto *const bottom = new QHBoxLayout;
+    bottom->addWidget(buttonFor(m_takeOver));
+    bottom->addWidget(buttonFor(m_takeOverAll));
+    bottom->addStretch(1);
+    auto *const layout = new QVBoxLayout(this);
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) / 2;
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(m_title);
+    layout->addLayout(top);
+    layout->addLayout(kinds);
+    layout->addWidget(m_view, 1);
+    layout->addLayout(bottom);
+    setFocusProxy(m_view);
+}
+
+void SettingsComparisonWidget::setComparison(const QString &title, const FeatureSettings &here,
+                                             const FeatureSettings &there)
+{
+    m_list->setDifferences(compare(here, there));
+    m_hasComparison = true;
+    m_title->setText(m_list->differences().isEmpty() ? tr("No difference from %1").arg(title)
+                                                     : tr("Differences from %1").arg(title));
+    updateCounts();
+    updateActions();
+}
+
+void SettingsComparisonWidget::clear()
+{
+    m_list->setDifferences({});
+    m_hasComparison = false;
+    m_title->setText(tr("Nothing is compared."));
+    updateCounts();
+    updateActions();
+}
+
+void SettingsComparisonWidget::setTakingOver(bool isPossible)
+{
+    m_canTakeOver = isPossible;
+    updateActions();
+}
+
+void SettingsComparisonWidget::updateCounts()
+{
+    std::array<int, 3> counts{};
+    for (const SettingsDifference &difference : m_list->differences()) {
+        ++counts[static_cast<size_t>(difference.kind)];
+    }
+    const auto label = [this, &counts](Kind kind, const QString &text) {
+        m_kinds[static_cast<size_t>(kind)]->setText(text.arg(counts[static_cast<size_t>(kind)]));
+    };
+    label(Kind::Different, tr("&Different (%1)"));
+    label(Kind::OnlyHere, tr("Only &here (%1)"));
+    label(Kind::OnlyThere, tr("Only th&ere (%1)"));
+}
+
+void SettingsComparisonWidget::onKindToggled()
+{
+    for (size_t kind = 0; kind < m_kinds.size(); ++kind) {
+        m_filter->setShown(static_cast<Kind>(kind), m_kinds[kind]->isChecked());
+    }
+    updateActions();
+}
+
+void SettingsComparisonWidget::search(const QString &text)
+{
+    m_filter->setFilterFixedString(text);
+    updateActions();
+}
+
+bool SettingsComparisonWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            goToFeature();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void SettingsComparisonWidget::updateActions()
+{
+    const auto rows = m_view->selectionModel()->selectedRows();
+    const bool hasValue = std::any_of(rows.cbegin(), rows.cend(), [this](const QModelIndex &row) {
+        return m_filter->difference(row).kind != Kind::OnlyHere;
+    });
+    m_go->setEnabled(m_view->currentIndex().isValid());
+    m_takeOver->setEnabled(m_canTakeOver && hasValue);
+    m_takeOverAll->setEnabled(m_canTakeOver && m_filter->rowCount() > 0);
+    m_refresh->setEnabled(m_hasComparison);
+}
+
+// What is only here has no value there that could be taken.
+void SettingsComparisonWidget::emitTakeOver(const QList<QModelIndex> &rows)
+{
+    QList<FeatureSettings::Setting> settings;
+    for (const QModelIndex &row : rows) {
+        if (m_filter->difference(row).kind != Kind::OnlyHere) {
+            settings.append(m_filter->difference(row).there);
+        }
+    }
+    if (!settings.isEmpty()) {
+        emit takeOverRequested(FeatureSettings::of(settings));
+    }
+}
+
+void SettingsComparisonWidget::takeOver()
+{
+    QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end()); // features may depend on those before them
+    emitTakeOver(rows);
+}
+
+void SettingsComparisonWidget::takeOverAll()
+{
+    QList<QModelIndex> rows;
+    for (int row = 0; row < m_filter->rowCount(); ++row) {
+        rows.append(m_filter->index(row, 0));
+    }
+    emitTakeOver(rows);
+}
+
+void SettingsComparisonWidget::goToFeature()
+{
+    const QModelIndex current = m_view->currentIndex();
+    if (current.isValid()) {
+        const SettingsDifference &difference = m_filter->difference(current);
+        const auto &feature = difference.kind == Kind::OnlyThere ? difference.there : difference.here;
+        emit featureRequested(feature.nodeMap + QLatin1Char('/') + feature.name);
+    }
+}
+
+void SettingsComparisonWidget::showMenu(const QPoint &pos)
+{
+    updateActions();
+    QMenu menu(this);
+    menu.addActions({m_go, m_takeOver, m_takeOverAll});
+    menu.addSeparator();
+    menu.addAction(m_refresh);
+    menu.exec(m_view->viewport()->mapToGlobal(pos));
+}
