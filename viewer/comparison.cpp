@@ -7,6 +7,7 @@
 #include "settingsorigin.h"
 
 #include <cameras/camera.h>
+#include <cameras/cameraopening.h>
 #include <platform/core/exception.h>
 #include <zeltoviewercomponents/settings/presentsettings.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
@@ -16,6 +17,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
+#include <QProgressDialog>
 #include <QSet>
 #include <QTimer>
 
@@ -83,6 +85,7 @@ void Comparison::takeOpened()
 
 void Comparison::close()
 {
+    endOpening();
     m_reader.reset();
     m_applier.reset();
     m_other.reset();
@@ -93,7 +96,7 @@ void Comparison::close()
 
 bool Comparison::canStart() const
 {
-    return !m_isBusy && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
+    return !m_isBusy && !m_opening && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
 }
 
 void Comparison::setBusy(bool busy)
@@ -133,24 +136,54 @@ void Comparison::askForDescription()
     if (fileName.isEmpty()) {
         return;
     }
-    try {
-        compareWith(Cameras::Camera::openDescription(fileName));
-    } catch (const Core::Exception::BaseException &exception) {
-        emit failed(exception.getMessage(), QString());
-    }
+    openOther(Cameras::Camera::openDescriptionAsync(fileName), QFileInfo(fileName).fileName());
 }
 
 void Comparison::askForCamera()
 {
     CameraDialog dialog(m_window);
-    if (dialog.exec() != QDialog::Accepted || dialog.cameraId().isEmpty()) {
+    if (dialog.exec() == QDialog::Accepted && !dialog.cameraId().isEmpty()) {
+        openOther(Cameras::Camera::openLiveAsync(dialog.cameraId()), dialog.cameraId());
+    }
+}
+
+void Comparison::openOther(std::unique_ptr<Cameras::CameraOpening> opening, const QString &name)
+{
+    if (!canStart()) {
         return;
     }
-    try {
-        compareWith(Cameras::Camera::openLive(dialog.cameraId()));
-    } catch (const Core::Exception::BaseException &exception) {
-        emit failed(exception.getMessage(), QString());
+    m_opening = std::move(opening);
+    connect(m_opening.get(), SIGNAL(opened()), this, SLOT(onOtherOpened()));
+    connect(m_opening.get(), SIGNAL(failed(QString)), this, SLOT(onOtherFailed(QString)));
+    m_progress =
+        std::make_unique<QProgressDialog>(tr("Opening %1…").arg(name), tr("Cancel"), 0, 0, m_window);
+    m_progress->setWindowModality(Qt::WindowModal);
+    m_progress->setMinimumDuration(500);
+    connect(m_progress.get(), SIGNAL(canceled()), this, SLOT(endOpening()));
+}
+
+// Either may be the sender of what ends the opening.
+void Comparison::endOpening()
+{
+    if (m_opening) {
+        m_opening->cancel();
+        m_opening.release()->deleteLater();
+        m_progress->hide();
+        m_progress.release()->deleteLater();
     }
+}
+
+void Comparison::onOtherOpened()
+{
+    std::unique_ptr<Cameras::Camera> other = m_opening->takeCamera();
+    endOpening();
+    compareWith(std::move(other));
+}
+
+void Comparison::onOtherFailed(const QString &reason)
+{
+    endOpening();
+    emit failed(reason, QString());
 }
 
 void Comparison::compareWith(std::unique_ptr<Cameras::Camera> other)

@@ -14,6 +14,7 @@
 
 class QAction;
 class QMenu;
+class QProgressDialog;
 class SettingsApplier;
 class SettingsComparisonWidget;
 class SettingsReader;
@@ -21,7 +22,8 @@ class SettingsReport;
 
 namespace Cameras {
 class Camera;
-}
+class CameraOpening;
+} // namespace Cameras
 
 /*! \brief Compares the open camera with a file, with how it was when it was opened, and with others. */
 class Comparison : public QObject
@@ -65,6 +67,9 @@ private slots:
     void compareWithOpened();
     void askForDescription();
     void askForCamera();
+    void endOpening();
+    void onOtherOpened();
+    void onOtherFailed(const QString &reason);
     void onOtherRead();
     void onHereRead();
     void compareAgain();
@@ -72,6 +77,7 @@ private slots:
     void onTakenOver();
 
 private:
+    void openOther(std::unique_ptr<Cameras::CameraOpening> opening, const QString &name);
     void compareWith(std::unique_ptr<Cameras::Camera> other);
     void compareWith(const QString &title, const FeatureSettings &there, bool onlyKnown);
     bool canStart() const;
@@ -85,6 +91,8 @@ private:
     FeatureSettings m_there;
     bool m_isBusy = false;
     bool m_onlyKnown = false; // features that are only here tell nothing
+    std::unique_ptr<Cameras::CameraOpening> m_opening; // of another camera
+    std::unique_ptr<QProgressDialog> m_progress; // as long as that takes
     std::unique_ptr<Cameras::Camera> m_other; // while it is read
     std::unique_ptr<SettingsReader> m_reader;
     std::unique_ptr<SettingsApplier> m_applier;

@@ -260,7 +260,8 @@ void TestPlugins::watchGoesOnAfterReconnecting()
     QTRY_COMPARE(rows->index(0, 1).data().toString(), "0");
     auto *const control = service<ZeltoViewer::IZeltoViewerControlledCameraControlService>();
     QVERIFY(control->setCameraOpen(false));
-    QVERIFY(control->setCameraOpen(true));
+    control->setCameraOpen(true);
+    QTRY_VERIFY(m_window->isCameraOpen());
     m_window->settings()->nodeMaps().first().collection->parameter("Gain")->setValueFromString("3");
     QTRY_COMPARE(rows->index(0, 1).data().toString(), "3");
     QVERIFY(m_window->isCameraOpen());

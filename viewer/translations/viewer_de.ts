@@ -802,6 +802,14 @@ Trotzdem laden?</translation>
 <context>
     <name>Comparison</name>
     <message>
+        <source>Opening %1…</source>
+        <translation>%1 wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
         <source>Compare &amp;With</source>
         <translation>&amp;Vergleichen mit</translation>
     </message>
