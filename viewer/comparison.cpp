@@ -155,8 +155,7 @@ void Comparison::openOther(std::unique_ptr<Cameras::CameraOpening> opening, cons
     m_opening = std::move(opening);
     connect(m_opening.get(), SIGNAL(opened()), this, SLOT(onOtherOpened()));
     connect(m_opening.get(), SIGNAL(failed(QString)), this, SLOT(onOtherFailed(QString)));
-    m_progress =
-        std::make_unique<QProgressDialog>(tr("Opening %1…").arg(name), tr("Cancel"), 0, 0, m_window);
+    m_progress = std::make_unique<QProgressDialog>(tr("Opening %1…").arg(name), tr("Cancel"), 0, 0, m_window);
     m_progress->setWindowModality(Qt::WindowModal);
     m_progress->setMinimumDuration(500);
     connect(m_progress.get(), SIGNAL(canceled()), this, SLOT(endOpening()));

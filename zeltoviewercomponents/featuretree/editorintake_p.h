@@ -15,7 +15,10 @@
 /*! \brief How data comes into the editors: what is taken, and what is logged of the rest. */
 namespace EditorIntake {
 
-/*! \brief The kind of feature whose snapshots are \a Data: its interface and its name in log entries. */
+/*! \brief The kind of feature whose snapshots are \a Data: its interface and its name in log entries.
+ *
+ * \ingroup editors
+ */
 template <typename Data>
 struct Kind;
 

@@ -36,7 +36,10 @@ void finishKeyPress(QKeyEvent *event, const QLineEdit &lineEdit,
                     const std::function<void(QKeyEvent *)> &press);
 
 /*! \brief Keeps a text selected as a whole while another one takes its place: what is typed next replaces it.
- * A part of a text is no part of the next one, and is selected no longer. */
+ * A part of a text is no part of the next one, and is selected no longer.
+ *
+ * \ingroup editors
+ */
 class SelectedText
 {
 public:
@@ -51,7 +54,10 @@ private:
     QString m_selected;
 };
 
-/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes. */
+/*! \brief Leaves the text that is being typed into a line edit as it is while what is below it changes.
+ *
+ * \ingroup editors
+ */
 class TypedText
 {
 public:

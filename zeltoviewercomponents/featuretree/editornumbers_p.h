@@ -39,7 +39,10 @@ double withoutNoise(double value);
 double sumWithoutNoise(double a, double b);
 
 /*! \brief What a control makes of the limits of a feature: they are finite and in order, the increment is 0
- * when there is none. */
+ * when there is none.
+ *
+ * \ingroup editors
+ */
 struct FloatLimits
 {
     /*! Returns whether there are two limits: those as far away as numbers go are none. */

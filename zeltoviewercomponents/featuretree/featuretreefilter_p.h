@@ -24,6 +24,8 @@ class FeatureTreeItem;
  * matches, or one below it does. With a text, all branches are loaded and the whole tree is judged in one
  * pass; the verdicts stand beside the numbers of the search index. Without one, the rows that no search has
  * numbered are judged one by one, which loads no more than it takes to find the first that matches.
+ *
+ * \ingroup search
  */
 class FeatureTreeFilter
 {

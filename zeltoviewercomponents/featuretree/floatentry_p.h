@@ -7,7 +7,10 @@
 #include "numberstep_p.h"
 
 /*! \brief What a floating-point editor makes of what the user enters: the limits, what the entry is compared
- * with, and the step under way. */
+ * with, and the step under way.
+ *
+ * \ingroup editors
+ */
 struct FloatEntry
 {
     /*! Returns \a number within the limits and on the grid. What the camera holds stays as it is when it is

@@ -13,6 +13,8 @@
  *
  * QIcon decodes all pictures that it is given, which takes milliseconds and megabytes for large ones that
  * nobody ever sees.
+ *
+ * \ingroup view
  */
 class SizedIconEngine : public QIconEngine
 {

@@ -14,7 +14,10 @@
 class NumberStep;
 struct FloatEntry;
 
-/*! \brief How the positions of a slider divide the range of values. */
+/*! \brief How the positions of a slider divide the range of values.
+ *
+ * \ingroup controls
+ */
 enum class ETwoModeDoubleComboSliderMode {
     Linear, //!< equal distances are equal differences
     Logarithmic, //!< equal distances are equal ratios; linear where the minimum is not positive

@@ -12,6 +12,8 @@
 #include <QString>
 
 /*! \brief One line of a history of changes: a value that was written, a command, or a file that was applied.
+ *
+ * \ingroup settings
  */
 struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT Change
 {

@@ -37,6 +37,8 @@ class SettingsApplier;
  * Undoing and redoing write to the parameter first, under the selectors that held when it was changed; a
  * refusal is shown as any other, and the step stays where it is. The history holds the node maps until
  * clear(), and 100,000 lines and steps at most.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ChangeHistory : public QObject
 {

@@ -21,6 +21,8 @@ class QTreeView;
  *
  * A double click or Enter asks the host to go to the feature; the context menu puts values back, copies and
  * saves what is listed.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ChangeHistoryWidget : public QWidget
 {

@@ -14,6 +14,8 @@
 /*! \brief The lines of a history, the newest first, as a model.
  *
  * Adding a line costs next to nothing: views hear of it when the event loop comes round.
+ *
+ * \ingroup settings
  */
 class ChangeList : public QAbstractTableModel
 {

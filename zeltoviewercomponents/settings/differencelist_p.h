@@ -11,7 +11,10 @@
 
 #include <array>
 
-/*! \brief The differences of two settings as a model: the feature, its value here, its value there. */
+/*! \brief The differences of two settings as a model: the feature, its value here, its value there.
+ *
+ * \ingroup settings
+ */
 class DifferenceList : public QAbstractTableModel
 {
     Q_OBJECT
@@ -34,7 +37,10 @@ private:
     QList<SettingsDifference> m_differences;
 };
 
-/*! \brief Those of a DifferenceList whose kinds are switched on. */
+/*! \brief Those of a DifferenceList whose kinds are switched on.
+ *
+ * \ingroup settings
+ */
 class DifferenceFilter : public QSortFilterProxyModel
 {
     Q_OBJECT

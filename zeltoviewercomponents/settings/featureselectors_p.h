@@ -18,6 +18,8 @@
 /*! \brief Which features select others, by the descriptions of a camera's node maps.
  *
  * What is written to a feature that others select lands where these point to.
+ *
+ * \ingroup settings
  */
 class FeatureSelectors
 {

@@ -23,6 +23,8 @@ class QIODevice;
  * IParameter::setValueFromString() takes it. Lines that begin with "#" are comments; some of them, "# Model:"
  * and the like, tell what the file is about. Files without any of these load as well, and may have blanks in
  * place of the tab.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureSettings
 {

@@ -17,6 +17,8 @@
  * event loop.
  *
  * Lives until the batch has come to its end, and then deletes itself.
+ *
+ * \ingroup settings
  */
 class LoopBatchRunner : public QObject, public ParameterCollection::IBatchRunner
 {

@@ -18,6 +18,8 @@
  * Features that have their value already are not written. What is refused is tried again after the others
  * until nothing more succeeds, so that the order of features that limit each other does not matter. In the
  * end all is read back.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsApplier : public SettingsTask
 {

@@ -21,6 +21,8 @@
  * One pass over all features, passes over those that do not have their value as long as each helps some of
  * them, and a last look at all once anything was written. Selectors are stepped along, and end as the
  * settings say.
+ *
+ * \ingroup settings
  */
 class SettingsApplying : public SettingsScript
 {

@@ -9,7 +9,10 @@
 
 #include <QList>
 
-/*! \brief One feature in which two FeatureSettings differ. */
+/*! \brief One feature in which two FeatureSettings differ.
+ *
+ * \ingroup settings
+ */
 struct SettingsDifference
 {
     enum class Kind { OnlyHere, OnlyThere, Different };

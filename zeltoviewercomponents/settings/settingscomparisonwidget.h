@@ -27,6 +27,8 @@ class QTreeView;
  *
  * "Here" is the open camera, "there" what it is compared with. A double click or Enter asks to go to the
  * feature.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsComparisonWidget : public QWidget
 {

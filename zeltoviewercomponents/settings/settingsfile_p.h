@@ -11,7 +11,10 @@
 #include <QIODevice>
 #include <QString>
 
-/*! \brief The text form of FeatureSettings. */
+/*! \brief The text form of FeatureSettings.
+ *
+ * \ingroup settings
+ */
 class SettingsFile
 {
     Q_DECLARE_TR_FUNCTIONS(SettingsFile)

@@ -7,7 +7,10 @@
 #include <QString>
 #include <QStringList>
 
-/*! \brief Which features of a node map select which. */
+/*! \brief Which features of a node map select which.
+ *
+ * \ingroup settings
+ */
 class SettingsGraph
 {
 public:

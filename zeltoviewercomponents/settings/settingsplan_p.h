@@ -14,7 +14,10 @@
 #include <QString>
 #include <QStringList>
 
-/*! \brief What is fixed about the features of a node map, as far as settings are about it. */
+/*! \brief What is fixed about the features of a node map, as far as settings are about it.
+ *
+ * \ingroup settings
+ */
 struct SettingsPlan
 {
     struct Feature

@@ -15,6 +15,8 @@ class SettingsTask;
  *
  * Appears when the task takes longer than half a second, and goes with its end. Create it before the task is
  * started.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsProgress : public QProgressDialog
 {

@@ -17,6 +17,8 @@
  * and written now. Features that others select are read once for each available entry of their selectors
  * (integers: up to 256 values). Every selector is left as it was, whatever happens. Contents of plain
  * registers, look-up tables and files stay out.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReader : public SettingsTask
 {

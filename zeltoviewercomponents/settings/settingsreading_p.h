@@ -14,7 +14,10 @@
 
 #include <memory>
 
-/*! \brief Reads the settings of one node map. */
+/*! \brief Reads the settings of one node map.
+ *
+ * \ingroup settings
+ */
 class SettingsReading : public SettingsScript
 {
     Q_DECLARE_TR_FUNCTIONS(SettingsReading)

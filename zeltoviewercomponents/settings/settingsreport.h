@@ -12,7 +12,10 @@
 #include <QString>
 #include <QStringList>
 
-/*! \brief What came of applying settings to a camera, feature by feature. */
+/*! \brief What came of applying settings to a camera, feature by feature.
+ *
+ * \ingroup settings
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReport
 {
     Q_DECLARE_TR_FUNCTIONS(SettingsReport)

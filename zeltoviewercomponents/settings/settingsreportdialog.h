@@ -12,7 +12,10 @@
 class QCheckBox;
 class QTreeWidget;
 
-/*! \brief Shows what came of applying settings, the features with problems first of all. */
+/*! \brief Shows what came of applying settings, the features with problems first of all.
+ *
+ * \ingroup settings
+ */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReportDialog : public QDialog
 {
     Q_OBJECT

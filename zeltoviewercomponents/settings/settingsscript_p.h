@@ -20,6 +20,8 @@
  * Steps lie on a stack: those that a step adds are done before the ones below. A step may ask for one access,
  * whose outcome its handler gets. When the batch is cancelled only the steps that clean up are left; when the
  * camera is lost, none. Runs on any thread; cancel() and setListener() may be called from another.
+ *
+ * \ingroup settings
  */
 class SettingsScript : public ParameterCollection::IBatch
 {

@@ -15,7 +15,10 @@
 
 class SettingsScript;
 
-/*! \brief A node map of the camera that settings are read from or applied to. */
+/*! \brief A node map of the camera that settings are read from or applied to.
+ *
+ * \ingroup settings
+ */
 struct SettingsNodeMap
 {
     QString name; //!< such as "@CameraDevice"
@@ -28,6 +31,8 @@ struct SettingsNodeMap
  * (ParameterCollection::IBatchRunner), else with one access to a feature in each turn of the event loop. All
  * functions are called on the thread of the task, all signals are sent there. Between started() and
  * finished() the host keeps others, such as a feature tree, from writing and polling.
+ *
+ * \ingroup settings
  */
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsTask : public QObject
 {

@@ -15,7 +15,7 @@
  * would wrongly count as written. Belongs to the parameter and is shared by all its rows, whether they take
  * snapshots at present or not.
  *
- * \ingroup items
+ * \ingroup settings
  */
 class UnansweredWrites : public QObject
 {
