@@ -116,11 +116,16 @@ int dumpTree(MainWindow &window, const Options &options)
     return finish(out);
 }
 
-void lookAt(FeatureTreeWidget &tree, const Options &options)
+void setLevel(FeatureTreeWidget &tree, const Options &options)
 {
-    if (options.visibility) {
+    if (options.visibility && *options.visibility != tree.visibility()) {
         tree.onVisibilityChanged(*options.visibility);
     }
+}
+
+void lookAt(FeatureTreeWidget &tree, const Options &options)
+{
+    setLevel(tree, options); // the camera may have been looked at with another one
     if (options.expand) {
         tree.treeView()->expandEverything();
     }
@@ -202,10 +207,12 @@ int run(const Options &options)
         QObject::connect(
             &window, &MainWindow::cameraOpened, &tree, [&] { lookAt(tree, options); },
             Qt::SingleShotConnection);
+        setLevel(tree, options); // before there are rows that would be laid out twice
         window.openCamera(address);
         return show(window, options);
     }
     window.setRemembering(false);
+    setLevel(tree, options);
     window.showCamera(address, cameraAt(address));
     lookAt(tree, options);
     return options.dump || options.favorites ? dumpTree(window, options) : show(window, options);

@@ -3,7 +3,6 @@
 
 #include "playedcamera.h"
 
-#include <QHostAddress>
 #include <QMutexLocker>
 #include <QSemaphore>
 #include <QUdpSocket>
@@ -48,7 +47,7 @@ QByteArray PlayedCamera::description()
         + "<Port Name=\"Device\"/></RegisterDescription>";
 }
 
-PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml)
+PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml, const QHostAddress &address)
     : m_memory(memorySize, '\0')
 {
     put(0x0000, bytesOf<quint32>(0x00020000)); // version
@@ -66,9 +65,9 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
     put(0x8004, bytesOf<quint32>(480));
     put(0x8008, bytesOf<quint32>(3));
     QSemaphore isReady;
-    m_thread.reset(QThread::create([this, &isReady] {
+    m_thread.reset(QThread::create([this, &isReady, address] {
         QUdpSocket socket;
-        m_isRunning = socket.bind(QHostAddress(QHostAddress::AnyIPv4), port);
+        m_isRunning = socket.bind(address, port);
         isReady.release();
         while (m_isRunning && !QThread::currentThread()->isInterruptionRequested()) {
             if (!socket.waitForReadyRead(20)) {

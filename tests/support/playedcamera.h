@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHostAddress>
 #include <QList>
 #include <QMutex>
 #include <QThread>
@@ -23,7 +24,9 @@ public:
 
     static QByteArray description();
 
-    explicit PlayedCamera(const QByteArray &serialNumber = "ZPLAYED", const QByteArray &xml = description());
+    /*! On \a address of the loopback interface; only one that is on all of them is found by a search. */
+    explicit PlayedCamera(const QByteArray &serialNumber = "ZPLAYED", const QByteArray &xml = description(),
+                          const QHostAddress &address = QHostAddress::AnyIPv4);
     ~PlayedCamera();
     Q_DISABLE_COPY_MOVE(PlayedCamera)
 
