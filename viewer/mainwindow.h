@@ -85,9 +85,12 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
+    void saveSoon();
+    void saveNow();
     void openDescriptionFile();
     void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();
@@ -124,6 +127,7 @@ private:
     void layOut();
     void connectTree();
     void connectModel();
+    void connectSaving();
     void createServices();
     void createPanels();
     void createMenus();
@@ -169,6 +173,7 @@ private:
     QStackedWidget *m_pages; // of which one is shown: the tree, or what is shown without a camera
     QWidget *m_emptyPage;
     OpeningPage *m_openingPage;
+    QTimer *m_savingTimer; // runs while there is something to save
     QTimer *m_openingTimer; // leaves the tree in sight for what opens in no time
     QLabel *m_matches;
     QLabel *m_cameraName;
