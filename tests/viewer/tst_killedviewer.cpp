@@ -69,6 +69,7 @@ void TestKilledViewer::leavesWholeSettings_data()
 void TestKilledViewer::leavesWholeSettings()
 {
     QFETCH(int, moment);
+    QSettings().remove("MainWindow/Level"); // of the one before
     QProcess viewer;
     viewer.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     viewer.start(QCoreApplication::applicationFilePath(), {"--change"});
