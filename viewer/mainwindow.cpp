@@ -72,6 +72,7 @@ namespace {
 constexpr int stateVersion = 1;
 constexpr int statusTime = 5000;
 constexpr int openingPageDelay = 150;
+constexpr int savingDelay = 1500; // what is lost when the viewer is killed
 
 QString windowGroup()
 {
@@ -102,6 +103,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_pages(new QStackedWidget(this))
     , m_emptyPage(createEmptyPage())
     , m_openingPage(new OpeningPage(this))
+    , m_savingTimer(new QTimer(this))
     , m_openingTimer(new QTimer(this))
     , m_matches(new QLabel(this))
     , m_cameraName(new QLabel(this))
@@ -123,6 +125,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_openingPage, SIGNAL(cancelled()), this, SLOT(cancelOpening()));
     connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
+    connectSaving();
     updateActions();
 }
 
@@ -915,6 +918,48 @@ void MainWindow::about()
         tr("<b>Zelto Viewer %1</b><p>Shows a camera's features in a tree, for GigE Vision and USB3 "
            "Vision cameras and for any GenICam camera description file.")
             .arg(QCoreApplication::applicationVersion()));
+}
+
+// Saves what changes a little later, since a viewer that is killed cannot do it when it ends.
+void MainWindow::connectSaving()
+{
+    m_savingTimer->setSingleShot(true);
+    m_savingTimer->setInterval(savingDelay);
+    connect(m_savingTimer, SIGNAL(timeout()), this, SLOT(saveNow()));
+    const FeatureTreeView *const view = m_tree->treeView();
+    connect(view, SIGNAL(expanded(QModelIndex)), this, SLOT(saveSoon()));
+    connect(view, SIGNAL(collapsed(QModelIndex)), this, SLOT(saveSoon()));
+    connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this, SLOT(saveSoon()));
+    connect(view->header(), SIGNAL(sectionResized(int, int, int)), this, SLOT(saveSoon()));
+    connect(m_tree, SIGNAL(visibilityChanged(GenApi::EVisibility)), this, SLOT(saveSoon()));
+    connect(m_tree, SIGNAL(pollingStateChanged(bool)), this, SLOT(saveSoon()));
+    connect(m_tree, SIGNAL(newText(QString)), this, SLOT(saveSoon()));
+    connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(saveSoon()));
+    connect(m_monitorAction, SIGNAL(toggled(bool)), this, SLOT(saveSoon()));
+}
+
+// Not later when there is more to save meanwhile.
+void MainWindow::saveSoon()
+{
+    if (m_remembers && !m_savingTimer->isActive()) {
+        m_savingTimer->start();
+    }
+}
+
+void MainWindow::saveNow()
+{
+    saveState();
+    rememberCamera();
+    fitColumns();
+    m_savingTimer->stop();
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
+        saveSoon();
+    }
+    return QMainWindow::event(event);
 }
 
 void MainWindow::restoreState()

@@ -92,9 +92,12 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
+    void saveSoon();
+    void saveNow();
     void openDescriptionFile();
     void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();
@@ -139,6 +142,7 @@ private:
     void connectTree();
     void connectModel();
     void connectSettings();
+    void connectSaving();
     void createServices();
     void createPanels();
     QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
@@ -188,6 +192,7 @@ private:
     QStackedWidget *m_pages; // of which one is shown: the tree, or what is shown without a camera
     QWidget *m_emptyPage;
     OpeningPage *m_openingPage;
+    QTimer *m_savingTimer; // runs while there is something to save
     QTimer *m_openingTimer; // leaves the tree in sight for what opens in no time
     QLabel *m_matches;
     QLabel *m_cameraName;

@@ -12,6 +12,10 @@
 #include <QString>
 #include <QWidget>
 
+#ifdef __SANITIZE_THREAD__
+#include <mutex>
+#endif
+
 /*! \brief The process-wide queue of messages for the user.
  *
  * Any thread may report; the queue hands the messages on one at a time, in order, from the event loop of the
@@ -65,7 +69,11 @@ private:
         QPointer<QWidget> parent;
     };
 
+#ifdef __SANITIZE_THREAD__
+    mutable std::recursive_mutex m_mutex; // the sanitizer does not see what locks inside Qt
+#else
     mutable QRecursiveMutex m_mutex;
+#endif
     QList<Entry> m_entries;
 };
 

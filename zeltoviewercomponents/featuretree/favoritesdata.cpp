@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -378,13 +379,17 @@ void FavoritesData::saveScheduled()
         m_saveScheduled = false;
         return;
     }
-    m_saving = std::async(std::launch::async, [this, state = state(), group = m_settingsGroup] {
-        FavoritesStore store(group);
-        const bool isLocked = store.lock(briefWait);
-        std::unique_ptr<Saved> saved = isLocked ? state.saveIn(store) : nullptr;
-        QMetaObject::invokeMethod(this, isLocked ? "finishSaving" : "saveLater", Qt::QueuedConnection);
-        return saved;
-    });
+    try {
+        m_saving = std::async(std::launch::async, [this, state = state(), group = m_settingsGroup] {
+            FavoritesStore store(group);
+            const bool isLocked = store.lock(briefWait);
+            std::unique_ptr<Saved> saved = isLocked ? state.saveIn(store) : nullptr;
+            QMetaObject::invokeMethod(this, isLocked ? "finishSaving" : "saveLater", Qt::QueuedConnection);
+            return saved;
+        });
+    } catch (const std::system_error &) {
+        saveChanges(); // no thread is to be had
+    }
 }
 
 void FavoritesData::saveLater()

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "servedcamera.h"
+
+#include <cameras/aravis_p.h>
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <csignal>
+
+int ServedCamera::serve()
+{
+    ArvGvFakeCamera *const server = arv_gv_fake_camera_new("127.0.0.1", "ZSOAK");
+    if (!server || !arv_gv_fake_camera_is_running(server)) {
+        return 1;
+    }
+    QTextStream(stdout) << "ready" << Qt::endl;
+    QTextStream(stdin).readLine();
+    return 0;
+}
+
+ServedCamera::~ServedCamera()
+{
+    kill();
+}
+
+bool ServedCamera::start()
+{
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--serve")});
+    return m_process.waitForReadyRead(10000);
+}
+
+void ServedCamera::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void ServedCamera::stop()
+{
+    signal(SIGSTOP);
+}
+
+void ServedCamera::goOn()
+{
+    signal(SIGCONT);
+}
+
+void ServedCamera::signal(int number)
+{
+    if (m_process.state() == QProcess::Running) {
+        ::kill(static_cast<pid_t>(m_process.processId()), number);
+    }
+}
