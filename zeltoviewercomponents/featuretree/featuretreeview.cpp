@@ -301,7 +301,7 @@ void FeatureTreeView::updateRowsBelow(const QModelIndex &parent, QList<QPersiste
         if (!item) {
             continue;
         }
-        updateRow(index, item);
+        updateRow(index, parent, item);
         if (wanted.size() <= OpenEditors::limit && wantsEditor(item)) {
             wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
         }
@@ -311,13 +311,14 @@ void FeatureTreeView::updateRowsBelow(const QModelIndex &parent, QList<QPersiste
     }
 }
 
-void FeatureTreeView::updateRow(const QModelIndex &index, const FeatureTreeItem *item)
+void FeatureTreeView::updateRow(const QModelIndex &index, const QModelIndex &parent,
+                                const FeatureTreeItem *item)
 {
     const bool mayBeFullRow = item->isCategory() || !qobject_cast<const FeatureTreeINodeItem *>(item);
     if (mayBeFullRow) {
-        spanRow(index);
+        spanRow(index, parent);
     }
-    showRow(index.row(), index.parent(), item->ShowMe(m_visibility));
+    showRow(index.row(), parent, item->ShowMe(m_visibility));
 }
 
 void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
@@ -339,11 +340,10 @@ void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
     }
 }
 
-void FeatureTreeView::spanRow(const QModelIndex &index)
+void FeatureTreeView::spanRow(const QModelIndex &index, const QModelIndex &parent)
 {
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
-    const QModelIndex parent = index.parent();
     if (isFirstColumnSpanned(index.row(), parent) != isFullRow) {
         setFirstColumnSpanned(index.row(), parent, isFullRow);
     }
@@ -367,7 +367,7 @@ void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end
     for (int row = start; row <= end; ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
         if (FeatureTreeItem *const item = itemAt(index)) {
-            updateRow(index, item);
+            updateRow(index, parent, item);
             if (wantsEditor(item)) {
                 wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
             }
@@ -395,7 +395,7 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
                              if (topLeft.column() == FeatureTreeColumns::name) {
-                                 spanRow(topLeft);
+                                 spanRow(topLeft, topLeft.parent());
                              }
                              updateCell(topLeft);
                          });
