@@ -344,9 +344,14 @@ void FeatureTreeView::spanRow(const QModelIndex &index, const QModelIndex &paren
 {
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
-    if (isFirstColumnSpanned(index.row(), parent) != isFullRow) {
-        setFirstColumnSpanned(index.row(), parent, isFullRow);
+    if (isFirstColumnSpanned(index.row(), parent) == isFullRow) {
+        return;
     }
+    if (m_batches > 0) {
+        m_areRowsStale = true; // to span a row lays out all of them, if that is due
+        return;
+    }
+    setFirstColumnSpanned(index.row(), parent, isFullRow);
 }
 
 void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
@@ -434,7 +439,7 @@ void FeatureTreeView::updateCell(const QModelIndex &index)
         return;
     }
     if (index.column() != FeatureTreeColumns::value) {
-        if (item->getFullName() == FeatureTreeNames::dummy) {
+        if (item->getFullName() == FeatureTreeNames::dummy && m_batches == 0) {
             setFirstColumnSpanned(0, index.parent(), true);
         }
         return;

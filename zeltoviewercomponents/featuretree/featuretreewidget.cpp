@@ -269,6 +269,7 @@ void FeatureTreeWidget::on_resetButton_clicked()
 
 void FeatureTreeWidget::refreshTree()
 {
+    const FeatureTreeView::Batch batch(m_ui->treeView);
     proxy()->refilter();
     showRefreshed();
 }
