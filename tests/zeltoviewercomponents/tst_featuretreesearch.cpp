@@ -4,6 +4,7 @@
 #include "featuretreetest.h"
 
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
+#include <zeltoviewercomponents/featuretree/featuretreedelegate.h>
 #include <zeltoviewercomponents/featuretree/featuretreelook.h>
 #include <zeltoviewercomponents/featuretree/floateditor.h>
 #include <zeltoviewercomponents/featuretree/toolbuttoneditor.h>
@@ -203,6 +204,23 @@ void TestFeatureTreeSearch::countsFollowTheTree()
     QCOMPARE(state(), expected(3, 0));
 }
 
+/*! \brief Counts the layouts of its view: each asks for the height of the very first row. */
+class LayoutCounter : public FeatureTreeDelegate
+{
+public:
+    explicit LayoutCounter(TreeBench &bench)
+        : FeatureTreeDelegate(bench.view(), bench.extension(), bench.view()->getHightlighter())
+    {
+        bench.view()->setItemDelegate(this);
+    }
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        layouts += index.row() == 0 && index.column() == 0 && !index.parent().isValid() ? 1 : 0;
+        return FeatureTreeDelegate::sizeHint(option, index);
+    }
+    mutable qsizetype layouts = 0;
+};
+
 void TestFeatureTreeSearch::onePassAnAction()
 {
     auto camera = MemoryCollection::createSample();
@@ -212,54 +230,59 @@ void TestFeatureTreeSearch::onePassAnAction()
     QSignalSpy filtered(bench.view()->model(), SIGNAL(filtered()));
     QSignalSpy layouts(bench.view()->model(), &QAbstractItemModel::layoutChanged);
     QSignalSpy told(&bench.widget, SIGNAL(filterMatchesChanged(int, int)));
+    LayoutCounter laidOut(bench);
     const auto type = [&bench](const char *text) { bench.box()->setText(QString::fromLatin1(text)); };
     const auto setLevel = [&bench](GenApi::EVisibility level) { bench.widget.onVisibilityChanged(level); };
     struct Action
     {
         const char *name;
         std::function<void()> act;
-        QList<qsizetype> expected; // passes, changes of the layout, announcements
+        QList<qsizetype> expected; // passes, changes of the layout, announcements, layouts of the view
     };
     const QList<Action> actions{
-        {"first key", [&] { type("r"); }, {1, 1, 1}},
-        {"second key", [&] { type("re"); }, {1, 1, 1}},
-        {"a key that changes nothing", [&] { type("rev"); }, {1, 1, 1}},
-        {"another one", [&] { type("reve"); }, {1, 0, 1}},
-        {"backspace", [&] { type("r"); }, {1, 1, 1}},
-        {"level in a search, with a hidden match", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1}},
-        {"back", [&] { setLevel(GenApi::Guru); }, {1, 1, 1}},
+        {"first key", [&] { type("r"); }, {1, 1, 1, 1}},
+        {"second key", [&] { type("re"); }, {1, 1, 1, 1}},
+        {"a key that changes nothing", [&] { type("rev"); }, {1, 1, 1, 1}},
+        {"another one", [&] { type("reve"); }, {1, 0, 1, 0}},
+        {"backspace", [&] { type("r"); }, {1, 1, 1, 1}},
+        {"level in a search, with a hidden match", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1, 1}},
+        {"back", [&] { setLevel(GenApi::Guru); }, {1, 1, 1, 1}},
         {"favorite in a search",
          [&] { bench.extension()->AddFavorite(camera->parameter(QStringLiteral("ReverseX")), 0); },
-         {1, 1, 1}},
+         {1, 1, 1, 1}},
         {"node map in a search",
          [&] { bench.add(MemoryCollection::createSample(QStringLiteral("@Other"))); },
-         {1, 1, 1}},
-        {"refreshing in a search", [&] { bench.widget.refreshTree(); }, {1, 0, 1}},
-        {"clearing", [&] { type(""); }, {1, 1, 1}},
-        {"level", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1}},
-        {"favorite", [&] { bench.favorites().removeEntry(0); }, {0, 0, 0}},
-        {"node map", [&] { bench.add(MemoryCollection::createSample(QStringLiteral("@Third"))); }, {0, 1, 0}},
+         {1, 1, 1, 1}},
+        {"refreshing in a search", [&] { bench.widget.refreshTree(); }, {1, 0, 1, 1}},
+        {"clearing", [&] { type(""); }, {1, 1, 1, 1}},
+        {"level", [&] { setLevel(GenApi::Beginner); }, {1, 1, 1, 1}},
+        {"favorite", [&] { bench.favorites().removeEntry(0); }, {0, 0, 0, 1}},
+        {"node map",
+         [&] { bench.add(MemoryCollection::createSample(QStringLiteral("@Third"))); },
+         {0, 1, 0, 1}},
         {"a feature that goes",
          [&] {
              bench.node(QStringLiteral("Width"))->snapshot->isImplemented = false;
              bench.publish(QStringLiteral("Width"));
          },
-         {1, 1, 0}},
+         {1, 1, 0, 2}}, // hidden at once, filtered out later
     };
     for (const Action &action : actions) {
         bench.settle();
         for (QSignalSpy *const spy : {&judged, &filtered, &layouts, &told}) {
             spy->clear();
         }
+        laidOut.layouts = 0;
         action.act();
         bench.settle();
-        const QList<qsizetype> counted{judged.size(), layouts.size(), told.size()};
+        const QList<qsizetype> counted{judged.size(), layouts.size(), told.size(), laidOut.layouts};
         QVERIFY2(counted == action.expected,
-                 qPrintable(QStringLiteral("%1: %2 passes, %3 layouts, told %4 times")
+                 qPrintable(QStringLiteral("%1: %2 passes, %3 layouts, told %4 times, %5 laid out")
                                 .arg(QLatin1String(action.name))
                                 .arg(counted[0])
                                 .arg(counted[1])
-                                .arg(counted[2])));
+                                .arg(counted[2])
+                                .arg(counted[3])));
     }
 }
 

@@ -27,6 +27,13 @@ FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
         this,
         SIGNAL(layoutAboutToBeChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
         this, SLOT(onLayoutAboutToBeChanged()));
+    // Before any view, which asks at once for the rows as they are now.
+    for (const char *const change :
+         {SIGNAL(layoutChanged(QList<QPersistentModelIndex>, QAbstractItemModel::LayoutChangeHint)),
+          SIGNAL(rowsInserted(QModelIndex, int, int)), SIGNAL(rowsRemoved(QModelIndex, int, int)),
+          SIGNAL(modelReset())}) {
+        connect(this, change, this, SLOT(forgetMapping()));
+    }
 }
 
 FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
@@ -91,6 +98,9 @@ FeatureTreeItem *FeatureTreeProxyModel::rootItem() const
 // The item of a proxy index, null for an invalid one and over sources of another class.
 FeatureTreeItem *FeatureTreeProxyModel::itemAt(const QModelIndex &index) const
 {
+    if (m_siblings.item && isNoted(index)) {
+        return m_siblings.item->child(index.row());
+    }
     const QModelIndex source = model() ? mapToSource(index) : QModelIndex();
     return source.isValid() ? static_cast<FeatureTreeItem *>(source.internalPointer()) : nullptr;
 }
@@ -136,21 +146,43 @@ int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() && !hasChildren(parent) ? 0 : QSortFilterProxyModel::rowCount(parent);
 }
 
-// Views ask every row at every layout, siblings one after the other; to look at each item takes a good part
-// of what a key takes.
-bool FeatureTreeProxyModel::isBesideLeaves(const QModelIndex &index) const
+// Views ask for every row at every layout, siblings one after the other. The base finds the way from each to
+// the source, and to the parent's rows, anew.
+QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex &parent) const
 {
-    const void *const siblings = index.internalPointer();
-    if (siblings == m_leaves && m_leavesRevision == FeatureTreeItem::treeRevision()) {
-        return true;
+    if (parent.isValid() && areNoted() && parent == m_siblings.parent) {
+        const bool exists = row >= 0 && row < m_siblings.rows && column >= 0 && column < m_siblings.columns;
+        return exists ? createIndex(row, column, m_siblings.mapping) : QModelIndex();
     }
-    const FeatureTreeItem *const item = m_filter->isNumbered() ? itemAt(index) : nullptr;
-    if (!item || !m_filter->isAboveLeaves(*item->parent())) {
-        return false;
+    const QModelIndex result = QSortFilterProxyModel::index(row, column, parent);
+    if (model() && parent.isValid() && result.isValid()) {
+        noteSiblings(result, parent);
     }
-    m_leaves = siblings;
-    m_leavesRevision = FeatureTreeItem::treeRevision();
-    return true;
+    return result;
+}
+
+bool FeatureTreeProxyModel::areNoted() const
+{
+    return m_siblings.mapping && m_siblings.revision == FeatureTreeItem::treeRevision();
+}
+
+bool FeatureTreeProxyModel::isNoted(const QModelIndex &index) const
+{
+    return index.isValid() && index.internalPointer() == m_siblings.mapping && areNoted();
+}
+
+void FeatureTreeProxyModel::noteSiblings(const QModelIndex &index, const QModelIndex &parent) const
+{
+    FeatureTreeItem *const item = itemAt(parent);
+    const int rows = QSortFilterProxyModel::rowCount(parent);
+    const bool areAllShown = item && item->existingChildCount() == rows && sortColumn() < 0;
+    m_siblings = {index.internalPointer(),
+                  FeatureTreeItem::treeRevision(),
+                  parent,
+                  rows,
+                  QSortFilterProxyModel::columnCount(parent),
+                  areAllShown ? item : nullptr,
+                  item && m_filter->isNumbered() && m_filter->isAboveLeaves(*item)};
 }
 
 bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
@@ -159,7 +191,11 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
         return QSortFilterProxyModel::hasChildren(parent);
     }
     // The source knows without creating any: a category that passes has a row to show.
-    return parent.column() == 0 && !isBesideLeaves(parent) && sourceModel()->hasChildren(mapToSource(parent));
+    if (parent.column() != 0 || (m_siblings.areLeaves && isNoted(parent))) {
+        return false;
+    }
+    const FeatureTreeItem *const item = itemAt(parent);
+    return item ? item->hasChildren() : sourceModel()->hasChildren(mapToSource(parent));
 }
 
 Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
@@ -167,14 +203,13 @@ Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const
     if (!index.isValid()) {
         return Qt::NoItemFlags; // nothing is dropped beside the top rows
     }
-    // Asked of every row at every layout: one way to the source for both questions.
-    const QModelIndex source = mapToSource(index);
-    Qt::ItemFlags result = sourceModel()->flags(source);
-    if (model() && source.isValid()
-        && !static_cast<const FeatureTreeItem *>(source.internalPointer())->isCategory()) {
-        result |= Qt::ItemNeverHasChildren; // saves views the question
+    // Asked of every row at every layout: straight to the item.
+    FeatureTreeItem *const item = itemAt(index);
+    if (!item) {
+        return sourceModel()->flags(mapToSource(index));
     }
-    return result;
+    const Qt::ItemFlags result = item->flags(index.column());
+    return item->isCategory() ? result : result | Qt::ItemNeverHasChildren; // saves views the question
 }
 
 bool FeatureTreeProxyModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
@@ -498,7 +533,7 @@ void FeatureTreeProxyModel::noteAsked(const FeatureTreeItem *parent) const
 void FeatureTreeProxyModel::forgetMapping() const
 {
     m_lastAsked = nullptr;
-    m_leaves = nullptr;
+    m_siblings = {};
 }
 
 void FeatureTreeProxyModel::forgetAsked(const FeatureTreeItem *parent)

@@ -48,6 +48,7 @@ public:
 
     void setSourceModel(QAbstractItemModel *sourceModel) override;
     QModelIndex mapToSource(const QModelIndex &proxyIndex) const override;
+    QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
@@ -151,6 +152,7 @@ private slots:
     void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last);
     void onLayoutAboutToBeChanged();
+    void forgetMapping() const;
     void onSourceDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                              const QList<int> &roles);
     void onForeignDataChanged(const QModelIndex &topLeft);
@@ -175,9 +177,10 @@ private:
     bool isSearchRowShown() const;
     FeatureTreeRoleFilter roleFilter() const;
     bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
-    bool isBesideLeaves(const QModelIndex &index) const;
+    bool areNoted() const;
+    bool isNoted(const QModelIndex &index) const;
+    void noteSiblings(const QModelIndex &index, const QModelIndex &parent) const;
     void noteAsked(const FeatureTreeItem *parent) const;
-    void forgetMapping() const;
     void forgetAsked(const FeatureTreeItem *parent);
     bool isMapped(const FeatureTreeItem *parent) const;
     void queueRefilter();
@@ -189,9 +192,19 @@ private:
     QPropertyNotifier m_expressionNotifier; // others may set an expression behind our back
     mutable QSet<const FeatureTreeItem *> m_asked; // those below which the base has asked for rows
     mutable const FeatureTreeItem *m_lastAsked = nullptr;
-    // What the base's indexes of some siblings have in common that are known to have no children.
-    mutable const void *m_leaves = nullptr;
-    mutable quint64 m_leavesRevision = 0;
+
+    /*! \brief What the rows of one branch have in common. */
+    struct Siblings
+    {
+        const void *mapping = nullptr; // the base's, which all their indexes point to
+        quint64 revision = 0; // of the source's rows
+        QModelIndex parent;
+        int rows = 0;
+        int columns = 0;
+        FeatureTreeItem *item = nullptr; // the parent's, if all its children are shown, in their order
+        bool areLeaves = false;
+    };
+    mutable Siblings m_siblings;
     QPersistentModelIndex m_insertionParent; // in the source; invalid once its item is gone
 
     bool m_acceptAll = false;

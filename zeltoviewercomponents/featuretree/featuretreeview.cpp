@@ -301,7 +301,7 @@ void FeatureTreeView::updateRowsBelow(const QModelIndex &parent, QList<QPersiste
         if (!item) {
             continue;
         }
-        updateRow(index, item);
+        updateRow(index, parent, item);
         if (wanted.size() <= OpenEditors::limit && wantsEditor(item)) {
             wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
         }
@@ -311,13 +311,14 @@ void FeatureTreeView::updateRowsBelow(const QModelIndex &parent, QList<QPersiste
     }
 }
 
-void FeatureTreeView::updateRow(const QModelIndex &index, const FeatureTreeItem *item)
+void FeatureTreeView::updateRow(const QModelIndex &index, const QModelIndex &parent,
+                                const FeatureTreeItem *item)
 {
     const bool mayBeFullRow = item->isCategory() || !qobject_cast<const FeatureTreeINodeItem *>(item);
     if (mayBeFullRow) {
-        spanRow(index);
+        spanRow(index, parent);
     }
-    showRow(index.row(), index.parent(), item->ShowMe(m_visibility));
+    showRow(index.row(), parent, item->ShowMe(m_visibility));
 }
 
 void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
@@ -339,14 +340,18 @@ void FeatureTreeView::showRow(int row, const QModelIndex &parent, bool isShown)
     }
 }
 
-void FeatureTreeView::spanRow(const QModelIndex &index)
+void FeatureTreeView::spanRow(const QModelIndex &index, const QModelIndex &parent)
 {
     const bool isFullRow =
         index.siblingAtColumn(FeatureTreeColumns::name).data(FeatureTreeItem::IsFullRowItem).toBool();
-    const QModelIndex parent = index.parent();
-    if (isFirstColumnSpanned(index.row(), parent) != isFullRow) {
-        setFirstColumnSpanned(index.row(), parent, isFullRow);
+    if (isFirstColumnSpanned(index.row(), parent) == isFullRow) {
+        return;
     }
+    if (m_batches > 0) {
+        m_areRowsStale = true; // to span a row lays out all of them, if that is due
+        return;
+    }
+    setFirstColumnSpanned(index.row(), parent, isFullRow);
 }
 
 void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end)
@@ -367,7 +372,7 @@ void FeatureTreeView::rowsInserted(const QModelIndex &parent, int start, int end
     for (int row = start; row <= end; ++row) {
         const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
         if (FeatureTreeItem *const item = itemAt(index)) {
-            updateRow(index, item);
+            updateRow(index, parent, item);
             if (wantsEditor(item)) {
                 wanted.append(index.siblingAtColumn(FeatureTreeColumns::value));
             }
@@ -395,7 +400,7 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
                          QStringLiteral("Failed to access the node"), [this, &topLeft] {
                              if (topLeft.column() == FeatureTreeColumns::name) {
-                                 spanRow(topLeft);
+                                 spanRow(topLeft, topLeft.parent());
                              }
                              updateCell(topLeft);
                          });
@@ -434,7 +439,7 @@ void FeatureTreeView::updateCell(const QModelIndex &index)
         return;
     }
     if (index.column() != FeatureTreeColumns::value) {
-        if (item->getFullName() == FeatureTreeNames::dummy) {
+        if (item->getFullName() == FeatureTreeNames::dummy && m_batches == 0) {
             setFirstColumnSpanned(0, index.parent(), true);
         }
         return;

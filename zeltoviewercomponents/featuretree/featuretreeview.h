@@ -157,10 +157,10 @@ private:
     void finishBatch();
     void noteMovement();
     void updateRowsBelow(const QModelIndex &parent, QList<QPersistentModelIndex> &wanted);
-    void updateRow(const QModelIndex &index, const FeatureTreeItem *item);
+    void updateRow(const QModelIndex &index, const QModelIndex &parent, const FeatureTreeItem *item);
     void updateCell(const QModelIndex &index);
     void showRow(int row, const QModelIndex &parent, bool isShown);
-    void spanRow(const QModelIndex &index);
+    void spanRow(const QModelIndex &index, const QModelIndex &parent);
 
     bool wantsEditor(FeatureTreeItem *item) const;
     void showInEditor(const QModelIndex &index);

@@ -301,6 +301,7 @@ void FeatureTreeWidget::on_resetButton_clicked()
 
 void FeatureTreeWidget::refreshTree()
 {
+    const FeatureTreeView::Batch batch(m_ui->treeView);
     proxy()->refilter();
     showRefreshed();
 }
