@@ -142,6 +142,8 @@ void TestViewerCli::failsInOneLine_data()
     row("--get Xyzzyxyzzy", "no feature Xyzzyxyzzy");
     row("--get TriggerSoftware", "TriggerSoftware");
     row("--execute Width", "Width");
+    row("--watch Root --count 1", "Root: this is no feature");
+    row("--get Width --save - --output json", "--save -");
     row("--set Width", "NAME=VALUE");
     row("--get=", "empty");
     row("--get Width --dump", "--dump");
