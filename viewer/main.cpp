@@ -173,6 +173,11 @@ int showGallery(const Options &options)
 int saveRegisters(const Options &options)
 {
     const QByteArray image = cameraAt(addressIn(options))->registerImage();
+    if (options.saveRegisters == QLatin1String("-")) {
+        QTextStream out(stdout);
+        out << QString::fromUtf8(image);
+        return finish(out);
+    }
     const QString failure = Core::saveFile(options.saveRegisters, image);
     return failure.isEmpty()
         ? 0

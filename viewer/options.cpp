@@ -42,7 +42,10 @@ void addOptions(QCommandLineParser &parser)
     add("camera", "Open the live camera with this id (see --list).", "id");
     add("zeroed", "Let the registers of --description start with zeros.");
     add("registers", "Let them start with what --save-registers has saved.", "file");
-    add("save-registers", "Save the registers that the features are read from and exit.", "file");
+    add("save-registers",
+        "Save the registers that the features are read from and exit; - is the standard "
+        "output.",
+        "file");
     add("list", "List the cameras that are reachable and exit.");
     add("dump", "Print the tree as text and exit.");
     add("favorites", "Print the favorites as text and exit.");

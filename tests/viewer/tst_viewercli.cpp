@@ -279,6 +279,7 @@ void TestViewerCli::savesAndLoadsRegisters()
     const Result saved = run(open + "--save-registers " + path("state"));
     QCOMPARE(saved.exitCode, 0);
     QCOMPARE(saved.out + saved.err, QString());
+    QVERIFY(run(open + "--save-registers -").out.contains("\n0x0"));
     QCOMPARE(run("--dump " + open + "--registers " + path("state")).out, alive);
 }
 
