@@ -140,7 +140,7 @@ private:
     QHash<int, Sources> m_sources;
     QHash<quint64, std::vector<Reader>> m_grantedAt; //!< by the bytes that they depend on
     QHash<quint64, int> m_changedAt; //!< number of the last change of a byte
-    std::chrono::steady_clock::time_point m_end;
+    std::chrono::nanoseconds m_end; //!< of the thread's processor time
     int m_evaluations; //!< that all searches may still take
     int m_tries = 0; //!< that the present search may make
     int m_changes = 0;

@@ -136,7 +136,7 @@ int CommandLine::fail(const QString &reason, ExitCode code)
 
 int CommandLine::run()
 {
-    if (hasUnknownNames()) {
+    if (hasWrongNames()) {
         return Failed; // before anything is changed
     }
     int worst = Done;
@@ -156,21 +156,38 @@ int CommandLine::run()
     return finish(worst);
 }
 
-bool CommandLine::hasUnknownNames() const
+bool CommandLine::hasWrongNames() const
 {
     bool found = false;
     for (const Operation &operation : m_options.operations) {
-        const QString name = nameOf(operation);
-        if (name.isEmpty() || m_features.find(name)) {
-            continue;
+        const QString mistake = mistakeIn(operation);
+        if (!mistake.isEmpty()) {
+            fail(mistake, Failed);
+            found = true;
         }
-        const QString nearest = m_features.nearest(name);
-        fail(nearest.isEmpty() ? tr("no feature %1").arg(name)
-                               : tr("no feature %1; did you mean %2?").arg(name, nearest),
-             Failed);
-        found = true;
     }
     return found;
+}
+
+QString CommandLine::mistakeIn(const Operation &operation) const
+{
+    const QString name = nameOf(operation);
+    if (name.isEmpty()) {
+        return {};
+    }
+    const ParameterPtr parameter = m_features.find(name);
+    if (!parameter) {
+        const QString nearest = m_features.nearest(name);
+        return nearest.isEmpty() ? tr("no feature %1").arg(name)
+                                 : tr("no feature %1; did you mean %2?").arg(name, nearest);
+    }
+    const bool isCommand = parameter->type() == ParameterType::Command;
+    if (operation.kind == Operation::Kind::Execute) {
+        return isCommand ? QString() : tr("%1: this is no command").arg(name);
+    }
+    const bool isShown = operation.kind == Operation::Kind::Get || operation.kind == Operation::Kind::Watch;
+    const bool hasNoValue = isCommand || parameter->type() == ParameterType::Category;
+    return isShown && hasNoValue ? tr("%1: this is no feature that has a value").arg(name) : QString();
 }
 
 int CommandLine::carryOut(const Operation &operation)
@@ -197,9 +214,6 @@ int CommandLine::carryOut(const Operation &operation)
 int CommandLine::get(const QString &name)
 {
     const ParameterPtr parameter = m_features.find(name);
-    if (parameter->type() == ParameterType::Command || parameter->type() == ParameterType::Category) {
-        return fail(tr("%1: this is no feature that has a value").arg(name), Failed);
-    }
     const bool isAnswered = FreshValues({parameter}).read();
     const ParameterDataPtr data = parameter->parameterData();
     if (!isAnswered || !data->isReadable) {
@@ -232,9 +246,6 @@ int CommandLine::set(const QString &assignment)
 int CommandLine::execute(const QString &name)
 {
     const auto command = qSharedPointerObjectCast<ICommandParameter>(m_features.find(name));
-    if (!command) {
-        return fail(tr("%1: this is no command").arg(name), Failed);
-    }
     try {
         command->execute(true);
     } catch (const std::exception &exception) {

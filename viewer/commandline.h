@@ -44,7 +44,8 @@ public:
 private:
     using ParameterPtr = QSharedPointer<ParameterCollection::IParameter>;
 
-    bool hasUnknownNames() const;
+    bool hasWrongNames() const;
+    QString mistakeIn(const Operation &operation) const;
     int carryOut(const Operation &operation);
     int get(const QString &name);
     int set(const QString &assignment);

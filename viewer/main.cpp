@@ -10,6 +10,7 @@
 #include "options.h"
 #include "treejson.h"
 
+#include <platform/core/savefile.h>
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
@@ -20,7 +21,6 @@
 #include <QJsonDocument>
 #include <QLocale>
 #include <QLoggingCategory>
-#include <QSaveFile>
 #include <QTextStream>
 
 #include <cstdlib>
@@ -178,12 +178,16 @@ int showGallery(const Options &options)
 int saveRegisters(const Options &options)
 {
     const QByteArray image = cameraAt(addressIn(options))->registerImage();
-    QSaveFile file(options.saveRegisters);
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(image) == image.size() && file.commit();
-    return isSaved ? 0
-                   : fail(QCoreApplication::translate("main", "Cannot write %1: %2")
-                              .arg(options.saveRegisters, file.errorString()));
+    if (options.saveRegisters == QLatin1String("-")) {
+        QTextStream out(stdout);
+        out << QString::fromUtf8(image);
+        return finish(out);
+    }
+    const QString failure = Core::saveFile(options.saveRegisters, image);
+    return failure.isEmpty()
+        ? 0
+        : fail(
+            QCoreApplication::translate("main", "Cannot write %1: %2").arg(options.saveRegisters, failure));
 }
 
 int run(const Options &options)

@@ -42,7 +42,10 @@ void addOptions(QCommandLineParser &parser)
     add("camera", "Open the live camera with this id (see --list).", "id");
     add("zeroed", "Let the registers of --description start with zeros.");
     add("registers", "Let them start with what --save-registers has saved.", "file");
-    add("save-registers", "Save the registers that the features are read from and exit.", "file");
+    add("save-registers",
+        "Save the registers that the features are read from and exit; - is the standard "
+        "output.",
+        "file");
     add("list", "List the cameras that are reachable and exit.");
     add("dump", "Print the tree as text and exit.");
     add("favorites", "Print the favorites as text and exit.");
@@ -102,6 +105,28 @@ bool isPositive(const QString &text)
     return text.toInt(&ok) > 0 && ok;
 }
 
+// Returns what is wrong with the form of what is printed, empty when nothing is.
+QString mistakeInOutput(const QCommandLineParser &parser, const QList<Operation> &operations)
+{
+    if (!parser.isSet(QStringLiteral("output"))) {
+        return {};
+    }
+    const QString form = parser.value(QStringLiteral("output"));
+    if (form != QLatin1String("text") && form != QLatin1String("json")) {
+        return QStringLiteral("Unknown output '%1', expected text or json.").arg(form);
+    }
+    const bool hasTable = std::any_of(operations.cbegin(), operations.cend(), [](const Operation &operation) {
+        return operation.kind == Operation::Kind::Watch
+            || (operation.kind == Operation::Kind::Save && operation.argument == QLatin1String("-"));
+    });
+    if (hasTable && form == QLatin1String("json")) {
+        return QStringLiteral("--output json and what --watch or --save - print exclude each other.");
+    }
+    const bool hasForm = parser.isSet(QStringLiteral("dump")) || parser.isSet(QStringLiteral("get"))
+        || parser.isSet(QStringLiteral("compare"));
+    return hasForm ? QString() : QStringLiteral("--output needs --dump, --get or --compare.");
+}
+
 // Returns what is wrong with the options about operations on a camera, empty when nothing is.
 QString mistakeInOperations(const QCommandLineParser &parser)
 {
@@ -134,11 +159,6 @@ QString mistakeInOperations(const QCommandLineParser &parser)
             return QStringLiteral("--%1 expects a positive number, not '%2'.").arg(name, parser.value(name));
         }
     }
-    const QString form = parser.value(QStringLiteral("output"));
-    if (parser.isSet(QStringLiteral("output")) && form != QLatin1String("text")
-        && form != QLatin1String("json")) {
-        return QStringLiteral("Unknown output '%1', expected text or json.").arg(form);
-    }
     // Options that would have no effect.
     static constexpr std::array needs{std::pair{"interval", "watch"}, std::pair{"count", "watch"},
                                       std::pair{"force", "load"}};
@@ -148,11 +168,7 @@ QString mistakeInOperations(const QCommandLineParser &parser)
                 .arg(QString::fromLatin1(option), QString::fromLatin1(needed));
         }
     }
-    const bool hasForm = parser.isSet(QStringLiteral("dump")) || parser.isSet(QStringLiteral("get"))
-        || parser.isSet(QStringLiteral("compare"));
-    return parser.isSet(QStringLiteral("output")) && !hasForm
-        ? QStringLiteral("--output needs --dump, --get or --compare.")
-        : QString();
+    return mistakeInOutput(parser, operations);
 }
 
 // Without an application object the parser does not know the program's name.
@@ -164,7 +180,8 @@ QString helpText(const QCommandLineParser &parser)
 // Returns what is wrong with the arguments, empty when nothing is.
 QString mistakeIn(const QCommandLineParser &parser)
 {
-    // An empty text, as from an unset variable of a script, must not pass for an option that was not given.
+    // An empty text, as from an unset variable of a script, must not pass for an option that was not
+    // given.
     for (const char *const option : {"description", "camera", "screenshot", "registers", "save-registers"}) {
         const QString name = QString::fromLatin1(option);
         if (parser.isSet(name) && parser.value(name).isEmpty()) {

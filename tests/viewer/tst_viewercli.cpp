@@ -142,6 +142,8 @@ void TestViewerCli::failsInOneLine_data()
     row("--get Xyzzyxyzzy", "no feature Xyzzyxyzzy");
     row("--get TriggerSoftware", "TriggerSoftware");
     row("--execute Width", "Width");
+    row("--watch Root --count 1", "Root: this is no feature");
+    row("--get Width --save - --output json", "--save -");
     row("--set Width", "NAME=VALUE");
     row("--get=", "empty");
     row("--get Width --dump", "--dump");
@@ -277,6 +279,7 @@ void TestViewerCli::savesAndLoadsRegisters()
     const Result saved = run(open + "--save-registers " + path("state"));
     QCOMPARE(saved.exitCode, 0);
     QCOMPARE(saved.out + saved.err, QString());
+    QVERIFY(run(open + "--save-registers -").out.contains("\n0x0"));
     QCOMPARE(run("--dump " + open + "--registers " + path("state")).out, alive);
 }
 

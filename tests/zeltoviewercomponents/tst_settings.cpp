@@ -268,6 +268,8 @@ void TestSettings::differences_data()
         << "A=0x10 B=1000 C=1 D=0.10000000149 E=9007199254740993" << QStringList();
     QTest::newRow("large integers") << "E=9007199254740993"
                                     << "E=9007199254740992" << QStringList{"E"};
+    QTest::newRow("digits of double precision") << "A=30.000001 B=5000"
+                                                << "A=30.000002 B=5000.0001" << QStringList{"A", "B"};
     QTest::newRow("words") << "A=Off B=0 C=1"
                            << "A=off B=-0 C=true" << QStringList{"A"};
     QTest::newRow("values") << "Width=640 Gain=1"
@@ -353,6 +355,11 @@ void TestSettings::reading_data()
         camera.select("Index", "Reverse");
     }) << QString(all).remove("Reverse=false ")
                              << "Index selects among more than 256 values";
+    QTest::newRow("a selector of many") << Change([](MemoryCollection &camera) {
+        camera.addInteger("PortSelector", "Root", 7, 0, 256);
+        camera.select("PortSelector", "Reverse");
+    }) << QString(all).replace("Reverse=false ", "PortSelector=7 Reverse=false PortSelector=7 ")
+                                        << "PortSelector selects among more than 256 values";
     QTest::newRow("too many combinations") << Change([](MemoryCollection &camera) {
         for (const char *const name : {"One", "Two"}) {
             camera.addInteger(name, "Root", 0, 0, 99);
@@ -425,8 +432,11 @@ void TestSettings::applying_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("report"); // of each feature that is not unchanged
     QTest::addColumn<QStringList>("values"); // feature=value in the end
-    QTest::newRow("unchanged") << Change() << "UserID=left Width=0x280 Exposure=5000.0001 Reverse=0"
+    QTest::newRow("unchanged") << Change() << "UserID=left Width=0x280 Exposure=5e3 Reverse=0"
                                << "" << QStringList();
+    QTest::newRow("digits of double precision")
+        << Change() << "Exposure=5000.0001"
+        << "Exposure:0" << QStringList{"Exposure=5000.0001"};
     QTest::newRow("set") << Change() << "UserID=x Width=16 Exposure=20.5 Reverse=1"
                          << "UserID:0 Width:0 Exposure:0 Reverse:0"
                          << QStringList{"UserID=x", "Width=16", "Exposure=20.5", "Reverse=true"};

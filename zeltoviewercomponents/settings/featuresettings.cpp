@@ -7,10 +7,10 @@
 #include "settingsgraph_p.h"
 
 #include <platform/core/exception.h>
+#include <platform/core/savefile.h>
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <utility>
@@ -160,15 +160,16 @@ FeatureSettings FeatureSettings::load(const QString &fileName)
 
 void FeatureSettings::write(QIODevice &device) const
 {
-    if (!SettingsFile::write(*this, device)) {
+    const QByteArray text = SettingsFile::textOf(*this);
+    if (device.write(text) != text.size()) {
         throw BaseException(device.errorString());
     }
 }
 
 void FeatureSettings::save(const QString &fileName) const
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || !SettingsFile::write(*this, file) || !file.commit()) {
-        throw BaseException(tr("Cannot write %1: %2").arg(fileName, file.errorString()));
+    const QString failure = Core::saveFile(fileName, SettingsFile::textOf(*this));
+    if (!failure.isEmpty()) {
+        throw BaseException(tr("Cannot write %1: %2").arg(fileName, failure));
     }
 }

@@ -331,7 +331,8 @@ void SettingsApplying::judge(Item &item, bool mayWrite, const Outcome &outcome)
     if (item.isSelector) {
         knowSelector(entry.setting.name, value);
     }
-    if (outcome.data->isReadable && SettingsValue::isSame(*outcome.data, entry.setting.value)) {
+    const auto isWanted = mayWrite ? SettingsValue::isSame : SettingsValue::isTaken;
+    if (outcome.data->isReadable && isWanted(*outcome.data, entry.setting.value)) {
         // A selector that was only stepped along has its value again.
         const bool isChanged =
             item.isWritten && !SettingsValue::isSameText(entry.before, entry.setting.value);
@@ -373,7 +374,7 @@ void SettingsApplying::onWritten(Item &item, const Outcome &outcome)
     item.isWritten = true;
     entry.reason.clear();
     const bool isReadable = outcome.data && outcome.data->isReadable;
-    if (isReadable && !SettingsValue::isSame(*outcome.data, entry.setting.value)) {
+    if (isReadable && !SettingsValue::isTaken(*outcome.data, entry.setting.value)) {
         entry.result = Result::Different;
         return;
     }

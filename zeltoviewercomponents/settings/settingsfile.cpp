@@ -163,7 +163,7 @@ FeatureSettings::NodeMap &SettingsFile::nodeMap()
     return m_settings.nodeMaps.last();
 }
 
-bool SettingsFile::write(const FeatureSettings &settings, QIODevice &device)
+QByteArray SettingsFile::textOf(const FeatureSettings &settings)
 {
     const FeatureSettings::Origin &origin = settings.origin;
     QString text = QStringLiteral("# %1\n").arg(headLine());
@@ -183,8 +183,7 @@ bool SettingsFile::write(const FeatureSettings &settings, QIODevice &device)
             text += assignment.name + QLatin1Char('\t') + escaped(assignment.value) + QLatin1Char('\n');
         }
     }
-    const QByteArray bytes = text.toUtf8();
-    return device.write(bytes) == bytes.size();
+    return text.toUtf8();
 }
 
 QString SettingsFile::escaped(const QString &value)

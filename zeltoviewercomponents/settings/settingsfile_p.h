@@ -27,8 +27,7 @@ public:
 
     /*! Throws Core::Exception::BaseException as FeatureSettings::read() does. */
     static FeatureSettings read(QIODevice &device);
-    /*! Returns false when \a device did not take it all. */
-    static bool write(const FeatureSettings &settings, QIODevice &device);
+    static QByteArray textOf(const FeatureSettings &settings);
 
 private:
     void readLine(const QByteArray &bytes);

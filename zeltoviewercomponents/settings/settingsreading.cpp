@@ -15,7 +15,7 @@ using namespace ParameterCollection;
 
 namespace {
 
-constexpr qint64 mostValues = 256; // of an integer selector; one of more selects a table
+constexpr qint64 mostValues = 256; // of an integer selector; an index of more belongs to a table
 constexpr qint64 mostCombinations = 4096; // of the entries of selectors that nest
 constexpr int mostNotes = 1000;
 
@@ -181,7 +181,14 @@ QStringList SettingsReading::entriesOf(const QString &selector, const Outcome &o
     const auto &number = static_cast<const IntegerParameterData &>(data);
     const quint64 increment = quint64(std::max<qint64>(number.increment, 1));
     const quint64 steps = (quint64(number.maximum) - quint64(number.minimum)) / increment;
-    if (number.maximum < number.minimum || steps >= quint64(mostValues)) {
+    const bool isOpen = number.maximum < number.minimum || steps >= quint64(mostValues);
+    if (isOpen && selector.endsWith(QLatin1String("Selector"))) {
+        note(tr("%1 selects among more than %2 values; only the present one is read")
+                 .arg(selector)
+                 .arg(mostValues));
+        return {data.valueString};
+    }
+    if (isOpen) {
         note(tr("%1 selects among more than %2 values; what it selects is left out")
                  .arg(selector)
                  .arg(mostValues));

@@ -3,6 +3,8 @@
 
 #include "settingsvalue_p.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
@@ -58,11 +60,26 @@ bool mayBeNumber(const QString &text)
     return first <= u'9' || first == u'i' || first == u'n'; // also "inf" and "nan"
 }
 
-// Registers of single precision hold most floating-point features.
-bool isSameNumber(double left, double right, double resolution)
+bool isWithinSinglePrecision(double left, double right)
 {
-    const double finest = std::max(std::abs(left), std::abs(right)) * FLT_EPSILON;
-    return left == right || std::abs(left - right) <= std::max(finest, resolution);
+    return std::abs(left - right) <= std::max(std::abs(left), std::abs(right)) * FLT_EPSILON;
+}
+
+// Whether the number has the digits that a register of single precision adds to what was meant.
+bool hasSinglePrecisionNoise(double value)
+{
+    constexpr double printed = 1e-10; // what is left of them where others print ten digits
+    const bool isShort = QByteArray::number(value, 'g', FLT_DIG + 1).toDouble() == value;
+    return !isShort && std::abs(value) < FLT_MAX
+        && std::abs(value - double(float(value))) <= std::abs(value) * printed;
+}
+
+// A register of double precision tells numbers apart that one of single precision does not.
+bool isSameNumber(double left, double right)
+{
+    return left == right
+        || (isWithinSinglePrecision(left, right)
+            && (hasSinglePrecisionNoise(left) || hasSinglePrecisionNoise(right)));
 }
 
 } // namespace
@@ -83,7 +100,8 @@ bool isSame(const ParameterData &data, const QString &text)
     case ParameterType::Float: {
         const auto &typed = static_cast<const FloatParameterData &>(data);
         const auto value = numberFrom(trimmed);
-        return value && isSameNumber(typed.value, *value, typed.increment / 2.0);
+        return value
+            && (isSameNumber(typed.value, *value) || std::abs(typed.value - *value) <= typed.increment / 2.0);
     }
     case ParameterType::Boolean: {
         const auto value = booleanFrom(trimmed);
@@ -92,6 +110,13 @@ bool isSame(const ParameterData &data, const QString &text)
     default:
         return false;
     }
+}
+
+bool isTaken(const ParameterData &data, const QString &text)
+{
+    const auto value = data.type == ParameterType::Float ? numberFrom(text.trimmed()) : std::nullopt;
+    return isSame(data, text)
+        || (value && isWithinSinglePrecision(static_cast<const FloatParameterData &>(data).value, *value));
 }
 
 bool isSameText(const QString &left, const QString &right)
@@ -112,7 +137,7 @@ bool isSameText(const QString &left, const QString &right)
     }
     const auto number = numberFrom(left);
     const auto otherNumber = numberFrom(right);
-    return number && otherNumber && isSameNumber(*number, *otherNumber, 0.0);
+    return number && otherNumber && isSameNumber(*number, *otherNumber);
 }
 
 } // namespace SettingsValue

@@ -542,6 +542,10 @@
         <translation>%1 ergibt mehr als %2 Kombinationen; nur die gegenwärtige wird gelesen</translation>
     </message>
     <message>
+        <source>%1 selects among more than %2 values; only the present one is read</source>
+        <translation>%1 wählt unter mehr als %2 Werten; nur der gegenwärtige wird gelesen</translation>
+    </message>
+    <message>
         <source>%1 selects among more than %2 values; what it selects is left out</source>
         <translation>%1 wählt unter mehr als %2 Werten; was davon abhängt, bleibt weg</translation>
     </message>
