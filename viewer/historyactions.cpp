@@ -95,6 +95,7 @@ void HistoryActions::updateActions()
         action->setText(text);
         action->setEnabled(canWrite && isPossible);
     };
+    m_panel->setPuttingBack(canWrite);
     update(m_undo, m_history->canUndo(),
            m_history->canUndo() ? tr("&Undo %1").arg(inMenu(m_history->undoText())) : tr("&Undo"));
     update(m_redo, m_history->canRedo(),

@@ -392,11 +392,10 @@ void MainWindow::createCameraMenu()
     QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
     camera->setToolTipsVisible(true);
     camera->addActions(m_settings->actions());
+    m_comparison->addTo(camera);
     camera->addSeparator();
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
-    camera->addSeparator();
-    m_comparison->addTo(camera);
     // Whether a camera lets itself be configured changes with what it is doing.
     connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
 }

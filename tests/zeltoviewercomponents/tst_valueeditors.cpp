@@ -17,6 +17,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -192,6 +193,11 @@ void TestValueEditors::enumShowsAndCommits()
     QCOMPARE(editor->itemText(1), "One time");
     QCOMPARE(editor->editorData(), QVariant(names[0]));
     m_bench->present();
+    const QImage free = editor->grab().toImage();
+    editor->setEnabled(false);
+    QVERIFY(editor->grab().toImage() != free); // whichever look was drawn before
+    editor->setEnabled(true);
+    QCOMPARE(editor->grab().toImage(), free);
     editor->setFocus();
     QTest::keyClick(editor, Qt::Key_Down);
     QCOMPARE(parameter->writes, QStringList(names[1]));

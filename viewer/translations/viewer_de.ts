@@ -683,11 +683,11 @@ Was die Datei enthält, geht verloren.</translation>
     <name>SettingsActions</name>
     <message>
         <source>&amp;Save Settings…</source>
-        <translation>Einstellungen &amp;speichern …</translation>
+        <translation>Einstellungen &amp;speichern…</translation>
     </message>
     <message>
         <source>&amp;Load Settings…</source>
-        <translation>Einstellungen &amp;laden …</translation>
+        <translation>Einstellungen &amp;laden…</translation>
     </message>
     <message>
         <source>Ctrl+L</source>
@@ -803,7 +803,7 @@ Trotzdem laden?</translation>
     <name>Comparison</name>
     <message>
         <source>Opening %1…</source>
-        <translation>%1 wird geöffnet…</translation>
+        <translation>%1 wird geöffnet …</translation>
     </message>
     <message>
         <source>Cancel</source>

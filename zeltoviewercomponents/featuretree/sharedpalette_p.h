@@ -18,5 +18,7 @@ inline void sharePalette(QStyleOption *option)
     if (shared != option->palette) {
         shared = option->palette;
     }
+    const QPalette::ColorGroup group = option->palette.currentColorGroup(); // no part of what was compared
     option->palette = shared;
+    option->palette.setCurrentColorGroup(group);
 }

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace ParameterCollection;
 
@@ -409,6 +410,7 @@ void ChangeHistory::begin(const FileStep &step, bool back)
     m_task = std::make_unique<SettingsApplier>(back ? step.former : step.settings, m_nodeMaps,
                                                SettingsApplier::Before::Forget);
     m_isTaskBack = back;
+    m_taskChange = step.change();
     emit taskCreated(m_task.get()); // whose receivers hear of the end first
     connect(m_task.get(), SIGNAL(finished()), this, SLOT(onTaskFinished()));
     emit stepsChanged();
@@ -419,7 +421,10 @@ void ChangeHistory::onTaskFinished()
 {
     const SettingsReport report = m_task->report();
     m_task.release()->deleteLater(); // it is the sender
-    if (report.isSuccess()) {
+    const ChangePtr change = std::exchange(m_taskChange, nullptr);
+    const bool isNext = m_isTaskBack ? m_stack.canUndo() : m_stack.canRedo();
+    // What was recorded meanwhile, as a late answer or a command, may have taken the step away.
+    if (report.isSuccess() && isNext && nextStep(m_isTaskBack).change() == change) {
         for (const Change &value : static_cast<const FileStep &>(nextStep(m_isTaskBack)).values) {
             depart(value, m_isTaskBack ? value.after : value.before,
                    m_isTaskBack ? value.before : value.after);
@@ -429,9 +434,12 @@ void ChangeHistory::onTaskFinished()
     }
     m_isLost = true;
     setModified(true);
+    emit stepsChanged();
+    if (report.isSuccess()) {
+        return;
+    }
     showErrorMessage(failure(m_isTaskBack) + QLatin1Char(' ') + report.summary(),
                      report.problems().join(QLatin1Char('\n')));
-    emit stepsChanged();
 }
 
 // Keeps account of a value that has become another one.

@@ -137,6 +137,7 @@ private:
     ChangePtr m_mergeable; // may become one step with what comes next
     std::unique_ptr<SettingsApplier> m_task; // on the way back from a file
     bool m_isTaskBack = false;
+    ChangePtr m_taskChange; // whose step moves at the end
     QHash<QString, Departure> m_departures; // from the values at setUnmodified(), by full name and selectors
     bool m_isModified = false;
     bool m_isLost = false; // what values are, compared to those at setUnmodified(), is not known any more

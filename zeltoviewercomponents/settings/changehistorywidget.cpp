@@ -122,6 +122,12 @@ QModelIndex ChangeHistoryWidget::current() const
     return m_filter->mapToSource(m_view->currentIndex());
 }
 
+void ChangeHistoryWidget::setPuttingBack(bool isPossible)
+{
+    m_canPutBack = isPossible;
+    updateActions();
+}
+
 void ChangeHistoryWidget::search(const QString &text)
 {
     m_filter->setFilterFixedString(text);
@@ -143,7 +149,7 @@ bool ChangeHistoryWidget::eventFilter(QObject *watched, QEvent *event)
 void ChangeHistoryWidget::updateActions()
 {
     const Change change = m_history ? m_history->change(current()) : Change();
-    const bool isValue = change.kind == Change::Kind::Value;
+    const bool isValue = m_canPutBack && change.kind == Change::Kind::Value;
     m_go->setEnabled(current().isValid() && change.kind != Change::Kind::File);
     m_putBackBefore->setEnabled(isValue && !change.before.isNull());
     m_putBackAfter->setEnabled(isValue && !change.after.isNull());

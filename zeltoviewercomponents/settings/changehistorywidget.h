@@ -34,6 +34,8 @@ public:
 
     /*! Returns the listed changes as lines of text with tabs between the columns. */
     QString text() const;
+    /*! Sets whether values can be put back now: the camera is there, and nothing else is at work on it. */
+    void setPuttingBack(bool isPossible);
 
 signals:
     /*! The user wants to see the feature of that full name. */
@@ -68,4 +70,5 @@ private:
     QAction *m_putBackAfter;
     QAction *m_copy;
     QAction *m_save;
+    bool m_canPutBack = true;
 };
