@@ -570,7 +570,7 @@ void Session::runBatch(int map, std::shared_ptr<IBatch> steps)
     const auto batch = std::make_shared<Batch>(Batch{map, std::move(steps)});
     {
         const Lock lock(m_mutex);
-        if (!m_isStopping && !m_isFinished) {
+        if (m_takesBatches) {
             m_batches.push_back(batch);
             m_changed.notify_all();
             return;
@@ -656,7 +656,7 @@ void Session::readWhatChanged(const Batch &batch)
 void Session::dropBatches()
 {
     Lock lock(m_mutex);
-    m_isStopping = true; // no more of them
+    m_takesBatches = false;
     while (!m_batches.empty()) {
         const std::shared_ptr<Batch> batch = m_batches.front();
         m_batches.pop_front();

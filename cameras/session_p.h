@@ -252,6 +252,7 @@ private:
     std::vector<std::unique_ptr<MapState>> m_maps;
     std::deque<std::shared_ptr<Call>> m_calls;
     std::deque<std::shared_ptr<Batch>> m_batches; // the first one is under way
+    bool m_takesBatches = true; // until the worker has ended
     std::deque<Read> m_reads;
     Opening m_opening;
     QObject *m_openingListener = nullptr;
