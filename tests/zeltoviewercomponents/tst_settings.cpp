@@ -434,9 +434,8 @@ void TestSettings::applying_data()
     QTest::addColumn<QStringList>("values"); // feature=value in the end
     QTest::newRow("unchanged") << Change() << "UserID=left Width=0x280 Exposure=5e3 Reverse=0"
                                << "" << QStringList();
-    QTest::newRow("digits of double precision")
-        << Change() << "Exposure=5000.0001"
-        << "Exposure:0" << QStringList{"Exposure=5000.0001"};
+    QTest::newRow("digits of double precision") << Change() << "Exposure=5000.0001"
+                                                << "Exposure:0" << QStringList{"Exposure=5000.0001"};
     QTest::newRow("set") << Change() << "UserID=x Width=16 Exposure=20.5 Reverse=1"
                          << "UserID:0 Width:0 Exposure:0 Reverse:0"
                          << QStringList{"UserID=x", "Width=16", "Exposure=20.5", "Reverse=true"};
