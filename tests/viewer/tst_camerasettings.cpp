@@ -16,6 +16,7 @@
 #include <zeltoviewercomponents/settings/settingsreader.h>
 #include <zeltoviewercomponents/settings/settingsreportdialog.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFile>
 #include <QLabel>
