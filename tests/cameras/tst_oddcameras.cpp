@@ -17,8 +17,10 @@
 #include <QTest>
 #include <QThread>
 
+#include <cstddef>
+
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // its header comes with clang alone
 #endif
 
 using namespace Cameras;

@@ -19,6 +19,7 @@
 #include <QTreeWidget>
 
 #include <array>
+#include <ctime>
 #include <memory>
 
 namespace {
@@ -441,10 +442,9 @@ void TestFavoritesData::damagedSettings()
         settings.setValue(group + u'/' + entry.key(), entry.value());
     }
     FavoritesData data;
-    QElapsedTimer timer;
-    timer.start();
+    const auto start = std::clock(); // processor time: what else the machine does is none of ours
     QVERIFY(data.load(group));
-    QVERIFY(timer.elapsed() < 2000);
+    QVERIFY(std::clock() - start < 2 * CLOCKS_PER_SEC);
     QCOMPARE(names(data), expected);
 }
 
