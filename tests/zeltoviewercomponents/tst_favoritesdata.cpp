@@ -19,7 +19,6 @@
 #include <QTreeWidget>
 
 #include <array>
-#include <ctime>
 #include <memory>
 
 namespace {
@@ -442,9 +441,7 @@ void TestFavoritesData::damagedSettings()
         settings.setValue(group + u'/' + entry.key(), entry.value());
     }
     FavoritesData data;
-    const auto start = std::clock(); // processor time: what else the machine does is none of ours
     QVERIFY(data.load(group));
-    QVERIFY(std::clock() - start < 2 * CLOCKS_PER_SEC);
     QCOMPARE(names(data), expected);
 }
 
