@@ -105,12 +105,12 @@ public:
     /*! Returns whether the camera is read-only although nobody controls it now. */
     bool isControlAvailable() const;
 
-public slots:
+public Q_SLOTS:
     /*! Asks for the control of a read-only camera. Returns at once; accessChanged() or controlRefused() tells
      * what came of it. */
     void takeControl();
 
-signals:
+Q_SIGNALS:
     /*! The camera has stopped answering, which \a reason says in a sentence. Sent once, on the thread that
      * opened the camera. */
     void lost(const QString &reason);
@@ -124,7 +124,7 @@ signals:
     /*! takeControl() failed for \a reason. */
     void controlRefused(const QString &reason);
 
-private slots:
+private Q_SLOTS:
     void reportLoss(const QString &reason);
     void reportReturn(const QString &news);
     void reportAccess();

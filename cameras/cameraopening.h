@@ -51,11 +51,11 @@ public:
      * object. */
     std::unique_ptr<Camera> takeCamera();
 
-public slots:
+public Q_SLOTS:
     /*! Ends the opening. No signal is sent from then on. */
     void cancel();
 
-signals:
+Q_SIGNALS:
     /*! progress() has changed. */
     void progressed();
     /*! The camera is open; takeCamera() hands it over. */
@@ -63,7 +63,7 @@ signals:
     /*! The camera cannot be opened, for \a reason in one line that names it. */
     void failed(const QString &reason);
 
-private slots:
+private Q_SLOTS:
     void update();
     void giveUp();
 

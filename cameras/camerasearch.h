@@ -44,7 +44,7 @@ public:
     /*! Returns why the search has failed, empty when it has not. */
     QString failure() const;
 
-signals:
+Q_SIGNALS:
     /*! Something has changed of the above. */
     void changed();
 

@@ -7,12 +7,12 @@
 #include "enginefailure_p.h"
 #include "formulanode_p.h"
 #include "simulatedregisters_p.h"
-#include "valuetext_p.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
-#include <platform/core/singleprecision.h>
+#include <platform/core/singleprecision_p.h>
 #include <platform/genicam/genericexception.h>
+#include <platform/parametercollection/valuetext.h>
 #include <platform/parametercollection/valuewords.h>
 
 #include <algorithm>

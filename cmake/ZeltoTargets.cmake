@@ -4,6 +4,12 @@
 # What every target of the project has in common: warnings, include root, export header, install rules.
 
 set(ZELTO_INCLUDE_INSTALL_DIR ${CMAKE_INSTALL_INCLUDEDIR}/zelto)
+# Until 1.0, a program works with the minor version only that it was built with.
+set(ZELTO_SOVERSION ${PROJECT_VERSION_MAJOR})
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(ZELTO_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endif()
+
 set(ZELTO_PACKAGE_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/ZeltoViewerComponents)
 
 # Warnings and definitions of our own code.
@@ -59,7 +65,7 @@ function(zelto_add_library target)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${ARG_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR})
+        SOVERSION ${ZELTO_SOVERSION})
 
     install(TARGETS ${target} EXPORT ZeltoViewerComponentsTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}

@@ -11,6 +11,7 @@
 #include "treejson.h"
 
 #include <platform/core/savefile.h>
+#include <platform/version.h>
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
@@ -228,7 +229,7 @@ int main(int argc, char **argv)
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
     QCoreApplication::setApplicationName(QStringLiteral("zelto-viewer"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION_STRING));
 
     // Read before the application exists: it needs to know whether there has to be a display.
     const ParsedOptions parsed = parseOptions(argumentsFrom(argc, argv));

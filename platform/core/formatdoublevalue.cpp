@@ -3,7 +3,7 @@
 
 #include "formatdoublevalue.h"
 
-#include "singleprecision.h"
+#include "singleprecision_p.h"
 
 #include <QByteArray>
 

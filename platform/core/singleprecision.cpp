@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "singleprecision.h"
+#include "singleprecision_p.h"
 
 #include <QByteArray>
 

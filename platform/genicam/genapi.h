@@ -6,9 +6,11 @@
 #include <platform/platform_export.h>
 
 #include <QMetaType>
+#include <QObject>
 
 /*! \brief Enumerations of the GenICam standard's GenApi, with the standard's numbers. */
 namespace GenApi {
+Q_NAMESPACE_EXPORT(ZELTO_PLATFORM_EXPORT)
 
 /*! \brief The user level from which on a feature is shown. */
 enum EVisibility : int {
@@ -18,6 +20,7 @@ enum EVisibility : int {
     Invisible = 3, //!< shown at no user level
     UndefinedVisibility = 99,
 };
+Q_ENUM_NS(EVisibility)
 
 /*! \brief What can be done with a feature now. */
 enum EAccessMode : int {
@@ -28,6 +31,7 @@ enum EAccessMode : int {
     RW = 4, //!< readable and writable
     UndefinedAccessMode = 5,
 };
+Q_ENUM_NS(EAccessMode)
 
 /*! Returns whether \a mode lets a value be read. */
 constexpr bool isReadable(EAccessMode mode)
@@ -48,8 +52,6 @@ enum EDisplayNotation : int {
     fnScientific = 2,
     UndefinedDisplayNotation = 3,
 };
+Q_ENUM_NS(EDisplayNotation)
 
 } // namespace GenApi
-
-Q_DECLARE_METATYPE(GenApi::EVisibility)
-Q_DECLARE_METATYPE(GenApi::EAccessMode)

@@ -59,7 +59,7 @@ public:
     /*! Returns the node's own access at the time of the current snapshot, not limited by what was imposed. */
     virtual GenApi::EAccessMode nodeAccessMode() const = 0;
 
-signals:
+Q_SIGNALS:
     /*! A new snapshot; delivered on the receiver's thread, never from inside a call of the receiver. */
     void parameterDataChangedDecoupled(QSharedPointer<const ParameterCollection::ParameterData> data);
 

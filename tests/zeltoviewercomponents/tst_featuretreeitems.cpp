@@ -5,7 +5,7 @@
 #include <support/logcapture.h>
 #include <support/memorycollection.h>
 #include <support/table.h>
-#include <zeltoviewercomponents/featuretree/featuretreefavoritesitem.h>
+#include <zeltoviewercomponents/featuretree/featuretreefavoritesitem_p.h>
 #include <zeltoviewercomponents/featuretree/featuretreehighlighter.h>
 #include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>

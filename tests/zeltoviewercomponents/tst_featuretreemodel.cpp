@@ -8,7 +8,7 @@
 #include <support/strictidentityproxy.h>
 #include <support/table.h>
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
-#include <zeltoviewercomponents/featuretree/featuretreefavoritesitem.h>
+#include <zeltoviewercomponents/featuretree/featuretreefavoritesitem_p.h>
 #include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreemodel.h>
 #include <zeltoviewercomponents/featuretree/featuretreetext.h>
@@ -373,7 +373,8 @@ void TestFeatureTreeModel::lastWriteWins()
     };
     const auto answer = [&](const QString &text) {
         const QStringList writes = node->writes;
-        writeMemoryNode(*node, text);
+        node->writeText(text);
+        QCoreApplication::removePostedEvents(parameter.data());
         node->writes = writes;
         emit parameter->parameterDataChangedDecoupled(node->snapshot);
     };

@@ -52,12 +52,12 @@ public:
     /*! Returns the number of pending messages. */
     size_t count() const;
 
-signals:
+Q_SIGNALS:
     /*! Emitted once per message. \a parent is null when there was none or it has died meanwhile. */
     void displayError(AsyncErrorQueue::ErrorSeverity severity, QString message, QString details,
                       QWidget *parent);
 
-protected slots:
+protected Q_SLOTS:
     void asyncSignaler();
 
 private:

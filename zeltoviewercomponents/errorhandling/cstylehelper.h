@@ -48,14 +48,14 @@ public:
     /*! Returns \a pixels at the scale of the screen of \a widget. */
     static int scaled(int pixels, const QWidget *widget);
 
-signals:
+Q_SIGNALS:
     /*! The widget has come to a screen of another scale, or the scale of its screen has changed. */
     void screenScaleChanged(qreal scale);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void followScreen();
 
 private:

@@ -20,6 +20,7 @@
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HelpLink : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QUrl address READ address WRITE setAddress)
 
 public:
     explicit HelpLink(QWidget *parent = nullptr);
@@ -31,7 +32,7 @@ public:
     /*! Sets the address. */
     void setAddress(const QUrl &address);
 
-public slots:
+public Q_SLOTS:
     /*! Opens the page; a failure is reported to the user. */
     void open();
     /*! Puts the address on the clipboard. */

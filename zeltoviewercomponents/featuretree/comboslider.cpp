@@ -22,18 +22,28 @@
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.comboSlider")
 
+struct ComboSlider::Private
+{
+    ZeltoQtSpinBox *spinBox;
+    QSlider *slider;
+    InputHint *hint = nullptr; // created when there is something to say
+    int editBoxWidth = 0;
+    std::optional<int> sliderStepStart = std::nullopt;
+    bool updateEnabled = true;
+    bool showsTrueValue = true;
+};
+
 ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
-    , m_spinBox(new ZeltoQtSpinBox(this))
-    , m_slider(new QSlider(Qt::Horizontal, this))
+    , d(std::make_unique<Private>(Private{new ZeltoQtSpinBox(this), new QSlider(Qt::Horizontal, this)}))
 {
-    ControlParts::layOutComboSlider(this, m_spinBox, m_slider);
-    setEditBoxWidth(ControlParts::editBoxWidth(*m_spinBox));
-    m_slider->installEventFilter(this);
-    connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
-    connect(m_slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
-    connect(m_spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
-    const QLineEdit *const lineEdit = m_spinBox->lineEdit();
+    ControlParts::layOutComboSlider(this, d->spinBox, d->slider);
+    setEditBoxWidth(ControlParts::editBoxWidth(*d->spinBox));
+    d->slider->installEventFilter(this);
+    connect(d->slider, SIGNAL(valueChanged(int)), this, SLOT(onSliderValueChanged(int)));
+    connect(d->slider, SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
+    connect(d->spinBox, SIGNAL(editingFinished()), this, SLOT(onComboBoxEditingFinished()));
+    const QLineEdit *const lineEdit = d->spinBox->lineEdit();
     connect(lineEdit, SIGNAL(textChanged(QString)), this, SLOT(onTextChanged()));
     connect(lineEdit, SIGNAL(returnPressed()), this, SLOT(onReturnPressed()));
     ComboSlider::updateToolTip();
@@ -43,122 +53,122 @@ ComboSlider::~ComboSlider() = default;
 
 void ComboSlider::setValue(int value)
 {
-    const QScopedValueRollback<bool> silence(m_updateEnabled, false);
-    m_slider->setValue(trimValue(value));
+    const QScopedValueRollback<bool> silence(d->updateEnabled, false);
+    d->slider->setValue(trimValue(value));
     // Takes back a text that was entered and refused: then the slider has not moved.
-    m_spinBox->setValue(m_slider->value());
-    m_spinBox->lineEdit()->setModified(false);
-    m_showsTrueValue = m_slider->value() == value;
+    d->spinBox->setValue(d->slider->value());
+    d->spinBox->lineEdit()->setModified(false);
+    d->showsTrueValue = d->slider->value() == value;
 }
 
 void ComboSlider::setMinimum(int minimum)
 {
-    const QScopedValueRollback<bool> silence(m_updateEnabled, false);
-    m_slider->setMinimum(minimum);
-    m_spinBox->setMinimum(minimum);
-    emit rangeChanged(minimum, m_spinBox->maximum());
+    const QScopedValueRollback<bool> silence(d->updateEnabled, false);
+    d->slider->setMinimum(minimum);
+    d->spinBox->setMinimum(minimum);
+    emit rangeChanged(minimum, d->spinBox->maximum());
     updateToolTip();
 }
 
 void ComboSlider::setMaximum(int maximum)
 {
-    const QScopedValueRollback<bool> silence(m_updateEnabled, false);
-    m_slider->setMaximum(maximum);
-    m_spinBox->setMaximum(maximum);
-    emit rangeChanged(m_spinBox->minimum(), maximum);
+    const QScopedValueRollback<bool> silence(d->updateEnabled, false);
+    d->slider->setMaximum(maximum);
+    d->spinBox->setMaximum(maximum);
+    emit rangeChanged(d->spinBox->minimum(), maximum);
     updateToolTip();
 }
 
 void ComboSlider::setRange(int minimum, int maximum)
 {
-    const QScopedValueRollback<bool> silence(m_updateEnabled, false);
-    m_slider->setMinimum(minimum);
-    m_spinBox->setMinimum(minimum);
-    m_slider->setMaximum(maximum);
-    m_spinBox->setMaximum(maximum);
+    const QScopedValueRollback<bool> silence(d->updateEnabled, false);
+    d->slider->setMinimum(minimum);
+    d->spinBox->setMinimum(minimum);
+    d->slider->setMaximum(maximum);
+    d->spinBox->setMaximum(maximum);
     emit rangeChanged(minimum, maximum);
     updateToolTip();
 }
 
 void ComboSlider::setRangeAndStep(int minimum, int maximum, int singleStep)
 {
-    const QScopedValueRollback<bool> silence(m_updateEnabled, false);
-    m_spinBox->setSingleStep(singleStep);
-    m_spinBox->setMinimum(minimum);
-    m_spinBox->setMaximum(maximum);
-    m_slider->setSingleStep(singleStep);
-    m_slider->setMinimum(minimum);
-    m_slider->setMaximum(maximum);
+    const QScopedValueRollback<bool> silence(d->updateEnabled, false);
+    d->spinBox->setSingleStep(singleStep);
+    d->spinBox->setMinimum(minimum);
+    d->spinBox->setMaximum(maximum);
+    d->slider->setSingleStep(singleStep);
+    d->slider->setMinimum(minimum);
+    d->slider->setMaximum(maximum);
     emit rangeChanged(minimum, maximum);
     updateToolTip();
 }
 
 void ComboSlider::setSingleStep(int singleStep)
 {
-    m_slider->setSingleStep(singleStep);
-    m_spinBox->setSingleStep(singleStep);
+    d->slider->setSingleStep(singleStep);
+    d->spinBox->setSingleStep(singleStep);
     updateToolTip();
 }
 
 void ComboSlider::setPageStep(int pageStep)
 {
-    m_slider->setPageStep(pageStep);
+    d->slider->setPageStep(pageStep);
     // The spin box counts in single steps, and makes one at least.
-    m_spinBox->setPageStep(std::max(pageStep / std::max(m_spinBox->singleStep(), 1), 1));
+    d->spinBox->setPageStep(std::max(pageStep / std::max(d->spinBox->singleStep(), 1), 1));
     updateToolTip();
 }
 
 int ComboSlider::value() const
 {
-    return m_slider->value();
+    return d->slider->value();
 }
 
 int ComboSlider::minimum() const
 {
-    return m_slider->minimum();
+    return d->slider->minimum();
 }
 
 int ComboSlider::maximum() const
 {
-    return m_slider->maximum();
+    return d->slider->maximum();
 }
 
 int ComboSlider::singleStep() const
 {
-    return m_slider->singleStep();
+    return d->slider->singleStep();
 }
 
 int ComboSlider::pageStep() const
 {
-    return m_slider->pageStep();
+    return d->slider->pageStep();
 }
 
 int ComboSlider::editBoxWidth() const
 {
-    return m_editBoxWidth;
+    return d->editBoxWidth;
 }
 
 void ComboSlider::setEditBoxWidth(int width)
 {
-    m_editBoxWidth = width;
-    m_spinBox->setMinimumWidth(width);
+    d->editBoxWidth = width;
+    d->spinBox->setMinimumWidth(width);
 }
 
 void ComboSlider::enableUpdate(bool enable)
 {
-    m_updateEnabled = enable;
+    d->updateEnabled = enable;
 }
 
 bool ComboSlider::isUpdateEnabled() const
 {
-    return m_updateEnabled;
+    return d->updateEnabled;
 }
 
 bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_slider && event->type() == QEvent::Wheel) {
+    if (watched == d->slider && event->type() == QEvent::Wheel) {
         // Steps of the same size wherever the wheel turns, and none without a value to start from.
-        QCoreApplication::sendEvent(m_spinBox, event);
+        QCoreApplication::sendEvent(d->spinBox, event);
         return true;
     }
     return QWidget::eventFilter(watched, event);
@@ -167,13 +177,13 @@ bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
 void ComboSlider::updateToolTip()
 {
     ControlParts::guardedToolTip(logCategory(), [this] {
-        const int step = m_spinBox->singleStep();
+        const int step = d->spinBox->singleStep();
         const QString text = step != 1
             ? tr("Range: %1..%2 (Increment: %3)")
-                  .arg(m_spinBox->minimum())
-                  .arg(m_spinBox->maximum())
+                  .arg(d->spinBox->minimum())
+                  .arg(d->spinBox->maximum())
                   .arg(step)
-            : tr("Range: %1..%2").arg(m_spinBox->minimum()).arg(m_spinBox->maximum());
+            : tr("Range: %1..%2").arg(d->spinBox->minimum()).arg(d->spinBox->maximum());
         if (text != toolTip()) {
             setToolTip(text);
         }
@@ -182,66 +192,66 @@ void ComboSlider::updateToolTip()
 
 int ComboSlider::trimValue(int value) const
 {
-    const int limited = qBound(m_slider->minimum(), value, m_slider->maximum());
-    return EditorNumbers::trimmedToGrid(limited, m_spinBox->minimum(), m_spinBox->singleStep());
+    const int limited = qBound(d->slider->minimum(), value, d->slider->maximum());
+    return EditorNumbers::trimmedToGrid(limited, d->spinBox->minimum(), d->spinBox->singleStep());
 }
 
 QSlider *ComboSlider::slider() const
 {
-    return m_slider;
+    return d->slider;
 }
 
 ZeltoQtSpinBox *ComboSlider::spinBox() const
 {
-    return m_spinBox;
+    return d->spinBox;
 }
 
 std::optional<int> ComboSlider::stepStart() const
 {
-    return m_sliderStepStart ? m_sliderStepStart : m_spinBox->stepStart();
+    return d->sliderStepStart ? d->sliderStepStart : d->spinBox->stepStart();
 }
 
 void ComboSlider::setShowsTrueValue(bool showsTrueValue)
 {
-    m_showsTrueValue = showsTrueValue;
+    d->showsTrueValue = showsTrueValue;
 }
 
 void ComboSlider::onComboBoxEditingFinished()
 {
-    m_spinBox->lineEdit()->setModified(false);
-    const std::optional<qint64> entered = m_spinBox->takeEntered();
-    const int trimmed = trimValue(m_spinBox->value());
-    if (trimmed != m_spinBox->value()) {
-        m_spinBox->setValue(trimmed);
+    d->spinBox->lineEdit()->setModified(false);
+    const std::optional<qint64> entered = d->spinBox->takeEntered();
+    const int trimmed = trimValue(d->spinBox->value());
+    if (trimmed != d->spinBox->value()) {
+        d->spinBox->setValue(trimmed);
     }
-    const QString outcome = entered && !stepStart() ? m_spinBox->outcomeOf(*entered) : QString();
+    const QString outcome = entered && !stepStart() ? d->spinBox->outcomeOf(*entered) : QString();
     if (!outcome.isEmpty()) {
         hint()->tell(outcome);
     }
-    if (entered && !m_showsTrueValue && trimmed == m_slider->value()) {
+    if (entered && !d->showsTrueValue && trimmed == d->slider->value()) {
         tellUser(trimmed);
     }
-    m_slider->setValue(trimmed);
+    d->slider->setValue(trimmed);
 }
 
 void ComboSlider::onSliderValueChanged(int value)
 {
     const int trimmed = trimValue(value);
-    if (trimmed != m_spinBox->value()) {
-        m_spinBox->setValue(trimmed);
+    if (trimmed != d->spinBox->value()) {
+        d->spinBox->setValue(trimmed);
     }
     if (trimmed != value) {
         // Comes back here with the grid point.
-        m_slider->setValue(trimmed);
+        d->slider->setValue(trimmed);
         return;
     }
     tellUser(value);
-    m_sliderStepStart.reset();
+    d->sliderStepStart.reset();
 }
 
 void ComboSlider::tellUser(int value)
 {
-    if (m_updateEnabled) {
+    if (d->updateEnabled) {
         emit valueChanged(value);
     }
 }
@@ -252,26 +262,26 @@ void ComboSlider::onSliderAction(int action)
         action == QAbstractSlider::SliderSingleStepAdd || action == QAbstractSlider::SliderPageStepAdd;
     const bool isDown =
         action == QAbstractSlider::SliderSingleStepSub || action == QAbstractSlider::SliderPageStepSub;
-    m_sliderStepStart.reset();
+    d->sliderStepStart.reset();
     if (!isUp && !isDown) {
         return;
     }
-    const int value = m_slider->value();
+    const int value = d->slider->value();
     // Whole steps, as those of the spin box, and one at least: a page may be smaller.
-    const int step = std::max(m_spinBox->singleStep(), 1);
-    const qint64 wholeSteps = (qint64(m_slider->sliderPosition()) - value) / step;
+    const int step = std::max(d->spinBox->singleStep(), 1);
+    const qint64 wholeSteps = (qint64(d->slider->sliderPosition()) - value) / step;
     const qint64 steps = wholeSteps != 0 ? wholeSteps : isUp ? 1 : -1;
     const int target = trimValue(EditorNumbers::saturated(value + steps * step));
-    m_slider->setSliderPosition(m_spinBox->canStep() ? target : value);
-    if (m_slider->sliderPosition() != value) {
-        m_sliderStepStart = value; // until the slider tells of it
+    d->slider->setSliderPosition(d->spinBox->canStep() ? target : value);
+    if (d->slider->sliderPosition() != value) {
+        d->sliderStepStart = value; // until the slider tells of it
     }
 }
 
 void ComboSlider::onTextChanged()
 {
-    const QString problem = m_spinBox->problem();
-    if (m_hint || !problem.isEmpty()) {
+    const QString problem = d->spinBox->problem();
+    if (d->hint || !problem.isEmpty()) {
         hint()->setProblem(problem);
     }
 }
@@ -279,15 +289,15 @@ void ComboSlider::onTextChanged()
 void ComboSlider::onReturnPressed()
 {
     onTextChanged(); // the limits may have changed below the text
-    if (m_hint && !m_hint->problem().isEmpty()) {
-        m_hint->tell(m_hint->problem());
+    if (d->hint && !d->hint->problem().isEmpty()) {
+        d->hint->tell(d->hint->problem());
     }
 }
 
 InputHint *ComboSlider::hint()
 {
-    if (!m_hint) {
-        m_hint = new InputHint(this, m_spinBox->lineEdit());
+    if (!d->hint) {
+        d->hint = new InputHint(this, d->spinBox->lineEdit());
     }
-    return m_hint;
+    return d->hint;
 }

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 class InputHint;
@@ -23,9 +24,14 @@ class ZeltoQtSpinBox;
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ComboSlider : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep)
+    Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
-    explicit ComboSlider(QWidget *parent);
+    explicit ComboSlider(QWidget *parent = nullptr);
     ~ComboSlider() override;
 
     /*! Shows the grid point at or below \a value. */
@@ -66,7 +72,7 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-signals:
+Q_SIGNALS:
     /*! The user has changed the value. */
     void valueChanged(int value);
     /*! The limits were set. */
@@ -90,11 +96,11 @@ protected:
     QSlider *slider() const;
     ZeltoQtSpinBox *spinBox() const;
 
-protected slots:
+protected Q_SLOTS:
     void onSliderValueChanged(int value);
     void onComboBoxEditingFinished();
 
-private slots:
+private Q_SLOTS:
     void onSliderAction(int action);
     void onTextChanged();
     void onReturnPressed();
@@ -102,11 +108,6 @@ private slots:
 private:
     InputHint *hint();
 
-    ZeltoQtSpinBox *m_spinBox;
-    QSlider *m_slider;
-    InputHint *m_hint = nullptr; // created when there is something to say
-    int m_editBoxWidth = 0;
-    std::optional<int> m_sliderStepStart;
-    bool m_updateEnabled = true;
-    bool m_showsTrueValue = true;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

@@ -6,7 +6,7 @@
 #include "controlparts_p.h"
 #include "editorkeys_p.h"
 #include "editornumbers_p.h"
-#include "spinboxeventcatcher.h"
+#include "spinboxeventcatcher_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <QSlider>
@@ -16,100 +16,115 @@
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleComboSlider")
 
+struct DoubleComboSlider::Private
+{
+    ZeltoQtDoubleSpinBox *spinBox;
+    QSlider *slider;
+    SpinBoxEventCatcher *eventCatcher;
+    int editBoxWidth = 0;
+    int intIncrement = 0;
+    double minRangeLimit = 0.0;
+    double maxRangeLimit = 0.0;
+    bool hasFocus = false;
+    bool updateExpected = false;
+};
+
 DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     : QWidget(parent)
-    , m_spinBox(new ZeltoQtDoubleSpinBox(this))
-    , m_slider(new QSlider(Qt::Horizontal, this))
-    , m_eventCatcher(new SpinBoxEventCatcher(this))
+    , d(std::make_unique<Private>(Private{new ZeltoQtDoubleSpinBox(this), new QSlider(Qt::Horizontal, this),
+                                          new SpinBoxEventCatcher(this)}))
 {
-    ControlParts::layOutComboSlider(this, m_spinBox, m_slider);
-    setEditBoxWidth(ControlParts::editBoxWidth(*m_spinBox));
-    m_spinBox->setAccelerated(true);
-    m_spinBox->installEventFilter(m_eventCatcher);
-    m_slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    connect(m_spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
-    connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
+    ControlParts::layOutComboSlider(this, d->spinBox, d->slider);
+    setEditBoxWidth(ControlParts::editBoxWidth(*d->spinBox));
+    d->spinBox->setAccelerated(true);
+    d->spinBox->installEventFilter(d->eventCatcher);
+    d->slider->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    connect(d->spinBox, SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
+    connect(d->eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
     DoubleComboSlider::updateToolTip();
 }
 
-DoubleComboSlider::~DoubleComboSlider() = default;
+DoubleComboSlider::~DoubleComboSlider()
+{
+    d->spinBox->removeEventFilter(d->eventCatcher); // it loses the focus after this
+}
 
 void DoubleComboSlider::setValue(double value)
 {
-    m_spinBox->showValue(value);
+    d->spinBox->showValue(value);
 }
 
 void DoubleComboSlider::setIntValue(int position)
 {
-    m_slider->setValue(position);
+    d->slider->setValue(position);
 }
 
 void DoubleComboSlider::setMinimum(double minimum)
 {
-    m_minRangeLimit = minimum;
+    d->minRangeLimit = minimum;
     // Before the spin box has the minimum, unlike in setMaximum(): the tip still tells the old one.
     updateToolTip();
-    m_spinBox->setLimits(minimum, std::max(minimum, m_spinBox->maximum()));
+    d->spinBox->setLimits(minimum, std::max(minimum, d->spinBox->maximum()));
 }
 
 void DoubleComboSlider::setIntMinimum(int minimum)
 {
-    m_slider->setMinimum(minimum);
+    d->slider->setMinimum(minimum);
     reportIntRange();
 }
 
 void DoubleComboSlider::setMaximum(double maximum)
 {
-    m_maxRangeLimit = maximum;
-    m_spinBox->setLimits(std::min(m_spinBox->minimum(), maximum), maximum);
+    d->maxRangeLimit = maximum;
+    d->spinBox->setLimits(std::min(d->spinBox->minimum(), maximum), maximum);
     updateToolTip();
 }
 
 void DoubleComboSlider::setIntMaximum(int maximum)
 {
-    m_slider->setMaximum(maximum);
+    d->slider->setMaximum(maximum);
     reportIntRange();
 }
 
 void DoubleComboSlider::setDecimals(int decimals)
 {
-    m_spinBox->setDecimals(decimals);
+    d->spinBox->setDecimals(decimals);
     updateToolTip();
 }
 
 void DoubleComboSlider::setRange(double minimum, double maximum)
 {
-    m_minRangeLimit = minimum;
-    m_maxRangeLimit = maximum;
-    m_spinBox->setLimits(minimum, maximum);
+    d->minRangeLimit = minimum;
+    d->maxRangeLimit = maximum;
+    d->spinBox->setLimits(minimum, maximum);
     updateToolTip();
 }
 
 void DoubleComboSlider::setIntRange(int minimum, int maximum)
 {
-    m_slider->setRange(minimum, maximum);
+    d->slider->setRange(minimum, maximum);
     reportIntRange();
 }
 
 void DoubleComboSlider::reportIntRange()
 {
     updateToolTip();
-    emit rangeChanged(m_slider->minimum(), m_slider->maximum());
+    emit rangeChanged(d->slider->minimum(), d->slider->maximum());
 }
 
 void DoubleComboSlider::setIntIncrement(int increment)
 {
-    m_intIncrement = increment;
+    d->intIncrement = increment;
 }
 
 void DoubleComboSlider::setPageStep()
 {
-    int step = EditorNumbers::pageStep(m_slider->minimum(), m_slider->maximum(), m_intIncrement);
-    if (m_slider->singleStep() != 0 && m_intIncrement != 0) {
-        const qint64 distance = EditorNumbers::wrappingDifference(step, m_slider->minimum());
-        step = EditorNumbers::saturated(step - distance % m_intIncrement);
+    int step = EditorNumbers::pageStep(d->slider->minimum(), d->slider->maximum(), d->intIncrement);
+    if (d->slider->singleStep() != 0 && d->intIncrement != 0) {
+        const qint64 distance = EditorNumbers::wrappingDifference(step, d->slider->minimum());
+        step = EditorNumbers::saturated(step - distance % d->intIncrement);
     }
-    m_slider->setPageStep(step);
+    d->slider->setPageStep(step);
     updateToolTip();
 }
 
@@ -131,112 +146,112 @@ void DoubleComboSlider::initControls(double minRangeLimit, double maxRangeLimit,
                                      int minIntRangeLimit, int maxIntRangeLimit, int intIncrement)
 {
     setRange(minRangeLimit, maxRangeLimit);
-    m_slider->setSingleStep(intIncrement);
+    d->slider->setSingleStep(intIncrement);
     setIntValue(intValue);
     setRangeStepAndIncrement(minIntRangeLimit, maxIntRangeLimit, intIncrement);
 }
 
 double DoubleComboSlider::value() const
 {
-    return m_spinBox->value();
+    return d->spinBox->value();
 }
 
 double DoubleComboSlider::minimum() const
 {
-    return m_spinBox->lowestValue();
+    return d->spinBox->lowestValue();
 }
 
 double DoubleComboSlider::maximum() const
 {
-    return m_spinBox->highestValue();
+    return d->spinBox->highestValue();
 }
 
 int DoubleComboSlider::decimals() const
 {
-    return m_spinBox->decimals();
+    return d->spinBox->decimals();
 }
 
 int DoubleComboSlider::intValue() const
 {
-    return m_slider->value();
+    return d->slider->value();
 }
 
 int DoubleComboSlider::intMinimum() const
 {
-    return m_slider->minimum();
+    return d->slider->minimum();
 }
 
 int DoubleComboSlider::intMaximum() const
 {
-    return m_slider->maximum();
+    return d->slider->maximum();
 }
 
 int DoubleComboSlider::intIncrement() const
 {
-    return m_intIncrement;
+    return d->intIncrement;
 }
 
 int DoubleComboSlider::editBoxWidth() const
 {
-    return m_editBoxWidth;
+    return d->editBoxWidth;
 }
 
 void DoubleComboSlider::setEditBoxWidth(int width)
 {
-    m_editBoxWidth = width;
-    m_spinBox->setMinimumWidth(width);
+    d->editBoxWidth = width;
+    d->spinBox->setMinimumWidth(width);
 }
 
 void DoubleComboSlider::enableUpdate(bool enable)
 {
-    m_updateExpected = enable;
+    d->updateExpected = enable;
 }
 
 bool DoubleComboSlider::isUpdateExspected() const
 {
-    return m_updateExpected;
+    return d->updateExpected;
 }
 
 bool DoubleComboSlider::hasFocus() const
 {
-    return m_hasFocus;
+    return d->hasFocus;
 }
 
 bool DoubleComboSlider::checkIfLimitsChanged(int minimum, int maximum, int increment) const
 {
-    return minimum != m_slider->minimum() || maximum != m_slider->maximum() || increment != m_intIncrement;
+    return minimum != d->slider->minimum() || maximum != d->slider->maximum() || increment != d->intIncrement;
 }
 
 bool DoubleComboSlider::checkIfLimitsChanged(double minimum, double maximum, int increment) const
 {
-    return minimum != m_minRangeLimit || maximum != m_maxRangeLimit || increment != m_intIncrement;
+    return minimum != d->minRangeLimit || maximum != d->maxRangeLimit || increment != d->intIncrement;
 }
 
 int DoubleComboSlider::trimSliderValue(int position) const
 {
-    return m_slider->singleStep() == 0
+    return d->slider->singleStep() == 0
         ? position
-        : EditorNumbers::trimmedToGrid(position, m_slider->minimum(), m_intIncrement);
+        : EditorNumbers::trimmedToGrid(position, d->slider->minimum(), d->intIncrement);
 }
 
 QSlider *DoubleComboSlider::slider() const
 {
-    return m_slider;
+    return d->slider;
 }
 
 ZeltoQtDoubleSpinBox *DoubleComboSlider::spinBox() const
 {
-    return m_spinBox;
+    return d->spinBox;
 }
 
 void DoubleComboSlider::updateToolTip()
 {
     ControlParts::guardedToolTip(logCategory(), [this] {
         const QString text =
-            tr("Range: %1..%2").arg(m_spinBox->numberText(minimum()), m_spinBox->numberText(maximum()));
+            tr("Range: %1..%2").arg(d->spinBox->numberText(minimum()), d->spinBox->numberText(maximum()));
         if (text != toolTip()) {
-            m_slider->setToolTip(text);
-            m_spinBox->setToolTip(text);
+            d->slider->setToolTip(text);
+            d->spinBox->setToolTip(text);
             setToolTip(text);
         }
     });
@@ -244,15 +259,15 @@ void DoubleComboSlider::updateToolTip()
 
 void DoubleComboSlider::onSpinBoxStepTriggered(int steps)
 {
-    m_updateExpected = true;
-    const qint64 distance = steps == EditorKeys::pageKeySteps ? m_slider->pageStep()
-        : steps == -EditorKeys::pageKeySteps                  ? -qint64(m_slider->pageStep())
-                                                              : qint64(steps) * m_intIncrement;
-    m_slider->setValue(EditorNumbers::saturated(m_slider->value() + distance));
+    d->updateExpected = true;
+    const qint64 distance = steps == EditorKeys::pageKeySteps ? d->slider->pageStep()
+        : steps == -EditorKeys::pageKeySteps                  ? -qint64(d->slider->pageStep())
+                                                              : qint64(steps) * d->intIncrement;
+    d->slider->setValue(EditorNumbers::saturated(d->slider->value() + distance));
 }
 
 void DoubleComboSlider::onSpinBoxFocusEventTriggered(bool focus)
 {
-    m_hasFocus = focus;
-    m_updateExpected = !focus;
+    d->hasFocus = focus;
+    d->updateExpected = !focus;
 }

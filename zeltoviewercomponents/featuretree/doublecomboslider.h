@@ -7,8 +7,9 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QSlider;
-class SpinBoxEventCatcher;
 class ZeltoQtDoubleSpinBox;
 
 /*! \brief A spin box for doubles beside a slider of integer positions that carries the stepping.
@@ -22,7 +23,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT DoubleComboSlider : public QWidget
     Q_OBJECT
 
 public:
-    explicit DoubleComboSlider(QWidget *parent);
+    explicit DoubleComboSlider(QWidget *parent = nullptr);
     ~DoubleComboSlider() override;
 
     /*! Shows \a value in the spin box; the slider stays where it is. */
@@ -82,13 +83,13 @@ public:
     /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
-public slots:
+public Q_SLOTS:
     /*! Moves the slider as a step of the spin box asks for. */
     void onSpinBoxStepTriggered(int steps);
     /*! Takes note that the spin box got or lost the focus. */
     void onSpinBoxFocusEventTriggered(bool focus);
 
-signals:
+Q_SIGNALS:
     /*! The slider's range was set. */
     void rangeChanged(int minimum, int maximum);
 
@@ -105,13 +106,6 @@ protected:
 private:
     void reportIntRange();
 
-    ZeltoQtDoubleSpinBox *m_spinBox;
-    QSlider *m_slider;
-    SpinBoxEventCatcher *m_eventCatcher;
-    int m_editBoxWidth = 0;
-    int m_intIncrement = 0;
-    double m_minRangeLimit = 0.0;
-    double m_maxRangeLimit = 0.0;
-    bool m_hasFocus = false;
-    bool m_updateExpected = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

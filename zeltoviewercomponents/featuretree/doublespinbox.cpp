@@ -4,15 +4,33 @@
 #include "doublespinbox.h"
 
 #include "controlparts_p.h"
-#include "spinboxeventcatcher.h"
+#include "spinboxeventcatcher_p.h"
 #include "zeltoqtdoublespinbox.h"
 
 #include <QHBoxLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 ZELTO_LOG_CATEGORY("zelto.viewer.components.featureTree.doubleSpinBox")
+
+struct DoubleSpinBox::Private
+{
+    ZeltoQtDoubleSpinBox *spinBox;
+    SpinBoxEventCatcher *eventCatcher;
+    double increment = 0.0;
+    double minRangeLimit = std::numeric_limits<double>::lowest();
+    double maxRangeLimit = std::numeric_limits<double>::max();
+    int editBoxWidth = 0;
+    bool updateExpected = false;
+    bool hasFocus = false;
+};
+
+DoubleSpinBox::DoubleSpinBox(QWidget *parent)
+    : DoubleSpinBox(parent, QString())
+{
+}
 
 DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     : DoubleSpinBox(parent, representation, Limits::Now)
@@ -21,66 +39,68 @@ DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
 
 DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation, Limits limits)
     : QWidget(parent)
-    , m_spinBox(new ZeltoQtDoubleSpinBox(this))
-    , m_eventCatcher(new SpinBoxEventCatcher(this))
+    , d(std::make_unique<Private>(Private{new ZeltoQtDoubleSpinBox(this), new SpinBoxEventCatcher(this)}))
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_spinBox);
+    layout->addWidget(d->spinBox);
     setContentsMargins(1, 0, 1, 0);
     if (limits == Limits::Now) {
-        m_spinBox->setLimits(m_minRangeLimit, m_maxRangeLimit);
+        d->spinBox->setLimits(d->minRangeLimit, d->maxRangeLimit);
     }
-    m_spinBox->setAccelerated(true);
+    d->spinBox->setAccelerated(true);
     if (representation == QLatin1String("PureNumber")) {
-        m_spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+        d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     }
-    ControlParts::setUpComposite(this, m_spinBox);
-    m_spinBox->installEventFilter(m_eventCatcher);
-    connect(m_eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
+    ControlParts::setUpComposite(this, d->spinBox);
+    d->spinBox->installEventFilter(d->eventCatcher);
+    connect(d->eventCatcher, SIGNAL(focusEvent(bool)), this, SLOT(onSpinBoxFocusEventTriggered(bool)));
 }
 
-DoubleSpinBox::~DoubleSpinBox() = default;
+DoubleSpinBox::~DoubleSpinBox()
+{
+    d->spinBox->removeEventFilter(d->eventCatcher); // it loses the focus after this
+}
 
 void DoubleSpinBox::setValue(double value)
 {
-    m_spinBox->showValue(value);
+    d->spinBox->showValue(value);
 }
 
 void DoubleSpinBox::setMinimum(double minimum)
 {
-    m_spinBox->setLimits(minimum, std::max(minimum, m_spinBox->maximum()));
+    d->spinBox->setLimits(minimum, std::max(minimum, d->spinBox->maximum()));
     updateToolTip();
 }
 
 void DoubleSpinBox::setMaximum(double maximum)
 {
-    m_spinBox->setLimits(std::min(m_spinBox->minimum(), maximum), maximum);
+    d->spinBox->setLimits(std::min(d->spinBox->minimum(), maximum), maximum);
     updateToolTip();
 }
 
 void DoubleSpinBox::setDecimals(int decimals)
 {
-    m_spinBox->setDecimals(decimals);
+    d->spinBox->setDecimals(decimals);
     updateToolTip();
 }
 
 void DoubleSpinBox::setIncrement(double increment)
 {
-    m_increment = increment;
+    d->increment = increment;
 }
 
 void DoubleSpinBox::setRange(double minimum, double maximum)
 {
-    m_minRangeLimit = minimum;
-    m_maxRangeLimit = maximum;
-    m_spinBox->setLimits(minimum, maximum);
+    d->minRangeLimit = minimum;
+    d->maxRangeLimit = maximum;
+    d->spinBox->setLimits(minimum, maximum);
     updateToolTip();
 }
 
 void DoubleSpinBox::setPageStep()
 {
-    m_spinBox->setPageStep(std::max(2.0 * m_increment, (m_maxRangeLimit - m_minRangeLimit) / 20.0));
+    d->spinBox->setPageStep(std::max(2.0 * d->increment, (d->maxRangeLimit - d->minRangeLimit) / 20.0));
 }
 
 void DoubleSpinBox::setRangeStepAndIncrement(double minimum, double maximum, double increment)
@@ -89,7 +109,7 @@ void DoubleSpinBox::setRangeStepAndIncrement(double minimum, double maximum, dou
     setIncrement(increment);
     setPageStep();
     if (increment == 0.0) {
-        m_spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+        d->spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     }
 }
 
@@ -102,32 +122,32 @@ void DoubleSpinBox::initControls(double minimum, double maximum, double value, d
 
 double DoubleSpinBox::value() const
 {
-    return m_spinBox->value();
+    return d->spinBox->value();
 }
 
 double DoubleSpinBox::minimum() const
 {
-    return m_spinBox->lowestValue();
+    return d->spinBox->lowestValue();
 }
 
 double DoubleSpinBox::maximum() const
 {
-    return m_spinBox->highestValue();
+    return d->spinBox->highestValue();
 }
 
 int DoubleSpinBox::decimals() const
 {
-    return m_spinBox->decimals();
+    return d->spinBox->decimals();
 }
 
 double DoubleSpinBox::increment() const
 {
-    return m_increment;
+    return d->increment;
 }
 
 int DoubleSpinBox::pageStep() const
 {
-    const double step = m_spinBox->pageStep();
+    const double step = d->spinBox->pageStep();
     return std::isnan(step) ? 0
                             : static_cast<int>(std::clamp<double>(step, std::numeric_limits<int>::min(),
                                                                   std::numeric_limits<int>::max()));
@@ -135,52 +155,52 @@ int DoubleSpinBox::pageStep() const
 
 int DoubleSpinBox::editBoxWidth() const
 {
-    return m_editBoxWidth;
+    return d->editBoxWidth;
 }
 
 void DoubleSpinBox::setEditBoxWidth(int width)
 {
-    m_editBoxWidth = width;
-    m_spinBox->setMinimumWidth(width);
+    d->editBoxWidth = width;
+    d->spinBox->setMinimumWidth(width);
 }
 
 void DoubleSpinBox::enableUpdate(bool enable)
 {
-    m_updateExpected = enable;
+    d->updateExpected = enable;
 }
 
 bool DoubleSpinBox::isUpdateExspected() const
 {
-    return m_updateExpected;
+    return d->updateExpected;
 }
 
 bool DoubleSpinBox::hasFocus() const
 {
-    return m_hasFocus;
+    return d->hasFocus;
 }
 
 bool DoubleSpinBox::checkIfLimitsChanged(double minimum, double maximum, double increment) const
 {
-    return minimum != m_minRangeLimit || maximum != m_maxRangeLimit || increment != m_increment;
+    return minimum != d->minRangeLimit || maximum != d->maxRangeLimit || increment != d->increment;
 }
 
 ZeltoQtDoubleSpinBox *DoubleSpinBox::spinBox() const
 {
-    return m_spinBox;
+    return d->spinBox;
 }
 
 void DoubleSpinBox::updateToolTip()
 {
     ControlParts::guardedToolTip(logCategory(), [this] {
-        const QString lowest = m_spinBox->numberText(minimum());
-        const QString highest = m_spinBox->numberText(maximum());
-        const QString increment = m_spinBox->numberText(m_increment);
+        const QString lowest = d->spinBox->numberText(minimum());
+        const QString highest = d->spinBox->numberText(maximum());
+        const QString increment = d->spinBox->numberText(d->increment);
         // A text with a decimal comma converts to 0 as well, and then the increment is left out.
         const QString text = increment.toDouble() == 0.0
             ? tr("Range: %1..%2").arg(lowest, highest)
             : tr("Range: %1..%2 (Increment: %3)").arg(lowest, highest, increment);
         if (text != toolTip()) {
-            m_spinBox->setToolTip(text);
+            d->spinBox->setToolTip(text);
             setToolTip(text);
         }
     });
@@ -188,6 +208,6 @@ void DoubleSpinBox::updateToolTip()
 
 void DoubleSpinBox::onSpinBoxFocusEventTriggered(bool focus)
 {
-    m_hasFocus = focus;
-    m_updateExpected = !focus;
+    d->hasFocus = focus;
+    d->updateExpected = !focus;
 }

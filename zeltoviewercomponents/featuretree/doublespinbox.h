@@ -7,9 +7,8 @@
 
 #include <QWidget>
 
-#include <limits>
+#include <memory>
 
-class SpinBoxEventCatcher;
 class ZeltoQtDoubleSpinBox;
 
 /*! \brief A spin box for doubles with limits, increment and page step; its owner decides how far a step goes.
@@ -22,8 +21,15 @@ class ZeltoQtDoubleSpinBox;
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT DoubleSpinBox : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double increment READ increment WRITE setIncrement)
+    Q_PROPERTY(double value READ value WRITE setValue USER true)
 
 public:
+    /*! With step buttons. */
+    explicit DoubleSpinBox(QWidget *parent = nullptr);
     /*! For the \a representation "PureNumber" there are no step buttons. */
     DoubleSpinBox(QWidget *parent, const QString &representation);
     ~DoubleSpinBox() override;
@@ -69,7 +75,7 @@ public:
     /*! Returns whether the spin box has the focus. */
     bool hasFocus() const;
 
-public slots:
+public Q_SLOTS:
     /*! Takes note that the spin box got or lost the focus. */
     void onSpinBoxFocusEventTriggered(bool focus);
 
@@ -87,12 +93,6 @@ protected:
     ZeltoQtDoubleSpinBox *spinBox() const;
 
 private:
-    ZeltoQtDoubleSpinBox *m_spinBox;
-    SpinBoxEventCatcher *m_eventCatcher;
-    double m_increment = 0.0;
-    double m_minRangeLimit = std::numeric_limits<double>::lowest();
-    double m_maxRangeLimit = std::numeric_limits<double>::max();
-    int m_editBoxWidth = 0;
-    bool m_updateExpected = false;
-    bool m_hasFocus = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

@@ -4,7 +4,7 @@
 #include "favoritesbranch_p.h"
 
 #include "favoritesdata.h"
-#include "featuretreefavoritesitem.h"
+#include "featuretreefavoritesitem_p.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreemodel.h"
 #include "featuretreenames.h"

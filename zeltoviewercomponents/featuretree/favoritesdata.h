@@ -93,13 +93,13 @@ public:
     /*! Collects notifications while on; switching it off emits one when there was any. */
     void setDeferredUpdates(bool deferred);
 
-signals:
+Q_SIGNALS:
     /*! The list or viewAll() changed. */
     void dataUpdated();
     /*! The branch is to be expanded or collapsed. */
     void expanded(bool isExpanded);
 
-private slots:
+private Q_SLOTS:
     void saveScheduled();
     void saveLater();
     void finishSaving();

@@ -25,8 +25,10 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QStaticText>
 #include <QTextOption>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -86,27 +88,42 @@ void paintRichText(QPainter *painter, const QRect &target, int alignment, const 
 
 } // namespace
 
+struct FeatureTreeDelegate::Private
+{
+    struct PendingCommand
+    {
+        QPersistentModelIndex index;
+        QPointer<QAbstractItemModel> model;
+        QVariant value;
+    };
+
+    IFeatureTreeModelExtension *extension;
+    FeatureTreeHighlighter *highlighter;
+    CommandVeto commandVeto;
+    QList<PendingCommand> pendingCommands; // until the veto has been asked
+    QTimer *commandTimer;
+    bool isAsking = false;
+};
+
 FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *extension,
                                          FeatureTreeHighlighter *highlighter)
     : QStyledItemDelegate(parent)
-    , m_extension(extension)
-    , m_highlighter(highlighter)
-    , m_commandTimer(new QTimer(this))
+    , d(std::make_unique<Private>(Private{extension, highlighter, {}, {}, new QTimer(this)}))
 {
-    m_commandTimer->setSingleShot(true);
-    connect(m_commandTimer, SIGNAL(timeout()), this, SLOT(askForCommands()));
+    d->commandTimer->setSingleShot(true);
+    connect(d->commandTimer, SIGNAL(timeout()), this, SLOT(askForCommands()));
 }
 
 FeatureTreeDelegate::~FeatureTreeDelegate() = default;
 
 void FeatureTreeDelegate::setCommandVeto(CommandVeto veto)
 {
-    m_commandVeto = std::move(veto);
+    d->commandVeto = std::move(veto);
 }
 
 FeatureTreeINodeItem *FeatureTreeDelegate::nodeItemAt(const QModelIndex &index) const
 {
-    return index.isValid() ? qobject_cast<FeatureTreeINodeItem *>(m_extension->getFeatureTreeItem(index))
+    return index.isValid() ? qobject_cast<FeatureTreeINodeItem *>(d->extension->getFeatureTreeItem(index))
                            : nullptr;
 }
 
@@ -242,7 +259,7 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
         QStyledItemDelegate::setEditorData(editor, index);
         return;
     }
-    FeatureTreeItem *const item = m_extension->getFeatureTreeItem(index);
+    FeatureTreeItem *const item = d->extension->getFeatureTreeItem(index);
     if (!item) {
         return;
     }
@@ -292,14 +309,14 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
 bool FeatureTreeDelegate::postpone(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index,
                                    const QVariant &value) const
 {
-    if (!m_commandVeto || !value.isValid() || !qobject_cast<ToolButtonEditor *>(editor)) {
+    if (!d->commandVeto || !value.isValid() || !qobject_cast<ToolButtonEditor *>(editor)) {
         return false;
     }
     const QPersistentModelIndex row(index);
-    const auto isSame = [&row](const PendingCommand &command) { return command.index == row; };
-    if (std::none_of(m_pendingCommands.cbegin(), m_pendingCommands.cend(), isSame)) {
-        m_pendingCommands.append({row, model, value});
-        m_commandTimer->start(0);
+    const auto isSame = [&row](const Private::PendingCommand &command) { return command.index == row; };
+    if (std::none_of(d->pendingCommands.cbegin(), d->pendingCommands.cend(), isSame)) {
+        d->pendingCommands.append({row, model, value});
+        d->commandTimer->start(0);
     }
     setEditorData(editor, index); // not pressed: nothing runs yet
     return true;
@@ -307,15 +324,15 @@ bool FeatureTreeDelegate::postpone(QWidget *editor, QAbstractItemModel *model, c
 
 void FeatureTreeDelegate::askForCommands()
 {
-    if (m_isAsking) {
+    if (d->isAsking) {
         return; // the loop below comes to it
     }
     const QPointer<FeatureTreeDelegate> self(this); // the tree may go while somebody thinks about the answer
-    m_isAsking = true;
-    while (!m_pendingCommands.isEmpty()) {
-        const PendingCommand command = m_pendingCommands.constFirst();
+    d->isAsking = true;
+    while (!d->pendingCommands.isEmpty()) {
+        const Private::PendingCommand command = d->pendingCommands.constFirst();
         const FeatureTreeINodeItem *const item = nodeItemAt(command.index);
-        const CommandVeto veto = m_commandVeto;
+        const CommandVeto veto = d->commandVeto;
         const bool isVetoed = item && veto
             && Core::guarded({logCategory(), "FeatureTreeDelegate::askForCommands"},
                              QStringLiteral("Failed to ask about a command"), true,
@@ -323,8 +340,8 @@ void FeatureTreeDelegate::askForCommands()
         if (!self) {
             return;
         }
-        m_pendingCommands.removeIf(
-            [&command](const PendingCommand &other) { return other.index == command.index; });
+        d->pendingCommands.removeIf(
+            [&command](const Private::PendingCommand &other) { return other.index == command.index; });
         if (!isVetoed && command.model && command.index.isValid()) {
             command.model->setData(command.index, command.value, Qt::EditRole);
         }
@@ -332,7 +349,7 @@ void FeatureTreeDelegate::askForCommands()
             return;
         }
     }
-    m_isAsking = false;
+    d->isAsking = false;
 }
 
 void FeatureTreeDelegate::emitCommitData()
@@ -377,7 +394,7 @@ void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     opt.state &= ~QStyle::State_HasFocus; // the view draws a frame around the whole row
     const bool isCategory =
         index.model() && index.model()->data(index, FeatureTreeItem::GenicamCategory).toBool();
-    if (index.column() != FeatureTreeColumns::name || !m_highlighter || isCategory) {
+    if (index.column() != FeatureTreeColumns::name || !d->highlighter || isCategory) {
         QStyledItemDelegate::paint(painter, opt, index);
         return;
     }
@@ -418,7 +435,7 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
         paintRichText(painter, target, alignmentIn(opt), text);
     } else {
         painter->drawText(target, alignmentIn(opt), text);
-        if (contrastRatio(m_highlighter->color(), color) < legibleContrast) {
+        if (contrastRatio(d->highlighter->color(), color) < legibleContrast) {
             // The light letters of a dark palette cannot be read on a light mark.
             paintOnMarks(painter, target, alignmentIn(opt), text, marked);
         }
@@ -461,7 +478,7 @@ void FeatureTreeDelegate::paintStyledName(QPainter *painter, QStyleOptionViewIte
 QString FeatureTreeDelegate::elidedName(const QPainter &painter, const QString &name,
                                         const QRect &textRect) const
 {
-    const int width = textRect.width() - 2 * m_highlighter->length();
+    const int width = textRect.width() - 2 * d->highlighter->length();
     return painter.fontMetrics().elidedText(name, Qt::ElideRight, width, 0);
 }
 
@@ -469,7 +486,7 @@ QString FeatureTreeDelegate::elidedName(const QPainter &painter, const QString &
 QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionViewItem &option,
                                           const QRect &textRect, const QString &text) const
 {
-    const auto ranges = m_highlighter->matchRanges(text);
+    const auto ranges = d->highlighter->matchRanges(text);
     if (ranges.isEmpty()) {
         return {};
     }
@@ -483,7 +500,7 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
         const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
         const QRect mark =
             QStyle::visualRect(direction, line, {line.left() + x0, line.top(), x1 - x0, line.height()});
-        painter->fillRect(mark, m_highlighter->color());
+        painter->fillRect(mark, d->highlighter->color());
         marked += mark;
     }
     return marked;
@@ -493,7 +510,7 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
 void FeatureTreeDelegate::paintOnMarks(QPainter *painter, const QRect &target, int alignment,
                                        const QString &text, const QRegion &marked) const
 {
-    const QColor mark = m_highlighter->color();
+    const QColor mark = d->highlighter->color();
     if (marked.isEmpty()) {
         return;
     }

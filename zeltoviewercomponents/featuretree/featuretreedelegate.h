@@ -8,12 +8,11 @@
 #include <platform/parametercollection/iparametercollection.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <QPersistentModelIndex>
-#include <QPointer>
 #include <QRegion>
 #include <QSharedPointer>
 #include <QStyledItemDelegate>
-#include <QTimer>
+
+#include <memory>
 
 class FeatureTreeHighlighter;
 class FeatureTreeINodeItem;
@@ -53,7 +52,7 @@ public:
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
-public slots:
+public Q_SLOTS:
     /*! Emits commitData() for the editor that sent the signal. */
     void emitCommitData();
 
@@ -74,17 +73,10 @@ protected:
     QWidget *createToolButtonEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     QSharedPointer<ParameterCollection::ICommandParameter> parameter) const;
 
-private slots:
+private Q_SLOTS:
     void askForCommands();
 
 private:
-    struct PendingCommand
-    {
-        QPersistentModelIndex index;
-        QPointer<QAbstractItemModel> model;
-        QVariant value;
-    };
-
     bool postpone(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index,
                   const QVariant &value) const;
     FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
@@ -99,10 +91,6 @@ private:
                          const QStyle &style) const;
     QString elidedName(const QPainter &painter, const QString &name, const QRect &textRect) const;
 
-    IFeatureTreeModelExtension *m_extension;
-    FeatureTreeHighlighter *m_highlighter;
-    CommandVeto m_commandVeto;
-    mutable QList<PendingCommand> m_pendingCommands; // until the veto has been asked
-    QTimer *m_commandTimer;
-    bool m_isAsking = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

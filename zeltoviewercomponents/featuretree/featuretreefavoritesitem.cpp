@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "featuretreefavoritesitem.h"
+#include "featuretreefavoritesitem_p.h"
 
 #include "featuretreenames.h"
 

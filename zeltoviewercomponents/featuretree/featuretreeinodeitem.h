@@ -97,11 +97,11 @@ public:
      * read, empty for categories. */
     QString valueText() const;
 
-signals:
+Q_SIGNALS:
     /*! The item took a new snapshot. */
     void nodeUpdated(int row, FeatureTreeINodeItem *item);
 
-public slots:
+public Q_SLOTS:
     /*! Takes the snapshot, unless callbacks are disabled or the value has to go back into its limits
      * first. */
     void onParameterDataChanged(QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData);

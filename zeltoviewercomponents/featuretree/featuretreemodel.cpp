@@ -4,7 +4,7 @@
 #include "featuretreemodel.h"
 
 #include "favoritesbranch_p.h"
-#include "featuretreefavoritesitem.h"
+#include "featuretreefavoritesitem_p.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreenames.h"
 

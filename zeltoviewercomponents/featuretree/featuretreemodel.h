@@ -103,13 +103,13 @@ public:
     /*! Returns the timer whose shots poll; polling may end in one (see GetPolling()). */
     const QTimer *pollTimer() const;
 
-public slots:
+public Q_SLOTS:
     /*! Removes all rows without a reset notification: callers reset their views themselves. */
     void clear() override;
     void onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem) override;
     void onTimerPoll() override;
 
-signals:
+Q_SIGNALS:
     /*! A write through setData() reached the parameter and succeeded. */
     void written(QSharedPointer<ParameterCollection::IParameter> parameter);
     /*! A write failed and is about to be reported with \a message. */

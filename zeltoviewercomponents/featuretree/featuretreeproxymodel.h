@@ -124,7 +124,7 @@ public:
     int getFavoritesIndexFromModelIndex(QModelIndex index) const override;
     bool isDeviceAlive() const override;
 
-public slots:
+public Q_SLOTS:
     /*! Sets the search text and filters at once, with a single change of the layout. */
     void setFilterFixedString(const QString &pattern);
     /*! Judges all rows anew and has them follow. */
@@ -132,7 +132,7 @@ public slots:
     /*! Removes all rows, with a reset. */
     void clear() override;
 
-signals:
+Q_SIGNALS:
     /*! Polling was switched on or off, or ended because the device does not answer. */
     void pollingStateChanged(bool polling);
     /*! All rows were judged anew and the matches counted; the rows do not follow until this has returned. */
@@ -147,7 +147,7 @@ signals:
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
-private slots:
+private Q_SLOTS:
     void onSourceRowsAboutToBeInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsInserted(const QModelIndex &parent, int first, int last);
     void onSourceRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last);

@@ -89,7 +89,7 @@ public:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QList<int> &roles = QList<int>()) override;
 
-public slots:
+public Q_SLOTS:
     void doItemsLayout() override;
     /*! Sets the user level and shows and hides rows accordingly. */
     void setVisibility(GenApi::EVisibility level);
@@ -102,7 +102,7 @@ public slots:
     /*! Expands or collapses the favorites branch. */
     void onFavoriteDataExpanded(bool expanded);
 
-signals:
+Q_SIGNALS:
     /*! The current row changed; invalid when it was hidden or filtered out. */
     void onCurrentChanged(const QModelIndex &index);
 
@@ -129,11 +129,11 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void showEvent(QShowEvent *event) override;
 
-protected slots:
+protected Q_SLOTS:
     void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
-private slots:
+private Q_SLOTS:
     void copyValue();
     void goBackToTyping();
     void onEscaped(QWidget *editor);

@@ -26,6 +26,7 @@
 #include <QEventLoop>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTextStream>
@@ -70,24 +71,52 @@ bool &escapePressed()
 
 } // namespace
 
+struct FeatureTreeWidget::Private
+{
+    Ui::FeatureTreeWidgetClass form;
+    QAction *actionAddToFavourites = nullptr;
+    QAction *actionMoveFavouriteUp = nullptr;
+    QAction *actionMoveFavouriteDown = nullptr;
+    QAction *actionRemoveFavourite = nullptr;
+    QAction *actionTogglePolling = nullptr;
+    FeatureTreeLook lookBeforeSearch;
+    bool busy = false;
+    QString filterText;
+    int visibleMatches = 0; // as told last
+    bool isFiltering = false; // a pass is part of an action that tells of it at its end
+    bool isSearchRowStale = false; // its text was set and not told of
+    bool expandOnRefresh = false;
+    bool isResting = false;
+    QPointer<QWidget> focusAfterRest;
+    bool pollsAfterRest = false;
+    bool followsAfterRest = false;
+    QString cameraType;
+    QSharedPointer<Core::AppCoreComponents::IBaseInfo> baseInfo;
+};
+
+FeatureTreeWidget::FeatureTreeWidget(QWidget *parent)
+    : FeatureTreeWidget(QString(), {}, parent)
+{
+}
+
 FeatureTreeWidget::FeatureTreeWidget(QString name,
                                      QSharedPointer<Core::AppCoreComponents::IBaseInfo> baseInfo,
                                      QWidget *parent, GenApi::EVisibility visibility, bool pollingVisible)
     : TreeWidgetBase(parent)
-    , m_ui(std::make_unique<Ui::FeatureTreeWidgetClass>())
-    , m_baseInfo(std::move(baseInfo))
+    , d(std::make_unique<Private>())
 {
-    m_ui->setupUi(this);
+    d->baseInfo = std::move(baseInfo);
+    d->form.setupUi(this);
     setObjectName(name);
-    FeatureTreeView *const view = m_ui->treeView;
+    FeatureTreeView *const view = d->form.treeView;
     view->setEditTriggers(QAbstractItemView::CurrentChanged | QAbstractItemView::DoubleClicked
                           | QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed
                           | QAbstractItemView::AnyKeyPressed);
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->header()->setContextMenuPolicy(Qt::PreventContextMenu); // the menu is that of a row
-    m_ui->resetButton->setIcon(refreshIcon());
-    m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
+    d->form.resetButton->setIcon(refreshIcon());
+    d->form.checkBoxViewAllFavorites->setChecked(getViewAllFavorites());
     setPollingVisible(pollingVisible);
 
     connect(view, SIGNAL(onCurrentChanged(const QModelIndex &)), this,
@@ -104,7 +133,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(const QPoint &)), this,
             SLOT(contextualMenu(const QPoint &)));
-    connect(m_ui->filterEdit, SIGNAL(textChanged(const QString &)), this,
+    connect(d->form.filterEdit, SIGNAL(textChanged(const QString &)), this,
             SLOT(onFilterTextChanged(const QString &)));
 
     setUpActions();
@@ -131,30 +160,30 @@ QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QS
 
 void FeatureTreeWidget::setUpActions()
 {
-    m_actionAddToFavourites = addFavoritesAction(tr("Ctrl+D"), QStringLiteral("AddGigECamera_16.png"),
-                                                 tr("Add to Favorites"), SLOT(AddToFavourites_triggered()));
-    m_actionMoveFavouriteUp = addFavoritesAction(tr("Ctrl+Up"), QStringLiteral("Move_Up.png"), tr("Move Up"),
-                                                 SLOT(FavouriteMoveUp_triggered()));
-    m_actionMoveFavouriteDown = addFavoritesAction(tr("Ctrl+Down"), QStringLiteral("Move_Down.png"),
-                                                   tr("Move Down"), SLOT(FavouriteMoveDown_triggered()));
-    m_actionRemoveFavourite = addFavoritesAction(QString(), QStringLiteral("RemGigECamera_16.png"),
-                                                 tr("Remove"), SLOT(FavouriteRemove_triggered()));
-    m_actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
+    d->actionAddToFavourites = addFavoritesAction(tr("Ctrl+D"), QStringLiteral("AddGigECamera_16.png"),
+                                                  tr("Add to Favorites"), SLOT(AddToFavourites_triggered()));
+    d->actionMoveFavouriteUp = addFavoritesAction(tr("Ctrl+Up"), QStringLiteral("Move_Up.png"), tr("Move Up"),
+                                                  SLOT(FavouriteMoveUp_triggered()));
+    d->actionMoveFavouriteDown = addFavoritesAction(tr("Ctrl+Down"), QStringLiteral("Move_Down.png"),
+                                                    tr("Move Down"), SLOT(FavouriteMoveDown_triggered()));
+    d->actionRemoveFavourite = addFavoritesAction(QString(), QStringLiteral("RemGigECamera_16.png"),
+                                                  tr("Remove"), SLOT(FavouriteRemove_triggered()));
+    d->actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
 
-    m_actionAddToFavourites->setObjectName(QStringLiteral("actionAddToFavourites"));
-    m_actionMoveFavouriteUp->setObjectName(QStringLiteral("actionMoveFavouriteUp"));
-    m_actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
-    m_actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
+    d->actionAddToFavourites->setObjectName(QStringLiteral("actionAddToFavourites"));
+    d->actionMoveFavouriteUp->setObjectName(QStringLiteral("actionMoveFavouriteUp"));
+    d->actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
+    d->actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
 
-    m_actionTogglePolling = new QAction(m_ui->resetButton->icon(), tr("Polling"), this);
-    m_actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
-    m_actionTogglePolling->setIconText(tr("Polling"));
-    m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    m_actionTogglePolling->setEnabled(false);
-    m_actionTogglePolling->setCheckable(true);
-    m_actionTogglePolling->setChecked(m_ui->checkBoxPolling->isChecked());
-    connect(m_actionTogglePolling, SIGNAL(triggered()), this, SLOT(TogglePolling_triggered()));
-    addAction(m_actionTogglePolling);
+    d->actionTogglePolling = new QAction(d->form.resetButton->icon(), tr("Polling"), this);
+    d->actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
+    d->actionTogglePolling->setIconText(tr("Polling"));
+    d->actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    d->actionTogglePolling->setEnabled(false);
+    d->actionTogglePolling->setCheckable(true);
+    d->actionTogglePolling->setChecked(d->form.checkBoxPolling->isChecked());
+    connect(d->actionTogglePolling, SIGNAL(triggered()), this, SLOT(TogglePolling_triggered()));
+    addAction(d->actionTogglePolling);
 }
 
 void FeatureTreeWidget::addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot)
@@ -166,44 +195,44 @@ void FeatureTreeWidget::addShortcut(const QKeySequence &sequence, QObject *recei
 
 void FeatureTreeWidget::setUpShortcuts()
 {
-    addShortcut(QKeySequence(Qt::Key_F3), m_ui->filterEdit, SLOT(setFocus()));
+    addShortcut(QKeySequence(Qt::Key_F3), d->form.filterEdit, SLOT(setFocus()));
     // In these each modifier is a keystroke of its own; the chords that people press follow.
-    addShortcut(QKeySequence(keyControl, Qt::Key_F), m_ui->filterEdit, SLOT(setFocus()));
-    addShortcut(QKeySequence(keyControl, keyAlt, keyShift, Qt::Key_Minus), m_ui->treeView,
+    addShortcut(QKeySequence(keyControl, Qt::Key_F), d->form.filterEdit, SLOT(setFocus()));
+    addShortcut(QKeySequence(keyControl, keyAlt, keyShift, Qt::Key_Minus), d->form.treeView,
                 SLOT(collapseAll()));
     addShortcut(QKeySequence(keyControl, keyAlt, keyShift, Qt::Key_Plus), this, SLOT(expandTree()));
 
     const QKeySequence find(Qt::CTRL | Qt::Key_F);
-    addShortcut(find, m_ui->filterEdit, SLOT(setFocus()));
-    addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), m_ui->treeView,
+    addShortcut(find, d->form.filterEdit, SLOT(setFocus()));
+    addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), d->form.treeView,
                 SLOT(collapseAll()));
     addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Plus), this, SLOT(expandTree()));
-    m_ui->filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+    d->form.filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
 }
 
 FeatureTreeProxyModel *FeatureTreeWidget::proxy() const
 {
-    return qobject_cast<FeatureTreeProxyModel *>(m_ui->treeView->model());
+    return qobject_cast<FeatureTreeProxyModel *>(d->form.treeView->model());
 }
 
 QTreeView *FeatureTreeWidget::treeView() const
 {
-    return m_ui->treeView;
+    return d->form.treeView;
 }
 
 FeatureTreeView *FeatureTreeWidget::treeView()
 {
-    return m_ui->treeView;
+    return d->form.treeView;
 }
 
 IFeatureTreeModelExtension *FeatureTreeWidget::getFeatureExtension()
 {
-    return m_ui->treeView->getFeatureExtension();
+    return d->form.treeView->getFeatureExtension();
 }
 
 const IFeatureTreeModelExtension *FeatureTreeWidget::getFeatureExtension() const
 {
-    return std::as_const(*m_ui->treeView).getFeatureExtension();
+    return std::as_const(*d->form.treeView).getFeatureExtension();
 }
 
 QSize FeatureTreeWidget::sizeHint() const
@@ -220,29 +249,29 @@ void FeatureTreeWidget::addParameterCollection(
     NodeMapFilter::apply(collection, roleName);
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     extension->SetDeviceAlive(true);
-    const FeatureTreeView::Batch batch(m_ui->treeView);
+    const FeatureTreeView::Batch batch(d->form.treeView);
     pass([&] {
         extension->addParameterCollection(std::move(collection), rootName, roleName, isUtf8);
         if (!extension->getSearchHelpItem()) {
-            m_ui->treeView->onFavoriteDataUpdated();
+            d->form.treeView->onFavoriteDataUpdated();
         }
     });
-    if (!m_filterText.isEmpty()) {
-        m_ui->treeView->expandEverything(); // its rows may repeat names that were counted before
+    if (!d->filterText.isEmpty()) {
+        d->form.treeView->expandEverything(); // its rows may repeat names that were counted before
         announceMatches();
         extension->refreshSpecialItems();
     }
-    m_actionTogglePolling->setEnabled(true);
-    m_busy = true;
+    d->actionTogglePolling->setEnabled(true);
+    d->busy = true;
 }
 
 void FeatureTreeWidget::clear()
 {
     getFeatureExtension()->clear();
-    m_lookBeforeSearch = FeatureTreeLook();
+    d->lookBeforeSearch = FeatureTreeLook();
     setSearchText(QString()); // and with it the filter and the highlighting
-    m_actionTogglePolling->setEnabled(false);
-    m_busy = true;
+    d->actionTogglePolling->setEnabled(false);
+    d->busy = true;
     updateActions();
 }
 
@@ -264,32 +293,37 @@ void FeatureTreeWidget::Refresh()
 
 void FeatureTreeWidget::setCommandVeto(CommandVeto veto)
 {
-    if (auto *const delegate = qobject_cast<FeatureTreeDelegate *>(m_ui->treeView->itemDelegate())) {
+    if (auto *const delegate = qobject_cast<FeatureTreeDelegate *>(d->form.treeView->itemDelegate())) {
         delegate->setCommandVeto(std::move(veto));
     }
 }
 
+bool FeatureTreeWidget::isResting() const
+{
+    return d->isResting;
+}
+
 void FeatureTreeWidget::setResting(bool resting)
 {
-    if (resting == m_isResting) {
+    if (resting == d->isResting) {
         return;
     }
-    m_isResting = resting;
+    d->isResting = resting;
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     if (resting) {
-        m_pollsAfterRest = extension->GetPolling();
-        m_followsAfterRest = extension->getGenICamCallbackEnable();
-        m_focusAfterRest = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
+        d->pollsAfterRest = extension->GetPolling();
+        d->followsAfterRest = extension->getGenICamCallbackEnable();
+        d->focusAfterRest = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
     }
-    extension->EnablePolling(!resting && m_pollsAfterRest);
-    extension->setGenICamCallbacksEnable(!resting && m_followsAfterRest);
+    extension->EnablePolling(!resting && d->pollsAfterRest);
+    extension->setGenICamCallbacksEnable(!resting && d->followsAfterRest);
     for (QWidget *const part :
-         {static_cast<QWidget *>(m_ui->treeView), static_cast<QWidget *>(m_ui->checkBoxPolling),
-          static_cast<QWidget *>(m_ui->resetButton)}) {
+         {static_cast<QWidget *>(d->form.treeView), static_cast<QWidget *>(d->form.checkBoxPolling),
+          static_cast<QWidget *>(d->form.resetButton)}) {
         part->setEnabled(!resting);
     }
-    if (!resting && m_focusAfterRest && !QApplication::focusWidget()) {
-        m_focusAfterRest->setFocus();
+    if (!resting && d->focusAfterRest && !QApplication::focusWidget()) {
+        d->focusAfterRest->setFocus();
     }
     emit restingChanged(resting);
 }
@@ -301,7 +335,7 @@ void FeatureTreeWidget::on_resetButton_clicked()
 
 void FeatureTreeWidget::refreshTree()
 {
-    const FeatureTreeView::Batch batch(m_ui->treeView);
+    const FeatureTreeView::Batch batch(d->form.treeView);
     proxy()->refilter();
     showRefreshed();
 }
@@ -309,28 +343,33 @@ void FeatureTreeWidget::refreshTree()
 // What refreshing does beside filtering.
 void FeatureTreeWidget::showRefreshed()
 {
-    if (m_expandOnRefresh) {
-        m_ui->treeView->expandToDepth(expandedDepth);
+    if (d->expandOnRefresh) {
+        d->form.treeView->expandToDepth(expandedDepth);
     }
     getFeatureExtension()->refreshSpecialItems();
 }
 
 void FeatureTreeWidget::setExpandOnRefresh(bool expand)
 {
-    m_expandOnRefresh = expand;
+    d->expandOnRefresh = expand;
+}
+
+bool FeatureTreeWidget::isExpandedOnRefresh() const
+{
+    return d->expandOnRefresh;
 }
 
 void FeatureTreeWidget::copyToClipboard()
 {
     QString text;
     QTextStream stream(&text);
-    writeFeatureTree(stream, *m_ui->treeView->model());
+    writeFeatureTree(stream, *d->form.treeView->model());
     QApplication::clipboard()->setText(text, QClipboard::Clipboard);
 }
 
 void FeatureTreeWidget::expandTree()
 {
-    m_ui->treeView->expandToDepth(expandedDepth);
+    d->form.treeView->expandToDepth(expandedDepth);
     recordFavoritesExpansion();
 }
 
@@ -339,16 +378,16 @@ void FeatureTreeWidget::recordFavoritesExpansion()
 {
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     const QModelIndex favorites = extension->GetFavoritesRootIndex();
-    if (favorites.isValid() && m_filterText.isEmpty()) {
-        extension->GetFavorites().setExpanded(m_ui->treeView->isExpanded(favorites));
+    if (favorites.isValid() && d->filterText.isEmpty()) {
+        extension->GetFavorites().setExpanded(d->form.treeView->isExpanded(favorites));
     }
 }
 
 void FeatureTreeWidget::expandRootNodes()
 {
-    const QAbstractItemModel *const model = m_ui->treeView->model();
+    const QAbstractItemModel *const model = d->form.treeView->model();
     for (int row = 0; row < model->rowCount(); ++row) {
-        m_ui->treeView->expand(model->index(row, FeatureTreeColumns::name));
+        d->form.treeView->expand(model->index(row, FeatureTreeColumns::name));
     }
 }
 
@@ -359,18 +398,18 @@ void FeatureTreeWidget::EnableGenICamCallbacks(bool enable)
 
 void FeatureTreeWidget::setCameraType(const QString &cameraType)
 {
-    m_cameraType = cameraType;
+    d->cameraType = cameraType;
 }
 
 QString FeatureTreeWidget::cameraType() const
 {
-    return m_cameraType;
+    return d->cameraType;
 }
 
 bool FeatureTreeWidget::showFeature(const QString &fullName)
 {
     QModelIndex row = shownRow(fullName);
-    if (!row.isValid() && !m_filterText.isEmpty() && !fullName.isEmpty()) {
+    if (!row.isValid() && !d->filterText.isEmpty() && !fullName.isEmpty()) {
         // A search has made all rows, those too that it keeps out of sight.
         const auto *const tree = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel());
         const FeatureTreeItem *const top = tree ? tree->getFeatureTreeItem(tree->index(0, 0)) : nullptr;
@@ -383,8 +422,8 @@ bool FeatureTreeWidget::showFeature(const QString &fullName)
     if (!row.isValid()) {
         return false;
     }
-    m_ui->treeView->setCurrentIndex(row);
-    m_ui->treeView->scrollTo(row);
+    d->form.treeView->setCurrentIndex(row);
+    d->form.treeView->scrollTo(row);
     return true;
 }
 
@@ -397,7 +436,7 @@ QModelIndex FeatureTreeWidget::shownRow(const QString &fullName) const
 
 QModelIndex FeatureTreeWidget::firstShownRow(const RowTest &isWanted, const QModelIndex &parent) const
 {
-    const FeatureTreeView *const view = m_ui->treeView;
+    const FeatureTreeView *const view = d->form.treeView;
     for (int row = 0; row < view->model()->rowCount(parent); ++row) {
         if (view->isRowHidden(row, parent)) {
             continue;
@@ -413,38 +452,38 @@ QModelIndex FeatureTreeWidget::firstShownRow(const RowTest &isWanted, const QMod
 
 const FeatureTreeLook &FeatureTreeWidget::lookBeforeSearch() const
 {
-    return m_lookBeforeSearch;
+    return d->lookBeforeSearch;
 }
 
 QString FeatureTreeWidget::searchText() const
 {
-    return m_filterText;
+    return d->filterText;
 }
 
 void FeatureTreeWidget::setSearchText(const QString &text)
 {
     if (text.isEmpty()) {
-        m_ui->filterEdit->clear(); // which can be undone
+        d->form.filterEdit->clear(); // which can be undone
     } else {
-        m_ui->filterEdit->setText(text);
+        d->form.filterEdit->setText(text);
     }
-    if (m_ui->filterEdit->text() == text && m_filterText != text) {
+    if (d->form.filterEdit->text() == text && d->filterText != text) {
         onFilterTextChanged(text); // the search had not begun in the box
     }
 }
 
 void FeatureTreeWidget::focusSearch()
 {
-    m_ui->filterEdit->setFocus();
-    m_ui->filterEdit->selectAll();
+    d->form.filterEdit->setFocus();
+    d->form.filterEdit->selectAll();
 }
 
 QModelIndex FeatureTreeWidget::GetCurrentIndex() const
 {
     // The view keeps a row that was hidden as its current one; for everybody else there is none.
-    const QModelIndex current = m_ui->treeView->currentIndex();
+    const QModelIndex current = d->form.treeView->currentIndex();
     for (QModelIndex row = current; row.isValid(); row = row.parent()) {
-        if (m_ui->treeView->isRowHidden(row.row(), row.parent())) {
+        if (d->form.treeView->isRowHidden(row.row(), row.parent())) {
             return {};
         }
     }
@@ -479,8 +518,8 @@ bool FeatureTreeWidget::IsCurrentFavorite() const
 
 bool FeatureTreeWidget::IsOnCurrentItem() const
 {
-    const QPoint position = m_ui->treeView->viewport()->mapFromGlobal(QCursor::pos());
-    const QModelIndex hovered = m_ui->treeView->indexAt(position);
+    const QPoint position = d->form.treeView->viewport()->mapFromGlobal(QCursor::pos());
+    const QModelIndex hovered = d->form.treeView->indexAt(position);
     return hovered.isValid()
         && hovered.siblingAtColumn(FeatureTreeColumns::name) == GetCurrentIndex().siblingAtColumn(0);
 }
@@ -494,7 +533,7 @@ void FeatureTreeWidget::onCurrentChanged(const QModelIndex &index)
         const auto parameter = nodeItem ? nodeItem->node() : nullptr;
         if (parameter) {
             // Typing a search must not make the host jump to other features.
-            if (!m_ui->filterEdit->hasFocus()) {
+            if (!d->form.filterEdit->hasFocus()) {
                 emit currentChanged(parameter);
             }
         } else if (item->HasDescription()) {
@@ -506,7 +545,7 @@ void FeatureTreeWidget::onCurrentChanged(const QModelIndex &index)
 
 void FeatureTreeWidget::onFavoritesUpdated()
 {
-    m_ui->checkBoxViewAllFavorites->setChecked(getViewAllFavorites()); // another view may have switched it
+    d->form.checkBoxViewAllFavorites->setChecked(getViewAllFavorites()); // another view may have switched it
     updateActions();
 }
 
@@ -515,10 +554,10 @@ void FeatureTreeWidget::updateActions()
     const IFeatureTreeModelExtension *const extension = getFeatureExtension();
     const QModelIndex index = GetCurrentIndex();
     const bool isFavorite = IsCurrentFavorite();
-    m_actionAddToFavourites->setEnabled(extension->CanAddAsFavorite(index));
-    m_actionRemoveFavourite->setEnabled(isFavorite);
-    m_actionMoveFavouriteUp->setEnabled(isFavorite && extension->CanMoveFavorite(index, true));
-    m_actionMoveFavouriteDown->setEnabled(isFavorite && extension->CanMoveFavorite(index, false));
+    d->actionAddToFavourites->setEnabled(extension->CanAddAsFavorite(index));
+    d->actionRemoveFavourite->setEnabled(isFavorite);
+    d->actionMoveFavouriteUp->setEnabled(isFavorite && extension->CanMoveFavorite(index, true));
+    d->actionMoveFavouriteDown->setEnabled(isFavorite && extension->CanMoveFavorite(index, false));
 }
 
 void FeatureTreeWidget::contextualMenu(const QPoint &pos)
@@ -528,12 +567,12 @@ void FeatureTreeWidget::contextualMenu(const QPoint &pos)
     }
     const QSharedPointer<QMenu> menu(new QMenu, &QObject::deleteLater);
     if (IsCurrentFavorite()) {
-        menu->addAction(m_actionMoveFavouriteUp);
-        menu->addAction(m_actionMoveFavouriteDown);
+        menu->addAction(d->actionMoveFavouriteUp);
+        menu->addAction(d->actionMoveFavouriteDown);
         menu->addSeparator();
-        menu->addAction(m_actionRemoveFavourite);
+        menu->addAction(d->actionRemoveFavourite);
     } else {
-        menu->addAction(m_actionAddToFavourites);
+        menu->addAction(d->actionAddToFavourites);
     }
     emit contextMenuRequested(pos, menu);
 }
@@ -580,8 +619,8 @@ bool FeatureTreeWidget::getPolling() const
 void FeatureTreeWidget::setPolling(bool enable)
 {
     getFeatureExtension()->EnablePolling(enable);
-    m_ui->checkBoxPolling->setChecked(enable);
-    m_actionTogglePolling->setChecked(enable);
+    d->form.checkBoxPolling->setChecked(enable);
+    d->actionTogglePolling->setChecked(enable);
 }
 
 void FeatureTreeWidget::onPollingStateChanged(bool polling)
@@ -592,17 +631,22 @@ void FeatureTreeWidget::onPollingStateChanged(bool polling)
 
 void FeatureTreeWidget::on_checkBoxPolling_clicked()
 {
-    setPolling(m_ui->checkBoxPolling->isChecked());
+    setPolling(d->form.checkBoxPolling->isChecked());
 }
 
 void FeatureTreeWidget::TogglePolling_triggered()
 {
-    setPolling(m_actionTogglePolling->isChecked());
+    setPolling(d->actionTogglePolling->isChecked());
 }
 
 void FeatureTreeWidget::setPollingVisible(bool visible)
 {
-    m_ui->checkBoxPolling->setVisible(visible);
+    d->form.checkBoxPolling->setVisible(visible);
+}
+
+bool FeatureTreeWidget::isPollingVisible() const
+{
+    return !d->form.checkBoxPolling->isHidden();
 }
 
 bool FeatureTreeWidget::getViewAllFavorites() const
@@ -613,17 +657,22 @@ bool FeatureTreeWidget::getViewAllFavorites() const
 void FeatureTreeWidget::setViewAllFavorites(bool viewAll)
 {
     getFeatureExtension()->EnableViewAllFavorites(viewAll);
-    m_ui->checkBoxViewAllFavorites->setChecked(viewAll);
+    d->form.checkBoxViewAllFavorites->setChecked(viewAll);
 }
 
 void FeatureTreeWidget::setViewAllFavoritesVisible(bool visible)
 {
-    m_ui->checkBoxViewAllFavorites->setVisible(visible);
+    d->form.checkBoxViewAllFavorites->setVisible(visible);
+}
+
+bool FeatureTreeWidget::isViewAllFavoritesVisible() const
+{
+    return !d->form.checkBoxViewAllFavorites->isHidden();
 }
 
 void FeatureTreeWidget::on_checkBoxViewAllFavorites_clicked()
 {
-    const bool viewAll = m_ui->checkBoxViewAllFavorites->isChecked();
+    const bool viewAll = d->form.checkBoxViewAllFavorites->isChecked();
     setViewAllFavorites(viewAll); // which filters
     emit viewAllFavoritesStateChanged(viewAll);
     showRefreshed();
@@ -637,7 +686,7 @@ GenApi::EVisibility FeatureTreeWidget::visibility() const
 void FeatureTreeWidget::setVisibility(GenApi::EVisibility level)
 {
     getFeatureExtension()->setVisibility(level);
-    m_ui->treeView->setVisibility(level); // rebuilds the favorites, and the pass at the end of that will do
+    d->form.treeView->setVisibility(level); // rebuilds the favorites, and the pass at the end of that will do
     proxy()->filterIfExpired();
 }
 
@@ -649,11 +698,11 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
     const auto visibility = static_cast<GenApi::EVisibility>(level);
     commitEntered();
     {
-        const FeatureTreeView::Batch batch(m_ui->treeView);
+        const FeatureTreeView::Batch batch(d->form.treeView);
         pass([this, visibility] { setVisibility(visibility); });
         emit visibilityChanged(visibility);
-        if (!m_filterText.isEmpty()) {
-            m_ui->treeView->expandEverything();
+        if (!d->filterText.isEmpty()) {
+            d->form.treeView->expandEverything();
         }
         announceMatches();
         showRefreshed();
@@ -663,26 +712,26 @@ void FeatureTreeWidget::onVisibilityChanged(int level)
 
 void FeatureTreeWidget::onFilterTextChanged(const QString &text)
 {
-    m_filterText = text;
+    d->filterText = text;
     {
         std::optional<WaitCursor> cursor;
-        if (m_busy) {
+        if (d->busy) {
             cursor.emplace();
             QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            if (m_filterText != text) {
+            if (d->filterText != text) {
                 return; // the tree was cleared meanwhile, and the box with it
             }
         }
         filter(text);
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    m_busy = false;
+    d->busy = false;
 }
 
 // What Return has just entered is written before its row may go.
 void FeatureTreeWidget::commitEntered()
 {
-    QCoreApplication::sendPostedEvents(m_ui->treeView->itemDelegate(), QEvent::MetaCall);
+    QCoreApplication::sendPostedEvents(d->form.treeView->itemDelegate(), QEvent::MetaCall);
 }
 
 // Does something that filters, of which nobody is told before the action is over. Returns whether rows came
@@ -690,7 +739,7 @@ void FeatureTreeWidget::commitEntered()
 template <typename Work>
 bool FeatureTreeWidget::pass(Work work)
 {
-    const QScopedValueRollback<bool> filtering(m_isFiltering, true);
+    const QScopedValueRollback<bool> filtering(d->isFiltering, true);
     const quint64 before = proxy()->publication();
     work();
     return proxy()->publication() != before;
@@ -705,14 +754,14 @@ void FeatureTreeWidget::filter(const QString &text)
         saveExpandedStatus();
         saveSelectionStatus();
     }
-    std::optional<FeatureTreeView::Batch> batch(m_ui->treeView);
-    FeatureTreeHighlighter &highlighter = *m_ui->treeView->getHightlighter();
+    std::optional<FeatureTreeView::Batch> batch(d->form.treeView);
+    FeatureTreeHighlighter &highlighter = *d->form.treeView->getHightlighter();
     const FeatureTreeHighlighter before = highlighter;
     highlighter.setText(text);
     const bool isChanged = pass([this, &text] { proxy()->setFilterFixedString(text); });
     const bool isOtherKey = wasSearching && isSearching; // neither the first one nor the last
     if (isSearching && (isChanged || !wasSearching)) {
-        m_ui->treeView->expandEverything();
+        d->form.treeView->expandEverything();
     } else if (!isSearching && wasSearching) {
         restoreExpandedStatus();
         restoreSelectionStatus();
@@ -721,24 +770,24 @@ void FeatureTreeWidget::filter(const QString &text)
     announceMatches();
     if (isOtherKey && !isChanged) {
         updateMarks(before);
-        if (!m_isSearchRowStale) {
+        if (!d->isSearchRowStale) {
             return;
         }
     }
-    m_isSearchRowStale = false;
+    d->isSearchRowStale = false;
     getFeatureExtension()->refreshSpecialItems();
     batch.reset();
     if (wasSearching && !isSearching) {
-        m_lookBeforeSearch.restoreScrollPosition(*m_ui->treeView);
-        m_lookBeforeSearch = FeatureTreeLook();
+        d->lookBeforeSearch.restoreScrollPosition(*d->form.treeView);
+        d->lookBeforeSearch = FeatureTreeLook();
     }
-    m_ui->treeView->viewport()->update();
+    d->form.treeView->viewport()->update();
 }
 
 // Repaints rows in which something else is marked now.
 void FeatureTreeWidget::updateMarks(const FeatureTreeHighlighter &before)
 {
-    FeatureTreeView *const view = m_ui->treeView;
+    FeatureTreeView *const view = d->form.treeView;
     const FeatureTreeHighlighter &now = *view->getHightlighter();
     const int bottom = view->viewport()->rect().bottom();
     QModelIndex row = view->indexAt(QPoint(0, 0));
@@ -753,15 +802,15 @@ void FeatureTreeWidget::updateMarks(const FeatureTreeHighlighter &before)
 // Favorites, collections, levels and features that come and go change what a search finds.
 void FeatureTreeWidget::onFiltered()
 {
-    if (m_filterText.isEmpty() || m_isFiltering) {
+    if (d->filterText.isEmpty() || d->isFiltering) {
         return;
     }
-    const QScopedValueRollback<bool> filtering(m_isFiltering, true);
-    const FeatureTreeView::Batch batch(m_ui->treeView);
-    const int before = m_visibleMatches;
+    const QScopedValueRollback<bool> filtering(d->isFiltering, true);
+    const FeatureTreeView::Batch batch(d->form.treeView);
+    const int before = d->visibleMatches;
     announceMatches();
-    if (m_visibleMatches > before) {
-        m_ui->treeView->expandEverything(); // what was found shows, also in branches that came with it
+    if (d->visibleMatches > before) {
+        d->form.treeView->expandEverything(); // what was found shows, also in branches that came with it
     }
     getFeatureExtension()->refreshSpecialItems();
 }
@@ -789,18 +838,18 @@ void FeatureTreeWidget::tellEdited(const QSharedPointer<ParameterCollection::IPa
 void FeatureTreeWidget::onJudged()
 {
     FeatureTreeItem *const row = getFeatureExtension()->getSearchHelpItem();
-    if (!row || (m_filterText.isEmpty() && !m_isFiltering)) {
+    if (!row || (d->filterText.isEmpty() && !d->isFiltering)) {
         return;
     }
     QString message;
     int hidden = 0;
-    if (!m_filterText.isEmpty()) {
+    if (!d->filterText.isEmpty()) {
         hidden = proxy()->hiddenMatchCount();
         message = tr("<B>%1 search results (%2 of them visible at higher user level)</B>")
                       .arg(hidden + proxy()->visibleMatchCount())
                       .arg(hidden);
     }
-    m_isSearchRowStale = m_isSearchRowStale || message != row->GetToolTip();
+    d->isSearchRowStale = d->isSearchRowStale || message != row->GetToolTip();
     row->setDisplayedName(message.isEmpty() ? QString() : QStringLiteral("<HTML>") + message);
     row->SetToolTip(message);
     row->setVisibility(hidden > 0 ? GenApi::Beginner : GenApi::Invisible);
@@ -808,27 +857,27 @@ void FeatureTreeWidget::onJudged()
 
 void FeatureTreeWidget::announceMatches()
 {
-    const bool isSearching = !m_filterText.isEmpty();
-    m_visibleMatches = isSearching ? proxy()->visibleMatchCount() : 0;
+    const bool isSearching = !d->filterText.isEmpty();
+    d->visibleMatches = isSearching ? proxy()->visibleMatchCount() : 0;
     const int hidden = isSearching ? proxy()->hiddenMatchCount() : 0;
-    emit filterMatchesChanged(m_visibleMatches + hidden, hidden);
+    emit filterMatchesChanged(d->visibleMatches + hidden, hidden);
 }
 
 void FeatureTreeWidget::saveExpandedStatus()
 {
-    m_lookBeforeSearch.remove(FeatureTreeLook::OpenRows);
-    m_lookBeforeSearch.takeScrollPosition(*m_ui->treeView);
+    d->lookBeforeSearch.remove(FeatureTreeLook::OpenRows);
+    d->lookBeforeSearch.takeScrollPosition(*d->form.treeView);
     saveExpandedOnLevel(QModelIndex());
 }
 
 void FeatureTreeWidget::saveExpandedOnLevel(const QModelIndex &index)
 {
-    m_lookBeforeSearch.takeOpenRows(*m_ui->treeView, index);
+    d->lookBeforeSearch.takeOpenRows(*d->form.treeView, index);
 }
 
 void FeatureTreeWidget::restoreExpandedStatus()
 {
-    const QAbstractItemModel *const model = m_ui->treeView->model();
+    const QAbstractItemModel *const model = d->form.treeView->model();
     for (int row = 0; row < model->rowCount(); ++row) {
         restoreExpandedOnLevel(model->index(row, FeatureTreeColumns::name));
     }
@@ -836,18 +885,18 @@ void FeatureTreeWidget::restoreExpandedStatus()
 
 void FeatureTreeWidget::restoreExpandedOnLevel(const QModelIndex &index)
 {
-    m_lookBeforeSearch.restoreOpenRows(*m_ui->treeView, index);
+    d->lookBeforeSearch.restoreOpenRows(*d->form.treeView, index);
 }
 
 void FeatureTreeWidget::saveSelectionStatus()
 {
-    m_lookBeforeSearch.takeCurrentRow(*m_ui->treeView);
+    d->lookBeforeSearch.takeCurrentRow(*d->form.treeView);
 }
 
 void FeatureTreeWidget::restoreSelectionStatus()
 {
-    m_lookBeforeSearch.restoreCurrentRow(*m_ui->treeView);
-    m_lookBeforeSearch.remove(FeatureTreeLook::CurrentRow);
+    d->lookBeforeSearch.restoreCurrentRow(*d->form.treeView);
+    d->lookBeforeSearch.remove(FeatureTreeLook::CurrentRow);
 }
 
 bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
@@ -859,11 +908,11 @@ bool FeatureTreeWidget::eventFilter(QObject *watched, QEvent *event)
         escapePressed() = false;
     }
     const auto *const target = isKey ? qobject_cast<QWidget *>(watched) : nullptr;
-    const bool isInTree = target && (target == m_ui->treeView || m_ui->treeView->isAncestorOf(target));
+    const bool isInTree = target && (target == d->form.treeView || d->form.treeView->isAncestorOf(target));
     if (isInTree && IsCurrentFavorite()) {
         // Else one Ctrl+Down too many would leave the favorite that is being moved, or change its value.
         const QKeySequence keys(static_cast<QKeyEvent *>(event)->keyCombination());
-        return keys == m_actionMoveFavouriteUp->shortcut() || keys == m_actionMoveFavouriteDown->shortcut();
+        return keys == d->actionMoveFavouriteUp->shortcut() || keys == d->actionMoveFavouriteDown->shortcut();
     }
     return TreeWidgetBase::eventFilter(watched, event);
 }
@@ -876,7 +925,7 @@ void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
         setSearchText(QString());
     }
     escapePressed() = isEscape && !isSecondEscape; // the next one is a first one again
-    if (event->key() == Qt::Key_Down && m_ui->filterEdit->hasFocus()) {
+    if (event->key() == Qt::Key_Down && d->form.filterEdit->hasFocus()) {
         goToFirstMatch();
     }
     TreeWidgetBase::keyPressEvent(event);
@@ -885,8 +934,8 @@ void FeatureTreeWidget::keyPressEvent(QKeyEvent *event)
 // From the search to what it found.
 void FeatureTreeWidget::goToFirstMatch()
 {
-    FeatureTreeView *const view = m_ui->treeView;
-    const QModelIndex match = m_filterText.isEmpty()
+    FeatureTreeView *const view = d->form.treeView;
+    const QModelIndex match = d->filterText.isEmpty()
         ? QModelIndex()
         : firstShownRow([this](const QModelIndex &index) { return proxy()->isMatch(index); });
     if (match.isValid()) {

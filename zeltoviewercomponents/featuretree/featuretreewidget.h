@@ -15,7 +15,6 @@
 #include <QMenu>
 #include <QModelIndex>
 #include <QPoint>
-#include <QPointer>
 #include <QSharedPointer>
 #include <QString>
 
@@ -29,10 +28,6 @@ class FeatureTreeView;
 class IFeatureTreeModelExtension;
 class QAction;
 
-namespace Ui {
-class FeatureTreeWidgetClass;
-}
-
 /*! \brief The feature tree as an application places it: search box, tree, and the controls below it.
  *
  * Runs the search, owns the favorites actions and the keyboard shortcuts, keeps expansion and current row
@@ -44,8 +39,17 @@ class FeatureTreeWidgetClass;
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeWidget : public TreeWidgetBase
 {
     Q_OBJECT
+    Q_PROPERTY(GenApi::EVisibility visibility READ visibility WRITE setVisibility)
+    Q_PROPERTY(bool polling READ getPolling WRITE setPolling NOTIFY pollingStateChanged)
+    Q_PROPERTY(bool pollingVisible READ isPollingVisible WRITE setPollingVisible)
+    Q_PROPERTY(bool viewAllFavoritesVisible READ isViewAllFavoritesVisible WRITE setViewAllFavoritesVisible)
+    Q_PROPERTY(bool expandOnRefresh READ isExpandedOnRefresh WRITE setExpandOnRefresh)
+    Q_PROPERTY(QString cameraType READ cameraType WRITE setCameraType)
 
 public:
+    /*! A widget as the other constructor makes it from its default values, for forms: its name is set
+     * afterwards. */
+    explicit FeatureTreeWidget(QWidget *parent = nullptr);
     /*!
      * \param name the widget's object name, under which hosts keep its state
      * \param baseInfo the application's information service, held as long as the widget lives; may be null
@@ -74,7 +78,7 @@ public:
      * all of the camera's features. Afterwards it shows what they are then. */
     void setResting(bool resting);
     /*! Returns whether the tree rests. */
-    bool isResting() const { return m_isResting; }
+    bool isResting() const;
     /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
     void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
@@ -83,6 +87,8 @@ public:
     void refreshTree();
     /*! Sets whether refreshTree() expands the tree to depth 2. */
     void setExpandOnRefresh(bool expand);
+    /*! Returns whether refreshTree() expands the tree to depth 2. */
+    bool isExpandedOnRefresh() const;
     /*! Puts the tree, as filtered, on the clipboard as text. */
     void copyToClipboard();
     /*! Expands the top rows. */
@@ -125,12 +131,16 @@ public:
     void setPolling(bool enable);
     /*! Shows or hides the check box that switches polling. */
     void setPollingVisible(bool visible);
+    /*! Returns whether the check box that switches polling is shown. */
+    bool isPollingVisible() const;
     /*! Returns whether favorites that the camera lacks are shown. */
     bool getViewAllFavorites() const;
     /*! Sets whether favorites that the camera lacks are shown. */
     void setViewAllFavorites(bool viewAll);
     /*! Shows or hides the check box for favorites that the camera lacks. */
     void setViewAllFavoritesVisible(bool visible);
+    /*! Returns whether the check box for favorites that the camera lacks is shown. */
+    bool isViewAllFavoritesVisible() const;
     /*! Returns the user level. */
     GenApi::EVisibility visibility() const;
     /*! Sets the user level. */
@@ -148,7 +158,7 @@ public:
     const IFeatureTreeModelExtension *getFeatureExtension() const;
     QSize sizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     /*! Sets whether polling re-reads the whole first collection, not only its volatile features. */
     void setMonitorMode(bool enable);
     /*! Expands the tree to depth 2. */
@@ -180,7 +190,7 @@ public slots:
     /*! Switches polling as the action says. */
     void TogglePolling_triggered();
 
-signals:
+Q_SIGNALS:
     /*! A context menu for the current row, for the receiver to extend and show at \a pos of the widget. */
     void contextMenuRequested(const QPoint &pos, QSharedPointer<QMenu> menu);
     /*! A description of the current row for the host to show. */
@@ -218,7 +228,7 @@ protected:
     void saveSelectionStatus();
     void restoreSelectionStatus();
 
-private slots:
+private Q_SLOTS:
     void onFavoritesUpdated();
     void onJudged();
     void onFiltered();
@@ -248,23 +258,6 @@ private:
     void tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter, const QString &refusal);
     void moveCurrentFavorite(bool up);
 
-    std::unique_ptr<Ui::FeatureTreeWidgetClass> m_ui;
-    QAction *m_actionAddToFavourites = nullptr;
-    QAction *m_actionMoveFavouriteUp = nullptr;
-    QAction *m_actionMoveFavouriteDown = nullptr;
-    QAction *m_actionRemoveFavourite = nullptr;
-    QAction *m_actionTogglePolling = nullptr;
-    FeatureTreeLook m_lookBeforeSearch;
-    bool m_busy = false;
-    QString m_filterText;
-    int m_visibleMatches = 0; // as told last
-    bool m_isFiltering = false; // a pass is part of an action that tells of it at its end
-    bool m_isSearchRowStale = false; // its text was set and not told of
-    bool m_expandOnRefresh = false;
-    bool m_isResting = false;
-    QPointer<QWidget> m_focusAfterRest;
-    bool m_pollsAfterRest = false;
-    bool m_followsAfterRest = false;
-    QString m_cameraType;
-    QSharedPointer<Core::AppCoreComponents::IBaseInfo> m_baseInfo;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

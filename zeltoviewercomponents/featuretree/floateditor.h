@@ -36,11 +36,11 @@ public:
     void setEditorData(EditorData data) override;
     QVariant editorData() override;
 
-signals:
+Q_SIGNALS:
     /*! The user has committed a change. */
     void boxValueChanged();
 
-private slots:
+private Q_SLOTS:
     void onTextEdited();
     void onEditingFinished();
     void onStepTriggered(int steps);

@@ -30,7 +30,7 @@ public:
     void setEditorData(EditorData data) override;
     QVariant editorData() override;
 
-private slots:
+private Q_SLOTS:
     void onBoxValueChanged();
 
 private:

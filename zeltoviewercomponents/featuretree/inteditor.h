@@ -46,7 +46,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void judgeText();
 
 private:

@@ -32,7 +32,7 @@ public:
 protected:
     void tellUser(int value) override;
 
-private slots:
+private Q_SLOTS:
     void endStep();
     void goOnStepping();
 

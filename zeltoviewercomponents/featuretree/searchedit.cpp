@@ -27,32 +27,52 @@ QFont placeholderFont()
 
 } // namespace
 
+struct SearchEdit::Private
+{
+    QAction *searchAction = nullptr;
+    QAction *clearAction = nullptr;
+    QString placeholder;
+    bool placeholderEnabled = true;
+    std::unique_ptr<ParentFont> parentFont;
+};
+
 SearchEdit::SearchEdit(QWidget *parent)
     : QLineEdit(parent)
-    , m_parentFont(std::make_unique<ParentFont>(this))
+    , d(std::make_unique<Private>())
 {
+    d->parentFont = std::make_unique<ParentFont>(this);
     connect(this, SIGNAL(textChanged(const QString &)), this, SLOT(onTextChanged(const QString &)));
 
-    m_searchAction = addAction(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/searchlens_16.png")),
-                               QLineEdit::TrailingPosition);
-    m_searchAction->setEnabled(false);
-    m_searchAction->setVisible(true);
+    d->searchAction = addAction(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/searchlens_16.png")),
+                                QLineEdit::TrailingPosition);
+    d->searchAction->setEnabled(false);
+    d->searchAction->setVisible(true);
 
-    m_clearAction = addAction(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")),
-                              QLineEdit::TrailingPosition);
-    connect(m_clearAction, SIGNAL(triggered()), this, SLOT(clear()));
-    m_clearAction->setVisible(false);
+    d->clearAction = addAction(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")),
+                               QLineEdit::TrailingPosition);
+    connect(d->clearAction, SIGNAL(triggered()), this, SLOT(clear()));
+    d->clearAction->setVisible(false);
 
     new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
                       QStringLiteral(" QLineEdit { background: %1; }"));
-    m_parentFont->update();
+    d->parentFont->update();
 }
 
 SearchEdit::~SearchEdit() = default;
 
+QString SearchEdit::placeholder() const
+{
+    return d->placeholder;
+}
+
+bool SearchEdit::isPlaceholderEnabled() const
+{
+    return d->placeholderEnabled;
+}
+
 void SearchEdit::setPlaceholder(const QString &text)
 {
-    m_placeholder = text;
+    d->placeholder = text;
     setAccessibleName(text);
     updateGeometry();
     update();
@@ -60,7 +80,7 @@ void SearchEdit::setPlaceholder(const QString &text)
 
 void SearchEdit::setPlaceholderEnabled(bool enabled)
 {
-    m_placeholderEnabled = enabled;
+    d->placeholderEnabled = enabled;
     update();
 }
 
@@ -68,7 +88,7 @@ QSize SearchEdit::sizeHint() const
 {
     const QSize base = QLineEdit::sizeHint();
     const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
-    const int text = QFontMetrics(placeholderFont()).horizontalAdvance(m_placeholder);
+    const int text = QFontMetrics(placeholderFont()).horizontalAdvance(d->placeholder);
     return {std::max(base.width(), text + base.height() + 4 * frame), base.height()};
 }
 
@@ -76,14 +96,14 @@ void SearchEdit::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        m_parentFont->update();
+        d->parentFont->update();
     }
 }
 
 void SearchEdit::paintEvent(QPaintEvent *event)
 {
     QLineEdit::paintEvent(event);
-    if (m_clearAction->isVisible() || !m_placeholderEnabled) {
+    if (d->clearAction->isVisible() || !d->placeholderEnabled) {
         return;
     }
     QStyleOptionFrame option;
@@ -105,12 +125,12 @@ void SearchEdit::paintEvent(QPaintEvent *event)
     painter.setFont(font);
     // A box too narrow for the text would show the top of a second line.
     painter.drawText(QRectF(QStyle::visualRect(layoutDirection(), contents, line)),
-                     metrics.elidedText(m_placeholder, Qt::ElideRight, line.width()),
+                     metrics.elidedText(d->placeholder, Qt::ElideRight, line.width()),
                      QTextOption(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)));
 }
 
 void SearchEdit::onTextChanged(const QString &text)
 {
-    m_searchAction->setVisible(text.isEmpty());
-    m_clearAction->setVisible(!text.isEmpty());
+    d->searchAction->setVisible(text.isEmpty());
+    d->clearAction->setVisible(!text.isEmpty());
 }

@@ -10,9 +10,6 @@
 
 #include <memory>
 
-class ParentFont;
-class QAction;
-
 /*! \brief A search box: a magnifier while it is empty, a cross that empties it while it is not.
  *
  * It paints its placeholder itself; the placeholder text of QLineEdit is to stay empty, or both would be
@@ -23,25 +20,27 @@ class QAction;
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SearchEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder)
+    Q_PROPERTY(bool placeholderEnabled READ isPlaceholderEnabled WRITE setPlaceholderEnabled)
 
 public:
     explicit SearchEdit(QWidget *parent = nullptr);
     ~SearchEdit() override;
 
     /*! Returns the text that an empty box shows. */
-    QString placeholder() const { return m_placeholder; }
+    QString placeholder() const;
     /*! Sets the text that an empty box shows, which also names the box for assistive tools. */
     void setPlaceholder(const QString &text);
 
     /*! Returns whether an empty box shows the placeholder. */
-    bool isPlaceholderEnabled() const { return m_placeholderEnabled; }
+    bool isPlaceholderEnabled() const;
     /*! Sets whether an empty box shows the placeholder. */
     void setPlaceholderEnabled(bool enabled);
 
     /*! Returns a size in which the placeholder can be read. */
     QSize sizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     /*! Shows the magnifier while \a text is empty, else the cross. */
     void onTextChanged(const QString &text);
 
@@ -50,9 +49,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QAction *m_searchAction = nullptr;
-    QAction *m_clearAction = nullptr;
-    QString m_placeholder;
-    bool m_placeholderEnabled = true;
-    std::unique_ptr<ParentFont> m_parentFont;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

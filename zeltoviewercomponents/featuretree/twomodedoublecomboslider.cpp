@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSlider>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -23,20 +24,30 @@ constexpr int shortestPauseMilliseconds = 30;
 
 } // namespace
 
+struct TwoModeDoubleComboSlider::Private
+{
+    ETwoModeDoubleComboSliderMode mode = ETwoModeDoubleComboSliderMode::Linear;
+    FloatEntry entry; //!< its limits are those of the slider, too
+    bool isPage = false; //!< the step under way
+    bool isShowing = false; //!< the slider moves because of the program
+    bool isUnannounced = false; //!< entered, but not announced yet
+    QTimer pause;
+};
+
 TwoModeDoubleComboSlider::TwoModeDoubleComboSlider(QWidget *parent)
     : DoubleComboSlider(parent)
-    , m_entry(std::make_unique<FloatEntry>())
+    , d(std::make_unique<Private>())
 {
-    m_entry->limits = {0.0, 0.0, 0.0};
-    m_pause.setSingleShot(true);
-    connect(&m_pause, SIGNAL(timeout()), this, SLOT(announceNow()));
+    d->entry.limits = {0.0, 0.0, 0.0};
+    d->pause.setSingleShot(true);
+    connect(&d->pause, SIGNAL(timeout()), this, SLOT(announceNow()));
     connect(spinBox()->lineEdit(), SIGNAL(textEdited(QString)), this, SLOT(onTextEdited()));
     connect(spinBox(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(spinBox(), SIGNAL(left()), this, SLOT(onLeft()));
     // A value may lie between the positions that the base steps to.
     disconnect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onSpinBoxStepTriggered(int)));
     connect(spinBox(), SIGNAL(stepTriggered(int)), this, SLOT(onStepTriggered(int)));
-    connect(&m_entry->step, SIGNAL(swallowed()), this, SLOT(takeStep()));
+    connect(&d->entry.step, SIGNAL(swallowed()), this, SLOT(takeStep()));
     connect(slider(), SIGNAL(actionTriggered(int)), this, SLOT(onSliderAction(int)));
     connect(slider(), SIGNAL(valueChanged(int)), this, SLOT(onSliderMoved(int)));
     connect(slider(), SIGNAL(sliderReleased()), this, SLOT(announceNow()));
@@ -46,31 +57,31 @@ TwoModeDoubleComboSlider::~TwoModeDoubleComboSlider() = default;
 
 void TwoModeDoubleComboSlider::setMode(ETwoModeDoubleComboSliderMode mode)
 {
-    m_mode = mode;
+    d->mode = mode;
 }
 
 ETwoModeDoubleComboSliderMode TwoModeDoubleComboSlider::mode() const
 {
-    return m_mode;
+    return d->mode;
 }
 
 void TwoModeDoubleComboSlider::setIncrement(double increment)
 {
-    m_entry->limits.increment = increment;
+    d->entry.limits.increment = increment;
 }
 
 void TwoModeDoubleComboSlider::setFree(bool isFree)
 {
-    m_entry->isFree = isFree;
+    d->entry.isFree = isFree;
     spinBox()->setSteppable(!isFree);
 }
 
 void TwoModeDoubleComboSlider::setLimits(double minimum, double maximum, int minimumPosition,
                                          int maximumPosition, int positionStep)
 {
-    const QScopedValueRollback<bool> showing(m_isShowing, true);
-    m_entry->limits.minimum = minimum;
-    m_entry->limits.maximum = maximum;
+    const QScopedValueRollback<bool> showing(d->isShowing, true);
+    d->entry.limits.minimum = minimum;
+    d->entry.limits.maximum = maximum;
     const int position = qBound(minimumPosition, intValue(), maximumPosition);
     initControls(minimum, maximum, position, minimumPosition, maximumPosition, positionStep);
 }
@@ -78,14 +89,14 @@ void TwoModeDoubleComboSlider::setLimits(double minimum, double maximum, int min
 void TwoModeDoubleComboSlider::showValue(double value)
 {
     setShown(value);
-    m_isUnannounced = false;
+    d->isUnannounced = false;
     settle(value);
 }
 
 // A value outside the limits is shown as it is; entries are limited by enter().
 void TwoModeDoubleComboSlider::setShown(double value)
 {
-    const EditorNumbers::FloatLimits limits = m_entry->limitsAround(value);
+    const EditorNumbers::FloatLimits limits = d->entry.limitsAround(value);
     spinBox()->setLimits(limits.minimum, limits.maximum);
     setValue(value);
     showPosition(positionFromValue(value));
@@ -93,29 +104,29 @@ void TwoModeDoubleComboSlider::setShown(double value)
 
 void TwoModeDoubleComboSlider::settle(double value)
 {
-    m_entry->settled = value;
+    d->entry.settled = value;
     spinBox()->settle();
 }
 
 void TwoModeDoubleComboSlider::dropChange()
 {
-    m_entry->step.end();
-    m_isUnannounced = false;
+    d->entry.step.end();
+    d->isUnannounced = false;
 }
 
 NumberStep &TwoModeDoubleComboSlider::step() const
 {
-    return m_entry->step;
+    return d->entry.step;
 }
 
 bool TwoModeDoubleComboSlider::isLogarithmic() const
 {
-    return m_mode == ETwoModeDoubleComboSliderMode::Logarithmic && m_entry->limits.minimum > 0.0;
+    return d->mode == ETwoModeDoubleComboSliderMode::Logarithmic && d->entry.limits.minimum > 0.0;
 }
 
 double TwoModeDoubleComboSlider::valueFromPosition(int position) const
 {
-    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    const EditorNumbers::FloatLimits &limits = d->entry.limits;
     const double distance = double(intMaximum()) - intMinimum();
     if (position <= intMinimum() || distance == 0.0) {
         return limits.minimum;
@@ -132,7 +143,7 @@ double TwoModeDoubleComboSlider::valueFromPosition(int position) const
 
 int TwoModeDoubleComboSlider::positionFromValue(double value) const
 {
-    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    const EditorNumbers::FloatLimits &limits = d->entry.limits;
     if (!(value > limits.minimum)) {
         return intMinimum();
     }
@@ -149,18 +160,18 @@ int TwoModeDoubleComboSlider::positionFromValue(double value) const
 
 bool TwoModeDoubleComboSlider::isBeingMoved() const
 {
-    return slider()->isSliderDown() || m_isUnannounced;
+    return slider()->isSliderDown() || d->isUnannounced;
 }
 
 void TwoModeDoubleComboSlider::showPosition(int position)
 {
-    const QScopedValueRollback<bool> showing(m_isShowing, true);
+    const QScopedValueRollback<bool> showing(d->isShowing, true);
     setIntValue(position);
 }
 
 void TwoModeDoubleComboSlider::onTextEdited()
 {
-    m_entry->step.end();
+    d->entry.step.end();
     enableUpdate(false);
 }
 
@@ -168,10 +179,10 @@ void TwoModeDoubleComboSlider::onEditingFinished()
 {
     const QPointer<TwoModeDoubleComboSlider> self(this);
     if (const auto typed = spinBox()->entry()) {
-        m_entry->step.end();
-        if (!m_entry->isFree) {
-            spinBox()->tellOutcome(*typed, m_entry->usable(*typed), m_entry->limits.minimum,
-                                   m_entry->limits.maximum, m_entry->limits.increment);
+        d->entry.step.end();
+        if (!d->entry.isFree) {
+            spinBox()->tellOutcome(*typed, d->entry.usable(*typed), d->entry.limits.minimum,
+                                   d->entry.limits.maximum, d->entry.limits.increment);
         }
         enter(*typed);
     }
@@ -182,11 +193,11 @@ void TwoModeDoubleComboSlider::onEditingFinished()
 
 void TwoModeDoubleComboSlider::onSliderMoved(int position)
 {
-    if (m_isShowing) {
+    if (d->isShowing) {
         return;
     }
-    m_entry->step.end();
-    if (!m_entry->limits.isBounded()) {
+    d->entry.step.end();
+    if (!d->entry.limits.isBounded()) {
         showPosition(positionFromValue(value())); // nobody means what lies a position farther
         return;
     }
@@ -194,8 +205,8 @@ void TwoModeDoubleComboSlider::onSliderMoved(int position)
     // The end of the slider is the limit, although the last step may fall short of it.
     const double reached = valueFromPosition(position == intMaximum() ? position : trimmed);
     spinBox()->setSubstitute(QString());
-    enter(EditorNumbers::snappedToGrid(EditorNumbers::withoutNoise(reached), m_entry->limits.minimum,
-                                       m_entry->limits.maximum, m_entry->limits.increment));
+    enter(EditorNumbers::snappedToGrid(EditorNumbers::withoutNoise(reached), d->entry.limits.minimum,
+                                       d->entry.limits.maximum, d->entry.limits.increment));
 }
 
 // Keys and the wheel on the slider step as those in the spin box do.
@@ -229,25 +240,25 @@ void TwoModeDoubleComboSlider::onStepTriggered(int steps)
 
 void TwoModeDoubleComboSlider::onLeft()
 {
-    m_entry->stepWidth = 0.0;
-    m_entry->step.end();
+    d->entry.stepWidth = 0.0;
+    d->entry.step.end();
 }
 
 void TwoModeDoubleComboSlider::takeSteps(int steps, bool isPage)
 {
-    if (m_entry->isFree || spinBox()->hasSubstitute()) {
+    if (d->entry.isFree || spinBox()->hasSubstitute()) {
         return;
     }
-    m_isPage = isPage;
-    m_entry->step.begin(value(), steps);
+    d->isPage = isPage;
+    d->entry.step.begin(value(), steps);
     takeStep();
 }
 
 void TwoModeDoubleComboSlider::takeStep()
 {
-    const auto target = m_entry->step.next([this](double start, double factor) {
-        return m_entry->usable(
-            EditorNumbers::sumWithoutNoise(start, stepDistance(start, m_entry->step.steps()) * factor));
+    const auto target = d->entry.step.next([this](double start, double factor) {
+        return d->entry.usable(
+            EditorNumbers::sumWithoutNoise(start, stepDistance(start, d->entry.step.steps()) * factor));
     });
     if (target) {
         enter(*target);
@@ -258,25 +269,25 @@ void TwoModeDoubleComboSlider::takeStep()
 
 double TwoModeDoubleComboSlider::stepDistance(double start, int steps)
 {
-    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    const EditorNumbers::FloatLimits &limits = d->entry.limits;
     if (limits.isBounded()) {
-        const double positions = m_isPage
+        const double positions = d->isPage
             ? std::copysign(std::max(slider()->pageStep(), intIncrement()), steps)
             : double(steps) * std::max(1, intIncrement());
         const double least = limits.increment > 0.0 ? limits.increment : spinBox()->finestDigit(start);
         return std::copysign(std::max(std::abs(slidersDistance(start, positions)), least), steps);
     }
-    if (m_entry->stepWidth == 0.0) {
-        m_entry->stepWidth = spinBox()->lastDigit(start);
+    if (d->entry.stepWidth == 0.0) {
+        d->entry.stepWidth = spinBox()->lastDigit(start);
     }
-    const double width = limits.increment > 0.0 ? limits.increment : m_entry->stepWidth;
-    return m_isPage ? std::copysign(EditorKeys::pageKeySteps * width, steps) : steps * width;
+    const double width = limits.increment > 0.0 ? limits.increment : d->entry.stepWidth;
+    return d->isPage ? std::copysign(EditorKeys::pageKeySteps * width, steps) : steps * width;
 }
 
 // Returns how far the number of positions leads from the start, which may lie between two of them.
 double TwoModeDoubleComboSlider::slidersDistance(double start, double positions) const
 {
-    const EditorNumbers::FloatLimits &limits = m_entry->limits;
+    const EditorNumbers::FloatLimits &limits = d->entry.limits;
     const double part = positions / (double(intMaximum()) - intMinimum());
     return isLogarithmic() ? std::max(start, limits.minimum)
             * std::expm1(part * (std::log(limits.maximum) - std::log(limits.minimum)))
@@ -285,32 +296,32 @@ double TwoModeDoubleComboSlider::slidersDistance(double start, double positions)
 
 void TwoModeDoubleComboSlider::enter(double value)
 {
-    const double entered = m_entry->usable(value);
+    const double entered = d->entry.usable(value);
     setShown(entered);
     enableUpdate(true);
-    if (entered != m_entry->settled || !m_entry->step.isHeld(entered)) {
-        m_isUnannounced = true;
+    if (entered != d->entry.settled || !d->entry.step.isHeld(entered)) {
+        d->isUnannounced = true;
     }
     settle(entered);
-    if (!m_pause.isActive()) {
+    if (!d->pause.isActive()) {
         announceNow();
     }
 }
 
 void TwoModeDoubleComboSlider::announceNow()
 {
-    if (!m_isUnannounced) {
+    if (!d->isUnannounced) {
         return;
     }
-    m_isUnannounced = false;
+    d->isUnannounced = false;
     // The receivers write to the camera before the signal returns: as long again belongs to the user.
     QElapsedTimer duration;
     duration.start();
     const QPointer<TwoModeDoubleComboSlider> self(this);
-    m_entry->step.beginWrite();
+    d->entry.step.beginWrite();
     emit boxValueChanged();
     if (self) {
-        m_pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
-        m_entry->step.endWrite();
+        d->pause.start(std::max<int>(shortestPauseMilliseconds, duration.elapsed()));
+        d->entry.step.endWrite();
     }
 }

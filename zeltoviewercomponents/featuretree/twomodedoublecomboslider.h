@@ -7,12 +7,9 @@
 
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
 
-#include <QTimer>
-
 #include <memory>
 
 class NumberStep;
-struct FloatEntry;
 
 /*! \brief How the positions of a slider divide the range of values.
  *
@@ -38,7 +35,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TwoModeDoubleComboSlider : public Doubl
     Q_OBJECT
 
 public:
-    explicit TwoModeDoubleComboSlider(QWidget *parent);
+    explicit TwoModeDoubleComboSlider(QWidget *parent = nullptr);
     ~TwoModeDoubleComboSlider() override;
 
     /*! Sets how positions and values belong together, from the next value or movement on. */
@@ -64,7 +61,7 @@ public:
     /*! Returns the position that is nearest to \a value. */
     int positionFromValue(double value) const;
 
-signals:
+Q_SIGNALS:
     /*! The user has committed a change. */
     void boxValueChanged();
 
@@ -77,7 +74,7 @@ protected:
     void dropChange();
     NumberStep &step() const;
 
-private slots:
+private Q_SLOTS:
     void onTextEdited();
     void onEditingFinished();
     void onSliderMoved(int position);
@@ -96,10 +93,6 @@ private:
     double stepDistance(double start, int steps);
     double slidersDistance(double start, double positions) const;
 
-    ETwoModeDoubleComboSliderMode m_mode = ETwoModeDoubleComboSliderMode::Linear;
-    std::unique_ptr<FloatEntry> m_entry; //!< its limits are those of the slider, too
-    bool m_isPage = false; //!< the step under way
-    bool m_isShowing = false; //!< the slider moves because of the program
-    bool m_isUnannounced = false; //!< entered, but not announced yet
-    QTimer m_pause;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

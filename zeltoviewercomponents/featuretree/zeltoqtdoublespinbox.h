@@ -94,7 +94,7 @@ public:
     /*! Limits a number to the range. */
     void fixup(QString &text) const override;
 
-signals:
+Q_SIGNALS:
     /*! The user wants \a steps steps; negative ones go down. */
     void stepTriggered(int steps);
     /*! The user has left; after editingFinished(). */
@@ -110,7 +110,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
     StepEnabled stepEnabled() const override;
 
-private slots:
+private Q_SLOTS:
     void onTextChanged(const QString &text);
     void selectSubstitute();
 

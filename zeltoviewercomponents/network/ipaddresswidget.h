@@ -34,6 +34,8 @@ class QUrl;
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT IpAddressWidget : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(QString macAddress READ macAddress WRITE setMacAddress)
+    Q_PROPERTY(bool macAddressEditable READ isMacAddressEditable WRITE setMacAddressEditable)
 
 public:
     explicit IpAddressWidget(QWidget *parent = nullptr);
@@ -71,14 +73,14 @@ public:
     /*! Returns whether a device can use what is entered. */
     bool isUsable() const;
 
-public slots:
+public Q_SLOTS:
     /*! Closes the dialog with success, if what is entered is usable. */
     void accept() override;
 
 protected:
     void changeEvent(QEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void removeBlanks();
     void tidyUp();
     void updateState();

@@ -80,7 +80,7 @@ public:
      * selectors, and records that. Returns whether it was taken. */
     bool putBack(const QModelIndex &index, Column column);
 
-public slots:
+public Q_SLOTS:
     /*! Records what FeatureTreeWidget::edited() tells. */
     void record(QSharedPointer<ParameterCollection::IParameter> parameter, QString before, QString after,
                 QString refusal);
@@ -94,7 +94,7 @@ public slots:
     /*! Forgets all, as when the camera is closed. */
     void clear();
 
-signals:
+Q_SIGNALS:
     /*! What can be undone and redone has changed. */
     void stepsChanged();
     void modifiedChanged(bool isModified);
@@ -102,7 +102,7 @@ signals:
      * succeeded. */
     void taskCreated(SettingsTask *task);
 
-private slots:
+private Q_SLOTS:
     void onTaskFinished();
 
 private:

@@ -37,14 +37,14 @@ public:
     /*! Sets whether values can be put back now: the camera is there, and nothing else is at work on it. */
     void setPuttingBack(bool isPossible);
 
-signals:
+Q_SIGNALS:
     /*! The user wants to see the feature of that full name. */
     void featureRequested(const QString &fullName);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void search(const QString &text);
     void goToFeature();
     void putBackBefore();

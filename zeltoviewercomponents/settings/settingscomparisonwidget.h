@@ -45,7 +45,7 @@ public:
     /*! Sets whether values can be taken over. */
     void setTakingOver(bool isPossible);
 
-signals:
+Q_SIGNALS:
     /*! The user wants the values of \a settings, from there, to be set here. */
     void takeOverRequested(const FeatureSettings &settings);
     /*! The user wants to see the feature of that full name. */
@@ -56,7 +56,7 @@ signals:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-private slots:
+private Q_SLOTS:
     void onKindToggled();
     void search(const QString &text);
     void takeOver();

@@ -27,7 +27,7 @@ public:
     SettingsProgress(SettingsTask *task, const QString &title, QWidget *parent = nullptr);
     ~SettingsProgress() override;
 
-private slots:
+private Q_SLOTS:
     void onStarted();
     void onProgress(int done, int total, const QString &feature);
     void onCanceled();

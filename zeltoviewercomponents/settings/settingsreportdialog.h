@@ -24,11 +24,11 @@ public:
     explicit SettingsReportDialog(const SettingsReport &report, QWidget *parent = nullptr);
     ~SettingsReportDialog() override;
 
-signals:
+Q_SIGNALS:
     /*! The user wants back what was before. */
     void putBackRequested();
 
-private slots:
+private Q_SLOTS:
     void fill();
     void copy();
     void putBack();

@@ -48,14 +48,14 @@ public:
     /*! Returns whether the camera stopped answering. */
     bool isLost() const;
 
-public slots:
+public Q_SLOTS:
     /*! Begins the work; once. finished() follows from the event loop, always. */
     void start();
     /*! Ends the work after the access that is under way, with selectors put back. finished() still follows.
      */
     void cancel();
 
-signals:
+Q_SIGNALS:
     void started();
     /*! \a done of about \a total features are done, \a feature is next. Sent no more than some times a
      * second.
@@ -72,7 +72,7 @@ protected:
     /*! Takes over what \a script has come to. */
     virtual void take(SettingsScript &script) = 0;
 
-private slots:
+private Q_SLOTS:
     void advance();
     void onProgress(int done, int total, const QString &feature);
     void onScriptFinished();

@@ -26,7 +26,7 @@ public:
     explicit IFeatureTreeStatusService(QObject *parent = nullptr);
     ~IFeatureTreeStatusService() override;
 
-signals:
+Q_SIGNALS:
     /*! The user level has changed. */
     void visibilityChanged(GenApi::EVisibility level);
     /*! Another row is current; \a parameter is null for a row without parameter. */

@@ -26,7 +26,7 @@ public:
     /*! Selects the item \a id; returns false when there is none. */
     virtual bool selectItem(const QString &id) = 0;
 
-signals:
+Q_SIGNALS:
     /*! Another item is selected; \a item is null when none is. */
     void selectedItemChanged(WorkbenchBaseInfoPtr item);
     /*! An item has been added. */

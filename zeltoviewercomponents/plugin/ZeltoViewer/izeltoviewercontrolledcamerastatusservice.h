@@ -23,7 +23,7 @@ public:
     explicit IZeltoViewerControlledCameraStatusService(QObject *parent = nullptr);
     ~IZeltoViewerControlledCameraStatusService() override;
 
-signals:
+Q_SIGNALS:
     /*! The camera is open and its features can be reached. */
     void cameraFullyInitialized(const Core::CameraPoolComponents::CameraInfoPtr &camera);
 };

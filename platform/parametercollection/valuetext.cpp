@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include "valuetext_p.h"
+#include "valuetext.h"
+
+#include "valuewords.h"
 
 #include <platform/core/formatdoublevalue.h>
-#include <platform/parametercollection/valuewords.h>
 
 #include <QLocale>
 #include <QStringList>
@@ -12,7 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Cameras::ValueText {
+namespace ParameterCollection::ValueText {
 
 namespace {
 
@@ -89,7 +90,7 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
         return fromBytes(trimmed, QLatin1Char(':'), 6, 16);
     }
     if (const auto word = representation == QLatin1String("Boolean")
-            ? ParameterCollection::booleanFrom(trimmed)
+            ? booleanFrom(trimmed)
             : std::nullopt) {
         return *word ? 1 : 0;
     }
@@ -118,4 +119,4 @@ std::optional<double> toFloat(const QString &text)
     return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-} // namespace Cameras::ValueText
+} // namespace ParameterCollection::ValueText

@@ -3,15 +3,13 @@
 
 #pragma once
 
-#include <zeltoviewercomponents/zeltoviewercomponents_export.h>
-
 #include <QObject>
 
 /*! \brief Reports the focus changes of the widgets it is installed on; lets every event through.
  *
  * \ingroup controls
  */
-class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SpinBoxEventCatcher : public QObject
+class SpinBoxEventCatcher : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +19,7 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-signals:
+Q_SIGNALS:
     /*! The focus came (true) or went. */
     void focusEvent(bool focus);
 };
