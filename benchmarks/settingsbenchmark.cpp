@@ -4,7 +4,9 @@
 #include "figure.h"
 
 #include <cameras/aravis_p.h>
+#include <cameras/awakening_p.h>
 #include <cameras/camera.h>
+#include <cameras/description_p.h>
 #include <cameras/simulateddevice_p.h>
 #include <cameras/simulatedregisters_p.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
@@ -40,8 +42,10 @@ public:
         const QString fileName = qEnvironmentVariable("ZELTO_BENCHMARK_DESCRIPTION");
         const auto registers = std::make_shared<Cameras::SimulatedRegisters>();
         if (QFile::exists(fileName)) {
+            const QByteArray xml = contents(fileName);
             m_camera = Cameras::Camera::openDescription(fileName);
-            m_engine = Cameras::newSimulatedDevice(contents(fileName), registers);
+            m_engine = Cameras::newSimulatedDevice(xml, registers);
+            Cameras::awaken(m_engine.get(), Cameras::Description(xml), *registers);
         } else {
             const QString resource = QStringLiteral(":/cameras/Resources/cameradevice");
             m_camera = Cameras::Camera::openEmbedded();

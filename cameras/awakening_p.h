@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cameras/cameras_export.h>
+
 using ArvDevice = struct _ArvDevice;
 
 namespace Cameras {
@@ -15,6 +17,7 @@ class SimulatedRegisters;
  * enumerations are at their first available entry; limits leave room, and values are within them.
  *
  * Found by trying, in bounded time; what is not found stays as it was. */
-void awaken(ArvDevice *device, const Description &description, SimulatedRegisters &registers);
+ZELTO_CAMERAS_EXPORT void awaken(ArvDevice *device, const Description &description,
+                                 SimulatedRegisters &registers);
 
 } // namespace Cameras

@@ -203,6 +203,16 @@ Engine::Reading Engine::read(int node, Extent extent)
     return reading;
 }
 
+double Engine::resolution(int node)
+{
+    for (; node >= 0 && isEvaluable(node); node = m_description->valueNode(node)) {
+        if (const auto step = converterStep(engineNode(node))) {
+            return *step;
+        }
+    }
+    return 0.0;
+}
+
 bool Engine::isEvaluable(int node)
 {
     const QList<int> &sized = m_description->sizedRegisters(node);
@@ -637,11 +647,28 @@ void Engine::writeFloat(int node, double value, const QString &text)
     failure.throwIfAny(m_description->name(node));
 }
 
+// The conditions of all other entries are of no interest, and the engine asks for them once more.
+bool Engine::isEntryAvailable(int node, const QByteArray &name)
+{
+    const GSList *entry = arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(m_nodes[node]));
+    for (; entry; entry = entry->next) {
+        auto *feature = static_cast<ArvGcFeatureNode *>(entry->data);
+        if (name != arv_gc_feature_node_get_name(feature)) {
+            continue;
+        }
+        Failure failure(this);
+        const bool isAvailable = arv_gc_feature_node_is_implemented(feature, failure) && !failure.take()
+            && arv_gc_feature_node_is_available(feature, failure);
+        return !failure.take() && isAvailable;
+    }
+    return false;
+}
+
 void Engine::writeEnum(int node, const QString &text)
 {
-    EnumParameterData entries;
-    readEnumEntries(node, entries);
-    if (!entries.symbolicNames.contains(text)) {
+    if (!isEntryAvailable(node, text.toUtf8())) {
+        EnumParameterData entries;
+        readEnumEntries(node, entries);
         refuse(node, text, entries.symbolicNames.join(QLatin1String(", ")));
     }
     Failure failure(this);

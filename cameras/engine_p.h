@@ -63,6 +63,8 @@ public:
 
     /*! Reads the node; what cannot be read is told by the snapshot's flags. */
     Reading read(int node, Extent extent = Extent::Whole);
+    /*! Returns what the register behind the number \a node cannot tell apart, 0 where that is not known. */
+    double resolution(int node);
 
     /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
     void write(int node, const NodeValue &value);
@@ -99,6 +101,7 @@ private:
     void writeInteger(int node, qint64 value, const QString &text);
     QString integerForm(int node) const;
     void writeFloat(int node, double value, const QString &text);
+    bool isEntryAvailable(int node, const QByteArray &name);
     void writeEnum(int node, const QString &text);
     void writeString(int node, const QString &text);
     void writeBoolean(int node, bool value);

@@ -5,6 +5,7 @@
 
 #include "aravis_p.h"
 #include "description_p.h"
+#include "engineanswer_p.h"
 #include "formula_p.h"
 
 #include <QByteArray>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cfloat>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -458,6 +460,26 @@ void guardFormulas(ArvGc *genicam, const Description &description)
     for (const int node : description.formulas()) {
         guardFormulas(arv_gc_get_node(genicam, description.name(node).toUtf8().constData()));
     }
+}
+
+std::optional<double> converterStep(ArvGcNode *node)
+{
+    if (!node || !G_TYPE_CHECK_INSTANCE_TYPE(node, zelto_formula_node_get_type())
+        || !stateOf(node).isConverter) {
+        return std::nullopt;
+    }
+    const FormulaState &state = stateOf(node);
+    ArvGcNode *target = otherNode(node, state.valueNode);
+    const auto number =
+        ARV_IS_GC_INTEGER(target) ? asked(arv_gc_integer_get_value, ARV_GC_INTEGER(target)) : std::nullopt;
+    const auto here = number ? converted(node, state.from, *number, Unanswered()) : std::nullopt;
+    double step = 0.0;
+    for (const quint64 offset : {quint64(1), ~quint64(0)}) {
+        const auto other = here ? converted(node, state.from, qint64(quint64(*number) + offset), Unanswered())
+                                : std::nullopt;
+        step = other && std::isfinite(*other) ? std::max(step, std::abs(*other - *here)) : step;
+    }
+    return step;
 }
 
 QHash<QByteArray, QList<qint64>> formulaHints(ArvGcNode *node)

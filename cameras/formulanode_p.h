@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QList>
 
+#include <optional>
+
 using ArvGc = struct _ArvGc;
 using ArvGcNode = struct _ArvGcNode;
 
@@ -21,5 +23,9 @@ void guardFormulas(ArvGc *genicam, const Description &description);
 /*! Returns the numbers that a guarded formula of \a node names beside its variables, by the names of the
  * nodes that these stand for; nothing for other nodes. */
 QHash<QByteArray, QList<qint64>> formulaHints(ArvGcNode *node);
+
+/*! Returns by how much the value of the guarded converter \a node changes with one step of the integer behind
+ * it, 0 when there is none; nothing for other nodes. */
+std::optional<double> converterStep(ArvGcNode *node);
 
 } // namespace Cameras

@@ -611,6 +611,7 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
                 batch.before.insert(node, shown->valueString);
             }
             engine.write(node, operation.value);
+            outcome.resolution = engine.resolution(node);
         } catch (const std::exception &exception) {
             outcome.failure = QString::fromUtf8(exception.what());
         }

@@ -49,6 +49,23 @@ std::optional<qint64> integerValue(ArvGcNode *node)
     return number ? Formula::truncated(*number) : std::nullopt;
 }
 
+// Returns where an enumeration without a register keeps its value, null for all others.
+ArvGcPropertyNode *ownValue(ArvGcNode *node)
+{
+    if (!ARV_IS_GC_ENUMERATION(node)) {
+        return nullptr;
+    }
+    for (ArvDomNode *child = arv_dom_node_get_first_child(ARV_DOM_NODE(node)); child;
+         child = arv_dom_node_get_next_sibling(child)) {
+        if (ARV_IS_GC_PROPERTY_NODE(child)
+            && arv_gc_property_node_get_node_type(ARV_GC_PROPERTY_NODE(child))
+                == ARV_GC_PROPERTY_NODE_TYPE_VALUE) {
+            return ARV_GC_PROPERTY_NODE(child);
+        }
+    }
+    return nullptr;
+}
+
 std::chrono::nanoseconds processorTime()
 {
     timespec time{};
@@ -126,8 +143,7 @@ private:
     {
         if (!m_sources.leaves.contains(node)) {
             m_sources.leaves.append(node);
-            if (mayTurn && int(m_sources.knobs.size()) < mostKnobs
-                && integerValue(m_search.engineNode(node))) {
+            if (mayTurn && int(m_sources.knobs.size()) < mostKnobs && m_search.leaf(node).isNumber) {
                 m_knobs.insert(node, m_sources.knobs.size());
                 m_sources.knobs.push_back({node, node == m_ownValue, {}});
             }
@@ -164,7 +180,7 @@ public:
         m_search.m_registers.endTrial(m_isKept);
         for (const Setting &before : std::as_const(m_before)) {
             if (!m_isKept) {
-                m_search.set(before.leaf, before.value);
+                m_search.put(before.leaf, before.value);
             }
         }
     }
@@ -198,6 +214,46 @@ private:
     QList<Setting> m_before; // the engine itself holds these
     Bits m_changed;
     bool m_isKept = false;
+};
+
+/*! \brief What the knobs of a wish are turned to; found out when it is first asked for, since most wishes are
+ * granted by the first knob. */
+class WishSearch::Choices
+{
+public:
+    Choices(WishSearch &search, const Wish &wish, const std::vector<Knob> &knobs)
+        : m_search(search)
+        , m_wish(wish)
+        , m_knobs(knobs)
+        , m_values(knobs.size())
+    {
+    }
+
+    const Wish &wish() const { return m_wish; }
+    size_t knobCount() const { return m_knobs.size(); }
+
+    /*! Returns the setting of \a knob to what is the likeliest but for \a place others, if there is one. */
+    std::optional<Setting> setting(size_t knob, int place)
+    {
+        const QList<qint64> &values = this->values(knob);
+        return place < values.size() ? std::optional(Setting{m_knobs[knob].leaf, values[place]})
+                                     : std::nullopt;
+    }
+
+private:
+    const QList<qint64> &values(size_t knob)
+    {
+        auto &values = m_values[knob];
+        if (!values) {
+            values = m_search.candidates(m_knobs[knob], m_wish);
+        }
+        return *values;
+    }
+
+    WishSearch &m_search;
+    const Wish &m_wish;
+    const std::vector<Knob> &m_knobs;
+    std::vector<std::optional<QList<qint64>>> m_values;
 };
 
 WishSearch::WishSearch(ArvDevice *device, const Description &description, SimulatedRegisters &registers)
@@ -278,17 +334,18 @@ bool WishSearch::isState(int node) const
 }
 
 // Registers may overlap in part, and share their bytes.
-WishSearch::Bits WishSearch::bitsOf(int node)
+WishSearch::Bits WishSearch::bitsOf(ArvGcNode *engine, std::optional<qint64> value)
 {
-    ArvGcNode *engine = engineNode(node);
     if (ARV_IS_GC_MASKED_INT_REG_NODE(engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(engine)) {
         m_registers.beginTrial();
         Unanswered failure;
         arv_gc_integer_set_value(ARV_GC_INTEGER(engine), -1, failure);
         Bits bits = m_registers.changedInTrial();
-        arv_gc_integer_set_value(ARV_GC_INTEGER(engine), 0, Unanswered());
-        for (const auto &[address, changed] : m_registers.changedInTrial().asKeyValueRange()) {
-            bits[address] |= changed;
+        if (value != 0) {
+            arv_gc_integer_set_value(ARV_GC_INTEGER(engine), 0, Unanswered());
+            for (const auto &[address, changed] : m_registers.changedInTrial().asKeyValueRange()) {
+                bits[address] |= changed;
+            }
         }
         m_registers.endTrial(false);
         return bits;
@@ -321,7 +378,10 @@ const WishSearch::Leaf &WishSearch::leaf(int node)
     Leaf leaf;
     leaf.engine = engineNode(node);
     leaf.isRegister = ARV_IS_GC_REGISTER(leaf.engine) || ARV_IS_GC_STRUCT_ENTRY_NODE(leaf.engine);
-    leaf.bits = leaf.isRegister ? bitsOf(node) : Bits{{ownPlace(node), 0xff}};
+    const auto value = integerValue(leaf.engine);
+    leaf.isNumber = value.has_value();
+    leaf.ownValue = ownValue(leaf.engine);
+    leaf.bits = leaf.isRegister ? bitsOf(leaf.engine, value) : Bits{{ownPlace(node), 0xff}};
     Unanswered failure;
     if (ARV_IS_GC_INTEGER(leaf.engine)) {
         // Of eight bytes without a sign it may be no number any more.
@@ -421,14 +481,10 @@ void WishSearch::keep(const Wish &wish, const Sources &sources)
 
 bool WishSearch::search(const Wish &wish, const Sources &sources)
 {
-    std::vector<QList<qint64>> choices;
-    for (const Knob &knob : sources.knobs) {
-        choices.push_back(candidates(knob, wish));
-    }
+    Choices choices(*this, wish, sources.knobs);
     // What is likely comes first.
-    return trySingles(wish, sources.knobs, choices, 0, mostPairedChoices)
-        || tryAllAlike(wish, sources.knobs, choices) || tryPairs(wish, sources.knobs, choices)
-        || trySingles(wish, sources.knobs, choices, mostPairedChoices, mostChoices);
+    return trySingles(choices, 0, mostPairedChoices) || tryAllAlike(choices) || tryPairs(choices)
+        || trySingles(choices, mostPairedChoices, mostChoices);
 }
 
 QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
@@ -460,12 +516,12 @@ QList<qint64> WishSearch::candidates(const Knob &knob, const Wish &wish)
     return chosen;
 }
 
-bool WishSearch::trySingles(const Wish &wish, const std::vector<Knob> &knobs,
-                            const std::vector<QList<qint64>> &choices, int first, int end)
+bool WishSearch::trySingles(Choices &choices, int first, int end)
 {
-    for (int choice = first; choice < end; ++choice) {
-        for (size_t i = 0; i < knobs.size(); ++i) {
-            if (choice < choices[i].size() && trySettings(wish, {{knobs[i].leaf, choices[i][choice]}})) {
+    for (int place = first; place < end; ++place) {
+        for (size_t knob = 0; knob < choices.knobCount(); ++knob) {
+            const auto setting = choices.setting(knob, place);
+            if (setting && trySettings(choices.wish(), {*setting})) {
                 return true;
             }
         }
@@ -473,38 +529,43 @@ bool WishSearch::trySingles(const Wish &wish, const std::vector<Knob> &knobs,
     return false;
 }
 
-bool WishSearch::tryAllAlike(const Wish &wish, const std::vector<Knob> &knobs,
-                             const std::vector<QList<qint64>> &choices)
+bool WishSearch::tryAllAlike(Choices &choices)
 {
-    for (int choice = 0; choice < mostPairedChoices; ++choice) {
+    for (int place = 0; place < mostPairedChoices; ++place) {
         std::vector<Setting> settings;
-        for (size_t i = 0; i < knobs.size(); ++i) {
-            if (choice < choices[i].size()) {
-                settings.push_back({knobs[i].leaf, choices[i][choice]});
+        for (size_t knob = 0; knob < choices.knobCount(); ++knob) {
+            if (const auto setting = choices.setting(knob, place)) {
+                settings.push_back(*setting);
             }
         }
-        if (settings.size() < 2 || !trySettings(wish, settings)) {
-            continue;
+        if (settings.size() >= 2 && trySettings(choices.wish(), settings)) {
+            return true;
         }
-        return true;
     }
     return false;
 }
 
-bool WishSearch::tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
-                          const std::vector<QList<qint64>> &choices)
+bool WishSearch::tryPairs(Choices &choices)
 {
-    const size_t count = std::min<size_t>(knobs.size(), mostPairedKnobs);
+    const size_t count = std::min<size_t>(choices.knobCount(), mostPairedKnobs);
     for (size_t one = 0; one < count; ++one) {
         for (size_t other = one + 1; other < count; ++other) {
-            for (const qint64 first :
-                 choices[one].first(std::min<qsizetype>(choices[one].size(), mostPairedChoices))) {
-                for (const qint64 second :
-                     choices[other].first(std::min<qsizetype>(choices[other].size(), mostPairedChoices))) {
-                    if (trySettings(wish, {{knobs[one].leaf, first}, {knobs[other].leaf, second}})) {
-                        return true;
-                    }
-                }
+            if (tryPair(choices, one, other)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool WishSearch::tryPair(Choices &choices, size_t one, size_t other)
+{
+    for (int place = 0; place < mostPairedChoices; ++place) {
+        const auto first = choices.setting(one, place);
+        for (int otherPlace = 0; first && otherPlace < mostPairedChoices; ++otherPlace) {
+            const auto second = choices.setting(other, otherPlace);
+            if (second && trySettings(choices.wish(), {*first, *second})) {
+                return true;
             }
         }
     }
@@ -521,12 +582,12 @@ bool WishSearch::trySettings(const Wish &wish, const std::vector<Setting> &setti
         leaves.append(setting.leaf);
     }
     Trial trial(*this, leaves);
-    for (const Setting &setting : settings) {
-        if (!set(setting.leaf, setting.value)) {
-            return false;
-        }
-    }
-    if (!wish.isTrue() || !trial.isHarmless()) {
+    const auto put = [this](const Setting &setting) { return this->put(setting.leaf, setting.value); };
+    const auto isAccepted = [this](const Setting &setting) {
+        return !leaf(setting.leaf).ownValue || set(setting.leaf, setting.value);
+    };
+    if (!std::all_of(settings.cbegin(), settings.cend(), put) || !wish.isTrue()
+        || !std::all_of(settings.cbegin(), settings.cend(), isAccepted) || !trial.isHarmless()) {
         return false;
     }
     trial.keep();
@@ -545,6 +606,19 @@ bool WishSearch::tryWrite(int node, const std::function<void()> &write, const st
     }
     trial.keep();
     return true;
+}
+
+// The engine asks for all entries before it sets one, which is too much for values that are mostly taken
+// back.
+bool WishSearch::put(int node, qint64 value)
+{
+    ArvGcPropertyNode *ownValue = leaf(node).ownValue;
+    if (!ownValue) {
+        return set(node, value);
+    }
+    Unanswered failure;
+    arv_gc_property_node_set_int64(ownValue, value, failure);
+    return !failure.isSet();
 }
 
 bool WishSearch::set(int node, qint64 value)

@@ -16,6 +16,7 @@
 
 using ArvDevice = struct _ArvDevice;
 using ArvGcNode = struct _ArvGcNode;
+using ArvGcPropertyNode = struct _ArvGcPropertyNode;
 
 namespace Cameras {
 
@@ -65,9 +66,11 @@ private:
     struct Leaf
     {
         ArvGcNode *engine = nullptr;
+        ArvGcPropertyNode *ownValue = nullptr; //!< of an enumeration that has no register
         Bits bits;
         qint64 largest = 1;
         bool isRegister = false;
+        bool isNumber = false; //!< when it was looked at first
     };
 
     struct Knob
@@ -97,6 +100,7 @@ private:
         quint8 bits;
     };
 
+    class Choices;
     class Collector;
     class Trial;
     struct Setting
@@ -116,15 +120,14 @@ private:
     QList<qint64> candidates(const Knob &knob, const Wish &wish);
     bool search(const Wish &wish, const Sources &sources);
     bool trySettings(const Wish &wish, const std::vector<Setting> &settings);
-    bool trySingles(const Wish &wish, const std::vector<Knob> &knobs,
-                    const std::vector<QList<qint64>> &choices, int first, int end);
-    bool tryAllAlike(const Wish &wish, const std::vector<Knob> &knobs,
-                     const std::vector<QList<qint64>> &choices);
-    bool tryPairs(const Wish &wish, const std::vector<Knob> &knobs,
-                  const std::vector<QList<qint64>> &choices);
+    bool trySingles(Choices &choices, int first, int end);
+    bool tryAllAlike(Choices &choices);
+    bool tryPairs(Choices &choices);
+    bool tryPair(Choices &choices, size_t one, size_t other);
+    bool put(int leaf, qint64 value);
     bool set(int leaf, qint64 value);
     bool areGrantedTrue(const Bits &changed);
-    Bits bitsOf(int node);
+    Bits bitsOf(ArvGcNode *engine, std::optional<qint64> value);
     int cost(const QList<int> &nodes) const;
     bool spend(int cost);
     void keep(const Wish &wish, const Sources &sources);

@@ -96,14 +96,28 @@ void Comparison::close()
 
 bool Comparison::canStart() const
 {
-    return !m_isBusy && !m_opening && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
+    return !m_isBusy && m_canRead && !m_opening && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
 }
 
 void Comparison::setBusy(bool busy)
 {
     m_isBusy = busy;
-    m_menu->setEnabled(!busy && !m_nodeMaps.isEmpty());
-    m_panel->setTakingOver(!busy && !m_nodeMaps.isEmpty());
+    updateActions();
+}
+
+void Comparison::setAccess(bool canRead, bool canWrite)
+{
+    m_canRead = canRead;
+    m_canWrite = canWrite;
+    updateActions();
+}
+
+void Comparison::updateActions()
+{
+    const bool isPossible = !m_isBusy && m_canRead && !m_nodeMaps.isEmpty();
+    m_menu->setEnabled(isPossible);
+    m_panel->setComparing(isPossible);
+    m_panel->setTakingOver(isPossible && m_canWrite);
 }
 
 void Comparison::askForFile()
@@ -242,7 +256,7 @@ void Comparison::onHereRead()
 
 void Comparison::takeOver(const FeatureSettings &settings)
 {
-    if (!canStart()) {
+    if (!canStart() || !m_canWrite) {
         return;
     }
     m_applier = std::make_unique<SettingsApplier>(settings, m_nodeMaps);

@@ -44,6 +44,8 @@ public:
     /*! Adds the menu of what can be compared with to \a menu. */
     void addTo(QMenu *menu);
 
+    /*! Sets whether the open camera can be read and whether it can be written to. */
+    void setAccess(bool canRead, bool canWrite);
     /*! Compares with the settings file \a fileName. */
     void compareWithFile(const QString &fileName);
 
@@ -81,6 +83,7 @@ private:
     void compareWith(std::unique_ptr<Cameras::Camera> other);
     void compareWith(const QString &title, const FeatureSettings &there, bool onlyKnown);
     bool canStart() const;
+    void updateActions();
 
     QWidget *m_window;
     SettingsComparisonWidget *m_panel;
@@ -90,6 +93,8 @@ private:
     QString m_title; // of what is compared with
     FeatureSettings m_there;
     bool m_isBusy = false;
+    bool m_canRead = false;
+    bool m_canWrite = false;
     bool m_onlyKnown = false; // features that are only here tell nothing
     std::unique_ptr<Cameras::CameraOpening> m_opening; // of another camera
     std::unique_ptr<QProgressDialog> m_progress; // as long as that takes

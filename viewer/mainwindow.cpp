@@ -808,6 +808,7 @@ void MainWindow::updateActions()
                                                : tr("Only of a camera that is open read-only and free"));
     m_controlAction->setStatusTip(m_controlAction->toolTip());
     m_settings->updateActions();
+    m_comparison->setAccess(isCameraOpen(), isCameraOpen() && !m_camera->isReadOnly());
     updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());

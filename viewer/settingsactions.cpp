@@ -76,6 +76,9 @@ void SettingsActions::setCamera(Cameras::Camera *camera)
     if (m_task) {
         endTask();
     }
+    if (m_report) {
+        m_report->close(); // what it would put back belongs to another camera
+    }
     m_camera = camera;
     m_former = FeatureSettings();
     updateActions();
@@ -252,11 +255,11 @@ void SettingsActions::onApplyFinished()
 
 void SettingsActions::showReport(const SettingsReport &report)
 {
-    auto *const dialog = new SettingsReportDialog(report, window());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setModal(true);
-    connect(dialog, SIGNAL(putBackRequested()), this, SLOT(putBack()));
-    dialog->show();
+    m_report = new SettingsReportDialog(report, window());
+    m_report->setAttribute(Qt::WA_DeleteOnClose);
+    m_report->setModal(true);
+    connect(m_report, SIGNAL(putBackRequested()), this, SLOT(putBack()));
+    m_report->show();
 }
 
 void SettingsActions::warn(const QString &text)

@@ -9,6 +9,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -19,6 +20,7 @@ class QAction;
 class QWidget;
 class SettingsApplier;
 class SettingsReader;
+class SettingsReportDialog;
 
 namespace Cameras {
 class Camera;
@@ -85,6 +87,7 @@ private:
     QAction *m_load;
     Cameras::Camera *m_camera = nullptr;
     std::unique_ptr<SettingsTask> m_task;
+    QPointer<SettingsReportDialog> m_report;
     FeatureSettings m_former; // before what was applied last
     QString m_fileName; // of the task
     QString m_lastFile;

@@ -40,6 +40,7 @@ struct BatchOutcome
     ParameterDataPtr data; //!< read from the device after the operation; null when there is none to be had
     GenApi::EAccessMode access = GenApi::NI; //!< the node's own, not limited by what was imposed
     QString failure; //!< why the operation was refused, empty when it was not
+    double resolution = 0.0; //!< after a write: what the device cannot tell apart of a number, if known
     bool isLost = false; //!< the device does not answer any more
 };
 

@@ -4,7 +4,9 @@
 #include "changehistorywidget.h"
 
 #include "changehistory.h"
+#include "searchedlistview_p.h"
 
+#include <platform/core/savefile.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
 #include <QAction>
@@ -14,14 +16,11 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QSaveFile>
 #include <QSortFilterProxyModel>
 #include <QStyle>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -43,8 +42,6 @@ QString escaped(QString text)
 ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent)
     : QWidget(parent)
     , m_history(history)
-    , m_search(new QLineEdit(this))
-    , m_view(new QTreeView(this))
     , m_filter(new QSortFilterProxyModel(this))
     , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
     , m_putBackBefore(addListAction(tr("Put &Back the Value Before"), SLOT(putBackBefore())))
@@ -55,14 +52,12 @@ ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent
     setObjectName(QStringLiteral("changes"));
     setWindowTitle(tr("Changes"));
     setToolTip(tr("What was changed since the camera was opened"));
-    m_filter->setFilterKeyColumn(-1);
-    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filter->setSourceModel(history->changes());
+    m_view = new SearchedListView(m_filter, this);
     m_copy->setShortcut(QKeySequence::Copy);
     m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
     layOut();
-    connect(m_search, SIGNAL(textChanged(QString)), this, SLOT(search(QString)));
-    connect(m_view, SIGNAL(doubleClicked(QModelIndex)), this, SLOT(goToFeature()));
+    connect(m_view, SIGNAL(chosen()), this, SLOT(goToFeature()));
     connect(m_view, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showMenu(QPoint)));
     connect(m_view->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,
             SLOT(updateActions()));
@@ -82,23 +77,14 @@ QAction *ChangeHistoryWidget::addListAction(const QString &text, const char *slo
 
 void ChangeHistoryWidget::layOut()
 {
-    m_search->setPlaceholderText(tr("Search changes"));
-    m_search->setAccessibleName(m_search->placeholderText());
-    m_search->setClearButtonEnabled(true);
+    QLineEdit *const search = m_view->searchBox();
+    search->setPlaceholderText(tr("Search changes"));
+    search->setAccessibleName(search->placeholderText());
     auto *const saveButton = new QToolButton(this);
     saveButton->setDefaultAction(m_save);
     saveButton->setAutoRaise(true);
 
-    m_view->setModel(m_filter);
-    m_view->setAccessibleName(windowTitle());
-    m_view->setRootIsDecorated(false);
-    m_view->setUniformRowHeights(true);
-    m_view->setAllColumnsShowFocus(true);
-    m_view->setAlternatingRowColors(true);
-    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->addAction(m_copy);
-    m_view->installEventFilter(this);
     const int width = fontMetrics().averageCharWidth();
     m_view->header()->resizeSection(ChangeHistory::TimeColumn,
                                     fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + 4 * width);
@@ -107,14 +93,13 @@ void ChangeHistoryWidget::layOut()
     m_view->header()->resizeSection(ChangeHistory::AfterColumn, 14 * width);
 
     auto *const top = new QHBoxLayout;
-    top->addWidget(m_search, 1);
+    top->addWidget(search, 1);
     top->addWidget(saveButton);
     auto *const layout = new QVBoxLayout(this);
     const int margin = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) / 2;
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addLayout(top);
     layout->addWidget(m_view, 1);
-    setFocusProxy(m_view);
 }
 
 QModelIndex ChangeHistoryWidget::current() const
@@ -126,24 +111,6 @@ void ChangeHistoryWidget::setPuttingBack(bool isPossible)
 {
     m_canPutBack = isPossible;
     updateActions();
-}
-
-void ChangeHistoryWidget::search(const QString &text)
-{
-    m_filter->setFilterFixedString(text);
-}
-
-// QAbstractItemView leaves it to the platform whether Enter activates a row; here it always goes there.
-bool ChangeHistoryWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            goToFeature();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void ChangeHistoryWidget::updateActions()
@@ -221,10 +188,9 @@ void ChangeHistoryWidget::save()
     if (fileName.isEmpty()) {
         return;
     }
-    QSaveFile file(fileName);
-    const QByteArray bytes = text().toUtf8();
-    if (!file.open(QSaveFile::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        showErrorMessage(tr("Cannot write %1: %2").arg(fileName, file.errorString()), this);
+    const QString failure = Core::saveFile(fileName, text().toUtf8());
+    if (!failure.isEmpty()) {
+        showErrorMessage(tr("Cannot write %1: %2").arg(fileName, failure), this);
     }
 }
 

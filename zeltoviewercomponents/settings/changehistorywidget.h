@@ -11,11 +11,10 @@
 
 class ChangeHistory;
 class QAction;
-class QLineEdit;
 class QModelIndex;
 class QPoint;
 class QSortFilterProxyModel;
-class QTreeView;
+class SearchedListView;
 
 /*! \brief Lists the changes of a history, the newest first, with a search over all columns.
  *
@@ -41,11 +40,7 @@ Q_SIGNALS:
     /*! The user wants to see the feature of that full name. */
     void featureRequested(const QString &fullName);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private Q_SLOTS:
-    void search(const QString &text);
     void goToFeature();
     void putBackBefore();
     void putBackAfter();
@@ -62,9 +57,8 @@ private:
     QModelIndex current() const;
 
     QPointer<ChangeHistory> m_history;
-    QLineEdit *m_search;
-    QTreeView *m_view;
     QSortFilterProxyModel *m_filter;
+    SearchedListView *m_view;
     QAction *m_go;
     QAction *m_putBackBefore;
     QAction *m_putBackAfter;

@@ -331,8 +331,10 @@ void SettingsApplying::judge(Item &item, bool mayWrite, const Outcome &outcome)
     if (item.isSelector) {
         knowSelector(entry.setting.name, value);
     }
-    const auto isWanted = mayWrite ? SettingsValue::isSame : SettingsValue::isTaken;
-    if (outcome.data->isReadable && isWanted(*outcome.data, entry.setting.value)) {
+    const bool isWanted = mayWrite
+        ? SettingsValue::isSame(*outcome.data, entry.setting.value)
+        : SettingsValue::isTaken(*outcome.data, entry.setting.value, item.resolution);
+    if (outcome.data->isReadable && isWanted) {
         // A selector that was only stepped along has its value again.
         const bool isChanged =
             item.isWritten && !SettingsValue::isSameText(entry.before, entry.setting.value);
@@ -349,6 +351,7 @@ void SettingsApplying::writeItem(Item &item)
 {
     write(item.entry.setting.name, item.entry.setting.value, [this, &item](const Outcome &outcome) {
         const bool hasResolution = outcome.data && outcome.data->type == ParameterType::Float;
+        item.resolution = outcome.resolution;
         if (!hasResolution || !outcome.failure.isEmpty()) {
             onWritten(item, outcome);
             return;
@@ -374,7 +377,7 @@ void SettingsApplying::onWritten(Item &item, const Outcome &outcome)
     item.isWritten = true;
     entry.reason.clear();
     const bool isReadable = outcome.data && outcome.data->isReadable;
-    if (isReadable && !SettingsValue::isTaken(*outcome.data, entry.setting.value)) {
+    if (isReadable && !SettingsValue::isTaken(*outcome.data, entry.setting.value, item.resolution)) {
         entry.result = Result::Different;
         return;
     }

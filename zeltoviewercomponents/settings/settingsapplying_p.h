@@ -45,6 +45,7 @@ private:
         bool isHeld = false; // depends on selectors as they are at the start
         bool isSeen = false;
         bool isWritten = false;
+        double resolution = 0.0;
     };
 
     using Items = std::vector<Item *>;

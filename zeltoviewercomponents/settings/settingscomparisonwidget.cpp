@@ -4,18 +4,17 @@
 #include "settingscomparisonwidget.h"
 
 #include "differencelist_p.h"
+#include "searchedlistview_p.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QStyle>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,9 +25,7 @@ SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
     : QWidget(parent)
     , m_list(new DifferenceList(this))
     , m_filter(new DifferenceFilter(this))
-    , m_view(new QTreeView(this))
     , m_title(new QLabel(this))
-    , m_search(new QLineEdit(this))
     , m_kinds{new QCheckBox(this), new QCheckBox(this), new QCheckBox(this)}
     , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
     , m_takeOver(addListAction(tr("&Take Over"), SLOT(takeOver())))
@@ -42,15 +39,14 @@ SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
     m_takeOverAll->setToolTip(tr("Sets all values from there that are shown"));
     m_refresh->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
     m_filter->setSourceModel(m_list);
-    m_filter->setFilterKeyColumn(-1);
-    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_view = new SearchedListView(m_filter, this);
     layOut();
     for (QCheckBox *const kind : m_kinds) {
         kind->setChecked(true);
         connect(kind, SIGNAL(toggled(bool)), this, SLOT(onKindToggled()));
     }
-    connect(m_search, SIGNAL(textChanged(QString)), this, SLOT(search(QString)));
-    connect(m_view, SIGNAL(doubleClicked(QModelIndex)), this, SLOT(goToFeature()));
+    connect(m_view->searchBox(), SIGNAL(textChanged(QString)), this, SLOT(updateActions()));
+    connect(m_view, SIGNAL(chosen()), this, SLOT(goToFeature()));
     connect(m_view, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showMenu(QPoint)));
     connect(m_view->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(updateActions()));
@@ -69,18 +65,9 @@ QAction *SettingsComparisonWidget::addListAction(const QString &text, const char
 void SettingsComparisonWidget::layOut()
 {
     m_title->setWordWrap(true);
-    m_search->setPlaceholderText(tr("Search differences"));
-    m_search->setAccessibleName(m_search->placeholderText());
-    m_search->setClearButtonEnabled(true);
-    m_view->setModel(m_filter);
-    m_view->setAccessibleName(windowTitle());
-    m_view->setRootIsDecorated(false);
-    m_view->setUniformRowHeights(true);
-    m_view->setAllColumnsShowFocus(true);
-    m_view->setAlternatingRowColors(true);
-    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_view->installEventFilter(this);
+    QLineEdit *const search = m_view->searchBox();
+    search->setPlaceholderText(tr("Search differences"));
+    search->setAccessibleName(search->placeholderText());
     m_view->header()->resizeSection(DifferenceList::NameColumn, 30 * fontMetrics().averageCharWidth());
 
     const auto buttonFor = [this](QAction *action) {
@@ -90,7 +77,7 @@ void SettingsComparisonWidget::layOut()
         return button;
     };
     auto *const top = new QHBoxLayout;
-    top->addWidget(m_search, 1);
+    top->addWidget(search, 1);
     top->addWidget(buttonFor(m_refresh));
     auto *const kinds = new QHBoxLayout;
     for (const Kind kind : {Kind::Different, Kind::OnlyHere, Kind::OnlyThere}) {
@@ -109,7 +96,6 @@ void SettingsComparisonWidget::layOut()
     layout->addLayout(kinds);
     layout->addWidget(m_view, 1);
     layout->addLayout(bottom);
-    setFocusProxy(m_view);
 }
 
 void SettingsComparisonWidget::setComparison(const QString &title, const FeatureSettings &here,
@@ -129,6 +115,12 @@ void SettingsComparisonWidget::clear()
     m_hasComparison = false;
     m_title->setText(tr("Nothing is compared."));
     updateCounts();
+    updateActions();
+}
+
+void SettingsComparisonWidget::setComparing(bool isPossible)
+{
+    m_canCompare = isPossible;
     updateActions();
 }
 
@@ -160,24 +152,6 @@ void SettingsComparisonWidget::onKindToggled()
     updateActions();
 }
 
-void SettingsComparisonWidget::search(const QString &text)
-{
-    m_filter->setFilterFixedString(text);
-    updateActions();
-}
-
-bool SettingsComparisonWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            goToFeature();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
 void SettingsComparisonWidget::updateActions()
 {
     const auto rows = m_view->selectionModel()->selectedRows();
@@ -187,7 +161,7 @@ void SettingsComparisonWidget::updateActions()
     m_go->setEnabled(m_view->currentIndex().isValid());
     m_takeOver->setEnabled(m_canTakeOver && hasValue);
     m_takeOverAll->setEnabled(m_canTakeOver && m_filter->rowCount() > 0);
-    m_refresh->setEnabled(m_hasComparison);
+    m_refresh->setEnabled(m_hasComparison && m_canCompare);
 }
 
 // What is only here has no value there that could be taken.

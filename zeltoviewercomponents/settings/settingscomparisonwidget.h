@@ -18,10 +18,9 @@ class DifferenceList;
 class QAction;
 class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QModelIndex;
 class QPoint;
-class QTreeView;
+class SearchedListView;
 
 /*! \brief Shows in what the settings of a camera differ from others, and asks the host to take values over.
  *
@@ -42,6 +41,9 @@ public:
     void setComparison(const QString &title, const FeatureSettings &here, const FeatureSettings &there);
     /*! Shows no comparison. */
     void clear();
+    /*! Sets whether the same can be compared again: the camera is there, and nothing else is at work on it.
+     */
+    void setComparing(bool isPossible);
     /*! Sets whether values can be taken over. */
     void setTakingOver(bool isPossible);
 
@@ -53,12 +55,8 @@ Q_SIGNALS:
     /*! The user wants the same comparison again, with present values. */
     void refreshRequested();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private Q_SLOTS:
     void onKindToggled();
-    void search(const QString &text);
     void takeOver();
     void takeOverAll();
     void goToFeature();
@@ -73,14 +71,14 @@ private:
 
     DifferenceList *m_list;
     DifferenceFilter *m_filter;
-    QTreeView *m_view;
+    SearchedListView *m_view;
     QLabel *m_title;
-    QLineEdit *m_search;
     std::array<QCheckBox *, 3> m_kinds; // by SettingsDifference::Kind
     QAction *m_go;
     QAction *m_takeOver;
     QAction *m_takeOverAll;
     QAction *m_refresh;
     bool m_hasComparison = false;
+    bool m_canCompare = true;
     bool m_canTakeOver = true;
 };

@@ -112,11 +112,19 @@ bool isSame(const ParameterData &data, const QString &text)
     }
 }
 
-bool isTaken(const ParameterData &data, const QString &text)
+bool isTaken(const ParameterData &data, const QString &text, double resolution)
 {
-    const auto value = data.type == ParameterType::Float ? numberFrom(text.trimmed()) : std::nullopt;
-    return isSame(data, text)
-        || (value && isWithinSinglePrecision(static_cast<const FloatParameterData &>(data).value, *value));
+    const bool isInteger = data.type == ParameterType::Integer;
+    const bool isNumber = isInteger || data.type == ParameterType::Float;
+    const auto wanted = isNumber ? numberFrom(text.trimmed()) : std::nullopt;
+    if (isSame(data, text) || !wanted) {
+        return isSame(data, text);
+    }
+    if (isInteger) {
+        return std::abs(double(static_cast<const IntegerParameterData &>(data).value) - *wanted) < resolution;
+    }
+    const double value = static_cast<const FloatParameterData &>(data).value;
+    return isWithinSinglePrecision(value, *wanted) || std::abs(value - *wanted) < resolution;
 }
 
 bool isSameText(const QString &left, const QString &right)

@@ -14,8 +14,9 @@ namespace SettingsValue {
  * tell apart. */
 bool isSame(const ParameterCollection::ParameterData &data, const QString &text);
 
-/*! Returns whether \a data is what \a text may have become in a register of single precision. */
-bool isTaken(const ParameterCollection::ParameterData &data, const QString &text);
+/*! Returns whether \a data is what \a text may have become in a register of single precision, or in one that
+ * does not tell apart what differs by less than \a resolution. */
+bool isTaken(const ParameterCollection::ParameterData &data, const QString &text, double resolution);
 
 /*! Returns whether two texts stand for the same value, whatever the kind of the feature. */
 bool isSameText(const QString &left, const QString &right);

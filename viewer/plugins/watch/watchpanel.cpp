@@ -7,9 +7,11 @@
 #include "watchplot.h"
 
 #include <platform/core/guard.h>
+#include <platform/core/savefile.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
 #include <QAction>
+#include <QBuffer>
 #include <QComboBox>
 #include <QDateTime>
 #include <QFileDialog>
@@ -18,7 +20,6 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QToolButton>
@@ -43,11 +44,11 @@ QString exact(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-void saveTo(const QString &fileName, const std::function<bool(QSaveFile &)> &write, QWidget *parent)
+void saveTo(const QString &fileName, const QByteArray &contents, QWidget *parent)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QSaveFile::WriteOnly) || !write(file) || !file.commit()) {
-        showErrorMessage(WatchPanel::tr("Cannot write %1: %2").arg(fileName, file.errorString()), parent);
+    const QString failure = Core::saveFile(fileName, contents);
+    if (!failure.isEmpty()) {
+        showErrorMessage(WatchPanel::tr("Cannot write %1: %2").arg(fileName, failure), parent);
     }
 }
 
@@ -254,9 +255,7 @@ void WatchPanel::saveCsv()
     const QString fileName = QFileDialog::getSaveFileName(this, tr("Save Watched Values"), QString(),
                                                           tr("Comma-separated values (*.csv)"));
     if (!fileName.isEmpty()) {
-        const QByteArray bytes = csv().toUtf8();
-        saveTo(
-            fileName, [&bytes](QSaveFile &file) { return file.write(bytes) == bytes.size(); }, this);
+        saveTo(fileName, csv().toUtf8(), this);
     }
 }
 
@@ -265,8 +264,9 @@ void WatchPanel::savePng()
     const QString fileName =
         QFileDialog::getSaveFileName(this, tr("Save the Plot"), QString(), tr("Images (*.png)"));
     if (!fileName.isEmpty()) {
-        const QPixmap picture = m_plot->grab();
-        saveTo(
-            fileName, [&picture](QSaveFile &file) { return picture.save(&file, "PNG"); }, this);
+        QBuffer picture;
+        picture.open(QIODevice::WriteOnly);
+        m_plot->grab().save(&picture, "PNG");
+        saveTo(fileName, picture.data(), this);
     }
 }
