@@ -248,7 +248,7 @@ int main(int argc, char **argv)
     const QtMessageHandler standardHandler = qInstallMessageHandler(onMessageWhileStarting);
     QApplication application(argc, argv);
     qInstallMessageHandler(standardHandler);
-    installTranslations(QLocale());
+    installTranslations(chosenLanguage());
     setUpColours();
     try {
         return run(options);

@@ -146,6 +146,10 @@ private:
     void createServices();
     void createPanels();
     QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
+    void showState();
+    QMenu *addMenu(const char *title);
+    QAction *addItem(QMenu *menu, const char *text, const QKeySequence &keys, const char *slot);
+    void explain(QAction *action, const char *text);
     void createMenus();
     void createFileMenu();
     void createViewMenu();
@@ -171,6 +175,7 @@ private:
     void restoreState();
     void saveState() const;
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     std::unique_ptr<Cameras::Camera> m_camera;
     CameraAddress m_source; // of the camera that was opened last
     bool m_remembers = true;

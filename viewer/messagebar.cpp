@@ -3,6 +3,8 @@
 
 #include "messagebar.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -33,8 +35,10 @@ MessageBar::MessageBar(QWidget *parent)
     auto *const close = new QToolButton(this);
     close->setIcon(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")));
     close->setAutoRaise(true);
-    close->setToolTip(tr("Dismiss"));
-    close->setAccessibleName(close->toolTip());
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(this, &QWidget::setAccessibleName, [] { return tr("Messages"); });
+    texts->add(close, &QWidget::setToolTip, [] { return tr("Dismiss"); });
+    texts->add(close, &QWidget::setAccessibleName, [] { return tr("Dismiss"); });
 
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_icon);

@@ -9,6 +9,7 @@
 #include "spinboxeventcatcher.h"
 #include "zeltoqtdoublespinbox.h"
 
+#include <QEvent>
 #include <QSlider>
 
 #include <algorithm>
@@ -227,6 +228,14 @@ QSlider *DoubleComboSlider::slider() const
 ZeltoQtDoubleSpinBox *DoubleComboSlider::spinBox() const
 {
     return m_spinBox;
+}
+
+void DoubleComboSlider::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateToolTip();
+    }
 }
 
 void DoubleComboSlider::updateToolTip()

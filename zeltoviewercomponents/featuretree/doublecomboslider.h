@@ -93,6 +93,7 @@ signals:
     void rangeChanged(int minimum, int maximum);
 
 protected:
+    void changeEvent(QEvent *event) override;
     virtual void updateToolTip();
     void setEditBoxWidth(int width);
     bool checkIfLimitsChanged(int minimum, int maximum, int increment) const;

@@ -7,6 +7,7 @@
 #include "spinboxeventcatcher.h"
 #include "zeltoqtdoublespinbox.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 #include <algorithm>
@@ -167,6 +168,14 @@ bool DoubleSpinBox::checkIfLimitsChanged(double minimum, double maximum, double 
 ZeltoQtDoubleSpinBox *DoubleSpinBox::spinBox() const
 {
     return m_spinBox;
+}
+
+void DoubleSpinBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateToolTip();
+    }
 }
 
 void DoubleSpinBox::updateToolTip()

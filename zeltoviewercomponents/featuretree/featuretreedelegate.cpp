@@ -70,6 +70,20 @@ QRect lineIn(const QRect &textRect, const QPainter &painter)
     return textRect.adjusted(0, dy, 0, 0);
 }
 
+// Also the parts, which assistive technology comes to one by one.
+void nameEditor(QWidget *editor, const QString &name)
+{
+    editor->setAccessibleName(name);
+    if (!editor->focusProxy()) {
+        return; // not a composite one
+    }
+    for (QObject *const part : editor->children()) {
+        if (part->isWidgetType()) {
+            static_cast<QWidget *>(part)->setAccessibleName(name);
+        }
+    }
+}
+
 void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
 {
     QStaticText text(html);
@@ -123,7 +137,7 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
         [this, item, parent, &option, &index] { return createEditorFor(item, parent, option, index); });
     if (editor) {
         editor->setBackgroundRole(QPalette::Base); // that of the rows around it
-        editor->setAccessibleName(item->getDisplayedName());
+        nameEditor(editor, item->getDisplayedName());
         editor->setAccessibleDescription(
             item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
     }

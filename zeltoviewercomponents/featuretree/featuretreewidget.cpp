@@ -116,12 +116,9 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
 
 FeatureTreeWidget::~FeatureTreeWidget() = default;
 
-QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QString &icon,
-                                               const QString &text, const char *slot)
+QAction *FeatureTreeWidget::addFavoritesAction(const QString &icon, const char *slot)
 {
-    auto *const action = new QAction(QIcon(resource(icon)), text, this);
-    action->setIconText(text);
-    action->setShortcut(QKeySequence(shortcut));
+    auto *const action = new QAction(QIcon(resource(icon)), QString(), this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setEnabled(false);
     connect(action, SIGNAL(triggered()), this, slot);
@@ -131,14 +128,14 @@ QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QS
 
 void FeatureTreeWidget::setUpActions()
 {
-    m_actionAddToFavourites = addFavoritesAction(tr("Ctrl+D"), QStringLiteral("AddGigECamera_16.png"),
-                                                 tr("Add to Favorites"), SLOT(AddToFavourites_triggered()));
-    m_actionMoveFavouriteUp = addFavoritesAction(tr("Ctrl+Up"), QStringLiteral("Move_Up.png"), tr("Move Up"),
-                                                 SLOT(FavouriteMoveUp_triggered()));
-    m_actionMoveFavouriteDown = addFavoritesAction(tr("Ctrl+Down"), QStringLiteral("Move_Down.png"),
-                                                   tr("Move Down"), SLOT(FavouriteMoveDown_triggered()));
-    m_actionRemoveFavourite = addFavoritesAction(QString(), QStringLiteral("RemGigECamera_16.png"),
-                                                 tr("Remove"), SLOT(FavouriteRemove_triggered()));
+    m_actionAddToFavourites =
+        addFavoritesAction(QStringLiteral("AddGigECamera_16.png"), SLOT(AddToFavourites_triggered()));
+    m_actionMoveFavouriteUp =
+        addFavoritesAction(QStringLiteral("Move_Up.png"), SLOT(FavouriteMoveUp_triggered()));
+    m_actionMoveFavouriteDown =
+        addFavoritesAction(QStringLiteral("Move_Down.png"), SLOT(FavouriteMoveDown_triggered()));
+    m_actionRemoveFavourite =
+        addFavoritesAction(QStringLiteral("RemGigECamera_16.png"), SLOT(FavouriteRemove_triggered()));
     m_actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
 
     m_actionAddToFavourites->setObjectName(QStringLiteral("actionAddToFavourites"));
@@ -146,15 +143,51 @@ void FeatureTreeWidget::setUpActions()
     m_actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
     m_actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
 
-    m_actionTogglePolling = new QAction(m_ui->resetButton->icon(), tr("Polling"), this);
+    m_actionTogglePolling = new QAction(m_ui->resetButton->icon(), QString(), this);
     m_actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
-    m_actionTogglePolling->setIconText(tr("Polling"));
     m_actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_actionTogglePolling->setEnabled(false);
     m_actionTogglePolling->setCheckable(true);
     m_actionTogglePolling->setChecked(m_ui->checkBoxPolling->isChecked());
     connect(m_actionTogglePolling, SIGNAL(triggered()), this, SLOT(TogglePolling_triggered()));
     addAction(m_actionTogglePolling);
+    showActionTexts();
+}
+
+void FeatureTreeWidget::showActionTexts()
+{
+    const auto show = [](QAction *action, const QString &text) {
+        action->setText(text);
+        action->setIconText(text);
+    };
+    show(m_actionAddToFavourites, tr("Add to Favorites"));
+    show(m_actionMoveFavouriteUp, tr("Move Up"));
+    show(m_actionMoveFavouriteDown, tr("Move Down"));
+    show(m_actionRemoveFavourite, tr("Remove"));
+    show(m_actionTogglePolling, tr("Polling"));
+    m_actionAddToFavourites->setShortcut(QKeySequence(tr("Ctrl+D")));
+    m_actionMoveFavouriteUp->setShortcut(QKeySequence(tr("Ctrl+Up")));
+    m_actionMoveFavouriteDown->setShortcut(QKeySequence(tr("Ctrl+Down")));
+    const QKeySequence find(Qt::CTRL | Qt::Key_F);
+    m_ui->filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+}
+
+void FeatureTreeWidget::changeEvent(QEvent *event)
+{
+    TreeWidgetBase::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) {
+        return;
+    }
+    const QString title = windowTitle(); // may be the host's
+    m_ui->retranslateUi(this);
+    setWindowTitle(title);
+    showActionTexts();
+    if (auto *const model = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel())) {
+        model->retranslate();
+    }
+    onJudged();
+    announceMatches();
+    getFeatureExtension()->refreshSpecialItems();
 }
 
 void FeatureTreeWidget::addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot)
@@ -178,7 +211,6 @@ void FeatureTreeWidget::setUpShortcuts()
     addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), m_ui->treeView,
                 SLOT(collapseAll()));
     addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Plus), this, SLOT(expandTree()));
-    m_ui->filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
 }
 
 FeatureTreeProxyModel *FeatureTreeWidget::proxy() const
@@ -811,7 +843,14 @@ void FeatureTreeWidget::announceMatches()
     const bool isSearching = !m_filterText.isEmpty();
     m_visibleMatches = isSearching ? proxy()->visibleMatchCount() : 0;
     const int hidden = isSearching ? proxy()->hiddenMatchCount() : 0;
+    m_ui->filterEdit->setResult(isSearching ? matchesText(m_visibleMatches, hidden) : QString());
     emit filterMatchesChanged(m_visibleMatches + hidden, hidden);
+}
+
+QString FeatureTreeWidget::matchesText(int visible, int hidden)
+{
+    const QString found = tr("%n feature(s) found", nullptr, visible);
+    return hidden == 0 ? found : tr("%1, %n more at a higher level", nullptr, hidden).arg(found);
 }
 
 void FeatureTreeWidget::saveExpandedStatus()

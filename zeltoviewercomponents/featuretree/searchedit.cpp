@@ -42,6 +42,7 @@ SearchEdit::SearchEdit(QWidget *parent)
                               QLineEdit::TrailingPosition);
     connect(m_clearAction, SIGNAL(triggered()), this, SLOT(clear()));
     m_clearAction->setVisible(false);
+    m_clearAction->setText(tr("Clear"));
 
     new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
                       QStringLiteral(" QLineEdit { background: %1; }"));
@@ -64,6 +65,14 @@ void SearchEdit::setPlaceholderEnabled(bool enabled)
     update();
 }
 
+void SearchEdit::setResult(const QString &text)
+{
+    // A change of what describes the widget with the focus is read out; that of another one is not.
+    if (text != accessibleDescription()) {
+        setAccessibleDescription(text);
+    }
+}
+
 QSize SearchEdit::sizeHint() const
 {
     const QSize base = QLineEdit::sizeHint();
@@ -77,6 +86,8 @@ void SearchEdit::changeEvent(QEvent *event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         m_parentFont->update();
+    } else if (event->type() == QEvent::LanguageChange) {
+        m_clearAction->setText(tr("Clear"));
     }
 }
 

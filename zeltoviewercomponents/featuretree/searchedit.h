@@ -37,6 +37,8 @@ public:
     bool isPlaceholderEnabled() const { return m_placeholderEnabled; }
     /*! Sets whether an empty box shows the placeholder. */
     void setPlaceholderEnabled(bool enabled);
+    /*! Has assistive technology read out \a text, what the search has found; empty without a search. */
+    void setResult(const QString &text);
 
     /*! Returns a size in which the placeholder can be read. */
     QSize sizeHint() const override;

@@ -30,6 +30,9 @@ public:
     void setEditorData(EditorData data) override;
     QVariant editorData() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private slots:
     void askWhetherDone();
     void showReady();
