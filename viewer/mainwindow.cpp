@@ -214,7 +214,6 @@ void MainWindow::showState()
     } else {
         m_cameraName->setText(tr("No camera"));
     }
-    m_description->refresh();
     m_descriptionTimer->start();
     updateTitle();
     updateActions();
@@ -359,7 +358,7 @@ void MainWindow::createMenus()
     edit->addActions(m_history->actions());
     edit->addSeparator();
     m_copyAction = addItem(edit, QT_TR_NOOP("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")),
-                             SLOT(copyTree()));
+                           SLOT(copyTree()));
     createViewMenu();
     createCameraMenu();
     createHelpMenu();
@@ -452,7 +451,7 @@ void MainWindow::createHelpMenu()
     QMenu *const help = addMenu(QT_TR_NOOP("&Help"));
     help->setToolTipsVisible(true);
     explain(addItem(help, QT_TR_NOOP("&Show All Messages Again"), {}, SLOT(showAllMessagesAgain())),
-               QT_TR_NOOP("Brings back the messages that were silenced"));
+            QT_TR_NOOP("Brings back the messages that were silenced"));
     help->addSeparator();
     addItem(help, QT_TR_NOOP("&About…"), {}, SLOT(about()))
         ->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));

@@ -20,6 +20,10 @@
 #include <memory>
 #include <optional>
 
+namespace Core {
+class LiveTexts;
+}
+
 namespace Cameras {
 class CameraOpening;
 }

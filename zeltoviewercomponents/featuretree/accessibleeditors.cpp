@@ -23,7 +23,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
-#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
@@ -488,11 +487,7 @@ namespace AccessibleEditors {
 
 void install()
 {
-    static QPointer<QCoreApplication> installedFor; // with it, Qt forgets who is to be asked
-    if (installedFor != QCoreApplication::instance()) {
-        installedFor = QCoreApplication::instance();
-        QAccessible::installFactory(create);
-    }
+    QAccessible::installFactory(create); // which takes each but once, and forgets it with the application
 }
 
 } // namespace AccessibleEditors
