@@ -57,6 +57,7 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
@@ -130,6 +131,8 @@ MainWindow::MainWindow(QWidget *parent)
     connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
     connectSaving();
+    connect(qApp, SIGNAL(saveStateRequest(QSessionManager &)), this, SLOT(saveSession(QSessionManager &)),
+            Qt::DirectConnection);
     m_texts->add([this] { showState(); });
 }
 
@@ -982,6 +985,17 @@ void MainWindow::connectSaving()
     connect(m_tree, SIGNAL(newText(QString)), this, SLOT(saveSoon()));
     connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(saveSoon()));
     connect(m_monitorAction, SIGNAL(toggled(bool)), this, SLOT(saveSoon()));
+}
+
+// Who comes back finds the same camera open; how it was looked at is remembered with it.
+void MainWindow::saveSession(QSessionManager &session)
+{
+    saveNow();
+    const bool isOpen = m_camera || isOpening();
+    const CameraAddress address = isOpening() ? m_target : m_source;
+    session.setRestartCommand(QStringList{QCoreApplication::applicationFilePath()}
+                              + (isOpen ? address.arguments() : QStringList()));
+    session.setRestartHint(isOpen ? QSessionManager::RestartIfRunning : QSessionManager::RestartNever);
 }
 
 // Not later when there is more to save meanwhile.

@@ -40,6 +40,7 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QModelIndex;
+class QSessionManager;
 class QSplitter;
 class QStackedWidget;
 class QTimer;
@@ -102,6 +103,7 @@ protected:
 private slots:
     void saveSoon();
     void saveNow();
+    void saveSession(QSessionManager &session);
     void openDescriptionFile();
     void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();

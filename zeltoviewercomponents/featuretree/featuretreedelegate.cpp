@@ -71,15 +71,17 @@ QRect lineIn(const QRect &textRect, const QPainter &painter)
 }
 
 // Also the parts, which assistive technology comes to one by one.
-void nameEditor(QWidget *editor, const QString &name)
+void nameEditor(QWidget *editor, const QString &name, const QString &description)
 {
     editor->setAccessibleName(name);
+    editor->setAccessibleDescription(description);
     if (!editor->focusProxy()) {
         return; // not a composite one
     }
     for (QObject *const part : editor->children()) {
         if (part->isWidgetType()) {
             static_cast<QWidget *>(part)->setAccessibleName(name);
+            static_cast<QWidget *>(part)->setAccessibleDescription(description);
         }
     }
 }
@@ -137,9 +139,8 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
         [this, item, parent, &option, &index] { return createEditorFor(item, parent, option, index); });
     if (editor) {
         editor->setBackgroundRole(QPalette::Base); // that of the rows around it
-        nameEditor(editor, item->getDisplayedName());
-        editor->setAccessibleDescription(
-            item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
+        nameEditor(editor, item->getDisplayedName(),
+                   item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
     }
     return editor;
 }

@@ -42,7 +42,7 @@ SearchEdit::SearchEdit(QWidget *parent)
                               QLineEdit::TrailingPosition);
     connect(m_clearAction, SIGNAL(triggered()), this, SLOT(clear()));
     m_clearAction->setVisible(false);
-    m_clearAction->setText(tr("Clear"));
+    showActionTexts();
 
     new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
                       QStringLiteral(" QLineEdit { background: %1; }"));
@@ -87,8 +87,14 @@ void SearchEdit::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange) {
         m_parentFont->update();
     } else if (event->type() == QEvent::LanguageChange) {
-        m_clearAction->setText(tr("Clear"));
+        showActionTexts();
     }
+}
+
+void SearchEdit::showActionTexts()
+{
+    m_searchAction->setText(tr("Search"));
+    m_clearAction->setText(tr("Clear"));
 }
 
 void SearchEdit::paintEvent(QPaintEvent *event)

@@ -52,6 +52,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showActionTexts();
+
     QAction *m_searchAction = nullptr;
     QAction *m_clearAction = nullptr;
     QString m_placeholder;
