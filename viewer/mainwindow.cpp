@@ -33,6 +33,7 @@
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreelook.h>
+#include <zeltoviewercomponents/featuretree/featuretreenames.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
@@ -214,12 +215,28 @@ void MainWindow::showState()
     if (m_camera) {
         const auto info = m_camera->info();
         m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
+        showNodeMapTitles();
     } else {
         m_cameraName->setText(tr("No camera"));
     }
     m_descriptionTimer->start();
     updateTitle();
     updateActions();
+}
+
+void MainWindow::showNodeMapTitles()
+{
+    IFeatureTreeModelExtension *const extension = m_tree->getFeatureExtension();
+    const auto nodeMaps = m_camera->nodeMaps();
+    for (const Cameras::NodeMap &nodeMap : nodeMaps) {
+        const QString fullName =
+            nodeMap.name + QLatin1Char(FeatureTreeNames::separator) + FeatureTreeNames::root;
+        const QModelIndex row = extension->findItemByFullName(fullName, nullptr, 0);
+        if (FeatureTreeItem *const item = extension->getFeatureTreeItem(row)) {
+            item->setDisplayedName(nodeMap.title);
+        }
+    }
+    extension->refreshSpecialItems();
 }
 
 // The name of the file stands in the title as that of a document would, with the platform's mark beside it.

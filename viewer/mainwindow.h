@@ -153,6 +153,7 @@ private:
     void createPanels();
     QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
     void showState();
+    void showNodeMapTitles();
     QMenu *addMenu(const char *title);
     QAction *addItem(QMenu *menu, const char *text, const QKeySequence &keys, const char *slot);
     void explain(QAction *action, const char *text);
