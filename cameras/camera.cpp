@@ -40,6 +40,9 @@ ZELTO_LOG_CATEGORY("zelto.cameras.engine")
 
 namespace {
 
+// Titles are kept as they are here, and translated when somebody asks for them: the language may change.
+constexpr char cameraTitle[] = QT_TRANSLATE_NOOP("Cameras::Camera", "Camera");
+
 // Our parser decides whether the engine's sees the description.
 NodeMapSource simulatedMap(const QString &name, const QString &title, const QByteArray &xml,
                            const QByteArray &registerLines)
@@ -87,10 +90,12 @@ Session::Source embeddedSource()
         QString file;
     };
     const std::array maps{
-        Map{QStringLiteral("@CameraDevice"), Camera::tr("Camera"), QStringLiteral("cameradevice")},
-        Map{QStringLiteral("@DeviceTransportLayer"), Camera::tr("Transport Layer"),
+        Map{QStringLiteral("@CameraDevice"), QLatin1String(cameraTitle), QStringLiteral("cameradevice")},
+        Map{QStringLiteral("@DeviceTransportLayer"),
+            QStringLiteral(QT_TRANSLATE_NOOP("Cameras::Camera", "Transport Layer")),
             QStringLiteral("devicetransportlayer")},
-        Map{QStringLiteral("@StreamGrabber0"), Camera::tr("Stream Grabber"),
+        Map{QStringLiteral("@StreamGrabber0"),
+            QStringLiteral(QT_TRANSLATE_NOOP("Cameras::Camera", "Stream Grabber")),
             QStringLiteral("streamgrabber0")},
     };
     Session::Source source;
@@ -108,7 +113,7 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
 {
     const QByteArray xml = DescriptionArchive::xml(fileContents(fileName));
     Session::Source source;
-    source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), Camera::tr("Camera"), xml, {}));
+    source.maps.push_back(simulatedMap(QStringLiteral("@CameraDevice"), QLatin1String(cameraTitle), xml, {}));
     const NodeMapSource &map = source.maps.front();
     const Description &description = *map.description;
     if (start == Start::Alive) {
@@ -154,7 +159,7 @@ Session::Source liveSource(const QString &id, Session &session)
     session.setStep(OpeningProgress::Step::Describing);
     Session::Source source;
     source.info = CameraInfoPtr(new CameraRecord(live->texts(device.get())));
-    source.maps.push_back({QStringLiteral("@CameraDevice"), Camera::tr("Camera"), std::move(device),
+    source.maps.push_back({QStringLiteral("@CameraDevice"), QLatin1String(cameraTitle), std::move(device),
                            std::make_shared<Description>(live->xml()), nullptr});
     source.live = live;
     return source;
@@ -312,7 +317,11 @@ CameraInfoPtr Camera::info() const
 
 QList<NodeMap> Camera::nodeMaps() const
 {
-    return m_nodeMaps;
+    QList<NodeMap> nodeMaps = m_nodeMaps;
+    for (int map = 0; map < nodeMaps.size(); ++map) {
+        nodeMaps[map].title = m_session->mapTitle(map); // the language may have changed
+    }
+    return nodeMaps;
 }
 
 QByteArray Camera::registerImage() const

@@ -894,7 +894,8 @@ QString Session::mapName(int map) const
 
 QString Session::mapTitle(int map) const
 {
-    return m_maps[size_t(map)]->source.title;
+    return QCoreApplication::translate("Cameras::Camera",
+                                       m_maps[size_t(map)]->source.title.toUtf8().constData());
 }
 
 std::shared_ptr<const Description> Session::description(int map) const

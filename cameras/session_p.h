@@ -41,7 +41,7 @@ class LiveCamera;
 struct NodeMapSource
 {
     QString name;
-    QString title;
+    QString title; //!< as it is in the source, to be translated by Session::mapTitle()
     DevicePtr device; //!< moves on into the engine
     std::shared_ptr<const Description> description;
     std::shared_ptr<SimulatedRegisters> registers; //!< null for a live camera

@@ -6,6 +6,8 @@
 #include <cameras/camera.h>
 #include <cameras/cameraopening.h>
 
+#include <QFileInfo>
+
 namespace {
 
 // A saved state shall not be mixed with one that was made up.
@@ -15,6 +17,23 @@ Cameras::Start startOf(const CameraAddress &address)
 }
 
 } // namespace
+
+QStringList CameraAddress::arguments() const
+{
+    QStringList arguments;
+    const auto add = [&arguments](const char *option, const QString &value) {
+        if (!value.isEmpty()) {
+            arguments.append({QLatin1String("--") + QLatin1String(option), value});
+        }
+    };
+    add("description", description.isEmpty() ? QString() : QFileInfo(description).absoluteFilePath());
+    add("camera", camera);
+    add("registers", registers.isEmpty() ? QString() : QFileInfo(registers).absoluteFilePath());
+    if (zeroed) {
+        arguments.append(QStringLiteral("--zeroed"));
+    }
+    return arguments;
+}
 
 std::unique_ptr<Cameras::Camera> cameraAt(const CameraAddress &address)
 {

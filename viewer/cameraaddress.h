@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -29,6 +30,9 @@ struct CameraAddress
     static CameraAddress ofCamera(const QString &id) { return {QString(), id, false, QString()}; }
 
     bool isLive() const { return !camera.isEmpty(); }
+
+    /*! Returns the options of the command line that open the same camera. */
+    QStringList arguments() const;
 
     friend bool operator==(const CameraAddress &, const CameraAddress &) = default;
 };

@@ -6,6 +6,8 @@
 #include "legiblepalette.h"
 #include "legiblestyle.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QActionGroup>
 #include <QApplication>
 #include <QPalette>
@@ -90,11 +92,14 @@ void setUpColours()
 }
 
 ColoursMenu::ColoursMenu(QWidget *parent)
-    : QMenu(tr("C&olours"), parent)
+    : QMenu(parent)
 {
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(this, &QMenu::setTitle, [] { return tr("C&olours"); });
     auto *const group = new QActionGroup(this);
-    const auto add = [this, group](const QString &text, const QString &colours) {
-        QAction *const action = addAction(text);
+    const auto add = [this, group, texts](const char *text, const QString &colours) {
+        QAction *const action = addAction(QString());
+        texts->add(action, &QAction::setText, [text] { return tr(text); });
         action->setCheckable(true);
         action->setData(colours);
         group->addAction(action);
@@ -102,9 +107,9 @@ ColoursMenu::ColoursMenu(QWidget *parent)
             action->setChecked(true);
         }
     };
-    add(tr("As the &System"), asTheSystem);
-    add(tr("&Light"), light);
-    add(tr("&Dark"), dark);
+    add(QT_TR_NOOP("As the &System"), asTheSystem);
+    add(QT_TR_NOOP("&Light"), light);
+    add(QT_TR_NOOP("&Dark"), dark);
     connect(group, SIGNAL(triggered(QAction *)), this, SLOT(choose(QAction *)));
 }
 

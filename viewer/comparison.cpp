@@ -9,6 +9,7 @@
 #include <cameras/camera.h>
 #include <cameras/cameraopening.h>
 #include <platform/core/exception.h>
+#include <platform/core/livetexts.h>
 #include <zeltoviewercomponents/settings/presentsettings.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
@@ -49,12 +50,17 @@ Comparison::Comparison(QWidget *window)
     : QObject(window)
     , m_window(window)
     , m_panel(new SettingsComparisonWidget(window))
-    , m_menu(new QMenu(tr("Compare &With"), window))
+    , m_menu(new QMenu(window))
 {
-    m_menu->addAction(tr("A &File…"), this, SLOT(askForFile()));
-    m_menu->addAction(tr("The State When &Opened"), this, SLOT(compareWithOpened()));
-    m_menu->addAction(tr("Another &Description…"), this, SLOT(askForDescription()));
-    m_menu->addAction(tr("Another &Camera…"), this, SLOT(askForCamera()));
+    auto *const texts = new Core::LiveTexts(m_menu);
+    texts->add(m_menu, &QMenu::setTitle, [] { return tr("Compare &With"); });
+    const auto add = [this, texts](const char *text, const char *slot) {
+        texts->add(m_menu->addAction(QString(), this, slot), &QAction::setText, [text] { return tr(text); });
+    };
+    add(QT_TR_NOOP("A &File…"), SLOT(askForFile()));
+    add(QT_TR_NOOP("The State When &Opened"), SLOT(compareWithOpened()));
+    add(QT_TR_NOOP("Another &Description…"), SLOT(askForDescription()));
+    add(QT_TR_NOOP("Another &Camera…"), SLOT(askForCamera()));
     connect(m_panel, SIGNAL(refreshRequested()), this, SLOT(compareAgain()));
     connect(m_panel, SIGNAL(takeOverRequested(FeatureSettings)), this, SLOT(takeOver(FeatureSettings)));
     close();

@@ -7,6 +7,7 @@
 
 #include <platform/core/formatdoublevalue.h>
 #include <platform/core/guard.h>
+#include <platform/core/livetexts.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
 #include <zeltoviewercomponents/featuretree/featuretreenames.h>
 
@@ -147,7 +148,9 @@ DescriptionPane::DescriptionPane(QWidget *parent)
 {
     m_text->setFrameShape(QFrame::NoFrame);
     m_text->setOpenExternalLinks(true);
-    m_text->setAccessibleName(tr("Description of the current feature"));
+    (new Core::LiveTexts(this))->add(m_text, &QWidget::setAccessibleName, [] {
+        return tr("Description of the current feature");
+    });
     m_help->setContentsMargins(textMargin, 0, textMargin, textMargin);
     m_help->hide();
     setFocusProxy(m_text);

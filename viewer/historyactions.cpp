@@ -3,6 +3,7 @@
 
 #include "historyactions.h"
 
+#include <platform/core/livetexts.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/settings/changehistory.h>
 #include <zeltoviewercomponents/settings/changehistorywidget.h>
@@ -28,6 +29,7 @@ HistoryActions::HistoryActions(FeatureTreeWidget *tree, QWidget *window)
     , m_undo(new QAction(this))
     , m_redo(new QAction(this))
 {
+    (new Core::LiveTexts(tree))->add([this] { updateActions(); });
     m_undo->setShortcuts(QKeySequence::Undo);
     m_redo->setShortcuts(QKeySequence::Redo);
     connect(m_undo, SIGNAL(triggered()), m_history, SLOT(undo()));

@@ -3,12 +3,35 @@
 
 #include "languages.h"
 
+#include <platform/core/livetexts.h>
+
+#include <QActionGroup>
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSettings>
 #include <QTranslator>
 
+#include <array>
+#include <utility>
+
 namespace {
+
+// Each in its own words, for those who cannot read the present one.
+constexpr std::array languages{
+    std::pair{"de", u"Deutsch"},  std::pair{"en", u"English"}, std::pair{"es", u"Español"},
+    std::pair{"fr", u"Français"}, std::pair{"ja", u"日本語"},  std::pair{"zh_CN", u"简体中文"},
+};
+
+QString settingsKey()
+{
+    return QStringLiteral("Language");
+}
+
+QString remembered()
+{
+    return QSettings().value(settingsKey()).toString();
+}
 
 void install(const QLocale &locale, const QString &name, const QString &folder)
 {
@@ -24,13 +47,55 @@ void install(const QLocale &locale, const QString &name, const QString &folder)
 
 void installTranslations(const QLocale &locale)
 {
-    const QString viewer = QStringLiteral("viewer");
-    const QString viewerFolder = QStringLiteral(":/viewer/translations");
-    install(QLocale::English, viewer,
-            viewerFolder); // the English plurals, for all languages without their own
+    const auto former =
+        QCoreApplication::instance()->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly);
+    const std::array<std::pair<QString, QString>, 3> ours{
+        std::pair{QStringLiteral("zeltoviewercomponents"),
+                  QStringLiteral(":/zeltoviewercomponents/translations")},
+        std::pair{QStringLiteral("cameras"), QStringLiteral(":/cameras/translations")},
+        std::pair{QStringLiteral("viewer"), QStringLiteral(":/viewer/translations")},
+    };
+    for (const auto &[name, folder] : ours) {
+        install(QLocale::English, name, folder); // the English plurals, for languages without their own
+    }
     install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(locale, QStringLiteral("zeltoviewercomponents"),
-            QStringLiteral(":/zeltoviewercomponents/translations"));
-    install(locale, QStringLiteral("cameras"), QStringLiteral(":/cameras/translations"));
-    install(locale, viewer, viewerFolder);
+    for (const auto &[name, folder] : ours) {
+        install(locale, name, folder);
+    }
+    qDeleteAll(former);
+}
+
+QLocale chosenLanguage()
+{
+    return remembered().isEmpty() ? QLocale() : QLocale(remembered());
+}
+
+LanguagesMenu::LanguagesMenu(QWidget *parent)
+    : QMenu(parent)
+{
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(this, &QMenu::setTitle, [] { return tr("Lan&guage"); });
+    auto *const group = new QActionGroup(this);
+    const auto add = [this, group](const QString &code) {
+        QAction *const action = addAction(QString());
+        action->setCheckable(true);
+        action->setData(code);
+        action->setChecked(code == remembered());
+        group->addAction(action);
+        return action;
+    };
+    texts->add(add(QString()), &QAction::setText, [] { return tr("As the &System"); });
+    addSeparator();
+    for (const auto &[code, name] : languages) {
+        add(QString::fromLatin1(code))->setText(QString::fromUtf16(name));
+    }
+    connect(group, SIGNAL(triggered(QAction *)), this, SLOT(choose(QAction *)));
+}
+
+LanguagesMenu::~LanguagesMenu() = default;
+
+void LanguagesMenu::choose(QAction *action)
+{
+    QSettings().setValue(settingsKey(), action->data());
+    installTranslations(chosenLanguage());
 }

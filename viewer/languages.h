@@ -3,8 +3,30 @@
 
 #pragma once
 
+#include <QMenu>
+
+class QAction;
 class QLocale;
 
 /*! Makes the application speak the language of \a locale, as far as there are translations: the viewer's
- * texts, the libraries' and Qt's own. What has none stays English. */
+ * texts, the libraries' and Qt's own. What has none stays English. Windows that are open follow. */
 void installTranslations(const QLocale &locale);
+
+/*! Returns the language that was chosen when the application ran last, else the system's. */
+QLocale chosenLanguage();
+
+/*! \brief Lets the user choose the application's language: as the system, or one that there is.
+ *
+ * The choice takes effect at once, in all windows, and is remembered. Numbers stay as the system has them.
+ */
+class LanguagesMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit LanguagesMenu(QWidget *parent = nullptr);
+    ~LanguagesMenu() override;
+
+private slots:
+    void choose(QAction *action);
+};

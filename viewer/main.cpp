@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QIcon>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -41,7 +42,11 @@ QStringList argumentsFrom(int argc, char **argv)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        if (qstrcmp(argv[i], "-session") == 0) {
+            ++i; // for Qt, from a session manager that starts again what was open when the user left
+        } else {
+            arguments.append(QString::fromLocal8Bit(argv[i]));
+        }
     }
     return arguments;
 }
@@ -249,7 +254,10 @@ int main(int argc, char **argv)
     const QtMessageHandler standardHandler = qInstallMessageHandler(onMessageWhileStarting);
     QApplication application(argc, argv);
     qInstallMessageHandler(standardHandler);
-    installTranslations(QLocale());
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.zelto.viewer"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QGuiApplication::desktopFileName(),
+                                                    QIcon(QStringLiteral(":/org.zelto.viewer_64.png"))));
+    installTranslations(chosenLanguage());
     setUpColours();
     try {
         return run(options);

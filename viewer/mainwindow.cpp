@@ -11,6 +11,7 @@
 #include "filedrop.h"
 #include "historyactions.h"
 #include "ipconfiguration.h"
+#include "languages.h"
 #include "levels.h"
 #include "messagebar.h"
 #include "openingpage.h"
@@ -20,6 +21,7 @@
 
 #include <cameras/cameraopening.h>
 #include <platform/core/exception.h>
+#include <platform/core/livetexts.h>
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/services/cameracontrolservice.h>
 #include <viewer/services/camerastatusservice.h>
@@ -31,6 +33,7 @@
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreelook.h>
+#include <zeltoviewercomponents/featuretree/featuretreenames.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
@@ -55,6 +58,7 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
@@ -93,6 +97,7 @@ QString nameOf(const CameraAddress &address)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
+    , m_texts(new Core::LiveTexts(this))
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
     , m_treeMenu(new TreeMenu(m_tree, this))
     , m_history(new HistoryActions(m_tree, this))
@@ -127,7 +132,9 @@ MainWindow::MainWindow(QWidget *parent)
     connect(new FileDrop(this), SIGNAL(dropped(QString)), this, SLOT(openSource(QString)));
     restoreState();
     connectSaving();
-    updateActions();
+    connect(qApp, SIGNAL(saveStateRequest(QSessionManager &)), this, SLOT(saveSession(QSessionManager &)),
+            Qt::DirectConnection);
+    m_texts->add([this] { showState(); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -164,8 +171,6 @@ void MainWindow::layOut()
     m_matches->setIndent(fontMetrics().averageCharWidth());
     statusBar()->addWidget(m_matches, 1);
     statusBar()->addPermanentWidget(m_cameraName);
-    m_cameraName->setText(tr("No camera"));
-    setWindowTitle(tr("Zelto Viewer"));
 }
 
 void MainWindow::connectTree()
@@ -202,6 +207,36 @@ void MainWindow::connectSettings()
             m_history, SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
     connect(m_comparison, SIGNAL(compared()), this, SLOT(showDifferences()));
     connect(m_comparison, SIGNAL(failed(QString, QString)), this, SLOT(showFailure(QString, QString)));
+}
+
+// Shows what there is again, in the present language.
+void MainWindow::showState()
+{
+    if (m_camera) {
+        const auto info = m_camera->info();
+        m_cameraName->setText(tr("%1 %2").arg(info->vendorName(), info->modelName()).trimmed());
+        showNodeMapTitles();
+    } else {
+        m_cameraName->setText(tr("No camera"));
+    }
+    m_descriptionTimer->start();
+    updateTitle();
+    updateActions();
+}
+
+void MainWindow::showNodeMapTitles()
+{
+    IFeatureTreeModelExtension *const extension = m_tree->getFeatureExtension();
+    const auto nodeMaps = m_camera->nodeMaps();
+    for (const Cameras::NodeMap &nodeMap : nodeMaps) {
+        const QString fullName =
+            nodeMap.name + QLatin1Char(FeatureTreeNames::separator) + FeatureTreeNames::root;
+        const QModelIndex row = extension->findItemByFullName(fullName, nullptr, 0);
+        if (FeatureTreeItem *const item = extension->getFeatureTreeItem(row)) {
+            item->setDisplayedName(nodeMap.title);
+        }
+    }
+    extension->refreshSpecialItems();
 }
 
 // The name of the file stands in the title as that of a document would, with the platform's mark beside it.
@@ -280,8 +315,10 @@ void MainWindow::connectModel()
 // An empty tree would say that a search found nothing.
 QWidget *MainWindow::createEmptyPage()
 {
-    auto *const page =
-        new QLabel(tr("No camera is open.\nOpen a description file or connect to a camera (menu File)."));
+    auto *const page = new QLabel;
+    m_texts->add(page, &QLabel::setText, [] {
+        return tr("No camera is open.\nOpen a description file or connect to a camera (menu File).");
+    });
     page->setAlignment(Qt::AlignCenter);
     page->setWordWrap(true);
     return page;
@@ -296,11 +333,11 @@ void MainWindow::createServices()
     new CameraStatusService(this, m_services);
     m_workbench = new WorkbenchService(this, m_services);
     m_workbench->setObjectName(Plugin::ServiceName::Workbench);
-    m_tree->setWindowTitle(tr("Features"));
+    m_texts->add(m_tree, &QWidget::setWindowTitle, [] { return tr("Features"); });
     m_tree->setFocusProxy(m_tree->treeView());
     m_workbench->addPage(m_tree);
     m_description->setObjectName(QStringLiteral("description"));
-    m_description->setWindowTitle(tr("Description"));
+    m_texts->add(m_description, &QWidget::setWindowTitle, [] { return tr("Description"); });
     auto *const find = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), m_description);
     find->setContext(Qt::WidgetWithChildrenShortcut); // the tree has its own
     connect(find, SIGNAL(activated()), this, SLOT(focusSearch()));
@@ -324,6 +361,7 @@ QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)
     auto *const dock = new QDockWidget(panel->windowTitle(), this);
     dock->setObjectName(panel->objectName() + QStringLiteral("Dock")); // by which its place is remembered
     dock->setWidget(panel);
+    connect(panel, SIGNAL(windowTitleChanged(QString)), dock, SLOT(setWindowTitle(QString)));
     addDockWidget(area, dock);
     dock->hide(); // the tree has the room until the user asks for the panel
     connect(dock->toggleViewAction(), SIGNAL(triggered()), dock, SLOT(raise())); // from behind another
@@ -336,35 +374,60 @@ QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)
 void MainWindow::createMenus()
 {
     createFileMenu();
-    QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
+    QMenu *const edit = addMenu(QT_TR_NOOP("&Edit"));
     edit->addActions(m_history->actions());
     edit->addSeparator();
-    m_copyAction = edit->addAction(tr("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")), this,
-                                   SLOT(copyTree()));
+    m_copyAction = addItem(edit, QT_TR_NOOP("Copy &Tree to Clipboard"), QKeySequence(tr("Ctrl+Shift+C")),
+                           SLOT(copyTree()));
     createViewMenu();
     createCameraMenu();
     createHelpMenu();
 }
 
+// Returns a menu whose title follows the language.
+QMenu *MainWindow::addMenu(const char *title)
+{
+    auto *const menu = menuBar()->addMenu(QString());
+    m_texts->add(menu, &QMenu::setTitle, [title] { return tr(title); });
+    return menu;
+}
+
+// Returns an action whose text follows the language.
+QAction *MainWindow::addItem(QMenu *menu, const char *text, const QKeySequence &keys, const char *slot)
+{
+    QAction *const action = menu->addAction(QString(), keys, this, slot);
+    m_texts->add(action, &QAction::setText, [text] { return tr(text); });
+    return action;
+}
+
+void MainWindow::explain(QAction *action, const char *text)
+{
+    m_texts->add([action, text] {
+        action->setToolTip(tr(text));
+        action->setStatusTip(tr(text));
+    });
+}
+
 void MainWindow::createFileMenu()
 {
-    QMenu *const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open Description File…"),
-                    QKeySequence::Open, this, SLOT(openDescriptionFile()));
+    QMenu *const file = addMenu(QT_TR_NOOP("&File"));
+    addItem(file, QT_TR_NOOP("&Open Description File…"), QKeySequence::Open, SLOT(openDescriptionFile()))
+        ->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
     file->addMenu(createRecentMenu());
-    file->addAction(style()->standardIcon(QStyle::SP_DriveNetIcon), tr("&Connect to Camera…"),
-                    QKeySequence(tr("Ctrl+K")), this, SLOT(connectToCamera()));
+    addItem(file, QT_TR_NOOP("&Connect to Camera…"), QKeySequence(tr("Ctrl+K")), SLOT(connectToCamera()))
+        ->setIcon(style()->standardIcon(QStyle::SP_DriveNetIcon));
     m_reconnectAction =
-        file->addAction(tr("&Reconnect"), QKeySequence(tr("Ctrl+R")), this, SLOT(reconnect()));
+        addItem(file, QT_TR_NOOP("&Reconnect"), QKeySequence(tr("Ctrl+R")), SLOT(reconnect()));
     m_closeAction =
-        file->addAction(tr("C&lose Camera"), QKeySequence::Close, this, SLOT(closeCameraIfWanted()));
+        addItem(file, QT_TR_NOOP("C&lose Camera"), QKeySequence::Close, SLOT(closeCameraIfWanted()));
     file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, SLOT(close()));
+    addItem(file, QT_TR_NOOP("&Quit"), QKeySequence::Quit, SLOT(close()));
 }
 
 QMenu *MainWindow::createRecentMenu()
 {
-    auto *const menu = new QMenu(tr("Open R&ecent"), this);
+    auto *const menu = new QMenu(this);
+    m_texts->add(menu, &QMenu::setTitle, [] { return tr("Open R&ecent"); });
     m_recent = new RecentSources(menu);
     connect(m_recent, SIGNAL(chosen(QString, QString)), this, SLOT(openSource(QString, QString)));
     return menu;
@@ -372,54 +435,57 @@ QMenu *MainWindow::createRecentMenu()
 
 void MainWindow::createViewMenu()
 {
-    QMenu *const view = menuBar()->addMenu(tr("&View"));
+    QMenu *const view = addMenu(QT_TR_NOOP("&View"));
     view->setToolTipsVisible(true);
     createLevelMenu(view);
     view->addMenu(new ColoursMenu(view));
-    m_panels = view->addMenu(tr("&Panels"));
+    view->addMenu(new LanguagesMenu(view));
+    m_panels = view->addMenu(QString());
+    m_texts->add(m_panels, &QMenu::setTitle, [] { return tr("&Panels"); });
     m_panels->menuAction()->setVisible(false);
     view->addSeparator();
     view->addActions(m_treeMenu->expansionActions());
     view->addSeparator();
-    m_monitorAction = view->addAction(tr("&Monitor Mode"));
+    m_monitorAction = view->addAction(QString());
     m_monitorAction->setCheckable(true);
-    m_monitorAction->setToolTip(tr("Polling re-reads all features, not only the volatile ones"));
-    m_monitorAction->setStatusTip(m_monitorAction->toolTip());
+    m_texts->add(m_monitorAction, &QAction::setText, [] { return tr("&Monitor Mode"); });
+    explain(m_monitorAction, QT_TR_NOOP("Polling re-reads all features, not only the volatile ones"));
     connect(m_monitorAction, SIGNAL(toggled(bool)), m_tree, SLOT(setMonitorMode(bool)));
 }
 
 void MainWindow::createCameraMenu()
 {
-    QMenu *const camera = menuBar()->addMenu(tr("&Camera"));
+    QMenu *const camera = addMenu(QT_TR_NOOP("&Camera"));
     camera->setToolTipsVisible(true);
     camera->addActions(m_settings->actions());
     m_comparison->addTo(camera);
     camera->addSeparator();
-    m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
-    m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
+    m_controlAction = addItem(camera, QT_TR_NOOP("&Take Control"), {}, SLOT(takeControl()));
+    m_ipAction = addItem(camera, QT_TR_NOOP("&IP Configuration…"), {}, SLOT(configureIp()));
     // Whether a camera lets itself be configured changes with what it is doing.
     connect(camera, SIGNAL(aboutToShow()), this, SLOT(updateActions()));
 }
 
 void MainWindow::createHelpMenu()
 {
-    QMenu *const help = menuBar()->addMenu(tr("&Help"));
+    QMenu *const help = addMenu(QT_TR_NOOP("&Help"));
     help->setToolTipsVisible(true);
-    QAction *const again =
-        help->addAction(tr("&Show All Messages Again"), this, SLOT(showAllMessagesAgain()));
-    again->setToolTip(tr("Brings back the messages that were silenced"));
-    again->setStatusTip(again->toolTip());
+    explain(addItem(help, QT_TR_NOOP("&Show All Messages Again"), {}, SLOT(showAllMessagesAgain())),
+            QT_TR_NOOP("Brings back the messages that were silenced"));
     help->addSeparator();
-    help->addAction(style()->standardIcon(QStyle::SP_MessageBoxInformation), tr("&About…"), this,
-                    SLOT(about()));
+    addItem(help, QT_TR_NOOP("&About…"), {}, SLOT(about()))
+        ->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
 }
 
 QMenu *MainWindow::createLevelMenu(QMenu *parent)
 {
-    QMenu *const menu = parent->addMenu(tr("&Level"));
+    QMenu *const menu = parent->addMenu(QString());
+    m_texts->add(menu, &QMenu::setTitle, [] { return tr("&Level"); });
     m_levels = new QActionGroup(this);
     for (int level = GenApi::Beginner; level <= GenApi::Invisible; ++level) {
-        QAction *const action = menu->addAction(Levels::menuText(static_cast<GenApi::EVisibility>(level)));
+        QAction *const action = menu->addAction(QString());
+        m_texts->add(action, &QAction::setText,
+                     [level] { return Levels::menuText(static_cast<GenApi::EVisibility>(level)); });
         action->setCheckable(true);
         action->setData(level);
         action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + level)));
@@ -436,7 +502,7 @@ void MainWindow::createLevelButton()
     m_levelButton->setAutoRaise(true);
     m_levelButton->setPopupMode(QToolButton::InstantPopup);
     m_levelButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_levelButton->setToolTip(tr("How many features are shown"));
+    m_texts->add(m_levelButton, &QWidget::setToolTip, [] { return tr("How many features are shown"); });
     auto *const menu = new QMenu(m_levelButton);
     menu->addActions(m_levels->actions());
     m_levelButton->setMenu(menu);
@@ -937,6 +1003,17 @@ void MainWindow::connectSaving()
     connect(m_tree, SIGNAL(newText(QString)), this, SLOT(saveSoon()));
     connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(saveSoon()));
     connect(m_monitorAction, SIGNAL(toggled(bool)), this, SLOT(saveSoon()));
+}
+
+// Who comes back finds the same camera open; how it was looked at is remembered with it.
+void MainWindow::saveSession(QSessionManager &session)
+{
+    saveNow();
+    const bool isOpen = m_camera || isOpening();
+    const CameraAddress address = isOpening() ? m_target : m_source;
+    session.setRestartCommand(QStringList{QCoreApplication::applicationFilePath()}
+                              + (isOpen ? address.arguments() : QStringList()));
+    session.setRestartHint(isOpen ? QSessionManager::RestartIfRunning : QSessionManager::RestartNever);
 }
 
 // Not later when there is more to save meanwhile.

@@ -20,6 +20,10 @@
 #include <memory>
 #include <optional>
 
+namespace Core {
+class LiveTexts;
+}
+
 namespace Cameras {
 class CameraOpening;
 }
@@ -36,6 +40,7 @@ class QDockWidget;
 class QLabel;
 class QMenu;
 class QModelIndex;
+class QSessionManager;
 class QSplitter;
 class QStackedWidget;
 class QTimer;
@@ -98,6 +103,7 @@ protected:
 private slots:
     void saveSoon();
     void saveNow();
+    void saveSession(QSessionManager &session);
     void openDescriptionFile();
     void openSource(const QString &description, const QString &camera = {});
     void connectToCamera();
@@ -146,6 +152,11 @@ private:
     void createServices();
     void createPanels();
     QDockWidget *addPanel(QWidget *panel, Qt::DockWidgetArea area);
+    void showState();
+    void showNodeMapTitles();
+    QMenu *addMenu(const char *title);
+    QAction *addItem(QMenu *menu, const char *text, const QKeySequence &keys, const char *slot);
+    void explain(QAction *action, const char *text);
     void createMenus();
     void createFileMenu();
     void createViewMenu();
@@ -171,6 +182,7 @@ private:
     void restoreState();
     void saveState() const;
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     std::unique_ptr<Cameras::Camera> m_camera;
     CameraAddress m_source; // of the camera that was opened last
     bool m_remembers = true;

@@ -3,6 +3,9 @@
 
 #include "messagebar.h"
 
+#include <platform/core/livetexts.h>
+
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -13,6 +16,13 @@ namespace {
 
 constexpr qsizetype messagesKept = 20;
 
+QAccessibleInterface *createInterface(const QString &className, QObject *object)
+{
+    return className == QLatin1String("MessageBar")
+        ? new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Notification)
+        : nullptr;
+}
+
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
@@ -21,6 +31,7 @@ MessageBar::MessageBar(QWidget *parent)
     , m_text(new QLabel(this))
     , m_action(new QToolButton(this))
 {
+    QAccessible::installFactory(createInterface); // which takes each but once
     m_action->hide();
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -33,8 +44,10 @@ MessageBar::MessageBar(QWidget *parent)
     auto *const close = new QToolButton(this);
     close->setIcon(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")));
     close->setAutoRaise(true);
-    close->setToolTip(tr("Dismiss"));
-    close->setAccessibleName(close->toolTip());
+    auto *const texts = new Core::LiveTexts(this);
+    setAccessibleName(tr("Messages"));
+    texts->add(close, &QWidget::setToolTip, [] { return tr("Dismiss"); });
+    texts->add(close, &QWidget::setAccessibleName, [] { return tr("Dismiss"); });
 
     auto *const layout = new QHBoxLayout(this);
     layout->addWidget(m_icon);
@@ -111,14 +124,25 @@ void MessageBar::updateText()
     }
     m_text->setText(lines.join(QLatin1Char('\n')));
     m_text->setAccessibleName(m_text->text());
+    announce();
     m_text->setToolTip(
         m_count > 1 ? Qt::convertFromPlainText(texts().join(QStringLiteral("\n\n")), Qt::WhiteSpaceNormal)
                     : QString());
     show();
 }
 
+// Qt 6.4 keeps alerts from screen readers on Linux; these read out notifications that come into sight, and
+// new names of such.
+void MessageBar::announce()
+{
+    setAccessibleName(tr("Message: %1").arg(m_text->text()));
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
 void MessageBar::dismiss()
 {
+    setAccessibleName(tr("Messages"));
     m_question.clear();
     m_messages.clear();
     m_count = 0;

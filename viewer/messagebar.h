@@ -47,6 +47,7 @@ private:
 
     qsizetype forget(const QString &subject);
     void updateText();
+    void announce();
     QStringList texts() const;
 
     QLabel *m_icon;

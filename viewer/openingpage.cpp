@@ -4,6 +4,7 @@
 #include "openingpage.h"
 
 #include <cameras/cameraopening.h>
+#include <platform/core/livetexts.h>
 
 #include <QKeySequence>
 #include <QLabel>
@@ -37,8 +38,11 @@ OpeningPage::OpeningPage(QWidget *parent)
     , m_name(new QLabel(this))
     , m_step(new QLabel(this))
     , m_bar(new QProgressBar(this))
-    , m_cancel(new QPushButton(tr("Cancel"), this))
+    , m_cancel(new QPushButton(this))
 {
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(m_cancel, &QPushButton::setText, [] { return tr("Cancel"); });
+    texts->add(m_bar, &QWidget::setAccessibleName, [] { return tr("Progress"); });
     for (QLabel *const label : {m_name, m_step}) {
         label->setAlignment(Qt::AlignCenter);
         label->setWordWrap(true);
@@ -46,7 +50,6 @@ OpeningPage::OpeningPage(QWidget *parent)
     }
     m_bar->setTextVisible(false);
     m_bar->setFixedWidth(fontMetrics().averageCharWidth() * 30);
-    m_bar->setAccessibleName(tr("Progress"));
     auto *const layout = new QVBoxLayout(this);
     layout->addStretch();
     layout->addWidget(m_name);

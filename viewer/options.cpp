@@ -26,49 +26,6 @@ std::optional<GenApi::EVisibility> visibilityFrom(const QString &text)
                                  : std::optional(static_cast<GenApi::EVisibility>(found - names.cbegin()));
 }
 
-// Options are read before there is an application that could translate; the command line speaks English.
-void addOptions(QCommandLineParser &parser)
-{
-    const auto add = [&parser](const char *name, const char *description, const char *value = "") {
-        parser.addOption(
-            {QString::fromLatin1(name), QString::fromLatin1(description), QString::fromLatin1(value)});
-    };
-    parser.setApplicationDescription(
-        QStringLiteral("Shows a camera's features in a tree. Without --description and "
-                       "--camera an embedded simulated camera is opened. --get, --set, --execute, --save, "
-                       "--load, --compare and --watch are carried out on it in the order given, without a "
-                       "window. Exit codes: 0 done, 1 refused or different, 2 wrong usage or not opened."));
-    add("description", "Open a camera description file on simulated registers.", "file");
-    add("camera", "Open the live camera with this id (see --list).", "id");
-    add("zeroed", "Let the registers of --description start with zeros.");
-    add("registers", "Let them start with what --save-registers has saved.", "file");
-    add("save-registers",
-        "Save the registers that the features are read from and exit; - is the standard "
-        "output.",
-        "file");
-    add("list", "List the cameras that are reachable and exit.");
-    add("dump", "Print the tree as text and exit.");
-    add("favorites", "Print the favorites as text and exit.");
-    add("visibility", "User level: beginner, expert, guru or invisible.", "level");
-    add("search", "Search the features for this text.", "text");
-    add("expand", "Expand all branches.");
-    add("get", "Print the value of a feature; may be repeated.", "name");
-    add("set", "Change a feature; may be repeated.", "name=value");
-    add("execute", "Execute a command; may be repeated.", "name");
-    add("save", "Save the camera's settings to a file; - is the standard output.", "file");
-    add("load", "Bring the settings in a file to the camera; - is the standard input.", "file");
-    add("force", "Load settings of another camera model, too.");
-    add("compare", "Print in what the camera's settings and those in a file differ.", "file");
-    add("watch", "Print the value of a feature again and again, as CSV; may be repeated.", "name");
-    add("interval", "Milliseconds between two rows of --watch, 1000 by default.", "ms");
-    add("count", "Number of rows of --watch; without it, until interrupted.", "n");
-    add("output", "Form of --dump, --get and --compare: text or json.", "form");
-    add("editors", "Show the gallery of value editors.");
-    add("screenshot", "Render the window to a PNG file, without a display, and exit.", "file");
-    add("help", "Show this help.");
-    add("version", "Show the version.");
-}
-
 const QList<std::pair<QString, Operation::Kind>> &operationNames()
 {
     static const QList<std::pair<QString, Operation::Kind>> names{
@@ -188,8 +145,14 @@ QString mistakeIn(const QCommandLineParser &parser)
             return QStringLiteral("The value of --%1 is empty.").arg(name);
         }
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1 || (!files.isEmpty() && files.constFirst().isEmpty())) {
+        return QStringLiteral("Unexpected argument '%1'.").arg(files.constLast());
+    }
+    for (const char *const other : {"description", "camera", "list"}) {
+        if (!files.isEmpty() && parser.isSet(QString::fromLatin1(other))) {
+            return QStringLiteral("A file and --%1 exclude each other.").arg(QString::fromLatin1(other));
+        }
     }
     // What would be ignored is refused as well, so that no script believes it was heeded.
     static constexpr std::array exclusive{
@@ -226,7 +189,7 @@ QString mistakeIn(const QCommandLineParser &parser)
     }
     for (const char *const option : {"zeroed", "registers"}) {
         const QString name = QString::fromLatin1(option);
-        if (parser.isSet(name) && !parser.isSet(QStringLiteral("description"))) {
+        if (parser.isSet(name) && !parser.isSet(QStringLiteral("description")) && files.isEmpty()) {
             return QStringLiteral("--%1 needs --description.").arg(name);
         }
     }
@@ -251,7 +214,8 @@ Options optionsFrom(const QCommandLineParser &parser)
         options.helpText = QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(),
                                                          QCoreApplication::applicationVersion());
     }
-    options.description = parser.value(QStringLiteral("description"));
+    const QString description = parser.value(QStringLiteral("description"));
+    options.description = description.isEmpty() ? parser.positionalArguments().value(0) : description;
     options.camera = parser.value(QStringLiteral("camera"));
     options.zeroed = parser.isSet(QStringLiteral("zeroed"));
     options.registers = parser.value(QStringLiteral("registers"));
@@ -280,6 +244,54 @@ Options optionsFrom(const QCommandLineParser &parser)
 
 } // namespace
 
+// Options are read before there is an application that could translate; the command line speaks English.
+QString applicationDescription()
+{
+    return QStringLiteral("Shows a camera's features in a tree. Without a description and "
+                          "--camera an embedded simulated camera is opened. --get, --set, --execute, --save, "
+                          "--load, --compare and --watch are carried out on it in the order given, without a "
+                          "window. Exit codes: 0 done, 1 refused or different, 2 wrong usage or not opened.");
+}
+
+QList<QCommandLineOption> commandLineOptions()
+{
+    QList<QCommandLineOption> options;
+    const auto add = [&options](const char *name, const char *description, const char *value = "") {
+        options.append(QCommandLineOption(QString::fromLatin1(name), QString::fromLatin1(description),
+                                          QString::fromLatin1(value)));
+    };
+    add("description", "Open a camera description file on simulated registers.", "file");
+    add("camera", "Open the live camera with this id (see --list).", "id");
+    add("zeroed", "Let the registers of --description start with zeros.");
+    add("registers", "Let them start with what --save-registers has saved.", "file");
+    add("save-registers",
+        "Save the registers that the features are read from and exit; - is the standard "
+        "output.",
+        "file");
+    add("list", "List the cameras that are reachable and exit.");
+    add("dump", "Print the tree as text and exit.");
+    add("favorites", "Print the favorites as text and exit.");
+    add("visibility", "User level: beginner, expert, guru or invisible.", "level");
+    add("search", "Search the features for this text.", "text");
+    add("expand", "Expand all branches.");
+    add("get", "Print the value of a feature; may be repeated.", "name");
+    add("set", "Change a feature; may be repeated.", "name=value");
+    add("execute", "Execute a command; may be repeated.", "name");
+    add("save", "Save the camera's settings to a file; - is the standard output.", "file");
+    add("load", "Bring the settings in a file to the camera; - is the standard input.", "file");
+    add("force", "Load settings of another camera model, too.");
+    add("compare", "Print in what the camera's settings and those in a file differ.", "file");
+    add("watch", "Print the value of a feature again and again, as CSV; may be repeated.", "name");
+    add("interval", "Milliseconds between two rows of --watch, 1000 by default.", "ms");
+    add("count", "Number of rows of --watch; without it, until interrupted.", "n");
+    add("output", "Form of --dump, --get and --compare: text or json.", "form");
+    add("editors", "Show the gallery of value editors.");
+    add("screenshot", "Render the window to a PNG file, without a display, and exit.", "file");
+    add("help", "Show this help.");
+    add("version", "Show the version.");
+    return options;
+}
+
 bool Options::isInteractive() const
 {
     return !list && !dump && !favorites && operations.isEmpty() && screenshot.isEmpty()
@@ -289,7 +301,10 @@ bool Options::isInteractive() const
 ParsedOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    addOptions(parser);
+    parser.setApplicationDescription(applicationDescription());
+    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The same as --description <file>."),
+                                 QStringLiteral("[file]"));
+    parser.addOptions(commandLineOptions());
     ParsedOptions parsed;
     parsed.error = parser.parse(arguments) ? mistakeIn(parser) : parser.errorText();
     if (parsed.error.isEmpty()) {

@@ -5,6 +5,7 @@
 
 #include <platform/genicam/genapi.h>
 
+#include <QCommandLineOption>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -53,6 +54,11 @@ struct ParsedOptions
     Options options;
     QString error;
 };
+
+/*! Returns what the program does, in the words of its help. */
+QString applicationDescription();
+/*! Returns the options, from which also the manual and the completion of shells are made. */
+QList<QCommandLineOption> commandLineOptions();
 
 /*! Returns what \a arguments ask for. Needs no application object. */
 ParsedOptions parseOptions(const QStringList &arguments);

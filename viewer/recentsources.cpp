@@ -5,6 +5,8 @@
 
 #include "cameraaddress.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QAction>
 #include <QFileInfo>
 #include <QFontMetrics>
@@ -51,7 +53,7 @@ RecentSources::RecentSources(QMenu *menu)
     menu->setToolTipsVisible(true);
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillMenu()));
     connect(menu, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
-    fillMenu();
+    (new Core::LiveTexts(menu))->add([this] { fillMenu(); });
 }
 
 RecentSources::~RecentSources() = default;

@@ -8,6 +8,7 @@
 
 #include <cameras/camera.h>
 #include <platform/core/exception.h>
+#include <platform/core/livetexts.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingsprogress.h>
@@ -38,9 +39,16 @@ SettingsActions::SettingsActions(FeatureTreeWidget *tree, MessageBar *messages, 
     : QObject(parent)
     , m_tree(tree)
     , m_messages(messages)
-    , m_save(new QAction(tr("&Save Settings…"), this))
-    , m_load(new QAction(tr("&Load Settings…"), this))
+    , m_save(new QAction(this))
+    , m_load(new QAction(this))
 {
+    auto *const texts = new Core::LiveTexts(tree); // which hears of another language
+    texts->add(m_save, &QAction::setText, [] { return tr("&Save Settings…"); });
+    texts->add(m_load, &QAction::setText, [] { return tr("&Load Settings…"); });
+    for (const auto setter : {&QAction::setToolTip, &QAction::setStatusTip}) {
+        texts->add(m_save, setter, [] { return tr("Saves all values that can be changed to a text file"); });
+        texts->add(m_load, setter, [] { return tr("Brings the values in a file to the camera"); });
+    }
     m_save->setShortcut(QKeySequence::Save);
     m_load->setShortcut(QKeySequence(tr("Ctrl+L")));
     connect(m_save, SIGNAL(triggered()), this, SLOT(save()));
@@ -89,11 +97,6 @@ void SettingsActions::updateActions()
     const bool isUsable = m_camera && !m_camera->isLost() && !m_tree->isResting();
     m_save->setEnabled(isUsable);
     m_load->setEnabled(isUsable && !m_camera->isReadOnly());
-    m_save->setToolTip(tr("Saves all values that can be changed to a text file"));
-    m_load->setToolTip(tr("Brings the values in a file to the camera"));
-    for (QAction *const action : {m_save, m_load}) {
-        action->setStatusTip(action->toolTip());
-    }
 }
 
 QString SettingsActions::suggestedFile() const

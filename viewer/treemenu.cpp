@@ -3,6 +3,7 @@
 
 #include "treemenu.h"
 
+#include <platform/core/livetexts.h>
 #include <zeltoviewercomponents/featuretree/favoritesdata.h>
 #include <zeltoviewercomponents/featuretree/featuretreeinodeitem.h>
 #include <zeltoviewercomponents/featuretree/featuretreenames.h>
@@ -40,9 +41,12 @@ QModelIndex topRowOf(QModelIndex index)
 TreeMenu::TreeMenu(FeatureTreeWidget *tree, QObject *parent)
     : QObject(parent)
     , m_tree(tree)
-    , m_expandAll(new QAction(tr("&Expand All"), this))
-    , m_collapseAll(new QAction(tr("Collapse &All"), this))
+    , m_expandAll(new QAction(this))
+    , m_collapseAll(new QAction(this))
 {
+    auto *const texts = new Core::LiveTexts(tree);
+    texts->add(m_expandAll, &QAction::setText, [] { return tr("&Expand All"); });
+    texts->add(m_collapseAll, &QAction::setText, [] { return tr("Collapse &All"); });
     // Arrows are on every keyboard, at the same place; plus and minus are not.
     m_expandAll->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down));
     m_collapseAll->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up));

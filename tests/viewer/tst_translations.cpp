@@ -50,6 +50,48 @@ QStringList marks(const QString &text)
     return found;
 }
 
+void appendRows(QStringList &texts, const QTreeView &view, const QModelIndex &parent = {})
+{
+    for (int row = 0; row < view.model()->rowCount(parent); ++row) {
+        const QModelIndex index = view.model()->index(row, 0, parent);
+        texts.append(index.data().toString());
+        texts.append(index.data(Qt::ToolTipRole).toString());
+        if (view.isExpanded(index)) {
+            appendRows(texts, view, index);
+        }
+    }
+}
+
+// Returns what a window says anywhere, in menus, tool tips and the headers of lists, too.
+QStringList textsIn(const QMainWindow &window)
+{
+    QStringList texts{window.windowTitle()};
+    const auto actions = window.findChildren<QAction *>();
+    for (const QAction *const action : actions) {
+        texts.append({action->text(), action->toolTip(), action->statusTip()});
+    }
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        if (widget->objectName().startsWith(QLatin1String("qt_"))) {
+            continue; // Qt's own buttons keep the names that they were made with
+        }
+        texts.append({widget->windowTitle(), widget->toolTip(), widget->accessibleName()});
+        for (const char *const property : {"text", "title", "placeholderText", "currentText", "plainText"}) {
+            texts.append(widget->property(property).toString());
+        }
+        const auto *const view = qobject_cast<const QTreeView *>(widget);
+        if (view && view->model()) {
+            for (int column = 0; column < view->model()->columnCount(); ++column) {
+                texts.append(view->model()->headerData(column, Qt::Horizontal).toString());
+            }
+            appendRows(texts, *view);
+        }
+    }
+    texts.removeAll(QString());
+    texts.sort();
+    return texts;
+}
+
 } // namespace
 
 class TestTranslations : public QObject
@@ -64,6 +106,9 @@ private slots:
     void countsHaveTheirPlural_data();
     void countsHaveTheirPlural();
     void librariesAreTranslated();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void theLanguageIsChosenInAMenu();
     void mnemonicsAreUnique_data();
     void mnemonicsAreUnique();
 };
@@ -158,6 +203,64 @@ void TestTranslations::librariesAreTranslated()
     QCOMPARE(tree->treeView()->model()->index(1, 0).data().toString(), QStringLiteral("Kamera"));
 }
 
+void TestTranslations::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<bool>("hasCamera");
+    QTest::newRow("without a camera") << false;
+    QTest::newRow("with a camera") << true;
+}
+
+// A window that has changed its language says all that one says that had it from the beginning.
+void TestTranslations::textsFollowTheLanguage()
+{
+    QFETCH(bool, hasCamera);
+    const auto open = [hasCamera] {
+        auto window = std::make_unique<MainWindow>();
+        if (hasCamera) {
+            window->showCamera({}, cameraAt({}));
+        }
+        window->show();
+        return window;
+    };
+    installTranslations(QLocale(QLocale::English));
+    const auto window = open();
+    const QStringList english = textsIn(*window);
+    installTranslations(QLocale(QLocale::German));
+    QCoreApplication::processEvents();
+    const QStringList german = textsIn(*window);
+    const auto fresh = open();
+    const QStringList expected = textsIn(*fresh);
+    for (const QString &text : german) {
+        QVERIFY2(expected.contains(text), qPrintable(text));
+    }
+    QCOMPARE(german, expected);
+    QVERIFY(german != english);
+    installTranslations(QLocale(QLocale::English));
+    QCoreApplication::processEvents();
+    QCOMPARE(textsIn(*window), english);
+}
+
+void TestTranslations::theLanguageIsChosenInAMenu()
+{
+    installTranslations(chosenLanguage());
+    {
+        const MainWindow window;
+        const auto *const menu = window.findChild<LanguagesMenu *>();
+        const auto actions = menu->actions();
+        const auto german = std::find_if(actions.cbegin(), actions.cend(), [](const QAction *action) {
+            return action->text() == QStringLiteral("Deutsch");
+        });
+        QVERIFY(german != actions.cend());
+        (*german)->trigger();
+        QCoreApplication::processEvents();
+        QCOMPARE(menu->title(), QStringLiteral("&Sprache"));
+    }
+    cleanup();
+    installTranslations(chosenLanguage()); // as the next start does
+    const MainWindow window;
+    QCOMPARE(window.findChild<LanguagesMenu *>()->title(), QStringLiteral("&Sprache"));
+}
+
 void TestTranslations::mnemonicsAreUnique_data()
 {
     QTest::addColumn<QLocale>("locale");
@@ -175,6 +278,9 @@ void TestTranslations::mnemonicsAreUnique()
     std::copy(pullDowns.cbegin(), pullDowns.cend(), std::back_inserter(menus));
     int checked = 0;
     for (const QWidget *const menu : std::as_const(menus)) {
+        if (qobject_cast<const LanguagesMenu *>(menu)) {
+            continue; // names in letters that the keyboard may not have
+        }
         QString seen;
         const auto actions = menu->actions();
         for (const QAction *const action : actions) {

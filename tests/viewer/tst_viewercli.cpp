@@ -117,7 +117,7 @@ void TestViewerCli::failsInOneLine_data()
                             << "given" << contents << Changes();
     };
     row("--frobnicate", "frobnicate");
-    row("stray", "stray");
+    row("a.xml stray", "stray");
     row("--dump --visibility wizard", "wizard");
     row("--dump --description", "description");
     row("--dump --description=", "--description");

@@ -169,22 +169,6 @@
         <source>Description of the current feature</source>
         <translation>Beschreibung des aktuellen Merkmals</translation>
     </message>
-    <message>
-        <source>Beginner</source>
-        <translation>Einsteiger</translation>
-    </message>
-    <message>
-        <source>Expert</source>
-        <translation>Experte</translation>
-    </message>
-    <message>
-        <source>Guru</source>
-        <translation>Guru</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Unsichtbar</translation>
-    </message>
 </context>
 <context>
     <name>IpConfiguration</name>
@@ -485,22 +469,6 @@ Open a description file or connect to a camera (menu File).</source>
         <translation>Das Öffnen wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>&amp;Beginner</source>
-        <translation>&amp;Einsteiger</translation>
-    </message>
-    <message>
-        <source>&amp;Expert</source>
-        <translation>E&amp;xperte</translation>
-    </message>
-    <message>
-        <source>&amp;Guru</source>
-        <translation>&amp;Guru</translation>
-    </message>
-    <message>
-        <source>&amp;All Features</source>
-        <translation>&amp;Alle Merkmale</translation>
-    </message>
-    <message>
         <source>%1[*] – %2 – Zelto Viewer</source>
         <translation>%1[*] – %2 – Zelto Viewer</translation>
     </message>
@@ -531,6 +499,14 @@ Schließen, ohne sie zu speichern?</translation>
             <numerusform>(%n frühere Meldung)</numerusform>
             <numerusform>(%n frühere Meldungen)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1012,6 +988,17 @@ Trotzdem laden?</translation>
     <message>
         <source>Cannot write %1: %2</source>
         <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagesMenu</name>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

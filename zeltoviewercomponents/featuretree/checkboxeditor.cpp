@@ -3,6 +3,7 @@
 
 #include "checkboxeditor.h"
 
+#include "accessibleeditors_p.h"
 #include "editordatakeeper_p.h"
 #include "editorintake_p.h"
 
@@ -17,6 +18,7 @@ CheckBoxEditor::CheckBoxEditor(QWidget *parent)
     : QCheckBox(parent)
     , m_keeper(new EditorDataKeeper(this, this))
 {
+    AccessibleEditors::install();
     setAutoFillBackground(true);
 }
 

@@ -174,6 +174,14 @@ bool ComboSlider::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+void ComboSlider::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateToolTip();
+    }
+}
+
 void ComboSlider::updateToolTip()
 {
     ControlParts::guardedToolTip(logCategory(), [this] {

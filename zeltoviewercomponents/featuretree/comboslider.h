@@ -79,6 +79,7 @@ Q_SIGNALS:
     void rangeChanged(int minimum, int maximum);
 
 protected:
+    void changeEvent(QEvent *event) override;
     virtual void updateToolTip();
 
     /*! Tells everybody of the user's change to \a value, unless updates are off. */

@@ -9,6 +9,7 @@
 #include "spinboxeventcatcher_p.h"
 #include "zeltoqtdoublespinbox.h"
 
+#include <QEvent>
 #include <QSlider>
 
 #include <algorithm>
@@ -242,6 +243,14 @@ QSlider *DoubleComboSlider::slider() const
 ZeltoQtDoubleSpinBox *DoubleComboSlider::spinBox() const
 {
     return d->spinBox;
+}
+
+void DoubleComboSlider::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateToolTip();
+    }
 }
 
 void DoubleComboSlider::updateToolTip()

@@ -94,6 +94,7 @@ Q_SIGNALS:
     void rangeChanged(int minimum, int maximum);
 
 protected:
+    void changeEvent(QEvent *event) override;
     virtual void updateToolTip();
     void setEditBoxWidth(int width);
     bool checkIfLimitsChanged(int minimum, int maximum, int increment) const;

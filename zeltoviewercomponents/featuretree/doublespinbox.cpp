@@ -7,6 +7,7 @@
 #include "spinboxeventcatcher_p.h"
 #include "zeltoqtdoublespinbox.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 #include <algorithm>
@@ -187,6 +188,14 @@ bool DoubleSpinBox::checkIfLimitsChanged(double minimum, double maximum, double 
 ZeltoQtDoubleSpinBox *DoubleSpinBox::spinBox() const
 {
     return d->spinBox;
+}
+
+void DoubleSpinBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        updateToolTip();
+    }
 }
 
 void DoubleSpinBox::updateToolTip()

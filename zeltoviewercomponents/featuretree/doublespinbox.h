@@ -87,6 +87,7 @@ protected:
     };
     DoubleSpinBox(QWidget *parent, const QString &representation, Limits limits);
 
+    void changeEvent(QEvent *event) override;
     virtual void updateToolTip();
     void setEditBoxWidth(int width);
     bool checkIfLimitsChanged(double minimum, double maximum, double increment) const;

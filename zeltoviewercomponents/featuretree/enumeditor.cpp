@@ -3,6 +3,7 @@
 
 #include "enumeditor.h"
 
+#include "accessibleeditors_p.h"
 #include "editordatakeeper_p.h"
 #include "editorintake_p.h"
 #include "parentfont_p.h"
@@ -47,6 +48,7 @@ EnumEditor::EnumEditor(QWidget *parent)
     , m_keeper(new EditorDataKeeper(this, this))
     , m_parentFont(std::make_unique<ParentFont>(this))
 {
+    AccessibleEditors::install();
     setEditable(false);
     {
         const StyleChangeFilter filter(this);

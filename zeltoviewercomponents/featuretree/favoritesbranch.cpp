@@ -89,17 +89,8 @@ void FavoritesBranch::createRoot()
         return;
     }
     emit m_model.layoutAboutToBeChanged();
-    m_root =
-        new FeatureTreeFavoritesItem(FeatureTreeModel::tr("Favorites"), &m_model, m_model.m_rootItem.get());
-    m_root->SetDescription(FeatureTreeModel::tr(
-        "<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
-        "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also "
-        "use "
-        "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the "
-        "list "
-        "as well as removed from the list by right-clicking an item and choosing the appropriate option from "
-        "the "
-        "context menu."));
+    m_root = new FeatureTreeFavoritesItem(QString(), &m_model, m_model.m_rootItem.get());
+    showHeadTexts();
     m_root->setVisibility(GenApi::Beginner);
     m_root->SetIsFullRowItem(true);
     m_root->SetIsSpecialNode(true);
@@ -156,11 +147,8 @@ void FavoritesBranch::insertPlaceholders()
 void FavoritesBranch::showEmptyHint()
 {
     const QPointer<FeatureTreeItem> hint(
-        new FeatureTreeItem(FeatureTreeModel::tr("Add favorites by right-clicking a feature below."),
-                            &m_model, FeatureTreeNames::dummy, m_root));
-    hint->SetToolTip(FeatureTreeModel::tr(
-        "To add a feature, right-click the feature and choose 'Add to Favorites' from the context "
-        "menu. You can also use drag and drop to add features to your favorites."));
+        new FeatureTreeItem(QString(), &m_model, FeatureTreeNames::dummy, m_root));
+    showHintTexts(*hint);
     hint->setVisibility(GenApi::Beginner);
     hint->SetIsFullRowItem(true);
     hint->SetIsSpecialNode(true);
@@ -169,6 +157,43 @@ void FavoritesBranch::showEmptyHint()
     m_model.endInsertRows();
     if (hint) {
         const QModelIndex index = m_model.indexForItem(hint, FeatureTreeColumns::name);
+        emit m_model.dataChanged(index, index);
+    }
+}
+
+void FavoritesBranch::showHeadTexts()
+{
+    m_root->setDisplayedName(FeatureTreeModel::tr("Favorites"));
+    m_root->SetDescription(FeatureTreeModel::tr(
+        "<h3>Favorites</h3><b>This node contains a list of features selected by the user</b><br><br>To add a "
+        "feature, right-click the feature and choose 'Add to Favorites' from the context menu. You can also "
+        "use "
+        "drag and drop to add features to your favorites.<br>Favorites can be moved up and down within the "
+        "list "
+        "as well as removed from the list by right-clicking an item and choosing the appropriate option from "
+        "the "
+        "context menu."));
+}
+
+void FavoritesBranch::showHintTexts(FeatureTreeItem &hint)
+{
+    hint.setDisplayedName(FeatureTreeModel::tr("Add favorites by right-clicking a feature below."));
+    hint.SetToolTip(FeatureTreeModel::tr(
+        "To add a feature, right-click the feature and choose 'Add to Favorites' from the context "
+        "menu. You can also use drag and drop to add features to your favorites."));
+}
+
+void FavoritesBranch::retranslate()
+{
+    if (!m_root) {
+        return;
+    }
+    showHeadTexts();
+    updateToolTip();
+    FeatureTreeItem *const first = m_root->child(0);
+    if (first && first->getFullName() == FeatureTreeNames::dummy) {
+        showHintTexts(*first);
+        const QModelIndex index = m_model.indexForItem(first, FeatureTreeColumns::name);
         emit m_model.dataChanged(index, index);
     }
 }

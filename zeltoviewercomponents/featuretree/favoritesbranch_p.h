@@ -33,6 +33,8 @@ public:
 
     /*! Makes the head the first top row, unless there is one. */
     void createRoot();
+    /*! Gives the head, and the row that stands in for none, their texts in the present language. */
+    void retranslate();
     /*! Removes all rows and makes the placeholders. Returns false when a receiver of the signals had the tree
      * cleared or the rows made. */
     bool rebuild();
@@ -57,6 +59,8 @@ private:
     void removeRows();
     void insertPlaceholders();
     void showEmptyHint();
+    void showHeadTexts();
+    static void showHintTexts(FeatureTreeItem &hint);
     void replacePlaceholder(const QSharedPointer<ParameterCollection::IParameterCollection> &collection,
                             const QSharedPointer<ParameterCollection::IParameter> &parameter, int row,
                             bool childNodeFlag);

@@ -72,6 +72,22 @@ QRect lineIn(const QRect &textRect, const QPainter &painter)
     return textRect.adjusted(0, dy, 0, 0);
 }
 
+// Also the parts, which assistive technology comes to one by one.
+void nameEditor(QWidget *editor, const QString &name, const QString &description)
+{
+    editor->setAccessibleName(name);
+    editor->setAccessibleDescription(description);
+    if (!editor->focusProxy()) {
+        return; // not a composite one
+    }
+    for (QObject *const part : editor->children()) {
+        if (part->isWidgetType()) {
+            static_cast<QWidget *>(part)->setAccessibleName(name);
+            static_cast<QWidget *>(part)->setAccessibleDescription(description);
+        }
+    }
+}
+
 void paintRichText(QPainter *painter, const QRect &target, int alignment, const QString &html)
 {
     QStaticText text(html);
@@ -140,9 +156,8 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
         [this, item, parent, &option, &index] { return createEditorFor(item, parent, option, index); });
     if (editor) {
         editor->setBackgroundRole(QPalette::Base); // that of the rows around it
-        editor->setAccessibleName(item->getDisplayedName());
-        editor->setAccessibleDescription(
-            item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
+        nameEditor(editor, item->getDisplayedName(),
+                   item->data(FeatureTreeColumns::name, FeatureTreeItem::GenicamTooltipRole).toString());
     }
     return editor;
 }

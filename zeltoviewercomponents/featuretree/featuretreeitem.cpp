@@ -10,7 +10,6 @@
 #include <QFontMetricsF>
 #include <QPalette>
 #include <QSize>
-#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <utility>
@@ -129,10 +128,6 @@ QVariant FeatureTreeItem::data(int column, int role)
     switch (role) {
     case Qt::ToolTipRole:
         return GetToolTip();
-    case Qt::AccessibleTextRole: // rich text is not for reading out
-        return column == FeatureTreeColumns::name && m_isSpecialNode
-            ? QTextDocumentFragment::fromHtml(m_name).toPlainText()
-            : QVariant();
     case GenicamNameRole:
     case FullNodeNameRole:
         return m_fullName;

@@ -595,6 +595,12 @@ FeatureTreeItem *FeatureTreeModel::getSearchHelpItem() const
     return m_searchHelpItem;
 }
 
+void FeatureTreeModel::retranslate()
+{
+    m_favoritesBranch->retranslate();
+    emit headerDataChanged(Qt::Horizontal, FeatureTreeColumns::name, FeatureTreeColumns::value);
+}
+
 void FeatureTreeModel::refreshSpecialItems()
 {
     const quint64 removals = m_removals;

@@ -88,6 +88,8 @@ public:
     void setHighlighter(FeatureTreeHighlighter *highlighter) override;
     FeatureTreeItem *getSearchHelpItem() const override;
     void refreshSpecialItems() override;
+    /*! Gives the rows that are no features their texts in the present language. */
+    void retranslate();
     /*! Always returns an empty text; names of collections are known to who added them. */
     QString
     GetParameterCollectionName(QSharedPointer<ParameterCollection::IParameterCollection> collection) override;

@@ -3,6 +3,7 @@
 
 #include "featuretreeproxymodel.h"
 
+#include "accessibletexts_p.h"
 #include "favoritesdata.h"
 #include "featuretreefilter_p.h"
 #include "featuretreeinodeitem.h"
@@ -196,6 +197,19 @@ bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
     }
     const FeatureTreeItem *const item = itemAt(parent);
     return item ? item->hasChildren() : sourceModel()->hasChildren(mapToSource(parent));
+}
+
+QVariant FeatureTreeProxyModel::data(const QModelIndex &index, int role) const
+{
+    if (role != Qt::AccessibleTextRole && role != Qt::AccessibleDescriptionRole) {
+        return QSortFilterProxyModel::data(index, role);
+    }
+    FeatureTreeItem *const item = getFeatureTreeItem(index);
+    if (!item) {
+        return QSortFilterProxyModel::data(index, role);
+    }
+    return role == Qt::AccessibleTextRole ? AccessibleTexts::text(*item, index.column())
+                                          : AccessibleTexts::description(*item);
 }
 
 Qt::ItemFlags FeatureTreeProxyModel::flags(const QModelIndex &index) const

@@ -3,6 +3,8 @@
 
 #include "featuretreeview.h"
 
+#include "accessibleeditors_p.h"
+#include "accessibletree_p.h"
 #include "editorfocus_p.h"
 #include "editorintake_p.h"
 #include "favoritesdata.h"
@@ -82,6 +84,7 @@ FeatureTreeView::FeatureTreeView(QWidget *parent)
           this, [this](const QModelIndex &index) { return wantsEditor(itemAt(index)); }))
     , m_focus(std::make_unique<EditorFocus>(this, m_editors.get()))
 {
+    AccessibleEditors::install();
     keepBackgroundWhenDisabled();
     setUniformRowHeights(true);
     setFocusPolicy(Qt::TabFocus); // clicks on rows take it, those on a scroll bar leave it to what is typed
@@ -118,6 +121,9 @@ void FeatureTreeView::changeEvent(QEvent *event)
     QTreeView::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         keepBackgroundWhenDisabled();
+    } else if (event->type() == QEvent::LanguageChange) {
+        m_editors->refresh();
+        viewport()->update();
     }
 }
 
@@ -395,6 +401,7 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
                                   const QList<int> &roles)
 {
     dropLockedEditor();
+    AccessibleTree::tellChange(this, topLeft);
     const bool isAsBefore = topLeft == bottomRight && isNameAsBefore(topLeft);
     if (topLeft == bottomRight && topLeft.isValid()) {
         Core::guardedRun({logCategory(), "FeatureTreeView::dataChanged"},
@@ -510,6 +517,7 @@ void FeatureTreeView::onLayoutChanged()
     m_editors->forgetClosed();
     // Rows that were hidden come back shown, and rows that came need all that rows need.
     updateRows(QModelIndex());
+    AccessibleTree::tellRows(this);
     if (m_hadCurrent && !currentIndex().isValid()) {
         emit onCurrentChanged(QModelIndex()); // filtered out, of which the base tells nobody
     }
@@ -583,6 +591,7 @@ void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, const Ex
 
 void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
 {
+    AccessibleTree::tellExpanded(this, index);
     if (m_isExpandingMany) {
         return;
     }
@@ -596,6 +605,7 @@ void FeatureTreeView::onSelfExpanded(const QModelIndex &index)
 
 void FeatureTreeView::onSelfCollapsed(const QModelIndex &index)
 {
+    AccessibleTree::tellExpanded(this, index);
     IFeatureTreeModelExtension *const extension = getFeatureExtension();
     if (!m_isExpandingMany && extension && index == extension->GetFavoritesRootIndex()) {
         extension->GetFavorites().setExpanded(false);
@@ -934,6 +944,11 @@ bool FeatureTreeView::edit(const QModelIndex &index, EditTrigger trigger, QEvent
 void FeatureTreeView::onFocusChanged(QWidget *old, QWidget *now)
 {
     m_focus->follow(old, now);
+    if (now == this && QAccessible::isActive()) {
+        // After Qt has told that the whole tree has it.
+        QMetaObject::invokeMethod(
+            this, [this] { AccessibleTree::tellFocus(this, currentIndex()); }, Qt::QueuedConnection);
+    }
     const QModelIndex index = m_editors->rowOf(now == QApplication::focusWidget() ? now : nullptr);
     const QModelIndex current = currentIndex();
     if (index.isValid() && !isSameRow(index, current)) {

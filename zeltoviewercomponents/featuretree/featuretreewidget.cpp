@@ -145,12 +145,9 @@ FeatureTreeWidget::FeatureTreeWidget(QString name,
 
 FeatureTreeWidget::~FeatureTreeWidget() = default;
 
-QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QString &icon,
-                                               const QString &text, const char *slot)
+QAction *FeatureTreeWidget::addFavoritesAction(const QString &icon, const char *slot)
 {
-    auto *const action = new QAction(QIcon(resource(icon)), text, this);
-    action->setIconText(text);
-    action->setShortcut(QKeySequence(shortcut));
+    auto *const action = new QAction(QIcon(resource(icon)), QString(), this);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setEnabled(false);
     connect(action, SIGNAL(triggered()), this, slot);
@@ -160,14 +157,14 @@ QAction *FeatureTreeWidget::addFavoritesAction(const QString &shortcut, const QS
 
 void FeatureTreeWidget::setUpActions()
 {
-    d->actionAddToFavourites = addFavoritesAction(tr("Ctrl+D"), QStringLiteral("AddGigECamera_16.png"),
-                                                  tr("Add to Favorites"), SLOT(AddToFavourites_triggered()));
-    d->actionMoveFavouriteUp = addFavoritesAction(tr("Ctrl+Up"), QStringLiteral("Move_Up.png"), tr("Move Up"),
-                                                  SLOT(FavouriteMoveUp_triggered()));
-    d->actionMoveFavouriteDown = addFavoritesAction(tr("Ctrl+Down"), QStringLiteral("Move_Down.png"),
-                                                    tr("Move Down"), SLOT(FavouriteMoveDown_triggered()));
-    d->actionRemoveFavourite = addFavoritesAction(QString(), QStringLiteral("RemGigECamera_16.png"),
-                                                  tr("Remove"), SLOT(FavouriteRemove_triggered()));
+    d->actionAddToFavourites =
+        addFavoritesAction(QStringLiteral("AddGigECamera_16.png"), SLOT(AddToFavourites_triggered()));
+    d->actionMoveFavouriteUp =
+        addFavoritesAction(QStringLiteral("Move_Up.png"), SLOT(FavouriteMoveUp_triggered()));
+    d->actionMoveFavouriteDown =
+        addFavoritesAction(QStringLiteral("Move_Down.png"), SLOT(FavouriteMoveDown_triggered()));
+    d->actionRemoveFavourite =
+        addFavoritesAction(QStringLiteral("RemGigECamera_16.png"), SLOT(FavouriteRemove_triggered()));
     d->actionRemoveFavourite->setShortcut(QKeySequence(QKeySequence::Delete));
 
     d->actionAddToFavourites->setObjectName(QStringLiteral("actionAddToFavourites"));
@@ -175,15 +172,51 @@ void FeatureTreeWidget::setUpActions()
     d->actionMoveFavouriteDown->setObjectName(QStringLiteral("actionMoveFavouriteDown"));
     d->actionRemoveFavourite->setObjectName(QStringLiteral("actionRemoveFavourite"));
 
-    d->actionTogglePolling = new QAction(d->form.resetButton->icon(), tr("Polling"), this);
+    d->actionTogglePolling = new QAction(d->form.resetButton->icon(), QString(), this);
     d->actionTogglePolling->setObjectName(QStringLiteral("actionTogglePolling"));
-    d->actionTogglePolling->setIconText(tr("Polling"));
     d->actionTogglePolling->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     d->actionTogglePolling->setEnabled(false);
     d->actionTogglePolling->setCheckable(true);
     d->actionTogglePolling->setChecked(d->form.checkBoxPolling->isChecked());
     connect(d->actionTogglePolling, SIGNAL(triggered()), this, SLOT(TogglePolling_triggered()));
     addAction(d->actionTogglePolling);
+    showActionTexts();
+}
+
+void FeatureTreeWidget::showActionTexts()
+{
+    const auto show = [](QAction *action, const QString &text) {
+        action->setText(text);
+        action->setIconText(text);
+    };
+    show(d->actionAddToFavourites, tr("Add to Favorites"));
+    show(d->actionMoveFavouriteUp, tr("Move Up"));
+    show(d->actionMoveFavouriteDown, tr("Move Down"));
+    show(d->actionRemoveFavourite, tr("Remove"));
+    show(d->actionTogglePolling, tr("Polling"));
+    d->actionAddToFavourites->setShortcut(QKeySequence(tr("Ctrl+D")));
+    d->actionMoveFavouriteUp->setShortcut(QKeySequence(tr("Ctrl+Up")));
+    d->actionMoveFavouriteDown->setShortcut(QKeySequence(tr("Ctrl+Down")));
+    const QKeySequence find(Qt::CTRL | Qt::Key_F);
+    d->form.filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+}
+
+void FeatureTreeWidget::changeEvent(QEvent *event)
+{
+    TreeWidgetBase::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) {
+        return;
+    }
+    const QString title = windowTitle(); // may be the host's
+    d->form.retranslateUi(this);
+    setWindowTitle(title);
+    showActionTexts();
+    if (auto *const model = qobject_cast<FeatureTreeModel *>(proxy()->sourceModel())) {
+        model->retranslate();
+    }
+    onJudged();
+    announceMatches();
+    getFeatureExtension()->refreshSpecialItems();
 }
 
 void FeatureTreeWidget::addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot)
@@ -207,7 +240,6 @@ void FeatureTreeWidget::setUpShortcuts()
     addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Minus), d->form.treeView,
                 SLOT(collapseAll()));
     addShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_Plus), this, SLOT(expandTree()));
-    d->form.filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
 }
 
 FeatureTreeProxyModel *FeatureTreeWidget::proxy() const
@@ -860,7 +892,14 @@ void FeatureTreeWidget::announceMatches()
     const bool isSearching = !d->filterText.isEmpty();
     d->visibleMatches = isSearching ? proxy()->visibleMatchCount() : 0;
     const int hidden = isSearching ? proxy()->hiddenMatchCount() : 0;
+    d->form.filterEdit->setResult(isSearching ? matchesText(d->visibleMatches, hidden) : QString());
     emit filterMatchesChanged(d->visibleMatches + hidden, hidden);
+}
+
+QString FeatureTreeWidget::matchesText(int visible, int hidden)
+{
+    const QString found = tr("%n feature(s) found", nullptr, visible);
+    return hidden == 0 ? found : tr("%1, %n more at a higher level", nullptr, hidden).arg(found);
 }
 
 void FeatureTreeWidget::saveExpandedStatus()

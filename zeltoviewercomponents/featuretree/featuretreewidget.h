@@ -217,6 +217,7 @@ Q_SIGNALS:
     void filterMatchesChanged(int total, int hidden);
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -238,8 +239,8 @@ private Q_SLOTS:
 private:
     void updateActions();
     void setUpActions();
-    QAction *addFavoritesAction(const QString &shortcut, const QString &icon, const QString &text,
-                                const char *slot);
+    QAction *addFavoritesAction(const QString &icon, const char *slot);
+    void showActionTexts();
     void setUpShortcuts();
     void addShortcut(const QKeySequence &sequence, QObject *receiver, const char *slot);
     FeatureTreeProxyModel *proxy() const;
@@ -253,6 +254,7 @@ private:
     template <typename Work>
     bool pass(Work work);
     void announceMatches();
+    static QString matchesText(int visible, int hidden);
     void showRefreshed();
     void updateMarks(const FeatureTreeHighlighter &before);
     void tellEdited(const QSharedPointer<ParameterCollection::IParameter> &parameter, const QString &refusal);

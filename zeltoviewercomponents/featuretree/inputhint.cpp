@@ -98,6 +98,7 @@ void InputHint::tell(const QString &text)
         return;
     }
     if (!m_label) {
+        m_description = input()->accessibleDescription();
         m_label = new QLabel(window);
         m_label->setObjectName(QStringLiteral("inputHint"));
         m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -110,6 +111,7 @@ void InputHint::tell(const QString &text)
     m_label->setBackgroundRole(QPalette::ToolTipBase);
     m_label->setForegroundRole(QPalette::ToolTipText);
     m_label->setText(text);
+    input()->setAccessibleDescription(text);
     m_label->adjustSize();
     m_label->move(placeIn(*window, *m_editor, *m_lineEdit, m_label->size()));
     m_label->raise();
@@ -119,7 +121,16 @@ void InputHint::tell(const QString &text)
 
 void InputHint::endTelling()
 {
+    if (m_label) {
+        input()->setAccessibleDescription(m_description);
+    }
     delete m_label;
+}
+
+// Returns what has the focus while the text is edited; a change of its description is read out.
+QWidget *InputHint::input() const
+{
+    return m_lineEdit->focusProxy() ? m_lineEdit->focusProxy() : m_lineEdit;
 }
 
 void InputHint::mark(bool isMarked)

@@ -45,6 +45,7 @@ private slots:
 
 private:
     void mark(bool isMarked);
+    QWidget *input() const;
 
     QWidget *m_editor;
     QLineEdit *m_lineEdit;
@@ -52,4 +53,5 @@ private:
     QTimer m_timer;
     QString m_problem;
     QString m_toolTip;
+    QString m_description; // of the input, in whose place the text is
 };

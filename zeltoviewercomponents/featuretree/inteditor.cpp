@@ -3,6 +3,7 @@
 
 #include "inteditor.h"
 
+#include "accessibleeditors_p.h"
 #include "editordatakeeper_p.h"
 #include "editorintake_p.h"
 #include "editorkeys_p.h"
@@ -46,6 +47,7 @@ IntEditor::IntEditor(QWidget *parent)
     , m_keeper(new EditorDataKeeper(this, this, this))
     , m_hint(new InputHint(this, this))
 {
+    AccessibleEditors::install();
     setFrame(false);
     setContentsMargins(1, 0, 1, 0);
     setAutoFillBackground(true);

@@ -221,6 +221,16 @@ QModelIndex OpenEditors::rowOf(const QWidget *widget) const
     return {};
 }
 
+void OpenEditors::refresh()
+{
+    const QList<Editor> editors = m_editors;
+    for (const Editor &editor : editors) {
+        if (editor.widget && editor.index.isValid()) {
+            m_view->itemDelegate()->setEditorData(editor.widget, editor.index);
+        }
+    }
+}
+
 bool OpenEditors::isNearViewport(const QModelIndex &index, int pages) const
 {
     const QRect row = m_view->visualRect(index);

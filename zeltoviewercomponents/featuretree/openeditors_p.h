@@ -50,6 +50,8 @@ public:
     /*! Forgets all editors, as the model has been reset. */
     void forgetAll();
 
+    /*! Shows in all editors again what their rows have. */
+    void refresh();
     /*! Returns whether \a index may get an editor now, and need not wait until it is scrolled to. */
     bool hasRoomFor(const QModelIndex &index);
     /*! Returns whether scrolling alone brings the row into sight. */

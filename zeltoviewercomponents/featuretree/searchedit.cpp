@@ -52,6 +52,7 @@ SearchEdit::SearchEdit(QWidget *parent)
                                QLineEdit::TrailingPosition);
     connect(d->clearAction, SIGNAL(triggered()), this, SLOT(clear()));
     d->clearAction->setVisible(false);
+    showActionTexts();
 
     new ParentPalette(this, QStringLiteral("QLineEdit { border: 1px solid gray; border-radius: 0px; }"),
                       QStringLiteral(" QLineEdit { background: %1; }"));
@@ -84,6 +85,14 @@ void SearchEdit::setPlaceholderEnabled(bool enabled)
     update();
 }
 
+void SearchEdit::setResult(const QString &text)
+{
+    // A change of what describes the widget with the focus is read out; that of another one is not.
+    if (text != accessibleDescription()) {
+        setAccessibleDescription(text);
+    }
+}
+
 QSize SearchEdit::sizeHint() const
 {
     const QSize base = QLineEdit::sizeHint();
@@ -97,7 +106,15 @@ void SearchEdit::changeEvent(QEvent *event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         d->parentFont->update();
+    } else if (event->type() == QEvent::LanguageChange) {
+        showActionTexts();
     }
+}
+
+void SearchEdit::showActionTexts()
+{
+    d->searchAction->setText(tr("Search"));
+    d->clearAction->setText(tr("Clear"));
 }
 
 void SearchEdit::paintEvent(QPaintEvent *event)

@@ -36,6 +36,8 @@ public:
     bool isPlaceholderEnabled() const;
     /*! Sets whether an empty box shows the placeholder. */
     void setPlaceholderEnabled(bool enabled);
+    /*! Has assistive technology read out \a text, what the search has found; empty without a search. */
+    void setResult(const QString &text);
 
     /*! Returns a size in which the placeholder can be read. */
     QSize sizeHint() const override;
@@ -49,6 +51,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showActionTexts();
+
     struct Private;
     const std::unique_ptr<Private> d;
 };

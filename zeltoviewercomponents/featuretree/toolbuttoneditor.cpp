@@ -3,10 +3,13 @@
 
 #include "toolbuttoneditor.h"
 
+#include "accessibleeditors_p.h"
 #include "editordatakeeper_p.h"
 #include "editorintake_p.h"
 
 #include <platform/core/guard.h>
+
+#include <QEvent>
 
 using namespace ParameterCollection;
 
@@ -23,6 +26,7 @@ ToolButtonEditor::ToolButtonEditor(QWidget *parent)
     : QToolButton(parent)
     , m_keeper(new EditorDataKeeper(this, this))
 {
+    AccessibleEditors::install();
     setAutoRaise(false);
     setText(tr("Execute"));
     setCheckable(true);
@@ -86,6 +90,14 @@ void ToolButtonEditor::showReady()
 {
     setText(tr("Execute"));
     setAccessibleDescription(m_description);
+}
+
+void ToolButtonEditor::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        setText(m_isRunning ? tr("Running…") : m_doneTimer.isActive() ? tr("Done") : tr("Execute"));
+    }
 }
 
 void ToolButtonEditor::askWhetherDone()

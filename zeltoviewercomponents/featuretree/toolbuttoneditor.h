@@ -30,6 +30,9 @@ public:
     void setEditorData(EditorData data) override;
     QVariant editorData() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private Q_SLOTS:
     void askWhetherDone();
     void showReady();

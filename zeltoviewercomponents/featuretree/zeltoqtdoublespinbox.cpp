@@ -3,6 +3,7 @@
 
 #include "zeltoqtdoublespinbox.h"
 
+#include "accessibleeditors_p.h"
 #include "editorkeys_p.h"
 #include "inputhint_p.h"
 #include "numbertext_p.h"
@@ -51,6 +52,7 @@ bool isByTheUser(Qt::FocusReason reason)
 ZeltoQtDoubleSpinBox::ZeltoQtDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
+    AccessibleEditors::install();
     connect(lineEdit(), SIGNAL(textChanged(QString)), this, SLOT(onTextChanged(QString)));
 }
 

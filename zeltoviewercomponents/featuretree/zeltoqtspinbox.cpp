@@ -3,6 +3,7 @@
 
 #include "zeltoqtspinbox.h"
 
+#include "accessibleeditors_p.h"
 #include "editorkeys_p.h"
 #include "editornumbers_p.h"
 #include "integertext_p.h"
@@ -21,6 +22,7 @@
 ZeltoQtSpinBox::ZeltoQtSpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
+    AccessibleEditors::install();
 }
 
 ZeltoQtSpinBox::~ZeltoQtSpinBox() = default;

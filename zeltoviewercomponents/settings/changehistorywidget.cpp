@@ -6,6 +6,7 @@
 #include "changehistory.h"
 #include "searchedlistview_p.h"
 
+#include <platform/core/livetexts.h>
 #include <platform/core/savefile.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
@@ -41,19 +42,22 @@ QString escaped(QString text)
 
 ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent)
     : QWidget(parent)
+    , m_texts(new Core::LiveTexts(this))
     , m_history(history)
     , m_filter(new QSortFilterProxyModel(this))
-    , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
-    , m_putBackBefore(addListAction(tr("Put &Back the Value Before"), SLOT(putBackBefore())))
-    , m_putBackAfter(addListAction(tr("Set the Value &After Again"), SLOT(putBackAfter())))
-    , m_copy(addListAction(tr("&Copy"), SLOT(copy())))
-    , m_save(addListAction(tr("&Save as Text…"), SLOT(save())))
+    , m_go(addListAction(QT_TR_NOOP("&Go to Feature"), SLOT(goToFeature())))
+    , m_putBackBefore(addListAction(QT_TR_NOOP("Put &Back the Value Before"), SLOT(putBackBefore())))
+    , m_putBackAfter(addListAction(QT_TR_NOOP("Set the Value &After Again"), SLOT(putBackAfter())))
+    , m_copy(addListAction(QT_TR_NOOP("&Copy"), SLOT(copy())))
+    , m_save(addListAction(QT_TR_NOOP("&Save as Text…"), SLOT(save())))
 {
     setObjectName(QStringLiteral("changes"));
-    setWindowTitle(tr("Changes"));
-    setToolTip(tr("What was changed since the camera was opened"));
+    m_texts->add(this, &QWidget::setWindowTitle, [] { return tr("Changes"); });
+    m_texts->add(this, &QWidget::setToolTip,
+                 [] { return tr("What was changed since the camera was opened"); });
     m_filter->setSourceModel(history->changes());
     m_view = new SearchedListView(m_filter, this);
+    m_texts->add(m_view, &QWidget::setAccessibleName, [] { return tr("Changes"); });
     m_copy->setShortcut(QKeySequence::Copy);
     m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
     layOut();
@@ -63,13 +67,18 @@ ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent
             SLOT(updateActions()));
     connect(m_filter, SIGNAL(modelReset()), this, SLOT(updateActions()));
     updateActions();
+    m_texts->add([this] {
+        QAbstractItemModel *const changes = m_history->changes();
+        emit changes->headerDataChanged(Qt::Horizontal, 0, changes->columnCount() - 1);
+    });
 }
 
 ChangeHistoryWidget::~ChangeHistoryWidget() = default;
 
-QAction *ChangeHistoryWidget::addListAction(const QString &text, const char *slot)
+QAction *ChangeHistoryWidget::addListAction(const char *text, const char *slot)
 {
-    auto *const action = new QAction(text, this);
+    auto *const action = new QAction(this);
+    m_texts->add(action, &QAction::setText, [text] { return tr(text); });
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, SIGNAL(triggered()), this, slot);
     return action;
@@ -78,8 +87,8 @@ QAction *ChangeHistoryWidget::addListAction(const QString &text, const char *slo
 void ChangeHistoryWidget::layOut()
 {
     QLineEdit *const search = m_view->searchBox();
-    search->setPlaceholderText(tr("Search changes"));
-    search->setAccessibleName(search->placeholderText());
+    m_texts->add(search, &QLineEdit::setPlaceholderText, [] { return tr("Search changes"); });
+    m_texts->add(search, &QWidget::setAccessibleName, [] { return tr("Search changes"); });
     auto *const saveButton = new QToolButton(this);
     saveButton->setDefaultAction(m_save);
     saveButton->setAutoRaise(true);

@@ -9,6 +9,10 @@
 #include <QString>
 #include <QWidget>
 
+namespace Core {
+class LiveTexts;
+}
+
 class ChangeHistory;
 class QAction;
 class QModelIndex;
@@ -50,12 +54,13 @@ private Q_SLOTS:
     void updateActions();
 
 private:
-    QAction *addListAction(const QString &text, const char *slot);
+    QAction *addListAction(const char *text, const char *slot);
     void layOut();
     void putBack(int column);
     QString lineOf(const QModelIndex &index) const;
     QModelIndex current() const;
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     QPointer<ChangeHistory> m_history;
     QSortFilterProxyModel *m_filter;
     SearchedListView *m_view;

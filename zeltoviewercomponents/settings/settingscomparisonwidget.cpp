@@ -6,6 +6,8 @@
 #include "differencelist_p.h"
 #include "searchedlistview_p.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QAction>
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -23,23 +25,28 @@ using Kind = SettingsDifference::Kind;
 
 SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
     : QWidget(parent)
+    , m_texts(new Core::LiveTexts(this))
     , m_list(new DifferenceList(this))
     , m_filter(new DifferenceFilter(this))
     , m_title(new QLabel(this))
     , m_kinds{new QCheckBox(this), new QCheckBox(this), new QCheckBox(this)}
-    , m_go(addListAction(tr("&Go to Feature"), SLOT(goToFeature())))
-    , m_takeOver(addListAction(tr("&Take Over"), SLOT(takeOver())))
-    , m_takeOverAll(addListAction(tr("Take Over &All"), SLOT(takeOverAll())))
-    , m_refresh(addListAction(tr("Compare A&gain"), SIGNAL(refreshRequested())))
+    , m_go(addListAction(QT_TR_NOOP("&Go to Feature"), SLOT(goToFeature())))
+    , m_takeOver(addListAction(QT_TR_NOOP("&Take Over"), SLOT(takeOver())))
+    , m_takeOverAll(addListAction(QT_TR_NOOP("Take Over &All"), SLOT(takeOverAll())))
+    , m_refresh(addListAction(QT_TR_NOOP("Compare A&gain"), SIGNAL(refreshRequested())))
 {
     setObjectName(QStringLiteral("differences"));
-    setWindowTitle(tr("Differences"));
-    setToolTip(tr("In what the camera differs from a file, another camera or how it was"));
-    m_takeOver->setToolTip(tr("Sets the values from there that are selected"));
-    m_takeOverAll->setToolTip(tr("Sets all values from there that are shown"));
+    m_texts->add(this, &QWidget::setWindowTitle, [] { return tr("Differences"); });
+    m_texts->add(this, &QWidget::setToolTip,
+                 [] { return tr("In what the camera differs from a file, another camera or how it was"); });
+    m_texts->add(m_takeOver, &QAction::setToolTip,
+                 [] { return tr("Sets the values from there that are selected"); });
+    m_texts->add(m_takeOverAll, &QAction::setToolTip,
+                 [] { return tr("Sets all values from there that are shown"); });
     m_refresh->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
     m_filter->setSourceModel(m_list);
     m_view = new SearchedListView(m_filter, this);
+    m_texts->add(m_view, &QWidget::setAccessibleName, [] { return tr("Differences"); });
     layOut();
     for (QCheckBox *const kind : m_kinds) {
         kind->setChecked(true);
@@ -51,13 +58,19 @@ SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
     connect(m_view->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(updateActions()));
     clear();
+    m_texts->add([this] {
+        showTitle();
+        updateCounts();
+        emit m_list->headerDataChanged(Qt::Horizontal, 0, m_list->columnCount() - 1);
+    });
 }
 
 SettingsComparisonWidget::~SettingsComparisonWidget() = default;
 
-QAction *SettingsComparisonWidget::addListAction(const QString &text, const char *slot)
+QAction *SettingsComparisonWidget::addListAction(const char *text, const char *slot)
 {
-    auto *const action = new QAction(text, this);
+    auto *const action = new QAction(this);
+    m_texts->add(action, &QAction::setText, [text] { return tr(text); });
     connect(action, SIGNAL(triggered()), this, slot);
     return action;
 }
@@ -66,8 +79,8 @@ void SettingsComparisonWidget::layOut()
 {
     m_title->setWordWrap(true);
     QLineEdit *const search = m_view->searchBox();
-    search->setPlaceholderText(tr("Search differences"));
-    search->setAccessibleName(search->placeholderText());
+    m_texts->add(search, &QLineEdit::setPlaceholderText, [] { return tr("Search differences"); });
+    m_texts->add(search, &QWidget::setAccessibleName, [] { return tr("Search differences"); });
     m_view->header()->resizeSection(DifferenceList::NameColumn, 30 * fontMetrics().averageCharWidth());
 
     const auto buttonFor = [this](QAction *action) {
@@ -103,8 +116,8 @@ void SettingsComparisonWidget::setComparison(const QString &title, const Feature
 {
     m_list->setDifferences(compare(here, there));
     m_hasComparison = true;
-    m_title->setText(m_list->differences().isEmpty() ? tr("No difference from %1").arg(title)
-                                                     : tr("Differences from %1").arg(title));
+    m_other = title;
+    showTitle();
     updateCounts();
     updateActions();
 }
@@ -113,7 +126,7 @@ void SettingsComparisonWidget::clear()
 {
     m_list->setDifferences({});
     m_hasComparison = false;
-    m_title->setText(tr("Nothing is compared."));
+    showTitle();
     updateCounts();
     updateActions();
 }
@@ -122,6 +135,13 @@ void SettingsComparisonWidget::setComparing(bool isPossible)
 {
     m_canCompare = isPossible;
     updateActions();
+}
+
+void SettingsComparisonWidget::showTitle()
+{
+    m_title->setText(!m_hasComparison                      ? tr("Nothing is compared.")
+                         : m_list->differences().isEmpty() ? tr("No difference from %1").arg(m_other)
+                                                           : tr("Differences from %1").arg(m_other));
 }
 
 void SettingsComparisonWidget::setTakingOver(bool isPossible)

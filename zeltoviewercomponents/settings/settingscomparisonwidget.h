@@ -13,6 +13,10 @@
 
 #include <array>
 
+namespace Core {
+class LiveTexts;
+}
+
 class DifferenceFilter;
 class DifferenceList;
 class QAction;
@@ -64,15 +68,18 @@ private Q_SLOTS:
     void updateActions();
 
 private:
-    QAction *addListAction(const QString &text, const char *slot);
+    QAction *addListAction(const char *text, const char *slot);
     void layOut();
     void emitTakeOver(const QList<QModelIndex> &rows);
+    void showTitle();
     void updateCounts();
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     DifferenceList *m_list;
     DifferenceFilter *m_filter;
     SearchedListView *m_view;
     QLabel *m_title;
+    QString m_other; // with what the camera is compared
     std::array<QCheckBox *, 3> m_kinds; // by SettingsDifference::Kind
     QAction *m_go;
     QAction *m_takeOver;

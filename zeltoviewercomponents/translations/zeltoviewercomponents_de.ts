@@ -191,6 +191,14 @@
         <source>The camera gave no reason.</source>
         <translation>Die Kamera nennt keinen Grund.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n feature(s) found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n more at a higher level</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeWidgetClass</name>
@@ -217,6 +225,10 @@
     <message>
         <source>F5</source>
         <translation>F5</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -897,6 +909,17 @@
     <message>
         <source>Only th&amp;ere (%1)</source>
         <translation>Nur &amp;dort (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>SearchEdit</name>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

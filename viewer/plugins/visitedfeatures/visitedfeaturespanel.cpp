@@ -4,6 +4,7 @@
 #include "visitedfeaturespanel.h"
 
 #include <platform/core/guard.h>
+#include <platform/core/livetexts.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -38,10 +39,12 @@ VisitedFeaturesPanel::VisitedFeaturesPanel(Plugin::FeatureTree::IFeatureTreeCont
     , m_list(new QListWidget(this))
 {
     setObjectName(QStringLiteral("visitedFeatures"));
-    setWindowTitle(tr("Visited Features"));
-    setToolTip(tr("The features you visited last; a click goes back"));
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(this, &QWidget::setWindowTitle, [] { return tr("Visited Features"); });
+    texts->add(m_list, &QWidget::setAccessibleName, [] { return tr("Visited Features"); });
+    texts->add(this, &QWidget::setToolTip,
+               [] { return tr("The features you visited last; a click goes back"); });
     setFocusProxy(m_list);
-    m_list->setAccessibleName(windowTitle());
     m_list->installEventFilter(this);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -7,6 +7,7 @@
 #include "watchplot.h"
 
 #include <platform/core/guard.h>
+#include <platform/core/livetexts.h>
 #include <platform/core/savefile.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 
@@ -56,24 +57,27 @@ void saveTo(const QString &fileName, const QByteArray &contents, QWidget *parent
 
 WatchPanel::WatchPanel(Finder finder, QWidget *parent)
     : QWidget(parent)
+    , m_texts(new Core::LiveTexts(this))
     , m_finder(std::move(finder))
     , m_model(new WatchModel(this))
     , m_view(new QTreeView(this))
     , m_plot(new WatchPlot(m_model))
     , m_span(new QComboBox(this))
-    , m_add(addPanelAction(tr("&Add"), SLOT(addCurrent())))
-    , m_remove(addPanelAction(tr("&Remove"), SLOT(removeSelected())))
-    , m_pause(new QAction(tr("&Pause"), this))
-    , m_restart(addPanelAction(tr("Re&start"), SLOT(restart())))
-    , m_saveCsv(addPanelAction(tr("Save as &CSV…"), SLOT(saveCsv())))
-    , m_savePng(addPanelAction(tr("Save as P&NG…"), SLOT(savePng())))
+    , m_add(addPanelAction(QT_TR_NOOP("&Add"), SLOT(addCurrent())))
+    , m_remove(addPanelAction(QT_TR_NOOP("&Remove"), SLOT(removeSelected())))
+    , m_pause(new QAction(this))
+    , m_restart(addPanelAction(QT_TR_NOOP("Re&start"), SLOT(restart())))
+    , m_saveCsv(addPanelAction(QT_TR_NOOP("Save as &CSV…"), SLOT(saveCsv())))
+    , m_savePng(addPanelAction(QT_TR_NOOP("Save as P&NG…"), SLOT(savePng())))
 {
     setObjectName(QStringLiteral("watch"));
-    setWindowTitle(tr("Watch"));
-    setToolTip(tr("Values of chosen features over time"));
+    m_texts->add(this, &QWidget::setWindowTitle, [] { return tr("Watch"); });
+    m_texts->add(m_view, &QWidget::setAccessibleName, [] { return tr("Watch"); });
+    m_texts->add(this, &QWidget::setToolTip, [] { return tr("Values of chosen features over time"); });
+    m_texts->add(m_pause, &QAction::setText, [] { return tr("&Pause"); });
     m_remove->setShortcut(QKeySequence::Delete);
     m_remove->setShortcutContext(Qt::WidgetShortcut);
-    m_restart->setToolTip(tr("Forgets the values so far"));
+    m_texts->add(m_restart, &QAction::setToolTip, [] { return tr("Forgets the values so far"); });
     m_pause->setCheckable(true);
     connect(m_pause, SIGNAL(toggled(bool)), this, SLOT(setPaused(bool)));
     layOut();
@@ -81,14 +85,18 @@ WatchPanel::WatchPanel(Finder finder, QWidget *parent)
             SLOT(updateActions()));
     connect(m_model, SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(updateActions()));
     connect(m_model, SIGNAL(modelReset()), this, SLOT(updateActions()));
-    updateActions();
+    m_texts->add([this] {
+        updateActions();
+        emit m_model->headerDataChanged(Qt::Horizontal, 0, m_model->columnCount() - 1);
+    });
 }
 
 WatchPanel::~WatchPanel() = default;
 
-QAction *WatchPanel::addPanelAction(const QString &text, const char *slot)
+QAction *WatchPanel::addPanelAction(const char *text, const char *slot)
 {
-    auto *const action = new QAction(text, this);
+    auto *const action = new QAction(this);
+    m_texts->add(action, &QAction::setText, [text] { return tr(text); });
     connect(action, SIGNAL(triggered()), this, slot);
     return action;
 }
@@ -105,7 +113,7 @@ QWidget *WatchPanel::createButtons()
         layout->addWidget(button);
     }
     auto *const more = new QToolButton(bar);
-    more->setText(tr("M&ore"));
+    m_texts->add(more, &QToolButton::setText, [] { return tr("M&ore"); });
     more->setPopupMode(QToolButton::InstantPopup);
     more->setFocusPolicy(Qt::TabFocus);
     auto *const menu = new QMenu(more);
@@ -122,16 +130,18 @@ QWidget *WatchPanel::createButtons()
 
 void WatchPanel::layOut()
 {
-    m_span->addItem(tr("All"), 0);
-    m_span->addItem(tr("Last minute"), 60);
-    m_span->addItem(tr("Last 10 minutes"), 600);
-    m_span->addItem(tr("Last hour"), 3600);
+    for (const auto &[text, seconds] :
+         {std::pair{QT_TR_NOOP("All"), 0}, std::pair{QT_TR_NOOP("Last minute"), 60},
+          std::pair{QT_TR_NOOP("Last 10 minutes"), 600}, std::pair{QT_TR_NOOP("Last hour"), 3600}}) {
+        m_span->addItem(QString(), seconds);
+        m_texts->add(
+            [this, text = text, item = m_span->count() - 1] { m_span->setItemText(item, tr(text)); });
+    }
     m_span->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_span->setMinimumContentsLength(6); // a panel may be narrow
-    m_span->setAccessibleName(tr("Time that the plot shows"));
+    m_texts->add(m_span, &QWidget::setAccessibleName, [] { return tr("Time that the plot shows"); });
     connect(m_span, SIGNAL(currentIndexChanged(int)), this, SLOT(setSpan(int)));
     m_view->setModel(m_model);
-    m_view->setAccessibleName(windowTitle());
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);

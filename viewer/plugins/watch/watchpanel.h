@@ -12,6 +12,10 @@
 
 #include <functional>
 
+namespace Core {
+class LiveTexts;
+}
+
 class QAction;
 class QComboBox;
 class QTreeView;
@@ -50,10 +54,11 @@ private slots:
     void updateActions();
 
 private:
-    QAction *addPanelAction(const QString &text, const char *slot);
+    QAction *addPanelAction(const char *text, const char *slot);
     void layOut();
     QWidget *createButtons();
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     Finder m_finder;
     QString m_cameraId;
     QSharedPointer<ParameterCollection::IParameter> m_current;

@@ -5,6 +5,8 @@
 
 #include "watchmodel.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QLocale>
 #include <QPainter>
 #include <QPolygonF>
@@ -60,7 +62,9 @@ WatchPlot::WatchPlot(const WatchModel *model, QWidget *parent)
 {
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
-    setAccessibleName(tr("Plot of the watched features"));
+    (new Core::LiveTexts(this))->add(this, &QWidget::setAccessibleName, [] {
+        return tr("Plot of the watched features");
+    });
     connect(model, SIGNAL(dataChanged(QModelIndex, QModelIndex)), this, SLOT(update()));
     connect(model, SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(onRowsChanged()));
     connect(model, SIGNAL(rowsRemoved(QModelIndex, int, int)), this, SLOT(onRowsChanged()));
