@@ -9,6 +9,7 @@
 #include <future>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -102,9 +103,14 @@ void leaveThreads()
 
 } // namespace
 
-void runInBackground(std::function<void()> work)
+bool runInBackground(std::function<void()> work)
 {
-    backgroundThreads().run(std::move(work));
+    try {
+        backgroundThreads().run(std::move(work));
+        return true;
+    } catch (const std::system_error &) {
+        return false;
+    }
 }
 
 } // namespace Cameras

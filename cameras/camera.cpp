@@ -121,8 +121,10 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
             throw BaseException(QStringLiteral("%1: %2").arg(registers, exception.getMessage()));
         }
     }
-    source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
-                                                  QString(), description.standardNameSpace()}));
+    // However the file is written, it is the same camera.
+    source.info = CameraInfoPtr(
+        new CameraRecord({QFileInfo(fileName).canonicalFilePath(), description.vendorName(),
+                          description.modelName(), QString(), description.standardNameSpace()}));
     return source;
 }
 

@@ -5,7 +5,6 @@
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 
@@ -22,11 +21,10 @@ constexpr QLatin1String nameKey("Name");
 constexpr QLatin1String usedKey("Used");
 constexpr QLatin1String monitorKey("MonitorMode");
 
-// However a file is written, it is the same camera.
-QString nameOf(const CameraAddress &address)
+QString nameOf(const CameraAddress &address, const QString &id)
 {
     if (!address.description.isEmpty()) {
-        return QLatin1String("file:") + QFileInfo(address.description).canonicalFilePath();
+        return QLatin1String("file:") + id;
     }
     return address.isLive() ? QLatin1String("camera:") + address.camera : QStringLiteral("embedded");
 }
@@ -52,9 +50,9 @@ void forgetOldest()
 
 } // namespace
 
-void CameraMemory::setSource(const std::optional<CameraAddress> &address)
+void CameraMemory::setSource(const std::optional<CameraAddress> &address, const QString &id)
 {
-    m_name = address ? nameOf(*address) : QString();
+    m_name = address ? nameOf(*address, id) : QString();
     // Names hold what no key may hold.
     const QByteArray hash = QCryptographicHash::hash(m_name.toUtf8(), QCryptographicHash::Sha1).toHex();
     m_group = address ? allCameras + QLatin1Char('/') + QString::fromLatin1(hash) : QString();

@@ -22,8 +22,8 @@ struct CameraView
 class CameraMemory
 {
 public:
-    /*! Sets which camera it is about; about none it keeps nothing. */
-    void setSource(const std::optional<CameraAddress> &address);
+    /*! Sets which camera it is about, the one at \a address with \a id; about none it keeps nothing. */
+    void setSource(const std::optional<CameraAddress> &address, const QString &id = {});
 
     /*! Returns how the camera was looked at last, none when that is not known. */
     std::optional<CameraView> recall() const;

@@ -544,7 +544,7 @@ void MainWindow::showCamera(const CameraAddress &address, std::unique_ptr<Camera
 
 void MainWindow::recallCamera()
 {
-    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt);
+    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt, m_camera->info()->id());
     const std::optional<CameraView> view = m_memory.recall();
     m_monitorAction->setChecked(view && view->monitors);
     if (view) {

@@ -4,6 +4,7 @@
 #include "recentsources.h"
 
 #include "cameraaddress.h"
+#include "filelook.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -50,6 +51,7 @@ RecentSources::RecentSources(QMenu *menu)
 {
     menu->setToolTipsVisible(true);
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillMenu()));
+    connect(menu, SIGNAL(aboutToShow()), this, SLOT(lookForFiles()));
     connect(menu, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
     fillMenu();
 }
@@ -94,7 +96,7 @@ void RecentSources::fillMenu()
     m_menu->menuAction()->setEnabled(!sources.isEmpty());
 }
 
-QAction *RecentSources::addEntry(const QString &source, int number)
+void RecentSources::addEntry(const QString &source, int number)
 {
     const bool isFile = source.startsWith(filePrefix);
     const QString name = source.mid(isFile ? filePrefix.size() : cameraPrefix.size());
@@ -103,11 +105,37 @@ QAction *RecentSources::addEntry(const QString &source, int number)
     shown.replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction *const action = m_menu->addAction(QStringLiteral("&%1 %2").arg(number % 10).arg(shown));
     action->setData(source);
-    const bool isThere = !isFile || QFileInfo(name).isFile();
-    action->setEnabled(isThere);
-    action->setToolTip(isThere ? name : tr("The file does not exist at present"));
-    action->setStatusTip(action->toolTip());
-    return action;
+    action->setToolTip(name);
+    action->setStatusTip(name);
+}
+
+void RecentSources::lookForFiles()
+{
+    if (m_look) {
+        return;
+    }
+    QStringList files;
+    const QStringList sources = storedSources();
+    for (const QString &source : sources) {
+        if (source.startsWith(filePrefix)) {
+            files.append(source.mid(filePrefix.size()));
+        }
+    }
+    m_look = new FileLook(files);
+    connect(m_look, SIGNAL(missing(QString)), this, SLOT(onMissing(QString)));
+    m_look->start();
+}
+
+void RecentSources::onMissing(const QString &file)
+{
+    const auto actions = m_menu->actions();
+    for (QAction *const action : actions) {
+        if (action->data().toString() == filePrefix + file) {
+            action->setEnabled(false);
+            action->setToolTip(tr("The file does not exist at present"));
+            action->setStatusTip(action->toolTip());
+        }
+    }
 }
 
 void RecentSources::onTriggered(QAction *action)

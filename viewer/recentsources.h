@@ -4,10 +4,12 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
 class QAction;
+class FileLook;
 class QMenu;
 struct CameraAddress;
 
@@ -35,11 +37,14 @@ signals:
 
 private slots:
     void fillMenu();
+    void lookForFiles();
+    void onMissing(const QString &file);
     void onTriggered(QAction *action);
 
 private:
-    QAction *addEntry(const QString &source, int number);
+    void addEntry(const QString &source, int number);
     void store(const QStringList &sources);
 
     QMenu *m_menu;
+    QPointer<FileLook> m_look; // one at a time, also when it hangs
 };
