@@ -20,6 +20,8 @@ namespace Cameras {
 
 namespace {
 
+thread_local bool isBackgroundThread = false;
+
 constexpr auto leaveTime = 1s; // of the two seconds that the end of the process may take
 
 void leaveThreads();
@@ -43,6 +45,7 @@ public:
         const std::lock_guard lock(m_mutex);
         joinFinished();
         m_threads.push_back({std::thread([work = std::move(work), finish = std::move(finish)]() mutable {
+                                 isBackgroundThread = true;
                                  finish.set_value_at_thread_exit();
                                  std::exchange(work, nullptr)();
                              }),
@@ -111,6 +114,11 @@ bool runInBackground(std::function<void()> work)
     } catch (const std::system_error &) {
         return false;
     }
+}
+
+bool isInBackground()
+{
+    return isBackgroundThread;
 }
 
 } // namespace Cameras

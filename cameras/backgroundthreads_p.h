@@ -12,4 +12,7 @@ namespace Cameras {
  * was to be had. */
 [[nodiscard]] bool runInBackground(std::function<void()> work);
 
+/*! Returns whether the caller is such work. */
+bool isInBackground();
+
 } // namespace Cameras
