@@ -3,6 +3,8 @@
 
 #include "cameramemory.h"
 
+#include "settingswriter.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QSettings>
@@ -29,15 +31,11 @@ QString nameOf(const CameraAddress &address, const QString &id)
     return address.isLive() ? QLatin1String("camera:") + address.camera : QStringLiteral("embedded");
 }
 
-void forgetOldest()
+void forgetOldest(QSettings &settings)
 {
-    QSettings settings;
     settings.beginGroup(allCameras);
     QStringList groups = settings.childGroups();
     const qsizetype excess = groups.size() - maximumCameras;
-    if (excess <= 0) {
-        return;
-    }
     const auto used = [&settings](const QString &group) {
         return settings.value(group + QLatin1Char('/') + usedKey).toLongLong();
     };
@@ -46,9 +44,15 @@ void forgetOldest()
     for (qsizetype i = 0; i < excess; ++i) {
         settings.remove(groups.at(i));
     }
+    settings.endGroup();
 }
 
 } // namespace
+
+CameraMemory::CameraMemory(SettingsWriter *writer)
+    : m_writer(writer)
+{
+}
 
 void CameraMemory::setSource(const std::optional<CameraAddress> &address, const QString &id)
 {
@@ -60,6 +64,9 @@ void CameraMemory::setSource(const std::optional<CameraAddress> &address, const 
 
 std::optional<CameraView> CameraMemory::recall() const
 {
+    if (const auto view = m_views.constFind(m_group); view != m_views.constEnd()) {
+        return *view;
+    }
     QSettings settings;
     settings.beginGroup(m_group);
     if (m_group.isEmpty() || settings.value(nameKey).toString() != m_name) {
@@ -73,19 +80,20 @@ std::optional<CameraView> CameraMemory::recall() const
     return CameraView{FeatureTreeLook(kept), settings.value(monitorKey).toBool()};
 }
 
-void CameraMemory::remember(const CameraView &view) const
+void CameraMemory::remember(const CameraView &view)
 {
     if (m_group.isEmpty()) {
         return;
     }
-    QSettings settings;
-    settings.beginGroup(m_group);
-    settings.setValue(nameKey, m_name);
-    settings.setValue(usedKey, QDateTime::currentMSecsSinceEpoch());
-    const QVariantMap parts = view.tree.toMap(keptParts);
-    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
-        settings.setValue(part.key(), part.value());
-    }
-    settings.setValue(monitorKey, view.monitors);
-    forgetOldest();
+    QVariantMap kept = view.tree.toMap(keptParts);
+    m_views.insert(m_group, {FeatureTreeLook(kept), view.monitors});
+    kept.insert(nameKey, m_name);
+    kept.insert(usedKey, QDateTime::currentMSecsSinceEpoch());
+    kept.insert(monitorKey, view.monitors);
+    m_writer->add([kept, group = m_group](QSettings &settings) {
+        for (auto part = kept.cbegin(); part != kept.cend(); ++part) {
+            settings.setValue(group + QLatin1Char('/') + part.key(), part.value());
+        }
+        forgetOldest(settings);
+    });
 }

@@ -5,6 +5,7 @@
 
 #include "cameraaddress.h"
 #include "filelook.h"
+#include "settingswriter.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -31,10 +32,10 @@ bool isUsable(const QString &source)
     return isKnown && !source.endsWith(QLatin1Char(':')) && source.size() <= maximumLength;
 }
 
-QStringList storedSources()
+QStringList storedSources(const QSettings &settings = QSettings())
 {
     QStringList usable;
-    const QStringList stored = QSettings().value(settingsKey()).toStringList();
+    const QStringList stored = settings.value(settingsKey()).toStringList();
     for (const QString &source : stored) {
         if (usable.size() < maximumCount && isUsable(source) && !usable.contains(source)) {
             usable.append(source);
@@ -45,9 +46,10 @@ QStringList storedSources()
 
 } // namespace
 
-RecentSources::RecentSources(QMenu *menu)
+RecentSources::RecentSources(QMenu *menu, SettingsWriter *writer)
     : QObject(menu)
     , m_menu(menu)
+    , m_writer(writer)
 {
     menu->setToolTipsVisible(true);
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillMenu()));
@@ -64,10 +66,10 @@ void RecentSources::add(const CameraAddress &address)
         ? cameraPrefix + address.camera
         : filePrefix + QFileInfo(address.description).absoluteFilePath();
     if (isUsable(source)) {
-        QStringList sources = storedSources();
-        sources.removeAll(source);
-        sources.prepend(source);
-        store(sources);
+        change([source](QStringList &sources) {
+            sources.removeAll(source);
+            sources.prepend(source);
+        });
     }
 }
 
@@ -77,11 +79,14 @@ QString RecentSources::lastCamera() const
     return cameras.value(0).mid(cameraPrefix.size());
 }
 
-void RecentSources::store(const QStringList &sources)
+void RecentSources::change(const std::function<void(QStringList &)> &how)
 {
-    QSettings().setValue(settingsKey(), sources.mid(0, maximumCount));
-    // Later: one of the menu's actions may be what brought this about.
-    QMetaObject::invokeMethod(this, "fillMenu", Qt::QueuedConnection);
+    m_writer->add([this, how](QSettings &settings) {
+        QStringList sources = storedSources(settings);
+        how(sources);
+        settings.setValue(settingsKey(), sources.mid(0, maximumCount));
+        QMetaObject::invokeMethod(this, "fillMenu", Qt::QueuedConnection);
+    });
 }
 
 void RecentSources::fillMenu()
@@ -142,7 +147,7 @@ void RecentSources::onTriggered(QAction *action)
 {
     const QString source = action->data().toString();
     if (source.isEmpty()) {
-        store({});
+        change([](QStringList &sources) { sources.clear(); });
     } else if (source.startsWith(filePrefix)) {
         emit chosen(source.mid(filePrefix.size()), QString());
     } else {

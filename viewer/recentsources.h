@@ -8,9 +8,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QAction;
 class FileLook;
 class QMenu;
+class SettingsWriter;
 struct CameraAddress;
 
 /*! \brief The description files and live cameras that were opened last, as a menu and in the settings.
@@ -22,8 +25,8 @@ class RecentSources : public QObject
     Q_OBJECT
 
 public:
-    /*! Fills \a menu, its parent. */
-    explicit RecentSources(QMenu *menu);
+    /*! Fills \a menu, its parent; changes are stored by \a writer, which ends before this. */
+    RecentSources(QMenu *menu, SettingsWriter *writer);
     ~RecentSources() override;
 
     /*! Puts the file or camera at \a address at the front. */
@@ -43,8 +46,9 @@ private slots:
 
 private:
     void addEntry(const QString &source, int number);
-    void store(const QStringList &sources);
+    void change(const std::function<void(QStringList &)> &how);
 
     QMenu *m_menu;
+    SettingsWriter *m_writer;
     QPointer<FileLook> m_look; // one at a time, also when it hangs
 };
