@@ -9,6 +9,7 @@
 #include <future>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -18,6 +19,8 @@ using namespace std::chrono_literals;
 namespace Cameras {
 
 namespace {
+
+thread_local bool isBackgroundThread = false;
 
 constexpr auto leaveTime = 1s; // of the two seconds that the end of the process may take
 
@@ -42,6 +45,7 @@ public:
         const std::lock_guard lock(m_mutex);
         joinFinished();
         m_threads.push_back({std::thread([work = std::move(work), finish = std::move(finish)]() mutable {
+                                 isBackgroundThread = true;
                                  finish.set_value_at_thread_exit();
                                  std::exchange(work, nullptr)();
                              }),
@@ -102,9 +106,19 @@ void leaveThreads()
 
 } // namespace
 
-void runInBackground(std::function<void()> work)
+bool runInBackground(std::function<void()> work)
 {
-    backgroundThreads().run(std::move(work));
+    try {
+        backgroundThreads().run(std::move(work));
+        return true;
+    } catch (const std::system_error &) {
+        return false;
+    }
+}
+
+bool isInBackground()
+{
+    return isBackgroundThread;
 }
 
 } // namespace Cameras

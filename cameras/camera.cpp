@@ -5,6 +5,7 @@
 
 #include "aravis_p.h"
 #include "awakening_p.h"
+#include "backgroundthreads_p.h"
 #include "camerafactory_p.h"
 #include "cameraopening.h"
 #include "camerarecord_p.h"
@@ -126,8 +127,10 @@ Session::Source describedSource(const QString &fileName, Start start, const QStr
             throw BaseException(QStringLiteral("%1: %2").arg(registers, exception.getMessage()));
         }
     }
-    source.info = CameraInfoPtr(new CameraRecord({fileName, description.vendorName(), description.modelName(),
-                                                  QString(), description.standardNameSpace()}));
+    // However the file is written, it is the same camera.
+    source.info = CameraInfoPtr(
+        new CameraRecord({QFileInfo(fileName).canonicalFilePath(), description.vendorName(),
+                          description.modelName(), QString(), description.standardNameSpace()}));
     return source;
 }
 
@@ -165,8 +168,12 @@ Session::Source liveSource(const QString &id, Session &session)
     return source;
 }
 
-void logEngineMessage(const gchar *, GLogLevelFlags, const gchar *message, gpointer)
+void logEngineMessage(const gchar *domain, GLogLevelFlags level, const gchar *message, gpointer)
 {
+    if (domain && qstrncmp(domain, "GLib", 4) == 0 && !isInBackground()) {
+        g_log_default_handler(domain, level, message, nullptr); // of another user of that library
+        return;
+    }
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Debug, logCategory(), QString::fromUtf8(message));
 }
 
@@ -175,7 +182,8 @@ void routeEngineMessages()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        for (const char *domain : {static_cast<const char *>(nullptr), "XML", "Aravis", "ArvGc"}) {
+        for (const char *domain :
+             {static_cast<const char *>(nullptr), "XML", "Aravis", "ArvGc", "GLib", "GLib-GIO"}) {
             g_log_set_handler(domain, GLogLevelFlags(G_LOG_LEVEL_MASK), logEngineMessage, nullptr);
         }
     });

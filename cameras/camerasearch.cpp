@@ -6,6 +6,7 @@
 #include "backgroundthreads_p.h"
 #include "camera.h"
 #include "engineturn_p.h"
+#include "session_p.h"
 
 #include <exception>
 #include <mutex>
@@ -61,7 +62,7 @@ CameraSearch::CameraSearch(QObject *parent)
     , m_state(std::make_shared<State>())
 {
     m_state->listener = this;
-    runInBackground([state = m_state] {
+    const bool isRunning = runInBackground([state = m_state] {
         QString failure;
         try {
             state->search();
@@ -73,6 +74,12 @@ CameraSearch::CameraSearch(QObject *parent)
             state->isFinished = true;
         });
     });
+    if (!isRunning) {
+        m_state->update([&] {
+            m_state->failure = Session::noThread();
+            m_state->isFinished = true;
+        });
+    }
 }
 
 CameraSearch::~CameraSearch()

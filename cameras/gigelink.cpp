@@ -146,10 +146,12 @@ GigeLink::Control GigeLink::control()
     quint32 privilege = 0;
     GError *error = nullptr;
     if (!readRegister(controlChannelPrivilege, &privilege, &error)) {
-        const bool isDenied =
-            g_error_matches(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED);
+        const int reason = error->code;
         g_clear_error(&error);
-        return {isDenied ? Hold::Exclusive : Hold::NoAnswer, {}};
+        return {reason == ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED ? Hold::Exclusive
+                    : reason == ARV_DEVICE_ERROR_TIMEOUT                ? Hold::NoAnswer
+                                                                        : Hold::Unknown,
+                {}};
     }
     if ((privilege & (controlBit | exclusiveBit)) == 0) {
         return {Hold::Free, {}};

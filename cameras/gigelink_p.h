@@ -21,6 +21,7 @@ class GigeLink
 public:
     enum class Hold {
         NoAnswer,
+        Unknown, //!< it answers, and does not tell
         Free,
         Controlled, //!< others may look
         Switchable, //!< as before, and would give its control away

@@ -236,6 +236,8 @@ DevicePtr LiveCamera::open()
         throw BaseException(isInOurSubnets(m_address)
                                 ? tr("no camera answers at %1").arg(m_address.toString())
                                 : tr("%1 is in none of this computer's subnets").arg(m_address.toString()));
+    case GigeLink::Hold::Unknown:
+        throw BaseException(unreadableWords());
     default:
         return openReadOnly();
     }
@@ -244,9 +246,11 @@ DevicePtr LiveCamera::open()
 DevicePtr LiveCamera::openControlled()
 {
     const GigeLink::Control control = m_link->control();
+    if (control.hold == GigeLink::Hold::NoAnswer || control.hold == GigeLink::Hold::Unknown) {
+        throw BaseException(control.hold == GigeLink::Hold::NoAnswer ? silence() : unreadableWords());
+    }
     if (control.hold != GigeLink::Hold::Free) {
-        throw BaseException(
-            control.hold == GigeLink::Hold::NoAnswer ? silence() : heldWords(control.controller.toString()));
+        throw BaseException(heldWords(control.controller.toString()));
     }
     DevicePtr device = connected();
     if (!m_controlled) {
@@ -411,7 +415,8 @@ CameraAccess LiveCamera::access(bool isDoubtful)
     if (control.hold == GigeLink::Hold::NoAnswer) {
         return {false, false, false, {}};
     }
-    if (m_controlled && isOurs(control, isDoubtful)) {
+    const bool isKnown = control.hold != GigeLink::Hold::Unknown; // else it may be too busy to tell
+    if (m_controlled && (!isKnown || isOurs(control, isDoubtful))) {
         return {};
     }
     return {true, true, control.hold == GigeLink::Hold::Free, control.controller.toString()};
@@ -453,6 +458,11 @@ QString LiveCamera::silence() const
 {
     return m_address.isNull() ? tr("The camera %1 does not answer.").arg(m_id)
                               : tr("The camera at %1 does not answer.").arg(m_address.toString());
+}
+
+QString LiveCamera::unreadableWords() const
+{
+    return tr("the camera at %1 answers, but does not let itself be read").arg(m_address.toString());
 }
 
 QString LiveCamera::heldWords(const QString &controller)

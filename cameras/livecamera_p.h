@@ -75,6 +75,7 @@ public:
 private:
     QHostAddress findAddress() const;
     DevicePtr connected();
+    QString unreadableWords() const;
     bool isOurs(const GigeLink::Control &control, bool isDoubtful) const;
     void checkDescription() const;
     QByteArray fetchDescription() const;

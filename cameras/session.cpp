@@ -82,9 +82,17 @@ QString Session::noAnswerInTime()
     return tr("no answer in time");
 }
 
+QString Session::noThread()
+{
+    return tr("the system has no thread left");
+}
+
 void Session::begin(const Opener &opener)
 {
-    runInBackground([self = shared_from_this(), opener] { self->run(opener); });
+    if (!runInBackground([self = shared_from_this(), opener] { self->run(opener); })) {
+        const Lock lock(m_mutex);
+        m_opening.failure = noThread();
+    }
 }
 
 void Session::start(const Opener &opener)
@@ -682,9 +690,7 @@ void Session::giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QStrin
     if (wasSent && !m_doubtful.contains(name)) {
         m_doubtful.append(name);
     }
-    if (m_live) {
-        runInBackground([self = shared_from_this()] { self->doubtAnswer(); });
-    } else {
+    if (!m_live || !runInBackground([self = shared_from_this()] { self->doubtAnswer(); })) {
         loseLocked(silence());
     }
     lock.unlock();
@@ -842,7 +848,8 @@ void Session::loseLocked(const QString &reason)
     m_changed.notify_all();
     tellCamera("reportLoss", withDoubts(reason));
     if (m_live && m_live->isWatchable() && !m_isStopping) {
-        runInBackground([self = shared_from_this()] { self->awaitReturn(); });
+        // Without a thread nobody offers the camera when it is back; it can be reconnected to all the same.
+        (void)runInBackground([self = shared_from_this()] { self->awaitReturn(); });
     }
 }
 

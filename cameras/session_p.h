@@ -85,6 +85,8 @@ public:
     static constexpr std::chrono::seconds openTime{20};
     /*! Returns the words for one that took longer. */
     static QString noAnswerInTime();
+    /*! Returns the words for one that could not even begin. */
+    static QString noThread();
 
     Session();
     ~Session();

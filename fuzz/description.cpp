@@ -68,11 +68,7 @@ void write(IParameter &parameter)
     }
 }
 
-} // namespace
-
-void Fuzz::prepare() { }
-
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     const std::unique_ptr<Cameras::Camera> camera = open(input);
     if (!camera) {
@@ -85,7 +81,7 @@ void Fuzz::run(const QByteArray &input)
     names.removeDuplicates();
     for (const QString &name : std::as_const(names)) {
         const auto parameter = collection->parameter(name);
-        require(!parameter.isNull(), "what is listed exists");
+        Fuzz::require(!parameter.isNull(), "what is listed exists");
         for (const char *const property : {"Unit", "Representation", "pAlias", "Streamable"}) {
             parameter->propertyAccess()->property(QLatin1String(property));
         }
@@ -94,6 +90,11 @@ void Fuzz::run(const QByteArray &input)
         }
     }
     collection->poll(100000);
-    settle();
-    require(!camera->isLost(), "no description hangs the worker");
+    Fuzz::settle();
+    Fuzz::require(!camera->isLost(), "no description hangs the worker");
 }
+
+const Fuzz::Target target(
+    "description", [] {}, run, Fuzz::Form::Xml);
+
+} // namespace

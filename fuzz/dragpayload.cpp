@@ -47,9 +47,7 @@ QByteArray payload(const QByteArray &input)
     return bytes;
 }
 
-} // namespace
-
-void Fuzz::prepare()
+void prepare()
 {
     model = new FeatureTreeModel;
     model->CreateFavoritesRoot();
@@ -65,7 +63,7 @@ void Fuzz::prepare()
     new QAbstractItemModelTester(watched, QAbstractItemModelTester::FailureReportingMode::Fatal, watched);
 }
 
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     QDataStream stream(input);
     qint32 row = 0;
@@ -76,6 +74,10 @@ void Fuzz::run(const QByteArray &input)
     data.setData(FeatureTreeModel::dragFormat(), payload(input.mid(5)));
     model->dropMimeData(&data, action ? Qt::MoveAction : Qt::IgnoreAction, row, 0,
                         model->GetFavoritesRootIndex());
-    settle();
-    require(favoriteNames() == before, "a drop neither adds nor removes favorites");
+    Fuzz::settle();
+    Fuzz::require(favoriteNames() == before, "a drop neither adds nor removes favorites");
 }
+
+const Fuzz::Target target("dragpayload", prepare, run);
+
+} // namespace

@@ -23,28 +23,30 @@ QList<FavoriteEntry> entriesOf(const FavoritesData &favorites)
     return entries;
 }
 
-} // namespace
-
-void Fuzz::prepare()
+void prepare()
 {
     QSettings().setValue(QStringLiteral("first"), 1); // makes the folder
 }
 
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
-    writeFile(QSettings().fileName(), input);
+    Fuzz::writeFile(QSettings().fileName(), input);
     FavoritesData favorites;
     favorites.load(group);
     const QList<FavoriteEntry> before = entriesOf(favorites);
-    require(!favorites.insertEntry(favorites.count() + 1, {}), "an empty entry is refused");
-    require(!favorites.moveEntry(favorites.count(), 0), "a move of nothing is refused");
+    Fuzz::require(!favorites.insertEntry(favorites.count() + 1, {}), "an empty entry is refused");
+    Fuzz::require(!favorites.moveEntry(favorites.count(), 0), "a move of nothing is refused");
 
     const QString copy = QStringLiteral("Copy");
     QSettings().remove(copy);
-    require(favorites.save(copy), "favorites can be saved");
+    Fuzz::require(favorites.save(copy), "favorites can be saved");
     FavoritesData again;
     again.load(copy);
-    require(entriesOf(again) == before, "favorites survive being saved");
-    require(again.viewAll() == favorites.viewAll(), "the view of all favorites survives being saved");
-    settle();
+    Fuzz::require(entriesOf(again) == before, "favorites survive being saved");
+    Fuzz::require(again.viewAll() == favorites.viewAll(), "the view of all favorites survives being saved");
+    Fuzz::settle();
 }
+
+const Fuzz::Target target("favorites", prepare, run);
+
+} // namespace

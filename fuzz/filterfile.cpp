@@ -48,9 +48,7 @@ void reset(const IParameter &parameter)
     parameter.propertyAccess()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RW"));
 }
 
-} // namespace
-
-void Fuzz::prepare()
+void prepare()
 {
     static const std::unique_ptr<Cameras::Camera> camera = Cameras::Camera::openEmbedded();
     collection = camera->nodeMaps().constFirst().collection;
@@ -60,13 +58,13 @@ void Fuzz::prepare()
     }
 }
 
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     QList<ParameterDataPtr> before;
     for (const auto &parameter : std::as_const(parameters)) {
         before.append(parameter->parameterData());
     }
-    writeFile(fileName(), input);
+    Fuzz::writeFile(fileName(), input);
     NodeMapFilter::apply(collection, nodeMapName());
     QFile::remove(fileName());
     for (qsizetype i = 0; i < parameters.size(); ++i) {
@@ -75,5 +73,9 @@ void Fuzz::run(const QByteArray &input)
             reset(*parameters.at(i));
         }
     }
-    settle();
+    Fuzz::settle();
 }
+
+const Fuzz::Target target("filterfile", prepare, run, Fuzz::Form::Xml);
+
+} // namespace

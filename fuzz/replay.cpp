@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-// Replays inputs that are kept in files: replay_<target> FOLDER...
+// Replays inputs that are kept in files: zelto-replay TARGET FOLDER...
 
 #include "target.h"
 
@@ -13,16 +13,16 @@
 
 int main(int argc, char *argv[])
 {
-    Fuzz::start();
+    const Fuzz::Target &target = Fuzz::Target::find(argc > 1 ? argv[1] : "");
+    target.start();
     int inputs = 0;
-    for (int i = 1; i < argc; ++i) {
+    for (int i = 2; i < argc; ++i) {
         QDirIterator files(QString::fromLocal8Bit(argv[i]), QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile file(files.next());
             Fuzz::require(file.open(QIODevice::ReadOnly), "the input can be read");
-            std::printf("%s\n", qPrintable(file.fileName()));
-            std::fflush(stdout); // the one that ends the process has to be known
-            Fuzz::run(file.readAll());
+            std::fprintf(stderr, "%s\n", qPrintable(file.fileName())); // it may end the process
+            target.run(file.readAll());
             ++inputs;
         }
     }

@@ -6,11 +6,45 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
+#include <QList>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
+
+namespace {
+
+QList<const Fuzz::Target *> &targets()
+{
+    static QList<const Fuzz::Target *> targets;
+    return targets;
+}
+
+} // namespace
+
+Fuzz::Target::Target(const char *name, void (*prepare)(), void (*run)(const QByteArray &), Form form)
+    : m_name(name)
+    , m_prepare(prepare)
+    , m_run(run)
+    , m_form(form)
+{
+    targets().append(this);
+}
+
+const Fuzz::Target &Fuzz::Target::find(const QByteArray &name)
+{
+    QByteArray known;
+    for (const Target *const target : std::as_const(targets())) {
+        if (target->m_name == name) {
+            return *target;
+        }
+        known.append(' ').append(target->m_name);
+    }
+    std::fprintf(stderr, "No target '%s', only%s\n", name.constData(), known.constData());
+    std::exit(EXIT_FAILURE);
+}
 
 void Fuzz::require(bool isKept, const char *promise)
 {
@@ -39,7 +73,7 @@ void Fuzz::settle()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void Fuzz::start()
+void Fuzz::Target::start() const
 {
     static int argc = 1;
     static char name[] = "fuzz";
@@ -51,5 +85,5 @@ void Fuzz::start()
     QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
     QCoreApplication::setApplicationName(QStringLiteral("fuzz"));
     static QApplication application(argc, arguments);
-    prepare();
+    m_prepare();
 }

@@ -51,21 +51,23 @@ void restoreColumns(const QByteArray &bytes)
     Fuzz::require(!isRestored || !tree->saveState(stateVersion).isEmpty(), "what is restored can be kept");
 }
 
-} // namespace
-
-void Fuzz::prepare()
+void prepare()
 {
     tree = new FeatureTreeWidget(QStringLiteral("fuzz"));
     tree->addParameterCollection(MemoryCollection::createSample(), QStringLiteral("Camera"),
                                  QStringLiteral("@CameraDevice"), true);
 }
 
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     if (input.startsWith('c')) {
         restoreColumns(input.mid(1));
     } else {
         applyLook(input);
     }
-    settle();
+    Fuzz::settle();
 }
+
+const Fuzz::Target target("treestate", prepare, run);
+
+} // namespace

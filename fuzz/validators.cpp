@@ -38,11 +38,7 @@ void check(const AddressValidator &validator, const QString &text)
     Fuzz::require(again == tidied, "the usual form is the usual form of itself");
 }
 
-} // namespace
-
-void Fuzz::prepare() { }
-
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     const QString text = QString::fromUtf8(input);
     check(QIpAddressValidator(), text);
@@ -55,6 +51,12 @@ void Fuzz::run(const QByteArray &input)
 
     const HexValidator all(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     const HexValidator few(-3, 17);
-    require(stateOf(few, text) != QValidator::Acceptable || stateOf(all, text) == QValidator::Acceptable,
-            "wider limits accept more");
+    Fuzz::require(stateOf(few, text) != QValidator::Acceptable
+                      || stateOf(all, text) == QValidator::Acceptable,
+                  "wider limits accept more");
 }
+
+const Fuzz::Target target(
+    "validators", [] {}, run);
+
+} // namespace

@@ -52,9 +52,7 @@ bool leaves(IParameter &parameter, const QString &text, bool isAccepted)
     return false;
 }
 
-} // namespace
-
-void Fuzz::prepare()
+void prepare()
 {
     static const std::unique_ptr<Cameras::Camera> camera = Cameras::Camera::openEmbedded();
     collection = camera->nodeMaps().constFirst().collection;
@@ -66,10 +64,10 @@ void Fuzz::prepare()
             parameters.append(parameter);
         }
     }
-    require(!parameters.isEmpty(), "the embedded camera has features to write to");
+    Fuzz::require(!parameters.isEmpty(), "the embedded camera has features to write to");
 }
 
-void Fuzz::run(const QByteArray &input)
+void run(const QByteArray &input)
 {
     if (input.isEmpty()) {
         return;
@@ -80,9 +78,13 @@ void Fuzz::run(const QByteArray &input)
     }
     const QString text = QString::fromUtf8(input.mid(1));
     if (!write(parameter, text)) {
-        require(!parameter.isWritableNow() || leaves(parameter, text, false),
-                "a refused text changes nothing");
+        Fuzz::require(!parameter.isWritableNow() || leaves(parameter, text, false),
+                      "a refused text changes nothing");
     } else if (parameter.isWritableNow() && parameter.parameterData()->isReadable) {
-        require(leaves(parameter, shownText(parameter), true), "what is shown is accepted, and stays");
+        Fuzz::require(leaves(parameter, shownText(parameter), true), "what is shown is accepted, and stays");
     }
 }
+
+const Fuzz::Target target("valuetext", prepare, run);
+
+} // namespace

@@ -1,19 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-// Makes new XML documents from old ones, so that most inputs get past the parser: elements move, multiply and
-// go, texts are exchanged, and links lead to nodes that exist.
+#include "xmlmutator.h"
 
-#include <QByteArray>
 #include <QDomDocument>
 #include <QList>
+#include <QString>
+#include <QStringList>
 
-#include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <random>
-
-extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *data, std::size_t size, std::size_t maximumSize);
+#include <utility>
 
 namespace {
 
@@ -130,19 +126,13 @@ private:
 
 } // namespace
 
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size, std::size_t maximumSize,
-                                               unsigned int seed)
+QByteArray mutatedXml(const QByteArray &document, unsigned int seed)
 {
-    QDomDocument document;
-    const auto bytes =
-        QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    if (seed % plainShare == 0 || !document.setContent(bytes)) {
-        return LLVMFuzzerMutate(data, size, maximumSize);
+    QDomDocument parsed;
+    if (seed % plainShare == 0 || !parsed.setContent(document)) {
+        return {};
     }
-    Mutation mutation(document, seed);
+    Mutation mutation(parsed, seed);
     mutation.apply();
-    const QByteArray mutated = mutation.result();
-    const auto length = std::min(static_cast<std::size_t>(mutated.size()), maximumSize);
-    std::copy_n(mutated.constData(), length, reinterpret_cast<char *>(data));
-    return length;
+    return mutation.result();
 }

@@ -3,9 +3,10 @@
 
 #include "cameramemory.h"
 
+#include "settingswriter.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 
@@ -22,24 +23,19 @@ constexpr QLatin1String nameKey("Name");
 constexpr QLatin1String usedKey("Used");
 constexpr QLatin1String monitorKey("MonitorMode");
 
-// However a file is written, it is the same camera.
-QString nameOf(const CameraAddress &address)
+QString nameOf(const CameraAddress &address, const QString &id)
 {
     if (!address.description.isEmpty()) {
-        return QLatin1String("file:") + QFileInfo(address.description).canonicalFilePath();
+        return QLatin1String("file:") + id;
     }
     return address.isLive() ? QLatin1String("camera:") + address.camera : QStringLiteral("embedded");
 }
 
-void forgetOldest()
+void forgetOldest(QSettings &settings)
 {
-    QSettings settings;
     settings.beginGroup(allCameras);
     QStringList groups = settings.childGroups();
     const qsizetype excess = groups.size() - maximumCameras;
-    if (excess <= 0) {
-        return;
-    }
     const auto used = [&settings](const QString &group) {
         return settings.value(group + QLatin1Char('/') + usedKey).toLongLong();
     };
@@ -48,13 +44,19 @@ void forgetOldest()
     for (qsizetype i = 0; i < excess; ++i) {
         settings.remove(groups.at(i));
     }
+    settings.endGroup();
 }
 
 } // namespace
 
-void CameraMemory::setSource(const std::optional<CameraAddress> &address)
+CameraMemory::CameraMemory(SettingsWriter *writer)
+    : m_writer(writer)
 {
-    m_name = address ? nameOf(*address) : QString();
+}
+
+void CameraMemory::setSource(const std::optional<CameraAddress> &address, const QString &id)
+{
+    m_name = address ? nameOf(*address, id) : QString();
     // Names hold what no key may hold.
     const QByteArray hash = QCryptographicHash::hash(m_name.toUtf8(), QCryptographicHash::Sha1).toHex();
     m_group = address ? allCameras + QLatin1Char('/') + QString::fromLatin1(hash) : QString();
@@ -62,6 +64,9 @@ void CameraMemory::setSource(const std::optional<CameraAddress> &address)
 
 std::optional<CameraView> CameraMemory::recall() const
 {
+    if (const auto view = m_views.constFind(m_group); view != m_views.constEnd()) {
+        return *view;
+    }
     QSettings settings;
     settings.beginGroup(m_group);
     if (m_group.isEmpty() || settings.value(nameKey).toString() != m_name) {
@@ -75,19 +80,20 @@ std::optional<CameraView> CameraMemory::recall() const
     return CameraView{FeatureTreeLook(kept), settings.value(monitorKey).toBool()};
 }
 
-void CameraMemory::remember(const CameraView &view) const
+void CameraMemory::remember(const CameraView &view)
 {
     if (m_group.isEmpty()) {
         return;
     }
-    QSettings settings;
-    settings.beginGroup(m_group);
-    settings.setValue(nameKey, m_name);
-    settings.setValue(usedKey, QDateTime::currentMSecsSinceEpoch());
-    const QVariantMap parts = view.tree.toMap(keptParts);
-    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
-        settings.setValue(part.key(), part.value());
-    }
-    settings.setValue(monitorKey, view.monitors);
-    forgetOldest();
+    QVariantMap kept = view.tree.toMap(keptParts);
+    m_views.insert(m_group, {FeatureTreeLook(kept), view.monitors});
+    kept.insert(nameKey, m_name);
+    kept.insert(usedKey, QDateTime::currentMSecsSinceEpoch());
+    kept.insert(monitorKey, view.monitors);
+    m_writer->add([kept, group = m_group](QSettings &settings) {
+        for (auto part = kept.cbegin(); part != kept.cend(); ++part) {
+            settings.setValue(group + QLatin1Char('/') + part.key(), part.value());
+        }
+        forgetOldest(settings);
+    });
 }

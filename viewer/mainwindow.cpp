@@ -77,7 +77,7 @@ namespace {
 constexpr int stateVersion = 1;
 constexpr int statusTime = 5000;
 constexpr int openingPageDelay = 150;
-constexpr int savingDelay = 1500; // what is lost when the viewer is killed
+constexpr int savingDelay = 1000; // what is lost when the viewer is killed
 
 QString windowGroup()
 {
@@ -428,7 +428,7 @@ QMenu *MainWindow::createRecentMenu()
 {
     auto *const menu = new QMenu(this);
     m_texts->add(menu, &QMenu::setTitle, [] { return tr("Open R&ecent"); });
-    m_recent = new RecentSources(menu);
+    m_recent = new RecentSources(menu, &m_settingsWriter);
     connect(m_recent, SIGNAL(chosen(QString, QString)), this, SLOT(openSource(QString, QString)));
     return menu;
 }
@@ -610,7 +610,7 @@ void MainWindow::showCamera(const CameraAddress &address, std::unique_ptr<Camera
 
 void MainWindow::recallCamera()
 {
-    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt);
+    m_memory.setSource(m_remembers ? std::make_optional(m_source) : std::nullopt, m_camera->info()->id());
     const std::optional<CameraView> view = m_memory.recall();
     m_monitorAction->setChecked(view && view->monitors);
     if (view) {
@@ -1060,16 +1060,19 @@ void MainWindow::restoreState()
     }
 }
 
-void MainWindow::saveState() const
+void MainWindow::saveState()
 {
-    QSettings settings;
-    settings.beginGroup(windowGroup());
-    settings.setValue(QStringLiteral("Geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
-    settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
     m_tree->treeView()->header()->resizeSection(0, m_nameWidth); // what the user chose, for wider windows
-    settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
-    settings.setValue(QStringLiteral("Level"), static_cast<int>(m_tree->visibility()));
+    const QVariantMap state{{QStringLiteral("Geometry"), saveGeometry()},
+                            {QStringLiteral("Splitter"), m_splitter->saveState()},
+                            {QStringLiteral("Panels"), QMainWindow::saveState(stateVersion)},
+                            {QStringLiteral("Tree"), m_tree->saveState(stateVersion)},
+                            {QStringLiteral("Level"), static_cast<int>(m_tree->visibility())}};
+    m_settingsWriter.add([state](QSettings &settings) {
+        for (auto part = state.cbegin(); part != state.cend(); ++part) {
+            settings.setValue(windowGroup() + QLatin1Char('/') + part.key(), part.value());
+        }
+    });
 }
 
 // Leaves the values some room in a narrow window.
@@ -1103,6 +1106,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     saveState();
     rememberCamera();
+    m_settingsWriter.finish();
     endOpening();
     QMainWindow::closeEvent(event);
 }

@@ -5,6 +5,7 @@
 
 #include "cameraaddress.h"
 #include "cameramemory.h"
+#include "settingswriter.h"
 
 #include <cameras/camera.h>
 #include <platform/core/camerainfo.h>
@@ -180,7 +181,7 @@ private:
     void useCamera(std::unique_ptr<Cameras::Camera> camera);
     void fitColumns();
     void restoreState();
-    void saveState() const;
+    void saveState();
 
     Core::LiveTexts *m_texts; // first: the members that follow use it
     std::unique_ptr<Cameras::Camera> m_camera;
@@ -215,7 +216,8 @@ private:
     QToolButton *m_levelButton = nullptr;
     RecentSources *m_recent = nullptr;
     SettingsActions *m_settings;
-    CameraMemory m_memory;
+    SettingsWriter m_settingsWriter;
+    CameraMemory m_memory{&m_settingsWriter};
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;
     QAction *m_copyAction = nullptr;

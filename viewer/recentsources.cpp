@@ -4,6 +4,8 @@
 #include "recentsources.h"
 
 #include "cameraaddress.h"
+#include "filelook.h"
+#include "settingswriter.h"
 
 #include <platform/core/livetexts.h>
 
@@ -32,10 +34,10 @@ bool isUsable(const QString &source)
     return isKnown && !source.endsWith(QLatin1Char(':')) && source.size() <= maximumLength;
 }
 
-QStringList storedSources()
+QStringList storedSources(const QSettings &settings = QSettings())
 {
     QStringList usable;
-    const QStringList stored = QSettings().value(settingsKey()).toStringList();
+    const QStringList stored = settings.value(settingsKey()).toStringList();
     for (const QString &source : stored) {
         if (usable.size() < maximumCount && isUsable(source) && !usable.contains(source)) {
             usable.append(source);
@@ -46,12 +48,14 @@ QStringList storedSources()
 
 } // namespace
 
-RecentSources::RecentSources(QMenu *menu)
+RecentSources::RecentSources(QMenu *menu, SettingsWriter *writer)
     : QObject(menu)
     , m_menu(menu)
+    , m_writer(writer)
 {
     menu->setToolTipsVisible(true);
     connect(menu, SIGNAL(aboutToShow()), this, SLOT(fillMenu()));
+    connect(menu, SIGNAL(aboutToShow()), this, SLOT(lookForFiles()));
     connect(menu, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
     (new Core::LiveTexts(menu))->add([this] { fillMenu(); });
 }
@@ -64,10 +68,10 @@ void RecentSources::add(const CameraAddress &address)
         ? cameraPrefix + address.camera
         : filePrefix + QFileInfo(address.description).absoluteFilePath();
     if (isUsable(source)) {
-        QStringList sources = storedSources();
-        sources.removeAll(source);
-        sources.prepend(source);
-        store(sources);
+        change([source](QStringList &sources) {
+            sources.removeAll(source);
+            sources.prepend(source);
+        });
     }
 }
 
@@ -77,11 +81,14 @@ QString RecentSources::lastCamera() const
     return cameras.value(0).mid(cameraPrefix.size());
 }
 
-void RecentSources::store(const QStringList &sources)
+void RecentSources::change(const std::function<void(QStringList &)> &how)
 {
-    QSettings().setValue(settingsKey(), sources.mid(0, maximumCount));
-    // Later: one of the menu's actions may be what brought this about.
-    QMetaObject::invokeMethod(this, "fillMenu", Qt::QueuedConnection);
+    m_writer->add([this, how](QSettings &settings) {
+        QStringList sources = storedSources(settings);
+        how(sources);
+        settings.setValue(settingsKey(), sources.mid(0, maximumCount));
+        QMetaObject::invokeMethod(this, "fillMenu", Qt::QueuedConnection);
+    });
 }
 
 void RecentSources::fillMenu()
@@ -96,7 +103,7 @@ void RecentSources::fillMenu()
     m_menu->menuAction()->setEnabled(!sources.isEmpty());
 }
 
-QAction *RecentSources::addEntry(const QString &source, int number)
+void RecentSources::addEntry(const QString &source, int number)
 {
     const bool isFile = source.startsWith(filePrefix);
     const QString name = source.mid(isFile ? filePrefix.size() : cameraPrefix.size());
@@ -105,18 +112,44 @@ QAction *RecentSources::addEntry(const QString &source, int number)
     shown.replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction *const action = m_menu->addAction(QStringLiteral("&%1 %2").arg(number % 10).arg(shown));
     action->setData(source);
-    const bool isThere = !isFile || QFileInfo(name).isFile();
-    action->setEnabled(isThere);
-    action->setToolTip(isThere ? name : tr("The file does not exist at present"));
-    action->setStatusTip(action->toolTip());
-    return action;
+    action->setToolTip(name);
+    action->setStatusTip(name);
+}
+
+void RecentSources::lookForFiles()
+{
+    if (m_look) {
+        return;
+    }
+    QStringList files;
+    const QStringList sources = storedSources();
+    for (const QString &source : sources) {
+        if (source.startsWith(filePrefix)) {
+            files.append(source.mid(filePrefix.size()));
+        }
+    }
+    m_look = new FileLook(files);
+    connect(m_look, SIGNAL(missing(QString)), this, SLOT(onMissing(QString)));
+    m_look->start();
+}
+
+void RecentSources::onMissing(const QString &file)
+{
+    const auto actions = m_menu->actions();
+    for (QAction *const action : actions) {
+        if (action->data().toString() == filePrefix + file) {
+            action->setEnabled(false);
+            action->setToolTip(tr("The file does not exist at present"));
+            action->setStatusTip(action->toolTip());
+        }
+    }
 }
 
 void RecentSources::onTriggered(QAction *action)
 {
     const QString source = action->data().toString();
     if (source.isEmpty()) {
-        store({});
+        change([](QStringList &sources) { sources.clear(); });
     } else if (source.startsWith(filePrefix)) {
         emit chosen(source.mid(filePrefix.size()), QString());
     } else {

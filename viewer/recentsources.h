@@ -4,11 +4,16 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QAction;
+class FileLook;
 class QMenu;
+class SettingsWriter;
 struct CameraAddress;
 
 /*! \brief The description files and live cameras that were opened last, as a menu and in the settings.
@@ -20,8 +25,8 @@ class RecentSources : public QObject
     Q_OBJECT
 
 public:
-    /*! Fills \a menu, its parent. */
-    explicit RecentSources(QMenu *menu);
+    /*! Fills \a menu, its parent; changes are stored by \a writer, which ends before this. */
+    RecentSources(QMenu *menu, SettingsWriter *writer);
     ~RecentSources() override;
 
     /*! Puts the file or camera at \a address at the front. */
@@ -35,11 +40,15 @@ signals:
 
 private slots:
     void fillMenu();
+    void lookForFiles();
+    void onMissing(const QString &file);
     void onTriggered(QAction *action);
 
 private:
-    QAction *addEntry(const QString &source, int number);
-    void store(const QStringList &sources);
+    void addEntry(const QString &source, int number);
+    void change(const std::function<void(QStringList &)> &how);
 
     QMenu *m_menu;
+    SettingsWriter *m_writer;
+    QPointer<FileLook> m_look; // one at a time, also when it hangs
 };

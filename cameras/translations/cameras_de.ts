@@ -218,6 +218,10 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 Ob die letzte Änderung von %2 angekommen ist, ist nicht bekannt.</translation>
     </message>
+    <message>
+        <source>the system has no thread left</source>
+        <translation>das System hat keinen Thread mehr frei</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +362,10 @@
     <message>
         <source>the camera&apos;s description cannot be read from %1</source>
         <translation>die Beschreibung der Kamera lässt sich von %1 nicht lesen</translation>
+    </message>
+    <message>
+        <source>the camera at %1 answers, but does not let itself be read</source>
+        <translation>die Kamera unter %1 antwortet, lässt sich aber nicht lesen</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include <support/nothreads.h>
 #include <support/playedcamera.h>
 #include <support/table.h>
 #include <viewer/cameradialog.h>
@@ -86,6 +87,7 @@ private slots:
     void cancelLeavesWhatWasOpen();
     void nextOneWaitsForItsTurn();
     void failureCanBeTriedAgain();
+    void goesOnWithoutThreads();
     void comesBackWithWhatWasTyped_data();
     void comesBackWithWhatWasTyped();
     void unansweredWriteIsNotKnown();
@@ -277,6 +279,21 @@ void TestOpening::failureCanBeTriedAgain()
     }
     QTRY_VERIFY_WITH_TIMEOUT(m_window->isCameraOpen(), 10000);
     QCOMPARE(bar(), QString());
+}
+
+// As for a user who may start no more processes.
+void TestOpening::goesOnWithoutThreads()
+{
+    m_window->showCamera({}, cameraAt({}));
+    const NoThreads noThreads;
+    m_window->openCamera({});
+    QTRY_COMPARE(bar(), "Cannot open the embedded camera: the system has no thread left");
+    CameraDialog dialog;
+    dialog.show();
+    QTRY_VERIFY(dialog.findChild<QLabel *>()->text().contains("the system has no thread left"));
+    QVERIFY(m_window->featureTree()->showFeature("@CameraDevice/Width"));
+    m_window->featureTree()->AddToFavourites_triggered();
+    QTRY_VERIFY(QSettings().value("Favorites/0").toString().contains("Width"));
 }
 
 void TestOpening::comesBackWithWhatWasTyped_data()

@@ -190,7 +190,7 @@ void TestViewerMemory::recentFiles()
     QCOMPARE(file(9), m_folder->filePath("camera2&.xml"));
     QVERIFY(QFile::remove(m_folder->filePath("camera11&.xml")));
     menu->popup({0, 0});
-    QVERIFY(!menu->actions().at(1)->isEnabled());
+    QTRY_VERIFY(!menu->actions().at(1)->isEnabled());
     const QString title = m_window->windowTitle();
     QTest::keyClick(menu, Qt::Key_3);
     QTRY_VERIFY(m_window->windowTitle() != title);
