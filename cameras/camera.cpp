@@ -18,6 +18,7 @@
 #include "session_p.h"
 #include "simulateddevice_p.h"
 #include "simulatedregisters_p.h"
+#include "stream.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
@@ -252,12 +253,16 @@ Camera::Camera(std::shared_ptr<Session> session)
         m_nodeMaps.append({m_session->mapName(map), m_session->mapTitle(map),
                            QSharedPointer<NodeCollection>::create(m_session, map), true});
     }
+    if (m_session->hasImages()) {
+        m_stream.reset(new Stream(m_session));
+    }
     m_session->setCameraListener(this);
 }
 
 Camera::~Camera()
 {
     m_session->setCameraListener(nullptr);
+    m_stream.reset();
     m_session->close();
 }
 
@@ -330,6 +335,11 @@ QList<NodeMap> Camera::nodeMaps() const
         nodeMaps[map].title = m_session->mapTitle(map); // the language may have changed
     }
     return nodeMaps;
+}
+
+Stream *Camera::stream() const
+{
+    return m_stream.get();
 }
 
 QByteArray Camera::registerImage() const
