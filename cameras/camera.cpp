@@ -17,6 +17,7 @@
 #include "session_p.h"
 #include "simulateddevice_p.h"
 #include "simulatedregisters_p.h"
+#include "stream.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/logging.h>
@@ -239,12 +240,16 @@ Camera::Camera(std::shared_ptr<Session> session)
         m_nodeMaps.append({m_session->mapName(map), m_session->mapTitle(map),
                            QSharedPointer<NodeCollection>::create(m_session, map), true});
     }
+    if (m_session->hasImages()) {
+        m_stream.reset(new Stream(m_session));
+    }
     m_session->setCameraListener(this);
 }
 
 Camera::~Camera()
 {
     m_session->setCameraListener(nullptr);
+    m_stream.reset();
     m_session->close();
 }
 
@@ -313,6 +318,11 @@ CameraInfoPtr Camera::info() const
 QList<NodeMap> Camera::nodeMaps() const
 {
     return m_nodeMaps;
+}
+
+Stream *Camera::stream() const
+{
+    return m_stream.get();
 }
 
 QByteArray Camera::registerImage() const

@@ -22,6 +22,7 @@ namespace Cameras {
 class CameraFactory;
 class CameraOpening;
 class Session;
+class Stream;
 
 /*! \brief One node map of an open camera, ready to be shown. */
 struct NodeMap
@@ -90,6 +91,9 @@ public:
     /*! Returns the node maps, in the order in which they are to be shown. */
     QList<NodeMap> nodeMaps() const;
 
+    /*! Returns the camera's images, which are the camera's own; null where it cannot deliver any. */
+    Stream *stream() const;
+
     /*! Returns the registers that the features of the first node map are read from, as a text for
      * openDescription(). Waits for the camera, and throws when it is lost. */
     QByteArray registerImage() const;
@@ -137,6 +141,7 @@ private:
 
     std::shared_ptr<Session> m_session;
     QList<NodeMap> m_nodeMaps;
+    std::unique_ptr<Stream> m_stream;
     bool m_wasControlAvailable = false;
 };
 

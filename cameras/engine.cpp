@@ -700,4 +700,49 @@ void Engine::finishCommand(int node)
     arv_gc_integer_set_value(ARV_GC_INTEGER(found), 0, failure);
 }
 
+// Null where there is none that can be evaluated without harm.
+ArvGcNode *Engine::evaluableNode(const QString &name) const
+{
+    const int node = m_description->indexOf(name);
+    return node < 0 || m_description->isBroken(node) ? nullptr : engineNode(node);
+}
+
+std::optional<qint64> Engine::integer(const QString &name)
+{
+    ArvGcNode *found = evaluableNode(name);
+    if (!ARV_IS_GC_INTEGER(found)) {
+        return std::nullopt;
+    }
+    Failure failure(this);
+    const qint64 value = arv_gc_integer_get_value(ARV_GC_INTEGER(found), failure);
+    return failure.take() ? std::nullopt : std::optional(value);
+}
+
+void Engine::setInteger(const QString &name, qint64 value)
+{
+    ArvGcNode *found = evaluableNode(name);
+    if (!ARV_IS_GC_INTEGER(found)) {
+        return;
+    }
+    Failure failure(this);
+    arv_gc_integer_set_value(ARV_GC_INTEGER(found), value, failure);
+    failure.throwIfAny(name);
+}
+
+void Engine::executeNamed(const QString &name)
+{
+    ArvGcNode *found = evaluableNode(name);
+    if (!ARV_IS_GC_COMMAND(found)) {
+        return;
+    }
+    const int node = m_description->indexOf(name);
+    if (m_nodes[size_t(node)]) {
+        execute(node);
+        return;
+    }
+    Failure failure(this);
+    arv_gc_command_execute(ARV_GC_COMMAND(found), failure);
+    failure.throwIfAny(name);
+}
+
 } // namespace Cameras

@@ -14,6 +14,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -67,6 +68,17 @@ public:
     /*! Writes the node. Throws a GenICam exception that names the feature, the value and what is allowed. */
     void write(int node, const NodeValue &value);
 
+    // What streams need: these features are often kept out of the tree.
+
+    /*! Returns the value of the integer \a name, nothing where there is none or it cannot be read. */
+    std::optional<qint64> integer(const QString &name);
+    /*! Sets the integer \a name, if there is one. Throws when the camera refuses. */
+    void setInteger(const QString &name, qint64 value);
+    /*! Executes the command \a name, if there is one. Throws when the camera refuses. */
+    void executeNamed(const QString &name);
+    /*! Returns the engine's device, which stays ours. */
+    ArvDevice *device() const { return m_device.get(); }
+
     /*! Returns the registers that reading the features touches, those that tell why a feature cannot be read
      * included. */
     RegisterImage::Contents registerContents();
@@ -80,6 +92,7 @@ private:
     class Failure;
 
     ArvGcNode *engineNode(int node) const;
+    ArvGcNode *evaluableNode(const QString &name) const;
     std::vector<int> touchedNodes();
     bool isEvaluable(int node);
     bool isLengthSane(int node);

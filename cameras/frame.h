@@ -26,6 +26,7 @@ struct Frame
     quint64 cameraTime = 0; //!< nanoseconds of the camera's own clock
     QDateTime arrival; //!< when its last byte was here
     QString missing; //!< what of an incomplete frame is missing, in words; empty when it is complete
+    QString remark; //!< what came with the image, in words, such as chunks; mostly empty
 
     /*! Returns whether all of the frame has come. */
     bool isComplete() const { return missing.isEmpty(); }

@@ -5,7 +5,11 @@
 
 #include "backgroundthreads_p.h"
 #include "engine_p.h"
+#include "framemailbox_p.h"
+#include "framesource_p.h"
 #include "livecamera_p.h"
+#include "livesource_p.h"
+#include "simulatedsource_p.h"
 
 #include <platform/core/exception.h>
 #include <platform/core/guard.h>
@@ -176,6 +180,7 @@ void Session::run(const Opener &opener)
         failure = QString::fromUtf8(exception.what()).simplified();
     }
     dropBatches();
+    endStream(m_run, {}); // its reason was told when the camera was lost
     // Engines end where they were used; that releases a live camera.
     for (const auto &map : m_maps) {
         map->engine.reset();
@@ -330,6 +335,7 @@ void Session::carryOutWrite(int map, int node, const NodeValue &value)
     Engine &engine = *m_maps[size_t(map)]->engine;
     try {
         engine.write(node, value);
+        noteWrite(map, node);
     } catch (const std::exception &exception) {
         if (engine.lossReason().isEmpty()) {
             readNow(map, node, true);
@@ -443,6 +449,7 @@ void Session::tryToTakeControl()
 // A live camera has one node map.
 void Session::useDevice(DevicePtr device)
 {
+    endStream(m_run, tr("No more images come, since another program controls the camera."));
     MapState &map = *m_maps.front();
     map.engine = std::make_unique<Engine>(std::move(device), map.source.description, nullptr);
 }
@@ -560,6 +567,127 @@ void Session::carryOut(int map, const std::function<void(Engine &)> &task)
     }
 }
 
+// Carried out in its turn, and nobody waits for it.
+void Session::post(const std::function<void()> &task)
+{
+    const int root = description(0)->published().constFirst();
+    const Lock lock(m_mutex);
+    if (!m_isLost) {
+        m_calls.push_back(
+            std::make_shared<Call>(Call{0, root, {}, false, nullptr, [task](Engine &) { task(); }}));
+        m_changed.notify_all();
+    }
+}
+
+bool Session::hasImages() const
+{
+    const std::shared_ptr<const Description> nodes = description(0);
+    return m_live
+        || (nodes->isFeature(std::max(nodes->indexOf(QStringLiteral("Width")), 0))
+            && nodes->isFeature(std::max(nodes->indexOf(QStringLiteral("Height")), 0)));
+}
+
+void Session::startStream(const std::shared_ptr<FrameMailbox> &mailbox, quint64 run)
+{
+    {
+        const Lock lock(m_mutex);
+        if (m_isLost) {
+            mailbox->tellStop(run, m_lossReason);
+            return;
+        }
+        if (!m_mailbox) {
+            m_mailbox = mailbox;
+        }
+    }
+    post([this, run] { beginStream(run); });
+}
+
+void Session::stopStream(quint64 run)
+{
+    post([this, run] { endStream(run, {}); });
+}
+
+void Session::beginStream(quint64 run)
+{
+    endStream(m_run, {}); // the one before, if it has not ended
+    m_run = run;
+    if (!m_mailbox->isOpen(run)) {
+        return; // it was ended before its turn came
+    }
+    const CameraAccess camera = access();
+    try {
+        if (camera.isReadOnly) {
+            throw GenICam::AccessException(readOnlyWords());
+        }
+        m_source = newSource(run);
+        m_source->start();
+    } catch (const std::exception &exception) {
+        noteLoss(0);
+        endStream(run, tr("No images can be had: %1").arg(QString::fromUtf8(exception.what())));
+        return;
+    }
+    m_mailbox->tellStart(run);
+    readFormat();
+}
+
+std::unique_ptr<FrameSource> Session::newSource(quint64 run)
+{
+    const MapState &map = *m_maps.front();
+    FrameSink sink{m_mailbox, run, [weak = weak_from_this(), run](const QString &reason) {
+                       if (const auto self = weak.lock()) {
+                           self->post(
+                               [session = self.get(), run, reason] { session->endStream(run, reason); });
+                       }
+                   }};
+    if (m_live) {
+        return std::make_unique<LiveSource>(*map.engine, map.source.description, std::move(sink));
+    }
+    return std::make_unique<SimulatedSource>(*map.engine, map.source.description, map.source.registers,
+                                             std::move(sink));
+}
+
+void Session::endStream(quint64 run, const QString &reason)
+{
+    if (m_source && run == m_run) {
+        // Each access to a camera that is silent would wait for an answer.
+        if (!isLost() || m_isStopping || (m_live && m_live->isAnswering())) {
+            Core::guardedRun({logCategory(), "Session::endStream"}, QStringLiteral("Failed to end a stream"),
+                             [this] { m_source->stop(); });
+        }
+        m_source.reset();
+        readFormat();
+    }
+    if (m_mailbox) {
+        m_mailbox->tellStop(run, reason);
+    }
+}
+
+// Streaming locks the features of the format, and may settle the size of packets.
+void Session::readFormat()
+{
+    const std::shared_ptr<const Description> nodes = description(0);
+    const Lock lock(m_mutex);
+    for (const char *const name : {"TLParamsLocked", "PayloadSize", "GevSCPSPacketSize"}) {
+        const int node = nodes->indexOf(QLatin1String(name));
+        if (node < 0) {
+            continue;
+        }
+        if (nodes->isFeature(node)) {
+            enqueue(0, node, false);
+        }
+        for (const int dependent : nodes->dependents(node)) {
+            enqueue(0, dependent, false);
+        }
+    }
+}
+
+void Session::noteWrite(int map, int node)
+{
+    if (m_source && map == 0) {
+        m_source->noteWrite(node);
+    }
+}
+
 QString Session::readOnlyWords() const
 {
     return m_access.isFree ? tr("the camera is open read-only") : LiveCamera::heldWords(m_access.controller);
@@ -611,6 +739,7 @@ BatchOutcome Session::carryOut(Batch &batch, const BatchOperation &operation)
                 batch.before.insert(node, shown->valueString);
             }
             engine.write(node, operation.value);
+            noteWrite(batch.map, node);
         } catch (const std::exception &exception) {
             outcome.failure = QString::fromUtf8(exception.what());
         }
@@ -839,6 +968,9 @@ void Session::loseLocked(const QString &reason)
     }
     m_calls.clear();
     m_changed.notify_all();
+    if (m_mailbox) {
+        m_mailbox->fail(withDoubts(reason));
+    }
     tellCamera("reportLoss", withDoubts(reason));
     if (m_live && m_live->isWatchable() && !m_isStopping) {
         runInBackground([self = shared_from_this()] { self->awaitReturn(); });

@@ -35,6 +35,8 @@
 
 namespace Cameras {
 
+class FrameMailbox;
+class FrameSource;
 class LiveCamera;
 
 /*! \brief What is needed to set up one node map of a camera that is being opened. */
@@ -129,6 +131,12 @@ public:
     /*! Lets the worker carry out \a task and waits for its end. Throws what the task throws, or when the
      * camera is lost. */
     void carryOut(int map, const std::function<void(Engine &)> &task);
+    /*! Returns whether the camera is one that delivers images. */
+    bool hasImages() const;
+    /*! Has the worker start to deliver images to \a mailbox, as its run number \a run. */
+    void startStream(const std::shared_ptr<FrameMailbox> &mailbox, quint64 run);
+    /*! Has the worker end that run. */
+    void stopStream(quint64 run);
     void requestRead(int map, int node, bool force);
     void refresh(int map);
     void poll(int map, int elapsedMilliseconds);
@@ -224,6 +232,12 @@ private:
     static void dropAsLost(Batch &batch);
     QString readOnlyWords() const;
     void carryOutWrite(int map, int node, const NodeValue &value);
+    void post(const std::function<void()> &task);
+    void beginStream(quint64 run);
+    std::unique_ptr<FrameSource> newSource(quint64 run);
+    void endStream(quint64 run, const QString &reason);
+    void readFormat();
+    void noteWrite(int map, int node);
     void readWritten(int map, int node);
     void readNow(int map, int node, bool force);
     [[noreturn]] void giveUp(Lock &lock, const std::shared_ptr<Call> &call, const QString &name);
@@ -266,6 +280,9 @@ private:
     bool m_isControlWanted = false;
     QString m_lossReason;
     QStringList m_doubtful; //!< features with a write that was sent, and not answered yet
+    std::shared_ptr<FrameMailbox> m_mailbox; //!< null before the first stream was started
+    std::unique_ptr<FrameSource> m_source; //!< the worker's; of the run m_run
+    quint64 m_run = 0;
     bool m_isLost = false;
     std::atomic_bool m_isStopping = false;
     bool m_isFinished = false;

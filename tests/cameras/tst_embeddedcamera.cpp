@@ -357,7 +357,7 @@ void TestEmbeddedCamera::refusesText_data()
     row("ExposureTime", "nan", "a number");
     row("ExposureTime", "5", "10 to 10000000");
     row("ReverseX", "yes", "true, false");
-    row("PixelFormat", "RGB8", "Mono8, Mono12, Mono12Packed");
+    row("PixelFormat", "RGB10p32", "Mono8, Mono10, Mono12");
     row("DeviceUserID", "a name that is much longer than the register", "32 bytes");
     row("AcquisitionStart", "go", "no text");
 }
@@ -447,10 +447,10 @@ void TestEmbeddedCamera::writeReadsExactlyWhatDependsOnIt()
     QVERIFY(touchAll() > 15);
     m_camera->nodeMaps().first().collection->refresh();
     settle();
-    QCOMPARE(readsAfter("Width", "640"), "LargeCounter OffsetX Width");
+    QCOMPARE(readsAfter("Width", "640"), "LargeCounter OffsetX PayloadSize ResultingFrameRate Width");
     const auto data = parameter("OffsetX")->parameterData();
     QCOMPARE(static_cast<const IntegerParameterData &>(*data).maximum, 5320 - 640);
-    QCOMPARE(readsAfter("BinningHorizontal", "2"), "BinningHorizontal LargeCounter OffsetX Width WidthMax");
+    QCOMPARE(readsAfter("BinningHorizontal", "2"), "BinningHorizontal LargeCounter OffsetX PayloadSize ResultingFrameRate Width WidthMax");
 }
 
 void TestEmbeddedCamera::selectorChangesWhatItSelects()
