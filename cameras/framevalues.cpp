@@ -138,6 +138,12 @@ FrameValues::Samples FrameValues::all(const Frame &frame)
     return samples;
 }
 
+int FrameValues::channels(PixelFormat format)
+{
+    const auto layout = layoutOf(format);
+    return layout && !layout->isYuv() ? layout->channels : 0;
+}
+
 quint32 FrameValues::maximum(PixelFormat format)
 {
     const auto layout = layoutOf(format);

@@ -54,6 +54,8 @@ public:
     /*! Returns all values, zero where nothing has come; none for YUV, unknown formats, and frames that claim
      * to be larger than memory is spent on. */
     static Samples all(const Frame &frame);
+    /*! Returns how many values a pixel of \a format has in what all() returns, 0 when that is nothing. */
+    static int channels(PixelFormat format);
     /*! Returns the largest value that \a format has, 0 where we do not know it. */
     static quint32 maximum(PixelFormat format);
 };

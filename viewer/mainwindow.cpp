@@ -20,6 +20,9 @@
 
 #include <cameras/cameraopening.h>
 #include <platform/core/exception.h>
+#include <viewer/image/imagepane.h>
+#include <viewer/image/regionofinterest.h>
+#include <viewer/image/streamcontrol.h>
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/services/cameracontrolservice.h>
 #include <viewer/services/camerastatusservice.h>
@@ -38,6 +41,7 @@
 #include <zeltoviewercomponents/plugin/names.h>
 #include <zeltoviewercomponents/settings/changehistory.h>
 #include <zeltoviewercomponents/settings/changehistorywidget.h>
+#include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
 #include <zeltoviewercomponents/settings/settingsprogress.h>
 #include <zeltoviewercomponents/settings/settingstask.h>
@@ -96,6 +100,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_tree(new FeatureTreeWidget(QStringLiteral("featureTree"), {}, this))
     , m_treeMenu(new TreeMenu(m_tree, this))
     , m_history(new HistoryActions(m_tree, this))
+    , m_image(new ImagePane(this))
     , m_comparison(new Comparison(this))
     , m_description(new DescriptionPane(this))
     , m_descriptionTimer(new QTimer(this))
@@ -183,6 +188,7 @@ void MainWindow::connectTree()
     m_tree->installEventFilter(this); // for its width
     connectModel();
     connectSettings();
+    connectImage();
 }
 
 void MainWindow::connectSettings()
@@ -202,6 +208,28 @@ void MainWindow::connectSettings()
             m_history, SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
     connect(m_comparison, SIGNAL(compared()), this, SLOT(showDifferences()));
     connect(m_comparison, SIGNAL(failed(QString, QString)), this, SLOT(showFailure(QString, QString)));
+}
+
+// What writes the region has the tree rest, as other tasks do, and is undone as they are.
+void MainWindow::connectImage()
+{
+    connect(m_image, SIGNAL(hint(QString, int)), statusBar(), SLOT(showMessage(QString, int)));
+    connect(m_image, SIGNAL(failed(QString, QString)), this, SLOT(showFailure(QString, QString)));
+    connect(m_image, SIGNAL(wanted()), this, SLOT(showImage()));
+    RegionOfInterest *const region = m_image->region();
+    connect(m_tree, SIGNAL(restingChanged(bool)), region, SLOT(setBusy(bool)));
+    connect(region, SIGNAL(aboutToWrite()), this, SLOT(onTaskStarted()));
+    connect(region, SIGNAL(applied(QString, FeatureSettings, FeatureSettings, SettingsReport)), m_history,
+            SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
+    connect(region, SIGNAL(written()), this, SLOT(onTaskFinished()));
+}
+
+void MainWindow::showImage()
+{
+    if (auto *const dock = qobject_cast<QDockWidget *>(m_image->parentWidget())) {
+        dock->show();
+        dock->raise();
+    }
 }
 
 // The name of the file stands in the title as that of a document would, with the platform's mark beside it.
@@ -237,6 +265,10 @@ void MainWindow::onTaskCreated(SettingsTask *task)
     auto *const progress = new SettingsProgress(task, tr("Camera Settings"), this);
     connect(task, SIGNAL(destroyed()), progress, SLOT(deleteLater()));
     connect(task, SIGNAL(started()), this, SLOT(onTaskStarted()));
+    if (qobject_cast<SettingsApplier *>(task)) { // images lock what it may have to write
+        connect(task, SIGNAL(started()), m_image->stream(), SLOT(pause()));
+        connect(task, SIGNAL(finished()), m_image->stream(), SLOT(resume()));
+    }
     connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
 }
 
@@ -312,6 +344,7 @@ void MainWindow::createPanels()
     // Below, since they are wide; one behind the other, since that takes rows from the tree.
     QDockWidget *const changes = addPanel(m_history->panel(), Qt::BottomDockWidgetArea);
     tabifyDockWidget(changes, addPanel(m_comparison->panel(), Qt::BottomDockWidgetArea));
+    addPanel(m_image, Qt::RightDockWidgetArea);
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
         addPanel(panel, Qt::RightDockWidgetArea);
@@ -394,6 +427,8 @@ void MainWindow::createCameraMenu()
     camera->setToolTipsVisible(true);
     camera->addActions(m_settings->actions());
     m_comparison->addTo(camera);
+    camera->addSeparator();
+    camera->addActions(m_image->menuActions());
     camera->addSeparator();
     m_controlAction = camera->addAction(tr("&Take Control"), this, SLOT(takeControl()));
     m_ipAction = camera->addAction(tr("&IP Configuration…"), this, SLOT(configureIp()));
@@ -528,6 +563,7 @@ bool MainWindow::isOpening() const
 void MainWindow::showCamera(const CameraAddress &address, std::unique_ptr<Cameras::Camera> camera)
 {
     const std::optional<FeatureTreeLook> look = std::exchange(m_targetLook, std::nullopt);
+    const bool wasStreaming = m_image->stream()->wasInterrupted() && address == m_source;
     closeCamera();
     m_source = address;
     useCamera(std::move(camera));
@@ -539,7 +575,19 @@ void MainWindow::showCamera(const CameraAddress &address, std::unique_ptr<Camera
     if (m_remembers) {
         m_recent->add(address);
     }
+    if (wasStreaming) {
+        offerImages();
+    }
     emit cameraOpened(m_camera->info());
+}
+
+// The camera is back, but its images are not.
+void MainWindow::offerImages()
+{
+    if (m_image->stream()->isPossible()) {
+        m_messages->showAction(tr("The camera was sending images when it was lost."), tr("Start Images"));
+        m_offersImages = true;
+    }
 }
 
 void MainWindow::recallCamera()
@@ -578,6 +626,7 @@ void MainWindow::useCamera(std::unique_ptr<Cameras::Camera> camera)
     }
     const auto info = m_camera->info();
     m_settings->setCamera(m_camera.get());
+    m_image->setCamera(m_camera.get(), m_settings->nodeMaps());
     m_tree->setCameraType(info->deviceClass());
     m_tree->setEnabled(true);
     m_pages->setCurrentWidget(m_tree);
@@ -602,11 +651,13 @@ void MainWindow::closeCamera()
     m_tree->setResting(false); // what was under way has ended with them
     m_tree->setPolling(false);
     m_settings->setCamera(nullptr);
+    m_image->setCamera(nullptr);
     m_description->showParameter(nullptr);
     m_tree->clear();
     m_pages->setCurrentWidget(m_emptyPage);
     m_camera.reset();
     m_failedWrites.clear();
+    m_offersImages = false;
     m_messages->dismiss();
     m_cameraName->setText(tr("No camera"));
     updateTitle();
@@ -654,6 +705,7 @@ void MainWindow::onCameraLost(const QString &reason)
     m_tree->deviceIsClosed();
     m_tree->setEnabled(false);
     m_history->updateActions();
+    m_offersImages = false;
     m_messages->showAction(reason, tr("Reconnect"));
     updateActions();
 }
@@ -663,10 +715,15 @@ void MainWindow::onCameraReturned(const QString &news)
     m_messages->showAction(news, tr("Reconnect"));
 }
 
-// The bar asks one thing at a time: to reconnect to a camera that is not open, else for its control.
+// The bar asks one thing at a time: to reconnect to a camera that is not open, else for its images or its
+// control.
 void MainWindow::onMessageAction()
 {
-    if (isCameraOpen()) {
+    if (isCameraOpen() && std::exchange(m_offersImages, false)) {
+        m_messages->dismiss();
+        m_image->stream()->start();
+        showImage();
+    } else if (isCameraOpen()) {
         takeControl();
     } else {
         reconnect();
@@ -808,6 +865,7 @@ void MainWindow::updateActions()
                                                : tr("Only of a camera that is open read-only and free"));
     m_controlAction->setStatusTip(m_controlAction->toolTip());
     m_settings->updateActions();
+    m_image->updateActions();
     updateLevelButton();
     const QString obstacle = ipObstacle();
     m_ipAction->setEnabled(obstacle.isEmpty());
@@ -971,6 +1029,7 @@ void MainWindow::restoreState()
     if (!m_splitter->restoreState(settings.value(QStringLiteral("Splitter")).toByteArray())) {
         m_splitter->setSizes({640, 360});
     }
+    m_image->restoreState(settings);
     QMainWindow::restoreState(settings.value(QStringLiteral("Panels")).toByteArray(), stateVersion);
     if (!m_tree->restoreState(settings.value(QStringLiteral("Tree")).toByteArray(), stateVersion)) {
         m_tree->treeView()->header()->resizeSection(0, 320);
@@ -988,6 +1047,7 @@ void MainWindow::saveState() const
     settings.beginGroup(windowGroup());
     settings.setValue(QStringLiteral("Geometry"), saveGeometry());
     settings.setValue(QStringLiteral("Splitter"), m_splitter->saveState());
+    m_image->saveState(settings);
     settings.setValue(QStringLiteral("Panels"), QMainWindow::saveState(stateVersion));
     m_tree->treeView()->header()->resizeSection(0, m_nameWidth); // what the user chose, for wider windows
     settings.setValue(QStringLiteral("Tree"), m_tree->saveState(stateVersion));
