@@ -7,6 +7,8 @@
 #include "settingsorigin.h"
 
 #include <platform/core/exception.h>
+#include <viewer/image/framefile.h>
+#include <viewer/image/framegrabber.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingscomparison.h>
 #include <zeltoviewercomponents/settings/settingsreader.h>
@@ -14,6 +16,7 @@
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
@@ -23,6 +26,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <limits>
 #include <utility>
 
 #include <unistd.h>
@@ -33,6 +37,7 @@ namespace {
 
 constexpr int longestCommand = 10000; // milliseconds
 constexpr int commandInterval = 50;
+constexpr int longestImage = 10000; // until it has come
 
 QString nameOf(const Operation &operation)
 {
@@ -72,6 +77,24 @@ QString onOneLine(QString text)
         text.replace(letter, code);
     }
     return text;
+}
+
+// The names of \a count files that are like \a fileName.
+QStringList numberedFiles(const QString &fileName, int count)
+{
+    if (count == 1) {
+        return {fileName};
+    }
+    const QString suffix = QFileInfo(fileName).suffix();
+    const QString end = suffix.isEmpty() ? QString() : QLatin1Char('.') + suffix;
+    QStringList names;
+    for (int i = 1; i <= count; ++i) {
+        names.append(QStringLiteral("%1-%2%3")
+                         .arg(fileName.chopped(end.size()))
+                         .arg(i, 4, 10, QLatin1Char('0'))
+                         .arg(end));
+    }
+    return names;
 }
 
 QString csvCell(const QString &text)
@@ -207,6 +230,10 @@ int CommandLine::carryOut(const Operation &operation)
         return compareWith(operation.argument);
     case Operation::Kind::Watch:
         return watch();
+    case Operation::Kind::Grab:
+        return grab(operation.argument);
+    case Operation::Kind::StreamStatistics:
+        return printStreamStatistics(operation.argument);
     }
     return Failed;
 }
@@ -406,6 +433,58 @@ int CommandLine::watch()
         }
     }
     return Done;
+}
+
+int CommandLine::grab(const QString &fileName)
+{
+    const QStringList names = numberedFiles(fileName, m_options.grabCount);
+    for (const QString &name : names) {
+        if (QFileInfo::exists(name)) {
+            return fail(tr("%1 is there already, and nothing is overwritten").arg(name), Failed);
+        }
+    }
+    if (!m_camera.stream()) {
+        return fail(tr("this camera delivers no images"), Refused);
+    }
+    FrameGrabber grabber(m_camera.stream());
+    QObject::connect(&m_interruption, SIGNAL(requested()), &grabber, SLOT(interrupt()));
+    for (const QString &name : names) {
+        const Cameras::FramePointer frame = grabber.next(longestImage);
+        if (!frame) {
+            return fail(grabber.failure().isEmpty() ? tr("no image came") : grabber.failure(), Refused);
+        }
+        const QString failure = FrameFile::save(*frame, name);
+        if (!failure.isEmpty()) {
+            return fail(failure, Failed);
+        }
+    }
+    return Done;
+}
+
+int CommandLine::printStreamStatistics(const QString &seconds)
+{
+    if (!m_camera.stream()) {
+        return fail(tr("this camera delivers no images"), Refused);
+    }
+    FrameGrabber grabber(m_camera.stream());
+    QObject::connect(&m_interruption, SIGNAL(requested()), &grabber, SLOT(interrupt()));
+    constexpr qint64 longest = std::numeric_limits<int>::max();
+    const Cameras::StreamStatistics statistics =
+        grabber.watch(int(std::min<qint64>(seconds.toInt() * qint64(1000), longest)));
+    const QString table = QStringLiteral("complete\t%1\nincomplete\t%2\ndropped\t%3\n"
+                                         "framesPerSecond\t%4\nbytesPerSecond\t%5\n")
+                              .arg(statistics.complete)
+                              .arg(statistics.incomplete)
+                              .arg(statistics.dropped)
+                              .arg(statistics.framesPerSecond, 0, 'f', 2)
+                              .arg(statistics.bytesPerSecond, 0, 'f', 0);
+    if (!print(table)) {
+        return Failed;
+    }
+    if (!grabber.failure().isEmpty()) {
+        return fail(grabber.failure(), Refused);
+    }
+    return statistics.complete + statistics.incomplete > 0 ? Done : fail(tr("no image came"), Refused);
 }
 
 bool CommandLine::print(const QString &text)

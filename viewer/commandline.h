@@ -54,6 +54,8 @@ private:
     int load(const QString &fileName);
     int compareWith(const QString &fileName);
     int watch();
+    int grab(const QString &fileName);
+    int printStreamStatistics(const QString &seconds);
     FeatureSettings settingsIn(const QString &fileName) const;
     bool readSettings(FeatureSettings *settings);
     void wait(SettingsTask &task);

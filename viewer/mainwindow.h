@@ -33,6 +33,7 @@ class Comparison;
 class DescriptionPane;
 class FeatureTreeWidget;
 class HistoryActions;
+class ImagePane;
 class MessageBar;
 class OpeningPage;
 class QAction;
@@ -143,12 +144,15 @@ private slots:
     void onTaskStarted();
     void onTaskFinished();
     void showFailure(const QString &message, const QString &details);
+    void showImage();
 
 private:
     void layOut();
     void connectTree();
     void connectModel();
     void connectSettings();
+    void connectImage();
+    void offerImages();
     void connectSaving();
     void createServices();
     void createPanels();
@@ -194,9 +198,11 @@ private:
     std::optional<FeatureTreeLook> m_lookAtLoss; // with what was being typed
     int m_nameWidth = 0; // of the first column, as far as there is room for it
     bool m_isFittingColumns = false;
+    bool m_offersImages = false; // what the message's button does
     FeatureTreeWidget *m_tree;
     TreeMenu *m_treeMenu;
     HistoryActions *m_history;
+    ImagePane *m_image;
     Comparison *m_comparison;
     DescriptionPane *m_description;
     QTimer *m_descriptionTimer; // describes the current row when the rows have settled

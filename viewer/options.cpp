@@ -36,6 +36,8 @@ const QList<std::pair<QString, Operation::Kind>> &operationNames()
         {QStringLiteral("load"), Operation::Kind::Load},
         {QStringLiteral("compare"), Operation::Kind::Compare},
         {QStringLiteral("watch"), Operation::Kind::Watch},
+        {QStringLiteral("grab"), Operation::Kind::Grab},
+        {QStringLiteral("stream-statistics"), Operation::Kind::StreamStatistics},
     };
     return names;
 }
@@ -73,11 +75,12 @@ QString mistakeInOutput(const QCommandLineParser &parser, const QList<Operation>
         return QStringLiteral("Unknown output '%1', expected text or json.").arg(form);
     }
     const bool hasTable = std::any_of(operations.cbegin(), operations.cend(), [](const Operation &operation) {
-        return operation.kind == Operation::Kind::Watch
+        return operation.kind == Operation::Kind::Watch || operation.kind == Operation::Kind::StreamStatistics
             || (operation.kind == Operation::Kind::Save && operation.argument == QLatin1String("-"));
     });
     if (hasTable && form == QLatin1String("json")) {
-        return QStringLiteral("--output json and what --watch or --save - print exclude each other.");
+        return QStringLiteral(
+            "--output json and what --watch, --stream-statistics or --save - print exclude each other.");
     }
     const bool hasForm = parser.isSet(QStringLiteral("dump")) || parser.isSet(QStringLiteral("get"))
         || parser.isSet(QStringLiteral("compare"));
@@ -96,6 +99,10 @@ QString mistakeInOperations(const QCommandLineParser &parser)
         if (operation.kind == Operation::Kind::Set && operation.argument.indexOf(QLatin1Char('=')) < 1) {
             return QStringLiteral("--set expects NAME=VALUE, not '%1'.").arg(operation.argument);
         }
+        if (operation.kind == Operation::Kind::StreamStatistics && !isPositive(operation.argument)) {
+            return QStringLiteral("--stream-statistics expects a positive number, not '%1'.")
+                .arg(operation.argument);
+        }
         const bool reads =
             operation.kind == Operation::Kind::Load || operation.kind == Operation::Kind::Compare;
         inputs += reads && operation.argument == QLatin1String("-") ? 1 : 0;
@@ -110,7 +117,7 @@ QString mistakeInOperations(const QCommandLineParser &parser)
                 .arg(QString::fromLatin1(other));
         }
     }
-    for (const char *const number : {"interval", "count"}) {
+    for (const char *const number : {"interval", "count", "grab-count"}) {
         const QString name = QString::fromLatin1(number);
         if (parser.isSet(name) && !isPositive(parser.value(name))) {
             return QStringLiteral("--%1 expects a positive number, not '%2'.").arg(name, parser.value(name));
@@ -118,7 +125,7 @@ QString mistakeInOperations(const QCommandLineParser &parser)
     }
     // Options that would have no effect.
     static constexpr std::array needs{std::pair{"interval", "watch"}, std::pair{"count", "watch"},
-                                      std::pair{"force", "load"}};
+                                      std::pair{"force", "load"}, std::pair{"grab-count", "grab"}};
     for (const auto &[option, needed] : needs) {
         if (parser.isSet(QString::fromLatin1(option)) && !parser.isSet(QString::fromLatin1(needed))) {
             return QStringLiteral("--%1 needs --%2.")
@@ -233,6 +240,9 @@ Options optionsFrom(const QCommandLineParser &parser)
     if (parser.isSet(QStringLiteral("interval"))) {
         options.interval = parser.value(QStringLiteral("interval")).toInt();
     }
+    if (parser.isSet(QStringLiteral("grab-count"))) {
+        options.grabCount = parser.value(QStringLiteral("grab-count")).toInt();
+    }
     options.count = parser.value(QStringLiteral("count")).toInt();
     options.visibility = visibilityFrom(parser.value(QStringLiteral("visibility")));
     if (!options.visibility && (options.dump || options.favorites)) {
@@ -249,7 +259,8 @@ QString applicationDescription()
 {
     return QStringLiteral("Shows a camera's features in a tree. Without a description and "
                           "--camera an embedded simulated camera is opened. --get, --set, --execute, --save, "
-                          "--load, --compare and --watch are carried out on it in the order given, without a "
+                          "--load, --compare, --watch, --grab and --stream-statistics are carried out on it "
+                          "in the order given, without a "
                           "window. Exit codes: 0 done, 1 refused or different, 2 wrong usage or not opened.");
 }
 
@@ -284,6 +295,12 @@ QList<QCommandLineOption> commandLineOptions()
     add("watch", "Print the value of a feature again and again, as CSV; may be repeated.", "name");
     add("interval", "Milliseconds between two rows of --watch, 1000 by default.", "ms");
     add("count", "Number of rows of --watch; without it, until interrupted.", "n");
+    add("grab",
+        "Save one complete image: as shown (.png), raw values (.tif, .pgm, .ppm), or bytes; may be repeated.",
+        "file");
+    add("grab-count", "Number of images of each --grab, in numbered files; 1 by default.", "n");
+    add("stream-statistics", "Take images for some time and print how many came; may be repeated.",
+        "seconds");
     add("output", "Form of --dump, --get and --compare: text or json.", "form");
     add("editors", "Show the gallery of value editors.");
     add("screenshot", "Render the window to a PNG file, without a display, and exit.", "file");

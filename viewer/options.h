@@ -15,10 +15,10 @@
 /*! \brief One thing that is done with an open camera without a window. */
 struct Operation
 {
-    enum class Kind { Get, Set, Execute, Save, Load, Compare, Watch };
+    enum class Kind { Get, Set, Execute, Save, Load, Compare, Watch, Grab, StreamStatistics };
 
     Kind kind = Kind::Get;
-    QString argument; //!< name of a feature, NAME=VALUE or a file
+    QString argument; //!< name of a feature, NAME=VALUE, a file or a number of seconds
 };
 
 /*! \brief What the command line asks for. */
@@ -39,6 +39,7 @@ struct Options
     QList<Operation> operations; //!< in the order in which they are carried out
     int interval = 1000; //!< in milliseconds, between the rows of a watch
     int count = 0; //!< of the rows of a watch; 0 for no end
+    int grabCount = 1; //!< of the images of each grab
     bool json = false;
     bool force = false; //!< loads settings of another model
     std::optional<GenApi::EVisibility> visibility; //!< absent: as the window remembers it

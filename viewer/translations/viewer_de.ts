@@ -169,6 +169,22 @@
         <source>Description of the current feature</source>
         <translation>Beschreibung des aktuellen Merkmals</translation>
     </message>
+    <message>
+        <source>Beginner</source>
+        <translation>Einsteiger</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>Experte</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>Guru</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>Unsichtbar</translation>
+    </message>
 </context>
 <context>
     <name>IpConfiguration</name>
@@ -486,6 +502,30 @@ Close without saving them?</source>
         <translation>Werte der Kamera weichen von der Einstellungsdatei %1 ab.
 Schließen, ohne sie zu speichern?</translation>
     </message>
+    <message>
+        <source>&amp;Beginner</source>
+        <translation>&amp;Einsteiger</translation>
+    </message>
+    <message>
+        <source>&amp;Expert</source>
+        <translation>E&amp;xperte</translation>
+    </message>
+    <message>
+        <source>&amp;Guru</source>
+        <translation>&amp;Guru</translation>
+    </message>
+    <message>
+        <source>&amp;All Features</source>
+        <translation>&amp;Alle Merkmale</translation>
+    </message>
+    <message>
+        <source>The camera was sending images when it was lost.</source>
+        <translation>Die Kamera sandte Bilder, als sie verloren ging.</translation>
+    </message>
+    <message>
+        <source>Start Images</source>
+        <translation>Bilder starten</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -774,6 +814,18 @@ Trotzdem laden?</translation>
         <source>Cannot write to the standard output.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten</source>
+        <translation>%1 gibt es schon, und nichts wird überschrieben</translation>
+    </message>
+    <message>
+        <source>this camera delivers no images</source>
+        <translation>diese Kamera liefert keine Bilder</translation>
+    </message>
+    <message>
+        <source>no image came</source>
+        <translation>es kam kein Bild</translation>
+    </message>
 </context>
 <context>
     <name>Comparison</name>
@@ -999,6 +1051,396 @@ Trotzdem laden?</translation>
     <message>
         <source>As the &amp;System</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FrameFile</name>
+    <message>
+        <source>The pixel format %1 cannot be saved in this kind of file. Its bytes can, as a file whose name ends in .raw.</source>
+        <translation>Das Pixelformat %1 kann in dieser Art von Datei nicht gespeichert werden. Seine Bytes können es, als Datei, deren Name auf .raw endet.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the image that could be saved.</source>
+        <translation>In dem Bild ist nichts, was sich speichern ließe.</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten.</source>
+        <translation>%1 gibt es schon, und nichts wird überschrieben.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameRecorder</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>In %1 kann kein Ordner angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Black: %1 (%2 %)   Saturated: %3 (%4 %)</source>
+        <translation>Schwarz: %1 (%2 %)   Gesättigt: %3 (%4 %)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePane</name>
+    <message>
+        <source>%1mean %2, deviation %3</source>
+        <translation>%1Mittel %2, Abweichung %3</translation>
+    </message>
+    <message>
+        <source>sharpness %1</source>
+        <translation>Schärfe %1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>St&amp;art Images</source>
+        <translation>Bilder st&amp;arten</translation>
+    </message>
+    <message>
+        <source>St&amp;op Images</source>
+        <translation>Bilder anh&amp;alten</translation>
+    </message>
+    <message>
+        <source>Shows what the camera sees</source>
+        <translation>Zeigt, was die Kamera sieht</translation>
+    </message>
+    <message>
+        <source>Si&amp;ngle Image</source>
+        <translation>Ein&amp;zelnes Bild</translation>
+    </message>
+    <message>
+        <source>Takes one image</source>
+        <translation>Nimmt ein Bild auf</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Shows all of the image</source>
+        <translation>Zeigt das ganze Bild</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Shows each pixel as one of the screen</source>
+        <translation>Zeigt jedes Pixel als eines des Bildschirms</translation>
+    </message>
+    <message>
+        <source>Crosshair</source>
+        <translation>Fadenkreuz</translation>
+    </message>
+    <message>
+        <source>Marks the middle of the image</source>
+        <translation>Zeigt die Mitte des Bildes</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Divides the image into thirds</source>
+        <translation>Teilt das Bild in Drittel</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Dragging moves the image</source>
+        <translation>Ziehen verschiebt das Bild</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Dragging draws a rectangle, of which mean, deviation and sharpness are shown</source>
+        <translation>Ziehen zeichnet ein Rechteck, dessen Mittel, Abweichung und Schärfe gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Dragging draws a line, along which the values are shown</source>
+        <translation>Ziehen zeichnet eine Linie, entlang derer die Werte gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Shows the histogram, gamma and contrast</source>
+        <translation>Zeigt Histogramm, Gamma und Kontrast</translation>
+    </message>
+    <message>
+        <source>Mark Extremes</source>
+        <translation>Extreme kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Marks saturated pixels red and black ones blue</source>
+        <translation>Zeigt gesättigte Pixel rot und schwarze blau</translation>
+    </message>
+    <message>
+        <source>&amp;Full Frame</source>
+        <translation>Volles Bil&amp;d</translation>
+    </message>
+    <message>
+        <source>Makes all of the sensor the region of interest; dragging in the image with Ctrl makes it what is drawn</source>
+        <translation>Macht den ganzen Sensor zum Bildausschnitt; Ziehen im Bild mit Strg macht das Gezeichnete dazu</translation>
+    </message>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>&amp;Logarithmisch</translation>
+    </message>
+    <message>
+        <source>Shows rare values as well</source>
+        <translation>Zeigt auch seltene Werte</translation>
+    </message>
+    <message>
+        <source>Statistics of the rectangle</source>
+        <translation>Statistik des Rechtecks</translation>
+    </message>
+    <message>
+        <source>Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the mean</source>
+        <translation>Des gezeichneten Rechtecks. Schärfe: Stufen zwischen Nachbarn, in Prozent des Mittels</translation>
+    </message>
+    <message>
+        <source>Pixel under the cursor</source>
+        <translation>Pixel unter dem Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation>Es ist keine Kamera geöffnet.</translation>
+    </message>
+    <message>
+        <source>This camera delivers no images.</source>
+        <translation>Diese Kamera liefert keine Bilder.</translation>
+    </message>
+    <message>
+        <source>Start the images with F9.</source>
+        <translation>Mit F9 beginnen die Bilder.</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3, frame %4, %5 %</source>
+        <translation>%1 × %2, %3, Bild %4, %5 %</translation>
+    </message>
+    <message>
+        <source>x %1, y %2:  %3</source>
+        <translation>x %1, y %2:  %3</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSaving</name>
+    <message>
+        <source>Save I&amp;mage…</source>
+        <translation>Bild s&amp;peichern…</translation>
+    </message>
+    <message>
+        <source>Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM</source>
+        <translation>Speichert das Bild: was zu sehen ist als PNG, die Rohwerte als TIFF, PGM oder PPM</translation>
+    </message>
+    <message>
+        <source>Keeps the next images as files, with a table of their numbers and times</source>
+        <translation>Bewahrt die nächsten Bilder als Dateien auf, mit einer Tabelle ihrer Nummern und Zeiten</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Aufzeich&amp;nung beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Record Images…</source>
+        <translation>Bilder aufzeich&amp;nen…</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>As shown (*.png);;Raw values (*.tif *.tiff);;Raw values (*.pgm *.ppm);;Bytes (*.raw);;All files (*)</source>
+        <translation>Wie zu sehen (*.png);;Rohwerte (*.tif *.tiff);;Rohwerte (*.pgm *.ppm);;Bytes (*.raw);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The image was saved to %1.</source>
+        <translation>Das Bild wurde in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Images recorded: %1 of %2</source>
+        <translation>Aufgezeichnete Bilder: %1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>Die Aufzeichnung endete nach %n Bild. %1</numerusform>
+            <numerusform>Die Aufzeichnung endete nach %n Bildern. %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>%n Bild wurde ausgelassen, weil die Platte zu langsam war.</numerusform>
+            <numerusform>%n Bilder wurden ausgelassen, weil die Platte zu langsam war.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>%n Bild wurde in %1 aufgezeichnet.</numerusform>
+            <numerusform>%n Bilder wurden in %1 aufgezeichnet.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ImageView</name>
+    <message>
+        <source>Camera image</source>
+        <translation>Kamerabild</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
+        <translation>Das Pixelformat %1 kann nicht gezeigt werden. Seine Bytes können gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>Ga&amp;mma</source>
+        <translation>Ga&amp;mma</translation>
+    </message>
+    <message>
+        <source>Makes dark parts of what is shown brighter</source>
+        <translation>Macht dunkle Teile der Anzeige heller</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k</source>
+        <translation>Sch&amp;warz</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown black</source>
+        <translation>Der Anteil am größten Wert, der schwarz gezeigt wird</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>We&amp;iß</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown white</source>
+        <translation>Der Anteil am größten Wert, der weiß gezeigt wird</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Shows values as they are: gamma and contrast change nothing of the camera</source>
+        <translation>Zeigt die Werte, wie sie sind: Gamma und Kontrast ändern nichts an der Kamera</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileView</name>
+    <message>
+        <source>Line profile</source>
+        <translation>Linienprofil</translation>
+    </message>
+    <message>
+        <source>The raw values along the drawn line</source>
+        <translation>Die Rohwerte entlang der gezeichneten Linie</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record Images</source>
+        <translation>Bilder aufzeichnen</translation>
+    </message>
+    <message>
+        <source>The images get a new folder in this one; nothing is overwritten</source>
+        <translation>Die Bilder bekommen darin einen neuen Ordner; nichts wird überschrieben</translation>
+    </message>
+    <message>
+        <source>TIFF, raw values</source>
+        <translation>TIFF, Rohwerte</translation>
+    </message>
+    <message>
+        <source>PGM or PPM, raw values</source>
+        <translation>PGM oder PPM, Rohwerte</translation>
+    </message>
+    <message>
+        <source>PNG, as shown with 8 bits</source>
+        <translation>PNG, wie zu sehen mit 8 Bit</translation>
+    </message>
+    <message>
+        <source>Bytes as they came</source>
+        <translation>Bytes, wie sie kamen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Aufzeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Images:</source>
+        <translation>&amp;Bilder:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>Folder for Images</source>
+        <translation>Ordner für Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>RegionOfInterest</name>
+    <message>
+        <source>region of interest</source>
+        <translation>Bildausschnitt</translation>
+    </message>
+    <message>
+        <source>The camera did not take the whole region. %1</source>
+        <translation>Die Kamera hat nicht den ganzen Ausschnitt übernommen. %1</translation>
+    </message>
+</context>
+<context>
+    <name>StreamControl</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s, %3 complete, %4 incomplete, %5 dropped</source>
+        <translation>%1 Bilder/s, %2 MB/s, %3 vollständig, %4 unvollständig, %5 verworfen</translation>
     </message>
 </context>
 </TS>

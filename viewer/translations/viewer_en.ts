@@ -28,4 +28,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>ImageSaving</name>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>The recording ended after %n image. %1</numerusform>
+            <numerusform>The recording ended after %n images. %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>%n image was left out, since the disk was too slow.</numerusform>
+            <numerusform>%n images were left out, since the disk was too slow.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>%n image was recorded to %1.</numerusform>
+            <numerusform>%n images were recorded to %1.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

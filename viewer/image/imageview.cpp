@@ -1,0 +1,347 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "imageview.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+using namespace Cameras;
+
+namespace {
+
+constexpr double zoomStep = 1.25;
+constexpr int wheelStep = 120;
+constexpr int keyPan = 8; // a part of the view
+constexpr int largeStep = 10; // pixels
+constexpr int smallestRegion = 2; // less is a click that slipped
+
+QRect spanned(const QPoint &first, const QPoint &last)
+{
+    return QRect(first, last).normalized() == QRect(first, last)
+        ? QRect(first, last)
+        : QRect(QPoint(std::min(first.x(), last.x()), std::min(first.y(), last.y())),
+                QPoint(std::max(first.x(), last.x()), std::max(first.y(), last.y())));
+}
+
+QPoint stepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+ImageView::ImageView(QWidget *parent)
+    : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Camera image"));
+    setTool(Tool::Pan);
+}
+
+ImageView::~ImageView() = default;
+
+QSize ImageView::sizeHint() const
+{
+    return {60 * fontMetrics().averageCharWidth(), 20 * fontMetrics().height()};
+}
+
+QSize ImageView::minimumSizeHint() const
+{
+    return {16 * fontMetrics().averageCharWidth(), 6 * fontMetrics().height()};
+}
+
+void ImageView::setHint(const QString &text)
+{
+    m_hint = text;
+    update();
+}
+
+void ImageView::setLook(const FrameConversion::Look &look)
+{
+    m_conversion.setLook(look);
+    m_image = {};
+    update();
+}
+
+void ImageView::setTool(Tool tool)
+{
+    m_tool = tool;
+    setCursor(tool == Tool::Pan ? Qt::OpenHandCursor : Qt::CrossCursor);
+}
+
+void ImageView::setCrosshair(bool isShown)
+{
+    m_marks.hasCrosshair = isShown;
+    update();
+}
+
+void ImageView::setGrid(bool isShown)
+{
+    m_marks.hasGrid = isShown;
+    update();
+}
+
+void ImageView::showFrame(FramePointer frame)
+{
+    const QSize former = m_frame ? QSize(m_frame->width, m_frame->height) : QSize();
+    m_frame = std::move(frame);
+    m_image = {};
+    const QSize size = m_frame ? QSize(m_frame->width, m_frame->height) : QSize();
+    if (size != former) {
+        m_viewport.setFrameSize(size);
+        m_drag = Drag::None; // what is drawn would lie elsewhere now
+        m_marks.part = {};
+        m_marks.line.reset();
+        m_marks.region = {};
+        m_marks.probe.reset();
+        Q_EMIT drawn();
+        Q_EMIT zoomChanged();
+    }
+    update();
+}
+
+void ImageView::fit()
+{
+    m_viewport.fit();
+    changeZoom();
+}
+
+void ImageView::showPixelByPixel()
+{
+    zoomBy(1.0 / m_viewport.scale(), QPointF(width(), height()) / 2.0);
+}
+
+void ImageView::zoomIn()
+{
+    zoomBy(zoomStep, QPointF(width(), height()) / 2.0);
+}
+
+void ImageView::zoomOut()
+{
+    zoomBy(1.0 / zoomStep, QPointF(width(), height()) / 2.0);
+}
+
+void ImageView::zoomBy(double factor, const QPointF &place)
+{
+    m_viewport.setScale(m_viewport.scale() * factor, devicePlace(place));
+    changeZoom();
+}
+
+void ImageView::changeZoom()
+{
+    m_image = {};
+    update();
+    Q_EMIT zoomChanged();
+}
+
+QPoint ImageView::pixelAt(const QPointF &place) const
+{
+    const QPointF position = m_viewport.toFrame(devicePlace(place));
+    return {int(std::floor(position.x())), int(std::floor(position.y()))};
+}
+
+QPoint ImageView::heldInside(const QPoint &position) const
+{
+    return {std::clamp(position.x(), 0, std::max(m_frame->width - 1, 0)),
+            std::clamp(position.y(), 0, std::max(m_frame->height - 1, 0))};
+}
+
+const QImage &ImageView::image()
+{
+    if (m_image.isNull()) {
+        const QRect part = m_viewport.visiblePart();
+        m_image = m_conversion.image(*m_frame, part, m_viewport.placeOf(part).size());
+        m_image.setDevicePixelRatio(devicePixelRatioF());
+    }
+    return m_image;
+}
+
+void ImageView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), palette().color(QPalette::Dark));
+    if (!m_frame) {
+        paintMessage(painter, m_hint);
+        return;
+    }
+    m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize()); // a screen may have changed
+    if (image().isNull()) {
+        paintMessage(painter,
+                     m_frame->missing.isEmpty()
+                         ? tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
+                               .arg(pixelFormatName(m_frame->pixelFormat))
+                         : m_frame->missing);
+        return;
+    }
+    const double ratio = devicePixelRatioF();
+    painter.drawImage(QPointF(m_viewport.placeOf(m_viewport.visiblePart()).topLeft()) / ratio, m_image);
+    const QPointF origin = m_viewport.toView({0.0, 0.0}) / ratio;
+    const double scale = m_viewport.scale() / ratio;
+    m_marks.paint(painter, QTransform(scale, 0.0, 0.0, scale, origin.x(), origin.y()),
+                  {m_frame->width, m_frame->height});
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void ImageView::paintMessage(QPainter &painter, const QString &text)
+{
+    painter.setPen(palette().color(QPalette::BrightText).lightness() > 128 ? Qt::white : Qt::black);
+    const bool isDark = palette().color(QPalette::Dark).lightness() < 128;
+    painter.setPen(isDark ? Qt::white : Qt::black);
+    const int margin = fontMetrics().height();
+    painter.drawText(rect().adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
+                     text);
+}
+
+void ImageView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize());
+    changeZoom();
+}
+
+void ImageView::wheelEvent(QWheelEvent *event)
+{
+    if (m_frame && event->angleDelta().y() != 0) {
+        zoomBy(std::pow(zoomStep, double(event->angleDelta().y()) / wheelStep), event->position());
+    }
+    event->accept(); // the panes around must not scroll instead
+}
+
+void ImageView::mousePressEvent(QMouseEvent *event)
+{
+    if (!m_frame || m_drag != Drag::None) {
+        return;
+    }
+    m_marks.probe.reset();
+    m_dragPlace = devicePlace(event->position());
+    m_dragStart = heldInside(pixelAt(event->position()));
+    if (event->button() == Qt::MiddleButton) {
+        m_drag = Drag::Pan;
+    } else if (event->button() == Qt::LeftButton) {
+        m_drag = event->modifiers() & Qt::ControlModifier ? Drag::Region
+            : m_tool == Tool::Part                        ? Drag::Part
+            : m_tool == Tool::Line                        ? Drag::Line
+                                                          : Drag::Pan;
+    }
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_frame) {
+        return;
+    }
+    const QPoint position = pixelAt(event->position());
+    if (m_drag == Drag::Pan) {
+        m_viewport.pan(devicePlace(event->position()) - m_dragPlace);
+        m_dragPlace = devicePlace(event->position());
+        changeZoom();
+    } else if (m_drag != Drag::None) {
+        draw(heldInside(position));
+    }
+    Q_EMIT probed(position);
+}
+
+void ImageView::draw(const QPoint &position)
+{
+    if (m_drag == Drag::Part) {
+        m_marks.part = spanned(m_dragStart, position);
+    } else if (m_drag == Drag::Line) {
+        m_marks.line = QLine(m_dragStart, position);
+    } else {
+        m_marks.region = spanned(m_dragStart, position);
+    }
+    update();
+    if (m_drag != Drag::Region) {
+        Q_EMIT drawn();
+    }
+}
+
+void ImageView::mouseReleaseEvent(QMouseEvent *event)
+{
+    Q_UNUSED(event)
+    endDrag();
+}
+
+void ImageView::endDrag()
+{
+    const Drag drag = std::exchange(m_drag, Drag::None);
+    if (drag != Drag::Region) {
+        return;
+    }
+    const QRect region = std::exchange(m_marks.region, QRect());
+    update();
+    if (region.width() >= smallestRegion && region.height() >= smallestRegion) {
+        Q_EMIT regionDrawn(region);
+    }
+}
+
+// First what is being drawn, then what was drawn.
+void ImageView::cancel()
+{
+    if (std::exchange(m_drag, Drag::None) == Drag::Region) {
+        m_marks.region = {};
+    } else {
+        m_marks.part = {};
+        m_marks.line.reset();
+        m_marks.probe.reset();
+        Q_EMIT drawn();
+    }
+    update();
+}
+
+void ImageView::keyPressEvent(QKeyEvent *event)
+{
+    const QPoint step = stepOf(event->key());
+    if (event->key() == Qt::Key_Escape) {
+        cancel();
+    } else if (event->key() == Qt::Key_Plus) {
+        zoomIn();
+    } else if (event->key() == Qt::Key_Minus) {
+        zoomOut();
+    } else if (step.isNull() || !m_frame) {
+        QWidget::keyPressEvent(event);
+    } else if (event->modifiers() & Qt::ControlModifier) {
+        moveProbe(event->modifiers() & Qt::ShiftModifier ? step * largeStep : step);
+    } else {
+        m_viewport.pan(-devicePlace(QPointF(step.x() * width(), step.y() * height()) / keyPan));
+        changeZoom();
+    }
+}
+
+void ImageView::moveProbe(const QPoint &step)
+{
+    const QPoint middle = m_viewport.visiblePart().center();
+    m_marks.probe = heldInside(m_marks.probe ? *m_marks.probe + step : middle);
+    update();
+    Q_EMIT probed(*m_marks.probe);
+}
+
+void ImageView::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    Q_EMIT probed(m_marks.probe.value_or(QPoint(-1, -1)));
+}

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "imagemarks.h"
+#include "viewport.h"
+
+#include <cameras/frame.h>
+#include <cameras/frameconversion.h>
+
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+/*! \brief Shows a frame, and what users draw on it.
+ *
+ * The wheel zooms at the cursor, dragging pans or draws as the tool says, with Ctrl it draws a region of
+ * interest. Keys: plus, minus and the arrows; with Ctrl the arrows walk from pixel to pixel; Escape ends what
+ * is being drawn, or takes it away.
+ */
+class ImageView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Tool { Pan, Part, Line };
+
+    explicit ImageView(QWidget *parent = nullptr);
+    ~ImageView() override;
+
+    const Cameras::FramePointer &frame() const { return m_frame; }
+    const ImageMarks &marks() const { return m_marks; }
+    Cameras::FrameConversion::Look look() const { return m_conversion.look(); }
+    void setLook(const Cameras::FrameConversion::Look &look);
+    void setTool(Tool tool);
+    /*! Returns how many device pixels a pixel of the frame takes along a side. */
+    double zoom() const { return m_viewport.scale(); }
+    bool isFitted() const { return m_viewport.isFitted(); }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    /*! Shows \a frame; null shows that there is none. */
+    void showFrame(Cameras::FramePointer frame);
+    /*! Says \a text where there is no frame. */
+    void setHint(const QString &text);
+    void fit();
+    void showPixelByPixel();
+    void zoomIn();
+    void zoomOut();
+    void setCrosshair(bool isShown);
+    void setGrid(bool isShown);
+
+Q_SIGNALS:
+    /*! \a position is under the cursor now, or chosen by keys; outside of the frame when nothing is. */
+    void probed(const QPoint &position);
+    /*! What is shown how large has changed. */
+    void zoomChanged();
+    /*! The part or the line that was drawn has changed. */
+    void drawn();
+    /*! \a region, in pixels of the frame, was drawn to be the region of interest. */
+    void regionDrawn(const QRect &region);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    enum class Drag { None, Pan, Part, Line, Region };
+
+    void draw(const QPoint &position);
+    void endDrag();
+    void cancel();
+    void moveProbe(const QPoint &step);
+    void zoomBy(double factor, const QPointF &place);
+    void changeZoom();
+    QPointF devicePlace(const QPointF &place) const { return place * devicePixelRatioF(); }
+    QPoint pixelAt(const QPointF &place) const;
+    QPoint heldInside(const QPoint &position) const;
+    const QImage &image();
+    void paintMessage(QPainter &painter, const QString &text);
+
+    Cameras::FramePointer m_frame;
+    Cameras::FrameConversion m_conversion;
+    Viewport m_viewport;
+    ImageMarks m_marks;
+    Tool m_tool = Tool::Pan;
+    Drag m_drag = Drag::None;
+    QPointF m_dragPlace; // in device pixels, of the last step
+    QPoint m_dragStart; // in the frame
+    QString m_hint;
+    QImage m_image; // null when it has to be made again
+};

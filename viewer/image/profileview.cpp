@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
+// SPDX-License-Identifier: MIT
+
+#include "profileview.h"
+
+#include "plotcolours.h"
+
+#include <QPainter>
+#include <QPolygonF>
+
+#include <algorithm>
+
+using namespace Cameras;
+
+ProfileView::ProfileView(QWidget *parent)
+    : QWidget(parent)
+{
+    setAccessibleName(tr("Line profile"));
+    setToolTip(tr("The raw values along the drawn line"));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+}
+
+ProfileView::~ProfileView() = default;
+
+QSize ProfileView::sizeHint() const
+{
+    return {40 * fontMetrics().averageCharWidth(), 6 * fontMetrics().height()};
+}
+
+QSize ProfileView::minimumSizeHint() const
+{
+    return {12 * fontMetrics().averageCharWidth(), 3 * fontMetrics().height()};
+}
+
+void ProfileView::setCurves(const QList<FrameValues::Curve> &curves)
+{
+    m_curves = curves;
+    update();
+}
+
+void ProfileView::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    int last = 1;
+    int lowest = 0;
+    int highest = 0;
+    bool isFirst = true;
+    for (const FrameValues::Curve &curve : std::as_const(m_curves)) {
+        for (const QPoint &point : curve.points) {
+            last = std::max(last, point.x());
+            lowest = isFirst ? point.y() : std::min(lowest, point.y());
+            highest = isFirst ? point.y() : std::max(highest, point.y());
+            isFirst = false;
+        }
+    }
+    if (isFirst) {
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double room = height() - 4.0;
+    const double range = std::max(highest - lowest, 1);
+    for (const FrameValues::Curve &curve : std::as_const(m_curves)) {
+        QPolygonF line;
+        for (const QPoint &point : curve.points) {
+            line.append(
+                {double(point.x()) / last * width(), height() - 2.0 - (point.y() - lowest) / range * room});
+        }
+        painter.setPen(plotColour(curve.channel, palette()));
+        painter.drawPolyline(line);
+    }
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect().adjusted(4, 1, -4, -1), Qt::AlignLeft | Qt::AlignTop, QString::number(highest));
+    painter.drawText(rect().adjusted(4, 1, -4, -1), Qt::AlignLeft | Qt::AlignBottom, QString::number(lowest));
+}
