@@ -373,7 +373,7 @@ void TestFeatureTreeModel::lastWriteWins()
     };
     const auto answer = [&](const QString &text) {
         const QStringList writes = node->writes;
-        node->writeText(text);
+        writeMemoryNode(*node, text);
         QCoreApplication::removePostedEvents(parameter.data());
         node->writes = writes;
         emit parameter->parameterDataChangedDecoupled(node->snapshot);
