@@ -5,7 +5,6 @@
 #include "colours.h"
 #include "commandline.h"
 #include "featuresamples.h"
-#include "languages.h"
 #include "mainwindow.h"
 #include "options.h"
 #include "treejson.h"
@@ -16,6 +15,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+#include <zeltoviewercomponents/translations.h>
 
 #include <QApplication>
 #include <QHeaderView>
