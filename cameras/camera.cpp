@@ -36,6 +36,15 @@
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::Exception::BaseException;
 
+// A static library leaves resources out that nothing names.
+static bool initResources()
+{
+    Q_INIT_RESOURCE(zeltocameras);
+    Q_INIT_RESOURCE(zelto_cameras_translations);
+    return true;
+}
+[[maybe_unused]] static const bool resourcesAreThere = initResources();
+
 namespace Cameras {
 
 ZELTO_LOG_CATEGORY("zelto.cameras.engine")

@@ -29,7 +29,7 @@ struct NodeMap
 {
     QString name; //!< the first part of full names, such as "@CameraDevice"
     QString title; //!< for people
-    QSharedPointer<ParameterCollection::IParameterCollection> collection;
+    QSharedPointer<ParameterCollection::IParameterCollection> collection; //!< its parameters
     bool usesUtf8 = true; //!< texts of the node map are UTF-8, else Latin-1
 };
 

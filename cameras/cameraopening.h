@@ -20,6 +20,7 @@ class Session;
 /*! \brief How far the opening of a camera has come. */
 struct OpeningProgress
 {
+    /*! \brief What is being done. */
     enum class Step {
         Waiting, //!< until the engine has ended with another camera, or the camera was given back
         Connecting,
@@ -27,7 +28,7 @@ struct OpeningProgress
         Reading, //!< all features, one after the other
     };
 
-    Step step = Step::Connecting;
+    Step step = Step::Connecting; //!< what is being done now
     int done = 0; //!< features that are read
     int total = 0; //!< features there are, 0 while that is not known
 };

@@ -19,8 +19,8 @@ namespace Cameras {
 /*! \brief A live camera that a search has found. */
 struct FoundCamera
 {
-    Core::CameraPoolComponents::CameraInfoPtr info;
-    CameraStatus status;
+    Core::CameraPoolComponents::CameraInfoPtr info; //!< which camera it is
+    CameraStatus status; //!< where it is, and whether it can be opened
 };
 
 /*! \brief A search for the live cameras that are reachable, while its thread goes on.

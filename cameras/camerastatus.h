@@ -10,6 +10,7 @@ namespace Cameras {
 /*! \brief Where a live camera is, and whether it could be opened now. */
 struct CameraStatus
 {
+    /*! \brief Whether it could be opened. */
     enum class State {
         Available,
         ReadOnly, //!< another program controls it; it can be looked at
@@ -19,7 +20,7 @@ struct CameraStatus
         Unknown, //!< it does not tell, as over USB
     };
 
-    State state = State::Unknown;
+    State state = State::Unknown; //!< when it was asked
     QString address; //!< empty where there is none
     QString controller; //!< address of the program that controls it, empty where the camera does not tell
 };

@@ -18,7 +18,7 @@ struct Frame
 {
     int width = 0; //!< pixels
     int height = 0; //!< lines
-    PixelFormat pixelFormat;
+    PixelFormat pixelFormat; //!< of all lines
     qsizetype stride =
         0; //!< bytes from the start of a line to that of the next; 0 where packed lines share bytes
     QByteArray bytes; //!< as they came, at least stride * height unless the frame is incomplete

@@ -16,6 +16,7 @@ struct PixelFormat
 {
     quint32 code = 0; //!< the number that cameras send
 
+    /*! Returns whether both are the same format. */
     bool operator==(const PixelFormat &other) const = default;
 };
 

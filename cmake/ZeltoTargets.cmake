@@ -45,49 +45,115 @@ endfunction()
 
 # zelto_add_library(<target> FOLDER <folder> EXPORT_NAME <name> SOURCES <files>...)
 #
-# Adds the shared library of one top-level folder. Its headers are found as <folder/...>, in the source tree and
-# installed; <folder/<folder>_export.h> defines ZELTO_<FOLDER>_EXPORT.
+# Adds the library of one top-level folder, shared unless BUILD_SHARED_LIBS says otherwise. Its headers are found as
+# <folder/...>, in the source tree and installed; <folder/<folder>_export.h> defines ZELTO_<FOLDER>_EXPORT. It is the
+# component <name> of the package.
 function(zelto_add_library target)
     cmake_parse_arguments(ARG "" "FOLDER;EXPORT_NAME" "SOURCES" ${ARGN})
-    add_library(${target} SHARED ${ARG_SOURCES})
+    add_library(${target} ${ARG_SOURCES})
     add_library(Zelto::${ARG_EXPORT_NAME} ALIAS ${target})
     zelto_set_up_target(${target})
 
     string(TOUPPER ${ARG_FOLDER} folder_upper)
     generate_export_header(${target}
         EXPORT_MACRO_NAME ZELTO_${folder_upper}_EXPORT
-        EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/include/${ARG_FOLDER}/${ARG_FOLDER}_export.h)
+        STATIC_DEFINE ZELTO_${folder_upper}_STATIC
+        EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${ARG_FOLDER}/${ARG_FOLDER}_export.h)
+    if(NOT BUILD_SHARED_LIBS)
+        target_compile_definitions(${target} PUBLIC ZELTO_${folder_upper}_STATIC)
+    endif()
     target_include_directories(${target} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-        $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/include>
+        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
         $<INSTALL_INTERFACE:${ZELTO_INCLUDE_INSTALL_DIR}>)
     target_compile_features(${target} PUBLIC cxx_std_20)
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${ARG_EXPORT_NAME}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${ZELTO_SOVERSION})
+    if(NOT ZELTO_INSTALL)
+        return()
+    endif()
 
-    install(TARGETS ${target} EXPORT ZeltoViewerComponentsTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    set_property(GLOBAL APPEND PROPERTY ZELTO_COMPONENTS ${ARG_EXPORT_NAME})
+    install(TARGETS ${target} EXPORT Zelto${ARG_EXPORT_NAME}Targets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev)
     install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${ZELTO_INCLUDE_INSTALL_DIR}/${ARG_FOLDER}
-        FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN "Resources" EXCLUDE)
-    install(FILES ${CMAKE_BINARY_DIR}/include/${ARG_FOLDER}/${ARG_FOLDER}_export.h
-        DESTINATION ${ZELTO_INCLUDE_INSTALL_DIR}/${ARG_FOLDER})
+        COMPONENT dev
+        FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN "Resources" EXCLUDE
+        PATTERN "translations" EXCLUDE)
+    install(FILES ${PROJECT_BINARY_DIR}/include/${ARG_FOLDER}/${ARG_FOLDER}_export.h
+        DESTINATION ${ZELTO_INCLUDE_INSTALL_DIR}/${ARG_FOLDER} COMPONENT dev)
+endfunction()
+
+# zelto_add_translations(<target> FOLDER <folder> TS_FILES <files>...)
+#
+# Compiles the files into the target, as :/<folder>/translations/<file>.qm. A static library has to name the
+# resource zelto_<folder>_translations (Q_INIT_RESOURCE).
+function(zelto_add_translations target)
+    cmake_parse_arguments(ARG "" "FOLDER" "TS_FILES" ${ARGN})
+    qt_add_lrelease(${target} TS_FILES ${ARG_TS_FILES} QM_FILES_OUTPUT_VARIABLE qm_files)
+    set(files "")
+    foreach(qm_file ${qm_files})
+        get_filename_component(name ${qm_file} NAME)
+        string(APPEND files "<file alias=\"${name}\">${qm_file}</file>")
+    endforeach()
+    set(qrc ${CMAKE_CURRENT_BINARY_DIR}/zelto_${ARG_FOLDER}_translations.qrc)
+    file(CONFIGURE OUTPUT ${qrc} @ONLY
+        CONTENT "<RCC><qresource prefix=\"/${ARG_FOLDER}/translations\">${files}</qresource></RCC>\n")
+    qt_add_resources(sources ${qrc})
+    target_sources(${target} PRIVATE ${sources})
+endfunction()
+
+# zelto_install_pkg_config(<name> DESCRIPTION <text> LIBRARY <target> [REQUIRES <packages>...] [PRIVATE <packages>...])
+function(zelto_install_pkg_config name)
+    cmake_parse_arguments(ARG "" "DESCRIPTION;LIBRARY" "REQUIRES;PRIVATE" ${ARGN})
+    if(NOT ZELTO_INSTALL)
+        return()
+    endif()
+    list(JOIN ARG_REQUIRES ", " requires)
+    list(JOIN ARG_PRIVATE ", " requires_private)
+    set(cflags "")
+    if(NOT BUILD_SHARED_LIBS)
+        set(requires "${requires}, ${requires_private}") # what the library itself calls is linked with it
+        string(REGEX REPLACE ", $" "" requires "${requires}")
+        set(requires_private "")
+        set(cflags "-DZELTO_PLATFORM_STATIC -DZELTO_ZELTOVIEWERCOMPONENTS_STATIC -DZELTO_CAMERAS_STATIC")
+    endif()
+    # Relative to the file, so that an installed tree may be moved.
+    file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/${name}.pc @ONLY CONTENT
+"prefix=\${pcfiledir}/${prefix}
+libdir=\${prefix}/${CMAKE_INSTALL_LIBDIR}
+includedir=\${prefix}/${ZELTO_INCLUDE_INSTALL_DIR}
+
+Name: ${name}
+Description: ${ARG_DESCRIPTION}
+Version: ${PROJECT_VERSION}
+Requires: ${requires}
+Requires.private: ${requires_private}
+Libs: -L\${libdir} -l${ARG_LIBRARY}
+Cflags: -I\${includedir} -std=c++20 -fPIC ${cflags}
+")
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 endfunction()
 
 # Installs the exported targets and the files that make find_package(ZeltoViewerComponents) work.
 function(zelto_install_package)
-    install(EXPORT ZeltoViewerComponentsTargets NAMESPACE Zelto::
-        DESTINATION ${ZELTO_PACKAGE_INSTALL_DIR})
+    get_property(components GLOBAL PROPERTY ZELTO_COMPONENTS)
+    foreach(component ${components})
+        install(EXPORT Zelto${component}Targets NAMESPACE Zelto::
+            DESTINATION ${ZELTO_PACKAGE_INSTALL_DIR} COMPONENT dev)
+    endforeach()
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ZeltoViewerComponentsConfig.cmake.in
-        ${CMAKE_BINARY_DIR}/ZeltoViewerComponentsConfig.cmake
+        ${PROJECT_BINARY_DIR}/ZeltoViewerComponentsConfig.cmake
         INSTALL_DESTINATION ${ZELTO_PACKAGE_INSTALL_DIR})
-    write_basic_package_version_file(${CMAKE_BINARY_DIR}/ZeltoViewerComponentsConfigVersion.cmake
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZeltoViewerComponentsConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
     install(FILES
-        ${CMAKE_BINARY_DIR}/ZeltoViewerComponentsConfig.cmake
-        ${CMAKE_BINARY_DIR}/ZeltoViewerComponentsConfigVersion.cmake
-        DESTINATION ${ZELTO_PACKAGE_INSTALL_DIR})
+        ${PROJECT_BINARY_DIR}/ZeltoViewerComponentsConfig.cmake
+        ${PROJECT_BINARY_DIR}/ZeltoViewerComponentsConfigVersion.cmake
+        DESTINATION ${ZELTO_PACKAGE_INSTALL_DIR} COMPONENT dev)
 endfunction()

@@ -4,13 +4,11 @@
 #include "languages.h"
 
 #include <platform/core/livetexts.h>
+#include <zeltoviewercomponents/translations.h>
 
 #include <QActionGroup>
-#include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
-#include <QTranslator>
 
 #include <array>
 #include <utility>
@@ -33,37 +31,7 @@ QString remembered()
     return QSettings().value(settingsKey()).toString();
 }
 
-void install(const QLocale &locale, const QString &name, const QString &folder)
-{
-    auto *const translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, name, QStringLiteral("_"), folder)) {
-        QCoreApplication::installTranslator(translator);
-    } else {
-        delete translator;
-    }
-}
-
 } // namespace
-
-void installTranslations(const QLocale &locale)
-{
-    const auto former =
-        QCoreApplication::instance()->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly);
-    const std::array<std::pair<QString, QString>, 3> ours{
-        std::pair{QStringLiteral("zeltoviewercomponents"),
-                  QStringLiteral(":/zeltoviewercomponents/translations")},
-        std::pair{QStringLiteral("cameras"), QStringLiteral(":/cameras/translations")},
-        std::pair{QStringLiteral("viewer"), QStringLiteral(":/viewer/translations")},
-    };
-    for (const auto &[name, folder] : ours) {
-        install(QLocale::English, name, folder); // the English plurals, for languages without their own
-    }
-    install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    for (const auto &[name, folder] : ours) {
-        install(locale, name, folder);
-    }
-    qDeleteAll(former);
-}
 
 QLocale chosenLanguage()
 {

@@ -8,10 +8,6 @@
 class QAction;
 class QLocale;
 
-/*! Makes the application speak the language of \a locale, as far as there are translations: the viewer's
- * texts, the libraries' and Qt's own. What has none stays English. Windows that are open follow. */
-void installTranslations(const QLocale &locale);
-
 /*! Returns the language that was chosen when the application ran last, else the system's. */
 QLocale chosenLanguage();
 

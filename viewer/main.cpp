@@ -16,6 +16,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
+#include <zeltoviewercomponents/translations.h>
 
 #include <QApplication>
 #include <QHeaderView>

@@ -76,6 +76,14 @@
 #include <algorithm>
 #include <utility>
 
+// A static library leaves resources out that nothing names.
+static bool initResources()
+{
+    Q_INIT_RESOURCE(zelto_viewer_translations);
+    return true;
+}
+[[maybe_unused]] static const bool resourcesAreThere = initResources();
+
 namespace {
 
 constexpr int stateVersion = 1;

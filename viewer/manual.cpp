@@ -7,6 +7,7 @@
 #include "options.h"
 
 #include <platform/parametercollection/valuewords.h>
+#include <platform/version.h>
 
 #include <QFile>
 #include <QTextStream>
@@ -110,6 +111,6 @@ bool write(const char *fileName, void (*contents)(QTextStream &))
 
 int main(int argc, char **argv)
 {
-    const auto manual = [](QTextStream &out) { writeManual(out, QStringLiteral(ZELTO_VERSION)); };
+    const auto manual = [](QTextStream &out) { writeManual(out, QStringLiteral(ZELTO_VERSION_STRING)); };
     return argc == 3 && write(argv[1], manual) && write(argv[2], writeCompletion) ? 0 : 1;
 }

@@ -16,6 +16,7 @@ namespace Core::Exception {
 class ZELTO_PLATFORM_EXPORT BaseException : public std::exception
 {
 public:
+    /*! Makes an exception with that text for people. */
     explicit BaseException(const QString &message);
     ~BaseException() override;
 

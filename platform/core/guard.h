@@ -17,7 +17,7 @@ namespace Core {
 /*! \brief The place of a guarded call, as its log entries name it. */
 struct GuardSite
 {
-    Logging::CategoryId category = 0;
+    Logging::CategoryId category = 0; //!< that the entries are written to
     const char *function = ""; //!< "Class::function"
     /*! How the detail line joins the function's name and the message of a BaseException. */
     const char *baseExceptionFormat = "%1: %2";

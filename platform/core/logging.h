@@ -14,6 +14,7 @@
  */
 namespace Core::Logging {
 
+/*! \brief How much an entry matters. */
 enum class ELogLevel : int {
     Debug = 0, //!< diagnostics and traces; off unless a logging rule asks for them
     Info = 1,
@@ -21,6 +22,7 @@ enum class ELogLevel : int {
     Critical = 3,
 };
 
+/*! What getCatId() returns. */
 using CategoryId = quint64;
 
 /*! Returns the id of the category called \a name; the same text always gives the same id. */

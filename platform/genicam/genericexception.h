@@ -16,6 +16,7 @@ namespace GenICam {
 class ZELTO_PLATFORM_EXPORT GenericException : public std::exception
 {
 public:
+    /*! Makes an exception with that text for people. */
     explicit GenericException(const QString &description);
     ~GenericException() override;
 
@@ -33,6 +34,7 @@ private:
 class ZELTO_PLATFORM_EXPORT InvalidArgumentException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~InvalidArgumentException() override;
 };
@@ -41,6 +43,7 @@ public:
 class ZELTO_PLATFORM_EXPORT OutOfRangeException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~OutOfRangeException() override;
 };
@@ -49,6 +52,7 @@ public:
 class ZELTO_PLATFORM_EXPORT PropertyException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~PropertyException() override;
 };
@@ -57,6 +61,7 @@ public:
 class ZELTO_PLATFORM_EXPORT RuntimeException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~RuntimeException() override;
 };
@@ -65,6 +70,7 @@ public:
 class ZELTO_PLATFORM_EXPORT LogicalErrorException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~LogicalErrorException() override;
 };
@@ -73,6 +79,7 @@ public:
 class ZELTO_PLATFORM_EXPORT AccessException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~AccessException() override;
 };
@@ -81,6 +88,7 @@ public:
 class ZELTO_PLATFORM_EXPORT TimeoutException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~TimeoutException() override;
 };
@@ -89,6 +97,7 @@ public:
 class ZELTO_PLATFORM_EXPORT DynamicCastException : public GenericException
 {
 public:
+    /*! Makes an exception with that text for people. */
     using GenericException::GenericException;
     ~DynamicCastException() override;
 };

@@ -19,6 +19,7 @@ namespace ParameterCollection {
 /*! \brief One access to a parameter within a batch. */
 struct BatchOperation
 {
+    /*! \brief What is done with the parameter. */
     enum class Kind { Read, Write };
 
     /*! \brief What the outcome is to tell of the parameter; more is allowed. */
@@ -28,10 +29,10 @@ struct BatchOperation
         Everything,
     };
 
-    Kind kind = Kind::Read;
+    Kind kind = Kind::Read; //!< what is done
     QString name; //!< as IParameterCollection::parameter() takes it
     QString value; //!< to be written, as IParameter::setValueFromString() takes it
-    Detail detail = Detail::Everything;
+    Detail detail = Detail::Everything; //!< what the outcome has to tell
 };
 
 /*! \brief What came of a BatchOperation. */

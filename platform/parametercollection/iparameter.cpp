@@ -3,6 +3,14 @@
 
 #include "iparameter.h"
 
+// A static library leaves resources out that nothing names.
+static bool initResources()
+{
+    Q_INIT_RESOURCE(zelto_platform_translations);
+    return true;
+}
+[[maybe_unused]] static const bool resourcesAreThere = initResources();
+
 namespace ParameterCollection {
 
 IParameter::IParameter(QObject *parent)

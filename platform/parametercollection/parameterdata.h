@@ -39,8 +39,12 @@ constexpr bool isFeatureType(ParameterType type)
 class ZELTO_PLATFORM_EXPORT ParameterData
 {
 public:
+    /*! Makes a snapshot that nothing can be done with, and that no level shows: all flags and the
+     * visibility have to be set. */
     explicit ParameterData(ParameterType parameterType = ParameterType::Unknown);
+    /*! Copies all fields. */
     ParameterData(const ParameterData &) = default;
+    /*! Copies all fields. */
     ParameterData &operator=(const ParameterData &) = default;
     virtual ~ParameterData();
 
@@ -54,13 +58,15 @@ public:
     /*! Sets the three flags to what \a mode allows. */
     void setAccessMode(GenApi::EAccessMode mode);
 
-    ParameterType type;
+    ParameterType type; //!< as given to the constructor
+    /*! The level from which on the row is shown. Left out: shown at no level, and logged as a mistake. */
     GenApi::EVisibility visibility = GenApi::UndefinedVisibility;
-    bool isReadable = false;
-    bool isWritable = false;
-    bool isImplemented = false;
+    bool isReadable = false; //!< the value can be read now; left out: the row shows no value
+    bool isWritable = false; //!< the value can be written now; left out: the editor is disabled
+    bool isImplemented = false; //!< the node exists on this device; left out: the row is hidden
     bool isCacheable = true; //!< whether the value may be kept between reads; not consulted by the tree
-    QString valueString; //!< the current value as text
+    /*! The current value as text, with all digits. Left out: an empty cell, and nothing to compare with. */
+    QString valueString;
 };
 
 /*! \brief Snapshot of an integer with its limits. */
@@ -72,10 +78,10 @@ public:
     bool equals(const ParameterData &other) const override;
     QSharedPointer<ParameterData> copy() const override;
 
-    qint64 value = 0;
-    qint64 minimum = 0;
-    qint64 maximum = 0;
-    qint64 increment = 1;
+    qint64 value = 0; //!< the current value
+    qint64 minimum = 0; //!< the least value; left out: 0
+    qint64 maximum = 0; //!< the largest value; left out: 0, so that nothing else can be entered
+    qint64 increment = 1; //!< the distance of the values, counted from the minimum
     QString
         representation; //!< GenICam representation, "PureNumber" when the description has none; never empty
 };
@@ -89,12 +95,12 @@ public:
     bool equals(const ParameterData &other) const override;
     QSharedPointer<ParameterData> copy() const override;
 
-    double value = 0.0;
-    double minimum = 0.0;
-    double maximum = 0.0;
+    double value = 0.0; //!< the current value
+    double minimum = 0.0; //!< the least value; left out: 0
+    double maximum = 0.0; //!< the largest value; left out: 0, so that nothing else can be entered
     double increment = 0.0; //!< 0 when the feature has none
     QString representation; //!< as for integers
-    GenApi::EDisplayNotation displayNotation = GenApi::fnAutomatic;
+    GenApi::EDisplayNotation displayNotation = GenApi::fnAutomatic; //!< how people read it
     int displayPrecision = 6; //!< significant digits asked for by the description
 };
 
@@ -107,7 +113,7 @@ public:
     bool equals(const ParameterData &other) const override;
     QSharedPointer<ParameterData> copy() const override;
 
-    bool value = false;
+    bool value = false; //!< the current value
 };
 
 /*! \brief Snapshot of a command. */

@@ -16,7 +16,8 @@ namespace ParameterCollection::ValueText {
 /*! Returns \a value in the form of the GenICam \a representation. */
 ZELTO_PLATFORM_EXPORT QString fromInteger(qint64 value, const QString &representation);
 /*! Returns the shortest text in \a notation that gives \a value again. */
-ZELTO_PLATFORM_EXPORT QString fromFloat(double value, GenApi::EDisplayNotation notation = GenApi::fnAutomatic);
+ZELTO_PLATFORM_EXPORT QString fromFloat(double value,
+                                        GenApi::EDisplayNotation notation = GenApi::fnAutomatic);
 
 /*! Returns the number that \a text stands for: decimal, hexadecimal with "0x" or the form of \a
  * representation. */

@@ -18,123 +18,27 @@ QSharedPointer<Data> usableSnapshot(Arguments... arguments)
     return data;
 }
 
-[[noreturn]] void refuse(const MemoryNode &node, const QString &text, const QString &allowed)
-{
-    throw GenICam::InvalidArgumentException(
-        QStringLiteral("%1: \"%2\" is not allowed, expected %3").arg(node.shortName, text, allowed));
-}
-
-template <typename Data>
-QSharedPointer<Data> copyOf(const QSharedPointer<ParameterData> &snapshot)
-{
-    return QSharedPointer<Data>::create(static_cast<const Data &>(*snapshot));
-}
-
-template <typename Data, typename Value>
-QSharedPointer<Data> withNumber(const MemoryNode &node, const QString &text, Value value, bool isNumber)
-{
-    if (!isNumber) {
-        refuse(node, text, QStringLiteral("a number"));
-    }
-    auto data = copyOf<Data>(node.snapshot);
-    if (value < data->minimum || value > data->maximum) {
-        throw GenICam::OutOfRangeException(
-            QStringLiteral("%1: %2 is out of range").arg(node.shortName, text));
-    }
-    data->value = value;
-    data->valueString = QVariant(value).toString();
-    return data;
-}
-
-QSharedPointer<ParameterData> withBoolean(const MemoryNode &node, const QString &text)
-{
-    auto data = copyOf<BooleanParameterData>(node.snapshot);
-    const auto value = booleanFrom(text);
-    if (!value) {
-        refuse(node, text, QStringLiteral("1 or 0"));
-    }
-    data->value = *value;
-    data->valueString = booleanText(*value);
-    return data;
-}
-
-QSharedPointer<ParameterData> withText(const MemoryNode &node, const QString &text)
-{
-    bool ok = false;
-    switch (node.snapshot->type) {
-    case ParameterType::Integer: {
-        const qint64 value = text.trimmed().toLongLong(&ok, 0);
-        return withNumber<IntegerParameterData>(node, text, value, ok);
-    }
-    case ParameterType::Float: {
-        const double value = text.trimmed().toDouble(&ok);
-        return withNumber<FloatParameterData>(node, text, value, ok);
-    }
-    case ParameterType::Boolean:
-        return withBoolean(node, text);
-    case ParameterType::Enumeration: {
-        auto data = copyOf<EnumParameterData>(node.snapshot);
-        if (!data->symbolicNames.contains(text)) {
-            refuse(node, text, data->symbolicNames.join(QStringLiteral(", ")));
-        }
-        data->valueString = text;
-        return data;
-    }
-    case ParameterType::String: {
-        auto data = node.snapshot->copy();
-        data->valueString = text;
-        return data;
-    }
-    default:
-        refuse(node, text, QStringLiteral("no text"));
-    }
-}
-
 } // namespace
 
-void writeMemoryNode(MemoryNode &node, const QString &text)
+void MemoryNode::enter(const char *operation) const
 {
-    if (!GenApi::isWritable(node.snapshot->accessMode())) {
-        throw GenICam::AccessException(QStringLiteral("%1 cannot be written now").arg(node.shortName));
-    }
-    node.snapshot = withText(node, text);
-    node.writes.append(text);
-    if (node.written) {
-        node.written();
+    if (before) {
+        before(QString::fromLatin1(operation));
     }
 }
 
-MemoryPropertyAccess::MemoryPropertyAccess(MemoryNode *node)
-    : m_node(node)
+void MemoryNode::onWritten(const QString &text)
 {
-}
-
-QString MemoryPropertyAccess::property(const QString &name, const QString &defaultValue) const
-{
-    m_node->enter("property");
-    return m_node->properties.value(name, defaultValue);
-}
-
-void MemoryPropertyAccess::setProperty(const QString &name, const QString &value)
-{
-    m_node->enter("setProperty");
-    m_node->properties.insert(name, value);
-}
-
-void MemoryCommand::execute(bool verify)
-{
-    enter("execute");
-    if (verify && !isWritableNow()) {
-        throw GenICam::AccessException(QStringLiteral("%1 cannot be executed now").arg(shortName));
+    writes.append(text);
+    if (written) {
+        written();
     }
-    ++executions;
-    publishLater();
 }
 
 MemoryCollection::MemoryCollection(const QString &name, const QString &deviceClassWord)
-    : m_name(name)
-    , m_deviceClass(deviceClassWord)
+    : SimpleCollection(name, Without::Root)
 {
+    setDeviceClass(deviceClassWord);
     addCategory(QStringLiteral("Root"), QString());
 }
 
@@ -167,13 +71,10 @@ template <typename Parameter>
 QSharedPointer<Parameter> MemoryCollection::add(const QString &name, const QString &parent,
                                                 const QSharedPointer<ParameterData> &snapshot)
 {
-    auto added = QSharedPointer<Parameter>::create(name, m_name + QLatin1Char('/') + name);
+    auto added = QSharedPointer<Parameter>::create(name, this->name() + QLatin1Char('/') + name);
     added->snapshot = snapshot;
     added->properties.insert(QStringLiteral("DisplayName"), name);
-    m_entries.insert(name, {added, added.data()});
-    if (const auto above = m_entries.find(parent); above != m_entries.end()) {
-        above->node->children.append(name);
-    }
+    insert(parent, added, added.data());
     return added;
 }
 
@@ -195,9 +96,9 @@ QSharedPointer<Parameter> MemoryCollection::addNumber(const QString &name, const
     data->maximum = maximum;
     data->increment = increment;
     data->representation = representation;
-    data->valueString = QVariant(value).toString();
     auto added = add<Parameter>(name, parent, data);
     added->properties.insert(QStringLiteral("Representation"), representation);
+    added->show(QVariant::fromValue(value));
     return added;
 }
 
@@ -230,7 +131,7 @@ QSharedPointer<MemoryBoolean> MemoryCollection::addBoolean(const QString &name, 
 {
     auto data = usableSnapshot<BooleanParameterData>();
     data->value = value;
-    data->valueString = QVariant(value).toString();
+    data->valueString = booleanText(value);
     return add<MemoryBoolean>(name, parent, data);
 }
 
@@ -249,42 +150,6 @@ QSharedPointer<MemoryPlain> MemoryCollection::addString(const QString &name, con
     return add<MemoryPlain>(name, parent, data);
 }
 
-void MemoryCollection::select(const QString &selector, const QString &feature)
-{
-    MemoryNode *const selecting = node(selector);
-    MemoryNode *const selected = node(feature);
-    QString &names = selecting->properties[QStringLiteral("pSelected")];
-    names += names.isEmpty() ? feature : QLatin1Char('\t') + feature;
-    using Snapshots = QHash<QString, QSharedPointer<ParameterData>>;
-    const auto snapshots = QSharedPointer<Snapshots>::create();
-    const auto first = selected->snapshot;
-    selected->written = [=, before = selected->written] {
-        if (before) {
-            before();
-        }
-        snapshots->insert(selecting->snapshot->valueString, selected->snapshot);
-    };
-    selecting->written = [=, before = selecting->written] {
-        if (before) {
-            before();
-        }
-        selected->snapshot = snapshots->value(selecting->snapshot->valueString, first);
-    };
-}
-
-void MemoryCollection::setAlias(const QString &name, const QString &alias)
-{
-    m_aliases.insert(name, alias);
-}
-
-QString MemoryCollection::shortName(const QString &name) const
-{
-    const QString prefix = m_name + QLatin1Char('/');
-    const QString local = name.startsWith(prefix) ? name.mid(prefix.size()) : name;
-    const QLatin1String suffix("/Alias");
-    return local.endsWith(suffix) ? m_aliases.value(local.chopped(suffix.size())) : local;
-}
-
 void MemoryCollection::enter(const char *operation) const
 {
     if (before) {
@@ -294,38 +159,25 @@ void MemoryCollection::enter(const char *operation) const
 
 MemoryNode *MemoryCollection::node(const QString &name) const
 {
-    return m_entries.value(shortName(name)).node;
+    return dynamic_cast<MemoryNode *>(findNode(name));
 }
 
 QSharedPointer<IParameter> MemoryCollection::parameter(const QString &name) const
 {
     enter("parameter");
-    return m_entries.value(shortName(name)).parameter;
+    return SimpleCollection::parameter(name);
 }
 
 bool MemoryCollection::hasParameter(const QString &name) const
 {
     enter("hasParameter");
-    return m_entries.contains(shortName(name));
+    return SimpleCollection::hasParameter(name);
 }
 
 QStringList MemoryCollection::childNames(const QString &parent, int depth, bool fullNames) const
 {
     enter("childNames");
-    const auto entry = m_entries.constFind(shortName(parent));
-    if (entry == m_entries.constEnd()) {
-        return {};
-    }
-    QStringList names;
-    for (const QString &child : std::as_const(entry->node->children)) {
-        names.append(fullNames ? m_name + QLatin1Char('/') + child : child);
-    }
-    if (depth > 0) {
-        for (const QString &child : std::as_const(entry->node->children)) {
-            names.append(childNames(child, depth - 1, fullNames));
-        }
-    }
-    return names;
+    return SimpleCollection::childNames(parent, depth, fullNames);
 }
 
 void MemoryCollection::refresh()
@@ -343,5 +195,5 @@ void MemoryCollection::poll(int elapsedMilliseconds)
 QString MemoryCollection::deviceClass() const
 {
     enter("deviceClass");
-    return m_deviceClass;
+    return SimpleCollection::deviceClass();
 }

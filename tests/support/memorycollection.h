@@ -4,29 +4,18 @@
 #pragma once
 
 #include <platform/genicam/genericexception.h>
-#include <platform/parametercollection/iparametercollection.h>
+#include <platform/parametercollection/simplecollection.h>
+#include <platform/parametercollection/simplenode_p.h>
 
-#include <QHash>
-#include <QPointer>
 #include <QStringList>
-#include <QVariant>
 
 #include <functional>
-#include <utility>
 
 /*! \brief What all parameters of a MemoryCollection have in common, open for tests to look at and to change.
  */
-struct MemoryNode
+class MemoryNode : public ParameterCollection::SimpleNode
 {
-    QString shortName;
-    QString path;
-    QHash<QString, QString> properties;
-    QSharedPointer<ParameterCollection::ParameterData> snapshot;
-    QStringList children; //!< short names, in order
-
-    bool excluded = false;
-    bool imposingAllowed = false;
-
+public:
     /*! Called with the operation's name ("setValue", "execute", "parameterData", "type", ...) before it is
      * carried out; may throw, to play a failing parameter. */
     std::function<void(const QString &operation)> before;
@@ -39,12 +28,7 @@ struct MemoryNode
     int forcedChecks = 0;
     int unforcedChecks = 0;
 
-    void enter(const char *operation) const
-    {
-        if (before) {
-            before(QString::fromLatin1(operation));
-        }
-    }
+    void enter(const char *operation) const override;
 
     /*! Makes each of \a operations throw \a exception until `before` is reset. */
     template <typename Exception>
@@ -56,91 +40,33 @@ struct MemoryNode
             }
         };
     }
+
+protected:
+    void onWritten(const QString &text) override;
+    void onExecuted() override { ++executions; }
 };
 
-/*! Writes \a text into the snapshot of \a node; throws as IParameter::setValueFromString() does. */
-void writeMemoryNode(MemoryNode &node, const QString &text);
-
-/*! \brief Property access of a MemoryNode; imposed properties are stored like any other. */
-class MemoryPropertyAccess : public ParameterCollection::NodePropertyAccess
+/*! \brief A parameter of a MemoryCollection; \a Base implements it. Answers each check. */
+template <typename Base>
+class MemoryParameter : public Base
 {
 public:
-    explicit MemoryPropertyAccess(MemoryNode *node);
+    using Base::Base;
 
-    using NodePropertyAccess::property;
-    QString property(const QString &name, const QString &defaultValue) const override;
-    void setProperty(const QString &name, const QString &value) override;
-
-private:
-    MemoryNode *m_node;
-};
-
-/*! \brief A parameter that lives in memory: an implementation of \a Interface over a MemoryNode, whose
- * snapshots are of the class \a Snapshot. */
-template <typename Interface, typename Snapshot = ParameterCollection::ParameterData>
-class MemoryParameter : public Interface, public MemoryNode
-{
-public:
-    using Data = Snapshot;
-
-    explicit MemoryParameter(const QString &name, const QString &fullName)
-    {
-        shortName = name;
-        path = fullName;
-    }
-
-    void setValueFromString(const QString &text) override
-    {
-        enter("setValueFromString");
-        writeMemoryNode(*this, text);
-        publishLater();
-    }
-    bool isExcluded() const override { return entered("isExcluded").excluded; }
-    bool isWritableNow() const override
-    {
-        const auto data = entered("isWritableNow").snapshot;
-        return data && GenApi::isWritable(data->accessMode());
-    }
-    GenApi::EVisibility visibility() const override
-    {
-        const auto data = entered("visibility").snapshot;
-        return data ? data->visibility : GenApi::UndefinedVisibility;
-    }
-    ParameterCollection::ParameterType type() const override
-    {
-        const auto data = entered("type").snapshot;
-        return data ? data->type : ParameterCollection::ParameterType::Unknown;
-    }
-    QString fullName() const override { return entered("fullName").path; }
-    QString name() const override { return entered("name").shortName; }
-    QSharedPointer<ParameterCollection::NodePropertyAccess> propertyAccess() const override
-    {
-        enter("propertyAccess");
-        return QSharedPointer<MemoryPropertyAccess>::create(const_cast<MemoryParameter *>(this));
-    }
-    QSharedPointer<const ParameterCollection::ParameterData> parameterData() const override
-    {
-        return entered("parameterData").snapshot;
-    }
     void scheduleParameterDataChangedCheck(bool force) override
     {
-        enter("scheduleParameterDataChangedCheck");
-        ++(force ? forcedChecks : unforcedChecks);
-        publishLater();
-    }
-    bool isImposingAllowed() const override { return imposingAllowed; }
-    GenApi::EAccessMode nodeAccessMode() const override
-    {
-        return snapshot ? snapshot->accessMode() : GenApi::NI;
+        this->enter("scheduleParameterDataChangedCheck");
+        ++(force ? this->forcedChecks : this->unforcedChecks);
+        this->publishLater();
     }
 
     /*! Replaces the snapshot by a copy that \a change has changed. Publishes nothing. */
-    template <typename Changed = Snapshot, typename Change>
+    template <typename Changed = typename Base::Data, typename Change>
     void edit(const Change &change)
     {
-        auto copy = QSharedPointer<Changed>::create(static_cast<const Changed &>(*snapshot));
+        auto copy = QSharedPointer<Changed>::create(static_cast<const Changed &>(*this->snapshot));
         change(*copy);
-        snapshot = copy;
+        this->snapshot = copy;
     }
 
     /*! Changes the snapshot as edit() does and publishes it. */
@@ -148,66 +74,20 @@ public:
     void update(const Change &change)
     {
         edit(change);
-        publish();
-    }
-
-    /*! Publishes the current snapshot at once, as if it arrived from the event loop. */
-    void publish() { emit this->parameterDataChangedDecoupled(snapshot); }
-
-    /*! Publishes the snapshot that is current when the event loop comes round. */
-    void publishLater()
-    {
-        QMetaObject::invokeMethod(
-            this, [this] { publish(); }, Qt::QueuedConnection);
-    }
-
-private:
-    const MemoryNode &entered(const char *operation) const
-    {
-        enter(operation);
-        return *this;
+        this->publish();
     }
 };
 
-/*! \brief A parameter in memory whose value can be set as \a Value, too. */
-template <typename Interface, typename Snapshot, typename Value>
-class MemoryValue : public MemoryParameter<Interface, Snapshot>
-{
-public:
-    using MemoryParameter<Interface, Snapshot>::MemoryParameter;
-    void setValue(Value value) override
-    {
-        this->enter("setValue");
-        writeMemoryNode(*this, QVariant(value).toString());
-        this->publishLater();
-    }
-};
-
-using MemoryInteger =
-    MemoryValue<ParameterCollection::IIntegerParameter, ParameterCollection::IntegerParameterData, qint64>;
-using MemoryFloat =
-    MemoryValue<ParameterCollection::IFloatParameter, ParameterCollection::FloatParameterData, double>;
-using MemoryEnum =
-    MemoryValue<ParameterCollection::IEnumParameter, ParameterCollection::EnumParameterData, const QString &>;
-using MemoryBoolean =
-    MemoryValue<ParameterCollection::IBooleanParameter, ParameterCollection::BooleanParameterData, bool>;
-
-class MemoryCommand : public MemoryParameter<ParameterCollection::ICommandParameter,
-                                             ParameterCollection::CommandParameterData>
-{
-public:
-    using MemoryParameter::MemoryParameter;
-    void execute(bool verify) override;
-};
-
+using MemoryInteger = MemoryParameter<ParameterCollection::SimpleIntegerParameter<MemoryNode>>;
+using MemoryFloat = MemoryParameter<ParameterCollection::SimpleFloatParameter<MemoryNode>>;
+using MemoryEnum = MemoryParameter<ParameterCollection::SimpleEnumParameter<MemoryNode>>;
+using MemoryBoolean = MemoryParameter<ParameterCollection::SimpleBooleanParameter<MemoryNode>>;
+using MemoryCommand = MemoryParameter<ParameterCollection::SimpleCommandParameter<MemoryNode>>;
 /*! \brief String, category and unknown parameters. */
-using MemoryPlain = MemoryParameter<ParameterCollection::IParameter>;
+using MemoryPlain = MemoryParameter<ParameterCollection::SimplePlainParameter<MemoryNode>>;
 
-/*! \brief A parameter collection without a device, shared by all tests.
- *
- * Writes check type, range and access as a camera would, are kept, and publish the node from the event loop.
- */
-class MemoryCollection : public ParameterCollection::IParameterCollection
+/*! \brief The simple collection that all tests share, with what makes it fail. */
+class MemoryCollection : public ParameterCollection::SimpleCollection
 {
 public:
     explicit MemoryCollection(const QString &name = QStringLiteral("@CameraDevice"),
@@ -232,9 +112,9 @@ public:
     QSharedPointer<MemoryCommand> addCommand(const QString &name, const QString &parent);
     QSharedPointer<MemoryPlain> addString(const QString &name, const QString &parent, const QString &value);
     /*! Makes \a selector select \a feature, which has a value for each of the selector's from then on. */
-    void select(const QString &selector, const QString &feature);
+    void select(const QString &selector, const QString &feature) { selectFeature(selector, feature); }
     /*! Makes \a alias what look-ups of \a name followed by "/Alias" find. */
-    void setAlias(const QString &name, const QString &alias);
+    void setAlias(const QString &name, const QString &alias) { setAliasOf(name, alias); }
 
     /*! Returns what the parameter \a name has in common with all others. */
     MemoryNode *node(const QString &name) const;
@@ -242,7 +122,7 @@ public:
     template <typename Parameter>
     QSharedPointer<Parameter> get(const QString &name) const
     {
-        return qSharedPointerDynamicCast<Parameter>(m_entries.value(shortName(name)).parameter);
+        return qSharedPointerDynamicCast<Parameter>(SimpleCollection::parameter(name));
     }
 
     QSharedPointer<ParameterCollection::IParameter> parameter(const QString &name) const override;
@@ -252,20 +132,12 @@ public:
     void poll(int elapsedMilliseconds) override;
     QString deviceClass() const override;
 
-    QString name() const { return m_name; }
-
     int refreshes = 0;
     QList<int> polls; //!< the elapsed times handed in
     /*! As MemoryNode::before, for the collection's own operations. */
     std::function<void(const QString &operation)> before;
 
 private:
-    struct Entry
-    {
-        QSharedPointer<ParameterCollection::IParameter> parameter;
-        MemoryNode *node = nullptr;
-    };
-
     template <typename Parameter>
     QSharedPointer<Parameter> add(const QString &name, const QString &parent,
                                   const QSharedPointer<ParameterCollection::ParameterData> &snapshot);
@@ -273,11 +145,5 @@ private:
     QSharedPointer<Parameter> addNumber(const QString &name, const QString &parent, Value value,
                                         Value minimum, Value maximum, Value increment,
                                         const QString &representation);
-    QString shortName(const QString &name) const;
     void enter(const char *operation) const;
-
-    QString m_name;
-    QString m_deviceClass;
-    QHash<QString, Entry> m_entries;
-    QHash<QString, QString> m_aliases;
 };

@@ -6,6 +6,7 @@
 #include <viewer/plugins/pluginhost.h>
 #include <viewer/settingsactions.h>
 
+#include <platform/parametercollection/simplecollection.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
 #include <zeltoviewercomponents/featuretree/featuretreeview.h>
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSettings>
@@ -60,6 +62,7 @@ private slots:
     void watchGoesOnAfterReconnecting();
     void workbenchSelectsPages();
     void brokenPluginsAreLeftOut();
+    void exampleFollowsTheFeature();
     void helpLinkFollowsTheFeature();
 
 private:
@@ -311,6 +314,23 @@ void TestPlugins::brokenPluginsAreLeftOut()
     QVERIFY(PluginHost::createPanels(folders + PluginHost::folders(), &services, &parent).isEmpty());
     QCOMPARE(log.messages().size(), 1);
     QVERIFY(log.messages().first().contains(QLatin1String("libbroken.so")));
+}
+
+void TestPlugins::exampleFollowsTheFeature()
+{
+    QObject services;
+    Plugin::FeatureTree::IFeatureTreeStatusService status(&services);
+    QWidget parent;
+    const auto panels = PluginHost::createPanels({ZELTO_EXAMPLE_PLUGINS}, &services, &parent);
+    QCOMPARE(panels.size(), 1);
+    const auto *const label = qobject_cast<QLabel *>(panels.first());
+    QVERIFY(label);
+    const auto camera = QSharedPointer<ParameterCollection::SimpleCollection>::create("@CameraDevice");
+    const auto width = camera->root().addInteger("Width", 640);
+    emit status.currentChanged(width.parameter());
+    QCOMPARE(label->text(), "640");
+    width.setValue(320);
+    QTRY_COMPARE(label->text(), "320");
 }
 
 void TestPlugins::helpLinkFollowsTheFeature()

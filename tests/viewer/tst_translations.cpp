@@ -5,6 +5,7 @@
 #include <viewer/mainwindow.h>
 
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
+#include <zeltoviewercomponents/translations.h>
 
 #include <QAction>
 #include <QDir>
@@ -128,7 +129,7 @@ void TestTranslations::cleanup()
 void TestTranslations::filesAreComplete_data()
 {
     QTest::addColumn<QString>("fileName");
-    for (const char *const folder : {"zeltoviewercomponents", "cameras", "viewer"}) {
+    for (const char *const folder : {"platform", "zeltoviewercomponents", "cameras", "viewer"}) {
         const QDir dir(QStringLiteral(ZELTO_SOURCE_DIR "/%1/translations").arg(QLatin1String(folder)));
         const auto files = dir.entryInfoList({QStringLiteral("*.ts")});
         for (const QFileInfo &file : files) {

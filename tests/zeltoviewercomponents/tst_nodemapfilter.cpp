@@ -371,7 +371,7 @@ void TestNodeMapFilter::refusedProperties()
     QDomDocument keeper;
     LogCapture log;
     QVERIFY(!NodeMapFilter::processElement(
-        parsed("<F><Name>Width</Name><Visibility>Odd</Visibility><AccessMode>Odd</AccessMode></F>", keeper),
+        parsed("<F><Name>Width</Name><Visibility>Guru</Visibility><AccessMode>RO</AccessMode></F>", keeper),
         collection));
     const QString prefix = "2 zelto.viewer.plugins.FeatureTreeWidget: ";
     QCOMPARE(log.entries(),

@@ -17,6 +17,14 @@ ZELTO_LOG_CATEGORY("zelto.viewer.plugins")
 
 namespace {
 
+QWidget *panelOf(IViewerPlugin *plugin, const QString &name, QObject *services, QWidget *parent)
+{
+    return Core::guarded({logCategory(), "PluginHost::createPanels"},
+                         QStringLiteral("The plug-in %1 failed to make its panel").arg(name),
+                         static_cast<QWidget *>(nullptr),
+                         [=] { return plugin->createPanel(services, parent); });
+}
+
 QWidget *createPanel(const QString &fileName, QObject *services, QWidget *parent)
 {
     QPluginLoader loader(fileName);
@@ -29,10 +37,7 @@ QWidget *createPanel(const QString &fileName, QObject *services, QWidget *parent
         loader.unload();
         return nullptr;
     }
-    return Core::guarded({logCategory(), "PluginHost::createPanels"},
-                         QStringLiteral("The plug-in %1 failed to make its panel").arg(fileName),
-                         static_cast<QWidget *>(nullptr),
-                         [=] { return plugin->createPanel(services, parent); });
+    return panelOf(plugin, fileName, services, parent);
 }
 
 } // namespace
@@ -46,6 +51,14 @@ QStringList PluginHost::folders()
 QList<QWidget *> PluginHost::createPanels(const QStringList &folders, QObject *services, QWidget *parent)
 {
     QList<QWidget *> panels;
+    const QObjectList builtIn = QPluginLoader::staticInstances();
+    for (QObject *const instance : builtIn) {
+        auto *const plugin = qobject_cast<IViewerPlugin *>(instance);
+        const QString name = QString::fromLatin1(instance->metaObject()->className());
+        if (QWidget *const panel = plugin ? panelOf(plugin, name, services, parent) : nullptr) {
+            panels.append(panel);
+        }
+    }
     QSet<QString> seen;
     for (const QString &folder : folders) {
         const auto files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);

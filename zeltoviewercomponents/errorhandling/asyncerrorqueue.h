@@ -29,6 +29,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT AsyncErrorQueue : public QObject
     Q_OBJECT
 
 public:
+    /*! \brief How bad it is, the worst first. */
     enum ErrorSeverity : quint32 {
         Critical = 10,
         Error = 20,
@@ -36,6 +37,7 @@ public:
     };
     Q_ENUM(ErrorSeverity)
 
+    /*! Makes a queue of its own; the library itself uses the global one. */
     explicit AsyncErrorQueue(QObject *parent = nullptr);
     ~AsyncErrorQueue() override;
 

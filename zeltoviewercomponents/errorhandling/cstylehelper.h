@@ -25,6 +25,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT CStyleHelper : public QObject
     Q_OBJECT
 
 public:
+    /*! \brief Sizes of fonts, in pixels of an unscaled screen. */
     enum EFontSize {
         SmallFont = 11,
         NormalFont = 13,

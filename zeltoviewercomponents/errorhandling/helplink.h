@@ -24,6 +24,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HelpLink : public QLabel
 
 public:
     explicit HelpLink(QWidget *parent = nullptr);
+    /*! Makes a link to that address. */
     explicit HelpLink(const QUrl &address, QWidget *parent = nullptr);
     ~HelpLink() override;
 

@@ -29,7 +29,9 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT MessageBoxCheckable : public QMessageBo
     Q_OBJECT
 
 public:
+    /*! Makes an empty dialog, whose answer is remembered under \a key. */
     explicit MessageBoxCheckable(const QString &key, QWidget *parent = nullptr);
+    /*! Makes a dialog, whose answer is remembered under \a key. */
     MessageBoxCheckable(const QString &key, QMessageBox::Icon icon, const QString &title, const QString &text,
                         QMessageBox::StandardButtons buttons = QMessageBox::NoButton,
                         QWidget *parent = nullptr,

@@ -27,19 +27,25 @@ class GenericException;
  * \ingroup errors
  */
 
+/*! Shows an error. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, QWidget *parent = nullptr);
+/*! Shows an error with details. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showErrorMessage(const QString &message, const QString &details,
                                                          QWidget *parent = nullptr);
 
+/*! Shows and logs a warning with details. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showWarningMessage(const QString &caption, const QString &context,
                                                            const QString &message, const QString &details,
                                                            QWidget *parent = nullptr);
+/*! Shows and logs a warning. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showWarningMessage(const QString &caption, const QString &context,
                                                            const QString &message, QWidget *parent = nullptr);
 
+/*! Shows and logs a critical message with details. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCriticalMessage(const QString &caption, const QString &context,
                                                             const QString &message, const QString &details,
                                                             QWidget *parent = nullptr);
+/*! Shows and logs a critical message. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCriticalMessage(const QString &caption, const QString &context,
                                                             const QString &message,
                                                             QWidget *parent = nullptr);
@@ -49,24 +55,31 @@ ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCriticalMessage(const QString &capti
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
                                                       const Core::Exception::BaseException &exception,
                                                       const QString &details, QWidget *parent = nullptr);
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
                                                       const Core::Exception::BaseException &exception,
                                                       QWidget *parent = nullptr);
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context,
                                                       const GenICam::GenericException &exception,
                                                       const QString &details, QWidget *parent = nullptr);
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void
 showException(const QString &context, const GenICam::GenericException &exception, QWidget *parent = nullptr);
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
                                                       const QString &details, QWidget *parent = nullptr);
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showException(const QString &context, const std::exception &exception,
                                                       QWidget *parent = nullptr);
 
 /*! Reports the exception that is being handled, by showException() or, when its type is unknown, by
  * showUnexpectedException(); \a message says what failed. To be called inside a catch block. */
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void showCurrentException(const QString &context, const QString &message,
                                                              QWidget *parent = nullptr);
 
 /*! Reports an exception of an unknown type; \a message says what failed. */
+/*! As the first of these functions. */
 ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT void
 showUnexpectedException(const QString &context, const QString &message, QWidget *parent = nullptr);

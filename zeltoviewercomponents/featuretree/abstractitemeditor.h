@@ -24,12 +24,15 @@ public:
     /*! \brief The parameter of a row and the snapshot to show; the snapshot may be null. */
     struct EditorData
     {
-        QSharedPointer<ParameterCollection::IParameter> ptrParameter;
-        QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData;
+        QSharedPointer<ParameterCollection::IParameter> ptrParameter; //!< the row's parameter
+        QSharedPointer<const ParameterCollection::ParameterData>
+            ptrParameterData; //!< what to show; may be null
     };
 
     AbstractItemEditor() = default;
+    /*! There is nothing to copy. */
     AbstractItemEditor(const AbstractItemEditor &) = default;
+    /*! There is nothing to copy. */
     AbstractItemEditor &operator=(const AbstractItemEditor &) = default;
 
     /*! Shows the snapshot. Never throws, and never takes away what is being typed. */

@@ -19,6 +19,7 @@ struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FavoriteEntry
     QString displayName; //!< the text shown for it
     QString nodeMapKey; //!< the name of the node map, such as "@CameraDevice"
 
+    /*! Returns whether all fields are the same. */
     bool operator==(const FavoriteEntry &) const = default;
 
     /*! Returns whether both are the same favorite; what they are called on screen does not matter. */

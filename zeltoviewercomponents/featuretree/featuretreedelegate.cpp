@@ -22,6 +22,7 @@
 #include <platform/core/guard.h>
 
 #include <QApplication>
+#include <QHash>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPersistentModelIndex>
@@ -113,12 +114,23 @@ struct FeatureTreeDelegate::Private
         QVariant value;
     };
 
+    struct PropertyFactory
+    {
+        QString property;
+        QString value;
+        EditorFactory factory;
+    };
+
+    QList<EditorFactory> factoriesFor(const IParameter &parameter) const;
+
     IFeatureTreeModelExtension *extension;
     FeatureTreeHighlighter *highlighter;
     CommandVeto commandVeto;
     QList<PendingCommand> pendingCommands; // until the veto has been asked
     QTimer *commandTimer;
     bool isAsking = false;
+    QHash<QString, EditorFactory> factoriesByName = {};
+    QList<PropertyFactory> factoriesByProperty = {};
 };
 
 FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *extension,
@@ -135,6 +147,64 @@ FeatureTreeDelegate::~FeatureTreeDelegate() = default;
 void FeatureTreeDelegate::setCommandVeto(CommandVeto veto)
 {
     d->commandVeto = std::move(veto);
+}
+
+void FeatureTreeDelegate::setEditorFactory(const QString &name, EditorFactory factory)
+{
+    d->factoriesByName.insert(name, std::move(factory));
+}
+
+void FeatureTreeDelegate::setEditorFactory(const QString &property, const QString &value,
+                                           EditorFactory factory)
+{
+    d->factoriesByProperty.removeIf([&property, &value](const Private::PropertyFactory &other) {
+        return other.property == property && other.value == value;
+    });
+    if (factory) {
+        d->factoriesByProperty.append({property, value, std::move(factory)});
+    }
+}
+
+QList<EditorFactory> FeatureTreeDelegate::Private::factoriesFor(const IParameter &parameter) const
+{
+    if (factoriesByName.isEmpty() && factoriesByProperty.isEmpty()) {
+        return {};
+    }
+    QList<EditorFactory> factories{factoriesByName.value(parameter.fullName()),
+                                   factoriesByName.value(parameter.name())};
+    const auto properties = parameter.propertyAccess();
+    for (const PropertyFactory &entry : factoriesByProperty) {
+        if (properties && properties->property(entry.property) == entry.value) {
+            factories.append(entry.factory);
+        }
+    }
+    factories.removeIf([](const EditorFactory &factory) { return !factory; });
+    return factories;
+}
+
+bool FeatureTreeDelegate::hasEditorFactory(const IParameter &parameter) const
+{
+    return !d->factoriesFor(parameter).isEmpty();
+}
+
+// Returns null where no factory wants to make one.
+QWidget *FeatureTreeDelegate::createOwnEditor(QWidget *parent,
+                                              const QSharedPointer<IParameter> &parameter) const
+{
+    if (!isUsable(parameter)) {
+        return nullptr;
+    }
+    const auto factories = d->factoriesFor(*parameter);
+    for (const EditorFactory &factory : factories) {
+        if (QWidget *const editor = factory(parent, parameter)) {
+            editor->setAutoFillBackground(true); // the cell below it may have a text
+            if (editor->metaObject()->indexOfSignal("edited()") >= 0) {
+                connect(editor, SIGNAL(edited()), this, SLOT(emitCommitData()));
+            }
+            return editor;
+        }
+    }
+    return nullptr;
 }
 
 FeatureTreeINodeItem *FeatureTreeDelegate::nodeItemAt(const QModelIndex &index) const
@@ -167,6 +237,9 @@ QWidget *FeatureTreeDelegate::createEditorFor(FeatureTreeINodeItem *item, QWidge
                                               const QModelIndex &index) const
 {
     const QSharedPointer<IParameter> node = item->node();
+    if (QWidget *const editor = createOwnEditor(parent, node)) {
+        return editor;
+    }
     switch (item->editorType()) {
     case FeatureTreeItem::Integer:
     case FeatureTreeItem::IntegerSlider:

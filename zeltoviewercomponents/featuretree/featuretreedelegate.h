@@ -4,6 +4,7 @@
 #pragma once
 
 #include "commandveto.h"
+#include "editorfactory.h"
 
 #include <platform/parametercollection/iparametercollection.h>
 #include <zeltoviewercomponents/zeltoviewercomponents_export.h>
@@ -39,6 +40,16 @@ public:
     /*! Sets what is asked before a command is executed, from the event loop; an empty function asks nobody,
      * and commands are executed while their editor commits. */
     void setCommandVeto(CommandVeto veto);
+
+    /*! Has \a factory make the editors of the feature called \a name, which is a short name or a full one. An
+     * empty function takes that back. Rows that have an editor already keep it. */
+    void setEditorFactory(const QString &name, EditorFactory factory);
+    /*! Has \a factory make the editors of all features whose property \a property has the value \a value, as
+     * NodePropertyAccess gives it. A factory for a name comes first. */
+    void setEditorFactory(const QString &property, const QString &value, EditorFactory factory);
+
+    /*! Returns whether there is a factory for \a parameter. The view keeps its editor open then. */
+    bool hasEditorFactory(const ParameterCollection::IParameter &parameter) const;
 
     /*! Returns a size in whose height a line of the view's font can be edited, too. */
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
@@ -80,6 +91,8 @@ private:
     bool postpone(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index,
                   const QVariant &value) const;
     FeatureTreeINodeItem *nodeItemAt(const QModelIndex &index) const;
+    QWidget *createOwnEditor(QWidget *parent,
+                             const QSharedPointer<ParameterCollection::IParameter> &parameter) const;
     QWidget *createEditorFor(FeatureTreeINodeItem *item, QWidget *parent, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const;
     QRegion paintMatches(QPainter *painter, const QStyleOptionViewItem &option, const QRect &textRect,

@@ -47,17 +47,17 @@ public:
     };
     Q_ENUM(EditorType)
 
-    static constexpr int GenicamNameRole = Qt::UserRole + 1;
-    static constexpr int GenicamTooltipRole = Qt::UserRole + 2;
-    static constexpr int GenicamDescription = Qt::UserRole + 3;
-    static constexpr int GenicamDocuURL = Qt::UserRole + 4;
-    static constexpr int GenicamCategory = Qt::UserRole + 5;
-    static constexpr int GenicamVisibility = Qt::UserRole + 6;
-    static constexpr int UniqueID = Qt::UserRole + 10;
-    static constexpr int IsFullRowItem = Qt::UserRole + 12;
-    static constexpr int IsSpecialNode = Qt::UserRole + 13;
-    static constexpr int IsShownAtAll = Qt::UserRole + 14;
-    static constexpr int FullNodeNameRole = Qt::UserRole + 32;
+    static constexpr int GenicamNameRole = Qt::UserRole + 1; //!< the short name
+    static constexpr int GenicamTooltipRole = Qt::UserRole + 2; //!< the tool tip
+    static constexpr int GenicamDescription = Qt::UserRole + 3; //!< the long description
+    static constexpr int GenicamDocuURL = Qt::UserRole + 4; //!< the address of a page about it
+    static constexpr int GenicamCategory = Qt::UserRole + 5; //!< whether it is a category
+    static constexpr int GenicamVisibility = Qt::UserRole + 6; //!< the user level from which on it is shown
+    static constexpr int UniqueID = Qt::UserRole + 10; //!< a number of this item alone
+    static constexpr int IsFullRowItem = Qt::UserRole + 12; //!< whether the name spans the row
+    static constexpr int IsSpecialNode = Qt::UserRole + 13; //!< whether it is no feature, such as a hint
+    static constexpr int IsShownAtAll = Qt::UserRole + 14; //!< whether any level shows it
+    static constexpr int FullNodeNameRole = Qt::UserRole + 32; //!< the full name
 
     /*! Creates an item; the caller appends or inserts it into the children of \a parent. */
     FeatureTreeItem(const QString &name, IFeatureTreeModelExtension *extension, const QString &fullName,
@@ -90,9 +90,11 @@ public:
     virtual int row() const;
     /*! Returns the parent, null for the invisible root and for an item that was removed. */
     virtual const FeatureTreeItem *parent() const;
+    /*! As above. */
     virtual FeatureTreeItem *parent();
     /*! Returns the model that the item belongs to, as far as items know it. */
     virtual const IFeatureTreeModelExtension *getExtension() const;
+    /*! As above. */
     virtual IFeatureTreeModelExtension *getExtension();
     /*! Returns the row's editor. */
     virtual EditorType editorType();
@@ -123,7 +125,9 @@ public:
     virtual QString nodeName() const;
 
     // These two never consult the item's own editor type; callers rely on their fixed answers.
+    /*! Returns None for a valid index. */
     static EditorType editorType(const QModelIndex &index);
+    /*! Returns Category for an item, None for null. */
     static EditorType editorType(const FeatureTreeItem *item);
 
     /*! Returns whether the row's editor is shown all the time, not only while the row is edited. */

@@ -31,6 +31,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FeatureTreeLook
     Q_GADGET
 
 public:
+    /*! \brief The parts of a look. */
     enum Part {
         OpenRows = 1, //!< QStringList in a map
         CurrentRow = 2, //!< QString, empty without one

@@ -7,6 +7,7 @@
 #include "featuretreefavoritesitem_p.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreenames.h"
+#include "unshownnodes_p.h"
 
 #include <platform/core/guard.h>
 #include <platform/genicam/genericexception.h>
@@ -420,6 +421,9 @@ void FeatureTreeModel::addParameterCollection(QSharedPointer<IParameterCollectio
     const QPointer<FeatureTreeINodeItem> item(
         new FeatureTreeINodeItem(collection, root, title, this, fullName, m_rootItem.get(), false));
     adoptNodeItem(item, true);
+    Core::guardedRun(site("FeatureTreeModel::addParameterCollection"),
+                     QStringLiteral("Failed to look at the node 'Root'"),
+                     [&item] { UnshownNodes::report(*item); });
     // A new layout, not a new row: who listens looks at all top rows again, and what was open stays open.
     emit layoutAboutToBeChanged();
     m_rootItem->appendChild(item);
@@ -493,18 +497,28 @@ QList<FeatureTreeItem *> FeatureTreeModel::createChildItems(FeatureTreeINodeItem
 FeatureTreeItem *FeatureTreeModel::createChildItem(FeatureTreeINodeItem *parent, const QString &name)
 {
     const QSharedPointer<IParameter> parameter = parent->collection()->parameter(name);
-    if (!parameter || parameter->isExcluded()) {
+    if (!parameter) {
+        UnshownNodes::reportMissing(*parent->collection(), name, parent->node()->fullName());
         return nullptr;
     }
-    if (parameter->type() == ParameterType::Category
-        && (parameter->visibility() >= GenApi::Invisible || standsAbove(parent, parameter))) {
+    if (parameter->isExcluded()) {
         return nullptr;
+    }
+    if (parameter->type() == ParameterType::Category) {
+        const GenApi::EVisibility visibility = parameter->visibility();
+        if (visibility == GenApi::UndefinedVisibility) {
+            UnshownNodes::reportUndefined(*parent->collection(), name);
+        }
+        if (visibility >= GenApi::Invisible || standsAbove(parent, parameter)) {
+            return nullptr;
+        }
     }
     // How texts are written is a matter of the whole model: the collection that was added last says it, also
     // for rows of earlier ones that are made only now.
     auto *const item =
         new FeatureTreeINodeItem(parent->collection(), parameter, this, name, parent, m_childNodeFlag);
     adoptNodeItem(item, false);
+    UnshownNodes::report(*item);
     return item;
 }
 

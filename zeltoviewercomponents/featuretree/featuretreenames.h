@@ -20,8 +20,8 @@ inline constexpr char separator = '*'; //!< between the parts of the names of to
 /*! \brief The columns of the feature tree. */
 namespace FeatureTreeColumns {
 
-inline constexpr int name = 0;
-inline constexpr int value = 1;
-inline constexpr int count = 2;
+inline constexpr int name = 0; //!< of the feature
+inline constexpr int value = 1; //!< of the feature, with its editor
+inline constexpr int count = 2; //!< of the columns
 
 } // namespace FeatureTreeColumns

@@ -205,8 +205,20 @@ bool FeatureTreeView::isOpen(const QModelIndex &parent) const
 
 bool FeatureTreeView::wantsEditor(FeatureTreeItem *item) const
 {
-    return item && item->usePersistentEditor() && item->ShowMe(m_visibility)
+    return item && (item->usePersistentEditor() || hasOwnEditor(*item)) && item->ShowMe(m_visibility)
         && item->getVisibility() <= m_visibility && item->getAccessMode() > GenApi::NA;
+}
+
+// An editor of the application's own stays open whatever the type of its feature.
+bool FeatureTreeView::hasOwnEditor(const FeatureTreeItem &item) const
+{
+    const auto *const delegate = qobject_cast<const FeatureTreeDelegate *>(itemDelegate());
+    const auto *const nodeItem = delegate ? qobject_cast<const FeatureTreeINodeItem *>(&item) : nullptr;
+    const auto parameter = nodeItem ? nodeItem->node() : nullptr;
+    return parameter
+        && Core::guarded({logCategory(), "FeatureTreeView::hasOwnEditor"},
+                         QStringLiteral("Failed to look for an own editor"), false,
+                         [delegate, &parameter] { return delegate->hasEditorFactory(*parameter); });
 }
 
 void FeatureTreeView::openPersistentEditor(const QModelIndex &index)

@@ -44,6 +44,7 @@ public:
     class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT Batch
     {
     public:
+        /*! Begins a gesture in \a view. */
         explicit Batch(FeatureTreeView *view);
         ~Batch();
         Q_DISABLE_COPY_MOVE(Batch)
@@ -59,6 +60,7 @@ public:
     virtual void createModel();
     /*! Returns the model's extension, null when the model is of another kind. */
     IFeatureTreeModelExtension *getFeatureExtension();
+    /*! As above. */
     const IFeatureTreeModelExtension *getFeatureExtension() const;
     /*! Returns what marks the search text in names. Hosts call it by this spelling. */
     FeatureTreeHighlighter *getHightlighter();
@@ -163,6 +165,7 @@ private:
     void spanRow(const QModelIndex &index, const QModelIndex &parent);
 
     bool wantsEditor(FeatureTreeItem *item) const;
+    bool hasOwnEditor(const FeatureTreeItem &item) const;
     void showInEditor(const QModelIndex &index);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void dropEditor();

@@ -18,6 +18,7 @@
 #include "ui_featuretreewidget.h"
 #include "waitcursor_p.h"
 
+#include <zeltoviewercomponents/resources_p.h>
 #include <zeltoviewercomponents/settings/unansweredwrites_p.h>
 
 #include <QAction>
@@ -323,10 +324,15 @@ void FeatureTreeWidget::Refresh()
     getFeatureExtension()->refresh();
 }
 
+FeatureTreeDelegate *FeatureTreeWidget::delegate() const
+{
+    return qobject_cast<FeatureTreeDelegate *>(d->form.treeView->itemDelegate());
+}
+
 void FeatureTreeWidget::setCommandVeto(CommandVeto veto)
 {
-    if (auto *const delegate = qobject_cast<FeatureTreeDelegate *>(d->form.treeView->itemDelegate())) {
-        delegate->setCommandVeto(std::move(veto));
+    if (FeatureTreeDelegate *const ours = delegate()) {
+        ours->setCommandVeto(std::move(veto));
     }
 }
 

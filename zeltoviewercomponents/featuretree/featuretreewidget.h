@@ -21,6 +21,7 @@
 #include <functional>
 #include <memory>
 
+class FeatureTreeDelegate;
 class FeatureTreeHighlighter;
 class FeatureTreeItem;
 class FeatureTreeProxyModel;
@@ -79,6 +80,8 @@ public:
     void setResting(bool resting);
     /*! Returns whether the tree rests. */
     bool isResting() const;
+    /*! Returns the tree's delegate, for editors of an own; null when the view was given another one. */
+    FeatureTreeDelegate *delegate() const;
     /*! Sets what is asked before a command is executed through the tree; see FeatureTreeDelegate. */
     void setCommandVeto(CommandVeto veto);
     /*! Re-reads the first collection. */
@@ -155,6 +158,7 @@ public:
     FeatureTreeView *treeView();
     /*! Returns the operations of the tree's model. */
     IFeatureTreeModelExtension *getFeatureExtension();
+    /*! As above. */
     const IFeatureTreeModelExtension *getFeatureExtension() const;
     QSize sizeHint() const override;
 

@@ -30,6 +30,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatEditor : public DoubleSpinBox, pub
     Q_OBJECT
 
 public:
+    /*! Makes an editor for a feature of that representation. */
     FloatEditor(QWidget *parent, const QString &representation);
     ~FloatEditor() override;
 

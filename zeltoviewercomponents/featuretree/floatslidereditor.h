@@ -24,6 +24,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT FloatSliderEditor : public TwoModeDoubl
     Q_OBJECT
 
 public:
+    /*! Makes an editor that finds the alias of its feature in \a collection. */
     FloatSliderEditor(QSharedPointer<ParameterCollection::IParameterCollection> collection, QWidget *parent);
     ~FloatSliderEditor() override;
 

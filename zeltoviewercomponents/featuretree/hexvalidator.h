@@ -16,6 +16,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT HexValidator : public QIntValidator
     Q_OBJECT
 
 public:
+    /*! Accepts the values from \a bottom to \a top. */
     HexValidator(int bottom, int top, QObject *parent = nullptr);
     ~HexValidator() override;
 

@@ -54,7 +54,9 @@ public:
     /*! The searches look at \a start (the whole tree when null) and the items below it that exist already,
      * and return an invalid index when nothing is found. */
     virtual QModelIndex findItem(const FeatureTreeItem *item, const FeatureTreeItem *start, int column) = 0;
+    /*! Finds the item of that full name. */
     virtual QModelIndex findItemByFullName(const QString &fullName, FeatureTreeItem *start, int column) = 0;
+    /*! Finds the item whose data for \a role is \a value. */
     virtual QModelIndex findItemByRole(int role, const QVariant &value, FeatureTreeItem *start,
                                        int column) = 0;
 

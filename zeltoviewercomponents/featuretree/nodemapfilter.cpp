@@ -7,6 +7,8 @@
 #include <platform/core/guard.h>
 #include <platform/core/logging.h>
 
+#include <zeltoviewercomponents/resources_p.h>
+
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QFile>

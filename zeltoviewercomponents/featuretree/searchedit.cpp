@@ -6,6 +6,8 @@
 #include "parentfont_p.h"
 #include "parentpalette_p.h"
 
+#include <zeltoviewercomponents/resources_p.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QEvent>

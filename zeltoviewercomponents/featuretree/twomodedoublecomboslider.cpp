@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int shortestPauseMilliseconds = 30;
+constexpr int defaultPositions = 1000;
 
 } // namespace
 
@@ -63,6 +64,30 @@ void TwoModeDoubleComboSlider::setMode(ETwoModeDoubleComboSliderMode mode)
 ETwoModeDoubleComboSliderMode TwoModeDoubleComboSlider::mode() const
 {
     return d->mode;
+}
+
+void TwoModeDoubleComboSlider::setLogarithmic(bool logarithmic)
+{
+    d->mode =
+        logarithmic ? ETwoModeDoubleComboSliderMode::Logarithmic : ETwoModeDoubleComboSliderMode::Linear;
+    showPosition(positionFromValue(value()));
+}
+
+bool TwoModeDoubleComboSlider::isLogarithmicWanted() const
+{
+    return d->mode == ETwoModeDoubleComboSliderMode::Logarithmic;
+}
+
+void TwoModeDoubleComboSlider::setLowest(double minimum)
+{
+    setLimits(minimum, std::max(minimum, d->entry.limits.maximum), 0, defaultPositions, 1);
+    showPosition(positionFromValue(value()));
+}
+
+void TwoModeDoubleComboSlider::setHighest(double maximum)
+{
+    setLimits(std::min(d->entry.limits.minimum, maximum), maximum, 0, defaultPositions, 1);
+    showPosition(positionFromValue(value()));
 }
 
 void TwoModeDoubleComboSlider::setIncrement(double increment)

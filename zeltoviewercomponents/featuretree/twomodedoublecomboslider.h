@@ -33,6 +33,10 @@ enum class ETwoModeDoubleComboSliderMode {
 class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TwoModeDoubleComboSlider : public DoubleComboSlider
 {
     Q_OBJECT
+    Q_PROPERTY(bool logarithmic READ isLogarithmicWanted WRITE setLogarithmic)
+    Q_PROPERTY(double minimum READ minimum WRITE setLowest)
+    Q_PROPERTY(double maximum READ maximum WRITE setHighest)
+    Q_PROPERTY(double value READ value WRITE showValue NOTIFY boxValueChanged USER true)
 
 public:
     explicit TwoModeDoubleComboSlider(QWidget *parent = nullptr);
@@ -42,6 +46,15 @@ public:
     void setMode(ETwoModeDoubleComboSliderMode mode);
     /*! Returns how positions and values belong together. */
     ETwoModeDoubleComboSliderMode mode() const;
+
+    /*! Sets the mode that \a logarithmic stands for. */
+    void setLogarithmic(bool logarithmic);
+    /*! Returns whether the mode is the logarithmic one. */
+    bool isLogarithmicWanted() const;
+    /*! Sets the lowest value, with a thousand positions up to the highest. */
+    void setLowest(double minimum);
+    /*! Sets the highest value, with a thousand positions from the lowest. */
+    void setHighest(double maximum);
 
     /*! Sets the distance of the values that can be entered, counted from the minimum; 0 for none. */
     void setIncrement(double increment);

@@ -34,10 +34,11 @@ public:
     static QString withoutBlanks(const QString &text);
 
 protected:
+    /*! \brief What is thought of a text. */
     struct Verdict
     {
-        State state = Invalid;
-        QString reason;
+        State state = Invalid; //!< as validate() gives it
+        QString reason; //!< in translated words
     };
 
     explicit AddressValidator(QObject *parent);

@@ -22,12 +22,14 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT QIpAddressWithNetmaskValidator : public
     Q_OBJECT
 
 public:
+    /*! \brief Whose address it is. */
     enum ERole {
         Device,
         Gateway,
     };
     Q_ENUM(ERole)
 
+    /*! Judges addresses of that role. */
     explicit QIpAddressWithNetmaskValidator(ERole role, QObject *parent = nullptr);
     ~QIpAddressWithNetmaskValidator() override;
 

@@ -12,18 +12,18 @@
 
 namespace Plugin::ServiceName {
 
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Device;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Workbench;
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Device; //!< the camera
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Workbench; //!< the pages of the window
 
 } // namespace Plugin::ServiceName
 
 namespace Plugin::DeviceClass {
 
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString CL;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString CXP;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Vexor;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Custom;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString GEV;
-extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString IPCam;
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString CL; //!< Camera Link
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString CXP; //!< CoaXPress
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Vexor; //!< frame grabbers of that kind
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString Custom; //!< devices of the application
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString GEV; //!< GigE Vision
+extern ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT const QString IPCam; //!< network cameras
 
 } // namespace Plugin::DeviceClass

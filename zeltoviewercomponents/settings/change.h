@@ -17,16 +17,19 @@
  */
 struct ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT Change
 {
+    /*! \brief What was changed: a value, something by a command, or many values by a file. */
     enum class Kind { Value, Command, File };
+    /*! \brief What came of it. */
     enum class Result {
         Done, //!< the value holds
         Undone, //!< the value before was written back
         Refused, //!< nothing was written, for the reason given
     };
 
-    Kind kind = Kind::Value;
-    Result result = Result::Done;
-    ParameterCollection::ParameterType type = ParameterCollection::ParameterType::Unknown;
+    Kind kind = Kind::Value; //!< what was changed
+    Result result = Result::Done; //!< what came of it
+    ParameterCollection::ParameterType type =
+        ParameterCollection::ParameterType::Unknown; //!< of the parameter
     qint64 time = 0; //!< in milliseconds since 1970
     QString name; //!< the full name of the parameter, or that of the file
     QList<FeatureSettings::Assignment> selectors; //!< that the value depends on, outer ones first

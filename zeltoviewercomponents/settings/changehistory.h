@@ -45,6 +45,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ChangeHistory : public QObject
     Q_OBJECT
 
 public:
+    /*! \brief The columns of changes(). */
     enum Column { TimeColumn, NameColumn, BeforeColumn, AfterColumn, ResultColumn, ColumnCount };
     /*! The role of changes() by which each line tells the full name of its parameter; none for a file. */
     static constexpr int NameRole = Qt::UserRole;
@@ -60,7 +61,9 @@ public:
     /*! Returns the line of changes() at \a index. */
     Change change(const QModelIndex &index) const;
 
+    /*! Returns whether there is something that undo() takes back. */
     bool canUndo() const;
+    /*! Returns whether there is something that redo() brings back. */
     bool canRedo() const;
     /*! Returns the name of what undo() takes back, empty when there is nothing. */
     QString undoText() const;
@@ -97,6 +100,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /*! What can be undone and redone has changed. */
     void stepsChanged();
+    /*! isModified() has changed. */
     void modifiedChanged(bool isModified);
     /*! The way back from a file is \a task, which begins right after this; the step moves when it has
      * succeeded. */

@@ -32,6 +32,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT ChangeHistoryWidget : public QWidget
     Q_OBJECT
 
 public:
+    /*! Lists the changes of \a history, which outlives the widget. */
     explicit ChangeHistoryWidget(ChangeHistory *history, QWidget *parent = nullptr);
     ~ChangeHistoryWidget() override;
 

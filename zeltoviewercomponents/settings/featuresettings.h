@@ -34,17 +34,17 @@ public:
     /*! \brief The camera that settings were read from, as far as it is known. */
     struct Origin
     {
-        QString vendor;
-        QString model;
-        QString serialNumber;
-        QDateTime taken;
+        QString vendor; //!< who made it
+        QString model; //!< its model name
+        QString serialNumber; //!< as it tells it
+        QDateTime taken; //!< when it was read
     };
 
     /*! \brief One line of a file. */
     struct Assignment
     {
         QString name; //!< short, or full in files from elsewhere
-        QString value;
+        QString value; //!< as text
         int line = 0; //!< in the file, 0 when it comes from no file
     };
 
@@ -52,7 +52,7 @@ public:
     struct NodeMap
     {
         QString name; //!< such as "@CameraDevice"; empty in files that do not tell
-        QList<Assignment> assignments;
+        QList<Assignment> assignments; //!< in the order of the file
         QHash<QString, QStringList> selected; //!< by selector, the features that it selects
         bool restoresSelectors = false; //!< whether selectors are to be left as they are found
     };
@@ -60,11 +60,11 @@ public:
     /*! \brief A feature and the value that it gets, under certain values of the selectors it depends on. */
     struct Setting
     {
-        QString nodeMap;
-        QString name;
+        QString nodeMap; //!< such as "@CameraDevice"
+        QString name; //!< of the feature
         QList<Assignment> selectors; //!< outer ones first
-        QString value;
-        int line = 0;
+        QString value; //!< as text
+        int line = 0; //!< in the file, 0 when it comes from no file
 
         /*! Returns the name for people: "Gain", or "TriggerMode [TriggerSelector=LineStart]". */
         QString title() const;
@@ -88,6 +88,6 @@ public:
     /*! As write(), to the file \a fileName, which is replaced as a whole or left as it was. */
     void save(const QString &fileName) const;
 
-    Origin origin;
-    QList<NodeMap> nodeMaps;
+    Origin origin; //!< where the settings come from
+    QList<NodeMap> nodeMaps; //!< in the order of the file
 };

@@ -26,11 +26,13 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsApplier : public SettingsTask
     Q_OBJECT
 
 public:
+    /*! \brief What becomes of the values before. */
     enum class Before {
         Keep, //!< reads the state of the camera first, for former()
         Forget,
     };
 
+    /*! Applies \a settings to the features of \a nodeMaps, once it is started. */
     SettingsApplier(FeatureSettings settings, const QList<SettingsNodeMap> &nodeMaps,
                     Before before = Before::Keep, QObject *parent = nullptr);
     ~SettingsApplier() override;

@@ -15,9 +15,10 @@
  */
 struct SettingsDifference
 {
+    /*! \brief Where there is a value. */
     enum class Kind { OnlyHere, OnlyThere, Different };
 
-    Kind kind = Kind::Different;
+    Kind kind = Kind::Different; //!< where there is a value
     FeatureSettings::Setting here; //!< without a value when only there
     FeatureSettings::Setting there; //!< without a value when only here
 };

@@ -25,6 +25,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReader : public SettingsTask
     Q_OBJECT
 
 public:
+    /*! Reads the features of \a nodeMaps, once it is started. */
     explicit SettingsReader(const QList<SettingsNodeMap> &nodeMaps, QObject *parent = nullptr);
     ~SettingsReader() override;
 

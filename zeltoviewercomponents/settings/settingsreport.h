@@ -21,6 +21,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReport
     Q_DECLARE_TR_FUNCTIONS(SettingsReport)
 
 public:
+    /*! \brief What came of a feature. */
     enum class Result {
         Set,
         Unchanged, //!< had the value already and was not written
@@ -30,10 +31,11 @@ public:
         NotTried, //!< the camera was lost, or the user cancelled, before its turn
     };
 
+    /*! \brief One feature. */
     struct Entry
     {
-        FeatureSettings::Setting setting;
-        Result result = Result::NotTried;
+        FeatureSettings::Setting setting; //!< what was asked for
+        Result result = Result::NotTried; //!< what came of it
         QString before; //!< the value when it was looked at first, empty where that was not possible
         QString after; //!< the value in the end, empty where it could not be read
         QString reason; //!< of a refusal, as the camera gives it
@@ -53,7 +55,7 @@ public:
     /*! Returns what came of \a entry in a few words, with the reason of a refusal. */
     static QString resultText(const Entry &entry);
 
-    QList<Entry> entries;
-    bool isCancelled = false;
+    QList<Entry> entries; //!< in the order in which they were tried
+    bool isCancelled = false; //!< the user ended it early
     bool isLost = false; //!< the camera stopped answering
 };

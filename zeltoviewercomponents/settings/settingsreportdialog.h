@@ -21,6 +21,7 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT SettingsReportDialog : public QDialog
     Q_OBJECT
 
 public:
+    /*! Shows \a report. */
     explicit SettingsReportDialog(const SettingsReport &report, QWidget *parent = nullptr);
     ~SettingsReportDialog() override;
 

@@ -22,7 +22,7 @@ class SettingsScript;
 struct SettingsNodeMap
 {
     QString name; //!< such as "@CameraDevice"
-    QSharedPointer<ParameterCollection::IParameterCollection> collection;
+    QSharedPointer<ParameterCollection::IParameterCollection> collection; //!< its parameters
 };
 
 /*! \brief A longer piece of work on the features of a camera, which leaves the event loop running.
@@ -42,6 +42,7 @@ public:
     /*! Cancels the work if it is still going on, without waiting for its end. */
     ~SettingsTask() override;
 
+    /*! Returns whether the work has begun and is not at its end. */
     bool isRunning() const;
     /*! Returns whether cancel() came before the end. */
     bool isCancelled() const;
@@ -56,11 +57,13 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
+    /*! The work has begun. */
     void started();
     /*! \a done of about \a total features are done, \a feature is next. Sent no more than some times a
      * second.
      */
     void progress(int done, int total, const QString &feature);
+    /*! The work is at its end, however it came to it. */
     void finished();
 
 protected:

@@ -5,8 +5,11 @@
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
 #include <zeltoviewercomponents/plugin/ZeltoViewer/izeltoviewercontrolledcameracontrolservice.h>
+#include <zeltoviewercomponents/translations.h>
 
 #include <QApplication>
+#include <QFile>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -24,6 +27,11 @@ public:
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+    installTranslations(QLocale(QStringLiteral("de")));
+    if (QApplication::translate("FeatureTreeWidget", "Remove") != QStringLiteral("Entfernen")
+        || !QFile::exists(QStringLiteral(":/zeltoviewercomponents/Resources/Default_Filter.xml"))) {
+        return 2;
+    }
     const CameraControl service(&application);
     if (!qobject_cast<const Core::Service::IService *>(&service)) {
         return 1;
