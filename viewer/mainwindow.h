@@ -173,6 +173,7 @@ private:
     void saveState();
 
     std::unique_ptr<Cameras::Camera> m_camera;
+    SettingsWriter m_settingsWriter; // first, before anything looks at the settings
     CameraAddress m_source; // of the camera that was opened last
     bool m_remembers = true;
     QHash<QString, QString> m_failedWrites; // messages that are on their way, and the features they are about
@@ -204,7 +205,6 @@ private:
     QToolButton *m_levelButton = nullptr;
     RecentSources *m_recent = nullptr;
     SettingsActions *m_settings;
-    SettingsWriter m_settingsWriter;
     CameraMemory m_memory{&m_settingsWriter};
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;
