@@ -189,6 +189,7 @@ private:
 
     Core::LiveTexts *m_texts; // first: the members that follow use it
     std::unique_ptr<Cameras::Camera> m_camera;
+    SettingsWriter m_settingsWriter; // first, before anything looks at the settings
     CameraAddress m_source; // of the camera that was opened last
     bool m_remembers = true;
     QHash<QString, QString> m_failedWrites; // messages that are on their way, and the features they are about
@@ -222,7 +223,6 @@ private:
     QToolButton *m_levelButton = nullptr;
     RecentSources *m_recent = nullptr;
     SettingsActions *m_settings;
-    SettingsWriter m_settingsWriter;
     CameraMemory m_memory{&m_settingsWriter};
     QAction *m_closeAction = nullptr;
     QAction *m_reconnectAction = nullptr;

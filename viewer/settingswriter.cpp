@@ -3,10 +3,17 @@
 
 #include "settingswriter.h"
 
+#include <platform/core/settingslock.h>
+
 #include <QSettings>
 
 #include <system_error>
 #include <utility>
+
+SettingsWriter::SettingsWriter()
+{
+    Core::removeLeftLock(QSettings());
+}
 
 SettingsWriter::~SettingsWriter()
 {
@@ -43,6 +50,7 @@ void SettingsWriter::work()
         for (const Change &change : std::as_const(changes)) {
             change(settings);
         }
+        Core::removeLeftLock(settings);
     } // written here, once for all of them
 }
 

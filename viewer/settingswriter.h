@@ -21,7 +21,8 @@ class SettingsWriter
 public:
     using Change = std::function<void(QSettings &)>;
 
-    SettingsWriter() = default;
+    /*! Looks after the settings: what a program that was killed has left must not keep others waiting. */
+    SettingsWriter();
     /*! Waits until all changes are made. */
     ~SettingsWriter();
     Q_DISABLE_COPY_MOVE(SettingsWriter)

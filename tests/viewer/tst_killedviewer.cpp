@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSet>
@@ -59,18 +60,25 @@ void TestKilledViewer::initTestCase()
 void TestKilledViewer::leavesWholeSettings_data()
 {
     QTest::addColumn<int>("moment");
+    QTest::addColumn<bool>("locksAreLeft"); // by one that was killed before it wrote its name into them
+    QTest::newRow("with locks left behind") << 7000 << true;
     bool isSet = false;
     const int wanted = qEnvironmentVariableIntValue("ZELTO_MOMENTS", &isSet);
     for (int i = 0; i < (isSet ? wanted : moments); ++i) {
         const int moment = QRandomGenerator::global()->bounded(i % 2 == 0 ? 300 : 7000);
-        QTest::addRow("%d: %d ms", i, moment) << moment;
+        QTest::addRow("%d: %d ms", i, moment) << moment << false;
     }
 }
 
 void TestKilledViewer::leavesWholeSettings()
 {
     QFETCH(int, moment);
+    QFETCH(bool, locksAreLeft);
     QSettings().remove("MainWindow/Level"); // of the one before
+    for (const char *const name : {".lock", ".favorites.lock"}) {
+        QFile lock(QSettings().fileName() + QLatin1String(name));
+        QVERIFY(!locksAreLeft || lock.open(QFile::WriteOnly));
+    }
     QProcess viewer;
     viewer.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     viewer.start(QCoreApplication::applicationFilePath(), {"--change"});

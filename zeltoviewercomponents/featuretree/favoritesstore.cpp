@@ -3,6 +3,8 @@
 
 #include "favoritesstore_p.h"
 
+#include <platform/core/settingslock.h>
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
@@ -22,7 +24,7 @@ constexpr int formatVersion = 3;
 constexpr int maximumStoredLength = 65536;
 // Who has the lock needs it for milliseconds; one that is much older was left behind, which is only known at
 // once of the programs of this computer.
-constexpr int lockAge = 5000; // ms
+constexpr int lockAge = 1000; // ms
 constexpr int lockInterval = 5;
 
 constexpr QLatin1String versionKey("Version");
@@ -171,6 +173,7 @@ bool FavoritesStore::write(const FavoritesList &list)
     }
     m_settings.setValue(viewAllKey, list.viewAll ? 1 : 0);
     m_settings.setValue(expandedKey, list.expanded ? 1 : 0);
+    Core::removeLeftLock(m_settings);
     m_settings.sync();
     // A format error is about what was read: the well-formed rest is kept and written.
     if (m_settings.status() != QSettings::AccessError) {
