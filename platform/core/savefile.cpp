@@ -13,7 +13,8 @@ namespace {
 
 QString writeTo(QFileDevice &file, const QByteArray &contents, QIODevice::OpenMode mode)
 {
-    const bool isWritten = file.open(mode) && file.write(contents) == contents.size();
+    // QSaveFile::commit() does not look at what becomes of the bytes that it still holds.
+    const bool isWritten = file.open(mode) && file.write(contents) == contents.size() && file.flush();
     return isWritten ? QString() : file.errorString();
 }
 

@@ -5,6 +5,7 @@
 #include <platform/core/formatdoublevalue.h>
 #include <platform/core/guard.h>
 #include <platform/core/logging.h>
+#include <platform/core/savefile.h>
 #include <platform/genicam/genericexception.h>
 #include <platform/parametercollection/parameterdata.h>
 #include <platform/parametercollection/valuewords.h>
@@ -12,7 +13,9 @@
 #include <support/logcapture.h>
 #include <support/table.h>
 
+#include <QFile>
 #include <QLoggingCategory>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
@@ -20,6 +23,9 @@
 #include <limits>
 #include <thread>
 #include <vector>
+
+#include <signal.h>
+#include <sys/resource.h>
 
 using namespace ParameterCollection;
 using Core::Logging::ELogLevel;
@@ -37,6 +43,8 @@ private slots:
     void formatDouble();
     void snapshotsCompareByContents();
     void factsHaveTheirWords();
+    void noRoomLeavesTheFileAsItWas_data();
+    void noRoomLeavesTheFileAsItWas();
 };
 
 void TestPlatform::categoryIdsAreStableAcrossThreads()
@@ -176,6 +184,34 @@ void TestPlatform::factsHaveTheirWords()
     QCOMPARE(booleanFrom("TRUE"), std::optional(true));
     QCOMPARE(booleanFrom("0"), std::optional(false));
     QCOMPARE(booleanFrom("yes"), std::nullopt);
+}
+
+void TestPlatform::noRoomLeavesTheFileAsItWas_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("held back until the end") << 1000;
+    QTest::newRow("written at once") << 1000000;
+}
+
+// As on a full disk, which would take privileges.
+void TestPlatform::noRoomLeavesTheFileAsItWas()
+{
+    QFETCH(const int, size);
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath("kept.txt");
+    QCOMPARE(Core::saveFile(fileName, "before"), QString());
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit little{100, usual.rlim_max};
+    const auto before = signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &little);
+    const QString failure = Core::saveFile(fileName, QByteArray(size, 'x'));
+    setrlimit(RLIMIT_FSIZE, &usual);
+    signal(SIGXFSZ, before);
+    QVERIFY(!failure.isEmpty());
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), "before");
 }
 
 QTEST_GUILESS_MAIN(TestPlatform)

@@ -6,6 +6,8 @@
 #include <cameras/deviceptr_p.h>
 #include <platform/parametercollection/iparameter.h>
 #include <viewer/cameraaddress.h>
+#include <viewer/cameradialog.h>
+#include <viewer/comparison.h>
 #include <viewer/mainwindow.h>
 #include <viewer/messagebar.h>
 #include <viewer/settingsactions.h>
@@ -13,6 +15,7 @@
 #include <zeltoviewercomponents/featuretree/featuretreewidget.h>
 #include <zeltoviewercomponents/settings/settingsapplier.h>
 #include <zeltoviewercomponents/settings/settingscomparison.h>
+#include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
 #include <zeltoviewercomponents/settings/settingsreader.h>
 #include <zeltoviewercomponents/settings/settingsreportdialog.h>
 
@@ -20,12 +23,15 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
+#include <QTreeView>
 
 #include <memory>
 
@@ -67,6 +73,7 @@ private slots:
     void cleanup();
     void bringTheCameraBack_data();
     void bringTheCameraBack();
+    void valuesBetweenTwoSteps();
     void nobodySeesTheSelectorsStep();
     void closedInTheMiddle();
     void lostInTheMiddle();
@@ -77,6 +84,8 @@ private slots:
     void windowAsksAboutAnotherModel_data();
     void windowAsksAboutAnotherModel();
     void windowClosesTheCameraMeanwhile();
+    void windowComparesWithALiveCamera();
+    void windowComparesNothingWithALostCamera();
 
 private:
     void startServer();
@@ -161,6 +170,17 @@ void TestCameraSettings::bringTheCameraBack()
     QVERIFY(finish(*back));
     QVERIFY2(back->report().isSuccess(), qPrintable(back->report().problems().join('\n')));
     QVERIFY(compare(changed, settingsOf(*camera)).isEmpty());
+}
+
+// What the register behind a converter cannot tell apart is no difference.
+void TestCameraSettings::valuesBetweenTwoSteps()
+{
+    const auto camera = open(false);
+    SettingsApplier applier(FeatureSettings::load(write("ExposureTime\t1234.56789\n")),
+                            settingsNodeMaps(*camera));
+    QVERIFY(finish(applier));
+    QVERIFY2(applier.report().isSuccess(), qPrintable(applier.report().problems().join('\n')));
+    QTRY_COMPARE(value(*camera, "ExposureTime"), "1234.567");
 }
 
 // A value that changes by itself in a tree would be taken for one of the camera.
@@ -337,6 +357,61 @@ void TestCameraSettings::windowClosesTheCameraMeanwhile()
     QVERIFY(!QFile::exists(m_dir.filePath("never.txt")));
     window.showCamera({}, cameraAt({}));
     QVERIFY(window.featureTree()->isEnabled());
+}
+
+void TestCameraSettings::windowComparesWithALiveCamera()
+{
+    startServer();
+    MainWindow window;
+    window.showCamera({}, cameraAt({}));
+    window.show();
+    int turns = 100;
+    QTimer choosing;
+    connect(&choosing, &QTimer::timeout, this, [&window, &turns] {
+        auto *const dialog = window.findChild<CameraDialog *>();
+        if (dialog && (dialog->cameraId().contains("ZTEST") || --turns == 0)) {
+            dialog->done(turns == 0 ? QDialog::Rejected : QDialog::Accepted);
+        }
+    });
+    choosing.start(100);
+    auto *const comparison = window.findChild<Comparison *>();
+    QSignalSpy compared(comparison, SIGNAL(compared()));
+    QMetaObject::invokeMethod(comparison, "askForCamera");
+    choosing.stop();
+    QVERIFY(turns > 0);
+    QVERIFY(compared.wait(15000));
+    QVERIFY(comparison->panel()->findChild<QLabel *>()->text().contains("ZTEST"));
+    QVERIFY(comparison->panel()->findChild<QTreeView *>()->model()->rowCount() > 20);
+    QVERIFY(window.featureTree()->isEnabled());
+}
+
+void TestCameraSettings::windowComparesNothingWithALostCamera()
+{
+    startServer();
+    MainWindow window;
+    window.show();
+    window.openCamera(CameraAddress::ofCamera("127.0.0.1"));
+    QTRY_VERIFY_WITH_TIMEOUT(window.isCameraOpen(), 10000);
+    auto *const comparison = window.findChild<Comparison *>();
+    QSignalSpy compared(comparison, SIGNAL(compared()));
+    comparison->compareWithFile(write("Width\t800\n"));
+    QVERIFY(compared.wait(5000));
+    const auto possible = [&window, comparison] {
+        QStringList names;
+        for (const QMenu *const menu : window.findChildren<QMenu *>()) {
+            names += menu->title().startsWith("Compare") && menu->isEnabled() ? menu->title() : QString();
+        }
+        for (const QToolButton *const button : comparison->panel()->findChildren<QToolButton *>()) {
+            names += button->defaultAction() && button->isEnabled() ? button->text() : QString();
+        }
+        names.removeAll(QString());
+        return names.size();
+    };
+    QCOMPARE(possible(), 3); // with others, again, and taking all over
+    g_clear_object(&m_server);
+    window.featureTree()->Refresh();
+    QTRY_VERIFY_WITH_TIMEOUT(!window.isCameraOpen(), 15000);
+    QTRY_COMPARE(possible(), 0); // as soon as the window has heard of it
 }
 
 QTEST_MAIN(TestCameraSettings)

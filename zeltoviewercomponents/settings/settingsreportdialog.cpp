@@ -18,6 +18,17 @@
 
 using Result = SettingsReport::Result;
 
+namespace {
+
+constexpr int lineColumn = 5; // shown first
+
+bool hasLine(const SettingsReport::Entry &entry)
+{
+    return entry.setting.line > 0; // of a file
+}
+
+} // namespace
+
 SettingsReportDialog::SettingsReportDialog(const SettingsReport &report, QWidget *parent)
     : QDialog(parent)
     , m_report(report)
@@ -27,7 +38,11 @@ SettingsReportDialog::SettingsReportDialog(const SettingsReport &report, QWidget
     setWindowTitle(tr("Settings Loaded"));
     auto *const summary = new QLabel(report.summary(), this);
     summary->setWordWrap(true);
-    m_list->setHeaderLabels({tr("Feature"), tr("Before"), tr("Asked for"), tr("Now"), tr("Result")});
+    m_list->setHeaderLabels(
+        {tr("Feature"), tr("Before"), tr("Asked for"), tr("Now"), tr("Result"), tr("Line")});
+    m_list->header()->moveSection(lineColumn, 0);
+    m_list->setColumnHidden(lineColumn,
+                            std::none_of(report.entries.cbegin(), report.entries.cend(), hasLine));
     m_list->setRootIsDecorated(false);
     m_list->setAlternatingRowColors(true);
     m_list->setUniformRowHeights(true);
@@ -67,12 +82,15 @@ void SettingsReportDialog::fill()
         auto *const row = new QTreeWidgetItem(m_list,
                                               {entry.setting.title(), entry.before, entry.setting.value,
                                                entry.after, SettingsReport::resultText(entry)});
+        if (hasLine(entry)) {
+            row->setText(lineColumn, QString::number(entry.setting.line));
+        }
         for (int column = 0; column < m_list->columnCount(); ++column) {
             row->setToolTip(column, row->text(column)); // narrow columns cut texts off
         }
     }
     const int widest = fontMetrics().averageCharWidth() * 36;
-    for (int column = 0; column < m_list->columnCount() - 1; ++column) {
+    for (int column = 0; column < m_list->columnCount(); ++column) {
         m_list->resizeColumnToContents(column);
         m_list->setColumnWidth(column, std::min(m_list->columnWidth(column), widest));
     }

@@ -716,6 +716,10 @@
         <translation>&amp;Kopieren</translation>
     </message>
     <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
         <source>&amp;Put Back What Was Before</source>
         <translation>&amp;Vorigen Stand wiederherstellen</translation>
     </message>

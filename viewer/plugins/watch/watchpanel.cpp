@@ -176,7 +176,10 @@ void WatchPanel::setCurrent(QSharedPointer<IParameter> parameter)
 
 void WatchPanel::useCamera(const Core::CameraPoolComponents::CameraInfoPtr &camera)
 {
-    m_current.reset();
+    // The row that was current the last time may be current again already.
+    if (m_current && (!m_finder || m_finder(m_current->fullName()) != m_current)) {
+        m_current.reset();
+    }
     if (camera->id() != m_cameraId) {
         m_cameraId = camera->id();
         m_model->clear();
