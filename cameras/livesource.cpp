@@ -206,7 +206,7 @@ QString LiveSource::missingOf(ArvBuffer *buffer)
     case ARV_BUFFER_STATUS_SIZE_MISMATCH:
         return tr("The image is larger than the camera told (PayloadSize).");
     default:
-        return missingPackets > before ? tr("%n packets are missing.", nullptr, int(missingPackets - before))
+        return missingPackets > before ? tr("Packets are missing: %1.").arg(missingPackets - before)
                                        : tr("A part is missing.");
     }
 }

@@ -553,7 +553,7 @@ void TestStream::badFrames_data()
         QString("32768 x 65536"));
     row("far too many pixels", SentImage{.width = 0xffffffff, .height = 0xffffffff}, QSize(0, 0),
         QString("4294967295"));
-    row("no image", SentImage{.payloadType = 6}, QSize(0, 0), QString("no image"));
+    row("no image", SentImage{.payloadType = 4}, QSize(0, 0), QString("no image"));
 }
 
 void TestStream::badFrames()
