@@ -218,6 +218,7 @@ void MainWindow::connectImage()
     connect(m_image, SIGNAL(wanted()), this, SLOT(showImage()));
     RegionOfInterest *const region = m_image->region();
     connect(m_tree, SIGNAL(restingChanged(bool)), region, SLOT(setBusy(bool)));
+    connect(m_tree, SIGNAL(restingChanged(bool)), m_image, SLOT(updateActions()));
     connect(region, SIGNAL(aboutToWrite()), this, SLOT(onTaskStarted()));
     connect(region, SIGNAL(applied(QString, FeatureSettings, FeatureSettings, SettingsReport)), m_history,
             SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));

@@ -23,6 +23,7 @@
 #include <QLocale>
 #include <QSettings>
 #include <QSplitter>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -72,6 +73,8 @@ ImagePane::ImagePane(QWidget *parent)
     , m_streamText(new QLabel(this))
     , m_statisticsTimer(new QTimer(this))
 {
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_bar->setIconSize({iconSize, iconSize}); // the tree needs the room as well
     setObjectName(QStringLiteral("image"));
     setWindowTitle(tr("Image"));
     createStreamActions();
@@ -120,8 +123,8 @@ void ImagePane::createStreamActions()
     m_start = addAction(Symbol::Start, tr("St&art Images"), tr("Shows what the camera sees"), Qt::Key_F9,
                         this, SLOT(toggleStream()));
     m_start->setShortcutContext(Qt::WindowShortcut);
-    m_single = addAction(Symbol::Single, tr("Si&ngle Image"), tr("Takes one image"), QKeySequence(Qt::SHIFT | Qt::Key_F9), this,
-                         SLOT(takeOne()));
+    m_single = addAction(Symbol::Single, tr("Si&ngle Image"), tr("Takes one image"),
+                         QKeySequence(Qt::SHIFT | Qt::Key_F9), this, SLOT(takeOne()));
     m_single->setShortcutContext(Qt::WindowShortcut);
     m_bar->addSeparator();
 }

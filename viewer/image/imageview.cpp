@@ -340,6 +340,19 @@ void ImageView::moveProbe(const QPoint &step)
     Q_EMIT probed(*m_marks.probe);
 }
 
+// The arrows are about pixels here, also those that fold the tree elsewhere.
+bool ImageView::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        if (!stepOf(key->key()).isNull() && key->modifiers() & Qt::ControlModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
 void ImageView::leaveEvent(QEvent *event)
 {
     QWidget::leaveEvent(event);
