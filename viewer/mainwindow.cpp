@@ -345,7 +345,8 @@ void MainWindow::createPanels()
     // Below, since they are wide; one behind the other, since that takes rows from the tree.
     QDockWidget *const changes = addPanel(m_history->panel(), Qt::BottomDockWidgetArea);
     tabifyDockWidget(changes, addPanel(m_comparison->panel(), Qt::BottomDockWidgetArea));
-    addPanel(m_image, Qt::RightDockWidgetArea);
+    QDockWidget *const image = addPanel(m_image, Qt::RightDockWidgetArea);
+    connect(image->toggleViewAction(), SIGNAL(toggled(bool)), m_image, SLOT(setOpen(bool)));
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
         addPanel(panel, Qt::RightDockWidgetArea);

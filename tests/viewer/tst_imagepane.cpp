@@ -28,8 +28,10 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <csignal>
 #include <memory>
 
+#include <sys/resource.h>
 #include <tiffio.h>
 
 using namespace Cameras;
@@ -406,8 +408,17 @@ void TestImagePane::recordingEndsWithTheDisk()
     QVERIFY(finished[0][2].toString().startsWith("Cannot write"));
     recorder.add(playedFrame("Mono8", {8, 8}));
     QVERIFY(!recorder.isRecording());
-    // A device that is full leaves nothing behind that could be taken for an image.
-    QVERIFY(!FrameFile::writeNew(m_folder->filePath("missing/a.pgm"), "P5").isEmpty());
+    // A disk that is full leaves nothing behind that could be taken for an image.
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full{4096, before.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+    const QString path = m_folder->filePath("large.pgm");
+    const QString failure = FrameFile::save(*playedFrame("Mono8", {100, 100}), path);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    QVERIFY2(failure.startsWith("Cannot write"), qPrintable(failure));
+    QVERIFY(!QFile::exists(path));
 }
 
 void TestImagePane::startStopManyTimes()
@@ -426,6 +437,11 @@ void TestImagePane::startStopManyTimes()
     const FramePointer last = view().frame();
     QTest::keyClick(m_window.get(), Qt::Key_F9, Qt::ShiftModifier);
     QTRY_VERIFY_WITH_TIMEOUT(view().frame() != last && !pane().stream()->isRunning(), 10000);
+    // So does what nobody sees, since the camera locks features meanwhile.
+    QTest::keyClick(m_window.get(), Qt::Key_F9);
+    QVERIFY(pane().stream()->isRunning());
+    pane().parentWidget()->close();
+    QVERIFY(!pane().stream()->isRunning());
 }
 
 void TestImagePane::closingWhileStreamingIsQuick()

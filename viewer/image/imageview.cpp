@@ -186,11 +186,7 @@ void ImageView::paintEvent(QPaintEvent *event)
     }
     m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize()); // a screen may have changed
     if (image().isNull()) {
-        paintMessage(painter,
-                     m_frame->missing.isEmpty()
-                         ? tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
-                               .arg(pixelFormatName(m_frame->pixelFormat))
-                         : m_frame->missing);
+        paintMessage(painter, obstacle());
         return;
     }
     const double ratio = devicePixelRatioF();
@@ -206,9 +202,19 @@ void ImageView::paintEvent(QPaintEvent *event)
     }
 }
 
+QString ImageView::obstacle() const
+{
+    if (!m_frame->isComplete()) {
+        return m_frame->missing;
+    }
+    return FrameConversion::canConvert(m_frame->pixelFormat)
+        ? tr("An image of %1 × %2 pixels cannot be shown.").arg(m_frame->width).arg(m_frame->height)
+        : tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
+              .arg(pixelFormatName(m_frame->pixelFormat));
+}
+
 void ImageView::paintMessage(QPainter &painter, const QString &text)
 {
-    painter.setPen(palette().color(QPalette::BrightText).lightness() > 128 ? Qt::white : Qt::black);
     const bool isDark = palette().color(QPalette::Dark).lightness() < 128;
     painter.setPen(isDark ? Qt::white : Qt::black);
     const int margin = fontMetrics().height();

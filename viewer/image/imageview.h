@@ -87,6 +87,7 @@ private:
     QPoint pixelAt(const QPointF &place) const;
     QPoint heldInside(const QPoint &position) const;
     const QImage &image();
+    QString obstacle() const;
     void paintMessage(QPainter &painter, const QString &text);
 
     Cameras::FramePointer m_frame;
