@@ -260,15 +260,14 @@ void ImageView::mouseMoveEvent(QMouseEvent *event)
     if (!m_frame) {
         return;
     }
-    const QPoint position = pixelAt(event->position());
     if (m_drag == Drag::Pan) {
         m_viewport.pan(devicePlace(event->position()) - m_dragPlace);
         m_dragPlace = devicePlace(event->position());
         changeZoom();
     } else if (m_drag != Drag::None) {
-        draw(heldInside(position));
+        draw(heldInside(pixelAt(event->position())));
     }
-    Q_EMIT probed(position);
+    Q_EMIT probed(pixelAt(event->position()));
 }
 
 void ImageView::draw(const QPoint &position)
