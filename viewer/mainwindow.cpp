@@ -261,6 +261,7 @@ void MainWindow::connectImage()
     connect(m_image, SIGNAL(wanted()), this, SLOT(showImage()));
     RegionOfInterest *const region = m_image->region();
     connect(m_tree, SIGNAL(restingChanged(bool)), region, SLOT(setBusy(bool)));
+    connect(m_tree, SIGNAL(restingChanged(bool)), m_image, SLOT(updateActions()));
     connect(region, SIGNAL(aboutToWrite()), this, SLOT(onTaskStarted()));
     connect(region, SIGNAL(applied(QString, FeatureSettings, FeatureSettings, SettingsReport)), m_history,
             SLOT(onTakenOver(QString, FeatureSettings, FeatureSettings, SettingsReport)));
@@ -390,7 +391,8 @@ void MainWindow::createPanels()
     // Below, since they are wide; one behind the other, since that takes rows from the tree.
     QDockWidget *const changes = addPanel(m_history->panel(), Qt::BottomDockWidgetArea);
     tabifyDockWidget(changes, addPanel(m_comparison->panel(), Qt::BottomDockWidgetArea));
-    addPanel(m_image, Qt::RightDockWidgetArea);
+    QDockWidget *const image = addPanel(m_image, Qt::RightDockWidgetArea);
+    connect(image->toggleViewAction(), SIGNAL(toggled(bool)), m_image, SLOT(setOpen(bool)));
     const auto panels = PluginHost::createPanels(PluginHost::folders(), m_services, this);
     for (QWidget *const panel : panels) {
         addPanel(panel, Qt::RightDockWidgetArea);

@@ -42,6 +42,7 @@ private slots:
     void fullDeviceIsAFailure();
     void operations_data();
     void operations();
+    void grabsImages();
     void settingsGoThroughStandardStreams();
     void streamableFeaturesAreTheSettings();
     void settingsOfAnotherModelNeedForce();
@@ -126,6 +127,9 @@ void TestViewerCli::failsInOneLine_data()
     row("--dump --camera x --description y", "exclude each other");
     row("--editors --dump", "exclude each other");
     row("--list --search=x", "exclude each other");
+    row("--grab x.png --grab-count 0", "--grab-count expects");
+    row("--grab-count 2", "needs --grab");
+    row("--stream-statistics soon", "soon");
     row("--dump --zeroed", "needs --description");
     row("--dump --registers=x --camera=y", "needs --description");
     row("--dump --save-registers=x", "exclude each other");
@@ -329,6 +333,9 @@ void TestViewerCli::operations_data()
     row("--load given --get Nobody", 2, "", "no feature Nobody", narrow);
     row("--load given", 1, "", "line 1: Nobody: the camera has no such feature", "Nobody\t1\n");
     row("--watch Width --count 2 --interval 1", 0, "", "");
+    row("--grab given", 2, "", "nothing is overwritten");
+    row("--set TriggerMode=On --stream-statistics 1", 1,
+        "complete:0 incomplete:0 dropped:0 framesPerSecond:0.00 bytesPerSecond:0", "no image came");
 }
 
 void TestViewerCli::operations()
@@ -351,6 +358,20 @@ void TestViewerCli::operations()
     QVERIFY2(result.err.contains(named) && result.err.count('\n') == (named.isEmpty() ? 0 : 1),
              qPrintable(result.err));
     QVERIFY(result.exitCode == exitCode || (arguments.contains("--compare") && result.exitCode == 1));
+}
+
+// Each of the kinds, with the settings that were made just before; several in numbered files.
+void TestViewerCli::grabsImages()
+{
+    const Result result =
+        run(QStringLiteral("--set Width=640 --set Height=480 --grab %1 --grab %2 --grab-count 2 "
+                           "--stream-statistics 1")
+                .arg(path("a.png"), path("b.pgm")));
+    QVERIFY2(result.exitCode == 0, qPrintable(result.err));
+    for (const char *const name : {"a-0001.png", "a-0002.png", "b-0001.pgm", "b-0002.pgm"}) {
+        QCOMPARE(QImage(path(name)).size(), QSize(640, 480));
+    }
+    QVERIFY(result.out.startsWith("complete\t") && !result.out.startsWith("complete\t0\n"));
 }
 
 void TestViewerCli::settingsGoThroughStandardStreams()

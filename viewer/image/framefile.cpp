@@ -208,7 +208,8 @@ QString FrameFile::writeNew(const QString &fileName, const QByteArray &contents)
         return {};
     }
     const QString failure = tr("Cannot write %1: %2").arg(fileName, file.errorString());
-    file.remove();
+    file.close();
+    QFile::remove(fileName); // the member refuses to, after a failure
     return failure;
 }
 

@@ -60,6 +60,9 @@ void FrameGrabber::take()
 
 void FrameGrabber::onStopped(const QString &reason)
 {
+    if (m_stream->isRunning()) {
+        return; // that was an earlier run
+    }
     m_failure = reason;
     interrupt();
 }

@@ -23,6 +23,7 @@
 #include <QLocale>
 #include <QSettings>
 #include <QSplitter>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -72,6 +73,8 @@ ImagePane::ImagePane(QWidget *parent)
     , m_streamText(new QLabel(this))
     , m_statisticsTimer(new QTimer(this))
 {
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_bar->setIconSize({iconSize, iconSize}); // the tree needs the room as well
     setObjectName(QStringLiteral("image"));
     setWindowTitle(tr("Image"));
     createStreamActions();
@@ -292,6 +295,14 @@ void ImagePane::showFrame(FramePointer frame)
     showProbe(m_probe);
 }
 
+// Else the tree would have locked features, and nothing in sight to tell why.
+void ImagePane::setOpen(bool isOpen)
+{
+    if (!isOpen && !m_saving->recorder()->isRecording()) {
+        m_stream->stop();
+    }
+}
+
 void ImagePane::toggleStream()
 {
     m_stream->toggle();
@@ -405,6 +416,12 @@ void ImagePane::updateIcons()
             action->setIcon(ImageIcons::icon(static_cast<Symbol>(action->data().toInt()), palette()));
         }
     }
+}
+
+void ImagePane::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_analysis->setFrame(m_view->frame()); // which was not looked at while hidden
 }
 
 void ImagePane::changeEvent(QEvent *event)

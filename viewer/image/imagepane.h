@@ -58,6 +58,8 @@ public:
 
 public Q_SLOTS:
     void showFrame(Cameras::FramePointer frame);
+    /*! Says whether the pane is open at all: images that nobody sees or records stop. */
+    void setOpen(bool isOpen);
     /*! Grays the actions out that are of no use now. */
     void updateActions();
 
@@ -70,6 +72,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private Q_SLOTS:
     void toggleStream();

@@ -186,11 +186,7 @@ void ImageView::paintEvent(QPaintEvent *event)
     }
     m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize()); // a screen may have changed
     if (image().isNull()) {
-        paintMessage(painter,
-                     m_frame->missing.isEmpty()
-                         ? tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
-                               .arg(pixelFormatName(m_frame->pixelFormat))
-                         : m_frame->missing);
+        paintMessage(painter, obstacle());
         return;
     }
     const double ratio = devicePixelRatioF();
@@ -206,9 +202,19 @@ void ImageView::paintEvent(QPaintEvent *event)
     }
 }
 
+QString ImageView::obstacle() const
+{
+    if (!m_frame->isComplete()) {
+        return m_frame->missing;
+    }
+    return FrameConversion::canConvert(m_frame->pixelFormat)
+        ? tr("An image of %1 × %2 pixels cannot be shown.").arg(m_frame->width).arg(m_frame->height)
+        : tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
+              .arg(pixelFormatName(m_frame->pixelFormat));
+}
+
 void ImageView::paintMessage(QPainter &painter, const QString &text)
 {
-    painter.setPen(palette().color(QPalette::BrightText).lightness() > 128 ? Qt::white : Qt::black);
     const bool isDark = palette().color(QPalette::Dark).lightness() < 128;
     painter.setPen(isDark ? Qt::white : Qt::black);
     const int margin = fontMetrics().height();
@@ -254,15 +260,14 @@ void ImageView::mouseMoveEvent(QMouseEvent *event)
     if (!m_frame) {
         return;
     }
-    const QPoint position = pixelAt(event->position());
     if (m_drag == Drag::Pan) {
         m_viewport.pan(devicePlace(event->position()) - m_dragPlace);
         m_dragPlace = devicePlace(event->position());
         changeZoom();
     } else if (m_drag != Drag::None) {
-        draw(heldInside(position));
+        draw(heldInside(pixelAt(event->position())));
     }
-    Q_EMIT probed(position);
+    Q_EMIT probed(pixelAt(event->position()));
 }
 
 void ImageView::draw(const QPoint &position)
@@ -338,6 +343,19 @@ void ImageView::moveProbe(const QPoint &step)
     m_marks.probe = heldInside(m_marks.probe ? *m_marks.probe + step : middle);
     update();
     Q_EMIT probed(*m_marks.probe);
+}
+
+// The arrows are about pixels here, also those that fold the tree elsewhere.
+bool ImageView::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        if (!stepOf(key->key()).isNull() && key->modifiers() & Qt::ControlModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
 }
 
 void ImageView::leaveEvent(QEvent *event)

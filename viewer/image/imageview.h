@@ -72,6 +72,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     enum class Drag { None, Pan, Part, Line, Region };
@@ -86,6 +87,7 @@ private:
     QPoint pixelAt(const QPointF &place) const;
     QPoint heldInside(const QPoint &position) const;
     const QImage &image();
+    QString obstacle() const;
     void paintMessage(QPainter &painter, const QString &text);
 
     Cameras::FramePointer m_frame;

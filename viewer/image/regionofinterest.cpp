@@ -79,7 +79,7 @@ RegionOfInterest::Features RegionOfInterest::features(bool isHorizontal) const
 
 bool RegionOfInterest::isPossible() const
 {
-    return features(true).areUsable() && features(false).areUsable();
+    return !m_isBusy && !m_applier && features(true).areUsable() && features(false).areUsable();
 }
 
 RegionOfInterest::Span RegionOfInterest::nearest(const Span &wanted, const Side &side)
@@ -132,9 +132,6 @@ void RegionOfInterest::setFullFrame()
 // A size that fits beside the present offset is written first, else the offset has to make room for it.
 void RegionOfInterest::write(const Span &horizontal, const Span &vertical)
 {
-    if (m_applier || m_isBusy) {
-        return; // the one before, or something else, is still being written
-    }
     QList<FeatureSettings::Setting> settings;
     for (const bool isHorizontal : {true, false}) {
         const Features present = features(isHorizontal);

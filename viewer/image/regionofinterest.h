@@ -48,7 +48,7 @@ public:
 
     /*! Names the camera's node maps; none when no camera is open. */
     void setNodeMaps(const QList<SettingsNodeMap> &nodeMaps);
-    /*! Returns whether the camera has a region that can be set, apart from being locked now. */
+    /*! Returns whether the camera has a region that can be set, apart from images that lock it. */
     bool isPossible() const;
 
     /*! Returns the span that \a side has nearest to \a wanted. */

@@ -21,11 +21,21 @@ double held(double center, double frame, double view)
 void Viewport::setFrameSize(const QSize &size)
 {
     m_frameSize = size;
+    m_keptPlace.reset();
 }
 
 void Viewport::setViewSize(const QSize &size)
 {
-    m_viewSize = size;
+    if (m_viewSize != size) {
+        m_viewSize = size;
+        m_keptPlace.reset();
+    }
+}
+
+void Viewport::fit()
+{
+    m_scale = 0.0;
+    m_keptPlace.reset();
 }
 
 double Viewport::fittedScale() const
@@ -51,10 +61,14 @@ QPointF Viewport::center() const
 
 void Viewport::setScale(double scale, const QPointF &kept)
 {
-    const QPointF position = toFrame(kept);
+    // While the frame is smaller than the view it stays in the middle, which must not add up.
+    if (m_keptPlace != kept) {
+        m_keptPlace = kept;
+        m_keptPosition = toFrame(kept);
+    }
     m_scale = std::clamp(scale, std::min(fittedScale(), 1.0) / 2.0, largestScale);
     const QPointF middle(m_viewSize.width() / 2.0, m_viewSize.height() / 2.0);
-    m_center = position + (middle - kept) / m_scale;
+    m_center = m_keptPosition + (middle - kept) / m_scale;
     m_center = center();
 }
 
@@ -63,6 +77,7 @@ void Viewport::pan(const QPointF &distance)
     if (isFitted()) {
         return;
     }
+    m_keptPlace.reset();
     m_center -= distance / m_scale;
     m_center = center();
 }

@@ -7,6 +7,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 /*! \brief Which part of a frame a view shows, and how large. All places in the view are device pixels. */
 class Viewport
 {
@@ -17,7 +19,7 @@ public:
     /*! Returns whether all of the frame is shown, as large as the view allows. */
     bool isFitted() const { return m_scale == 0.0; }
     /*! Shows all of the frame, also when sizes change. */
-    void fit() { m_scale = 0.0; }
+    void fit();
     /*! Returns how many device pixels a pixel of the frame takes along a side. */
     double scale() const;
     /*! Makes \a scale that, as far as it makes sense; what is at \a kept stays there. */
@@ -40,4 +42,6 @@ private:
     QSize m_viewSize;
     double m_scale = 0.0; // 0 when fitted
     QPointF m_center; // of the view, in the frame
+    std::optional<QPointF> m_keptPlace; // of the zooming that is under way, and the position there
+    QPointF m_keptPosition;
 };

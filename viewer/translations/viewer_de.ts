@@ -1323,6 +1323,10 @@ Trotzdem laden?</translation>
         <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
         <translation>Das Pixelformat %1 kann nicht gezeigt werden. Seine Bytes können gespeichert werden.</translation>
     </message>
+    <message>
+        <source>An image of %1 × %2 pixels cannot be shown.</source>
+        <translation>Ein Bild von %1 × %2 Pixeln kann nicht gezeigt werden.</translation>
+    </message>
 </context>
 <context>
     <name>LookControls</name>
