@@ -146,7 +146,6 @@ DescriptionPane::DescriptionPane(QWidget *parent)
     , m_text(new QTextBrowser(this))
     , m_help(new HelpLink(this))
 {
-    m_text->setFrameShape(QFrame::NoFrame);
     m_text->setOpenExternalLinks(true);
     (new Core::LiveTexts(this))->add(m_text, &QWidget::setAccessibleName, [] {
         return tr("Description of the current feature");

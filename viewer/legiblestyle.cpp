@@ -95,6 +95,11 @@ void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         outline(painter, option->rect, radius,
                 outlineColor(option->palette, option->state.testFlag(State_HasFocus)));
         break;
+    case PE_Frame: // of lists and texts
+        if (option->state.testFlag(State_HasFocus)) {
+            outline(painter, option->rect, 0, outlineColor(option->palette, true));
+        }
+        break;
     case PE_PanelMenu:
         outline(painter, option->rect, 0, outlineColor(option->palette, false));
         break;

@@ -3,6 +3,8 @@
 
 #include "levels.h"
 
+#include <QRegularExpression>
+
 QString Levels::menuText(GenApi::EVisibility level)
 {
     switch (level) {
@@ -19,5 +21,11 @@ QString Levels::menuText(GenApi::EVisibility level)
 
 QString Levels::name(GenApi::EVisibility level)
 {
-    return level < GenApi::Invisible ? menuText(level).remove(QLatin1Char('&')) : tr("Invisible");
+    return level < GenApi::Invisible ? withoutMnemonic(menuText(level)) : tr("Invisible");
+}
+
+QString Levels::withoutMnemonic(const QString &menuText)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("\\s*\\(&.\\)|&"));
+    return QString(menuText).remove(mnemonic);
 }

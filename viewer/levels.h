@@ -18,4 +18,7 @@ public:
     static QString menuText(GenApi::EVisibility level);
     /*! Returns the name of the level that a feature is on. */
     static QString name(GenApi::EVisibility level);
+    /*! Returns the text of a menu's entry without the letter that is pressed for it, which some languages
+     * have in brackets behind. */
+    static QString withoutMnemonic(const QString &menuText);
 };

@@ -558,7 +558,7 @@ void MainWindow::createLevelButton()
 void MainWindow::updateLevelButton()
 {
     const QAction *const level = m_levels->checkedAction();
-    const QString name = level ? level->text().remove(QLatin1Char('&')) : QString();
+    const QString name = level ? Levels::withoutMnemonic(level->text()) : QString();
     m_levelButton->setText(tr("Level: %1").arg(name));
 }
 

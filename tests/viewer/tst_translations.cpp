@@ -51,6 +51,26 @@ QStringList marks(const QString &text)
     return found;
 }
 
+// Returns the texts of a file of translations, each with its context.
+QStringList sourcesIn(const QString &folder, const QString &language)
+{
+    QFile file(QStringLiteral(ZELTO_SOURCE_DIR "/%1/translations/%1_%2.ts").arg(folder, language));
+    QStringList sources;
+    QXmlStreamReader reader(file.open(QFile::ReadOnly) ? &file : nullptr);
+    QString context;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (reader.name() == QLatin1String("name")) {
+            context = reader.readElementText();
+        } else if (reader.name() == QLatin1String("source")) {
+            sources.append(context + QLatin1String(": ") + reader.readElementText());
+        }
+    }
+    return sources;
+}
+
 void appendRows(QStringList &texts, const QTreeView &view, const QModelIndex &parent = {})
 {
     for (int row = 0; row < view.model()->rowCount(parent); ++row) {
@@ -104,6 +124,8 @@ private slots:
     void cleanup();
     void filesAreComplete_data();
     void filesAreComplete();
+    void languagesHaveTheSameTexts_data();
+    void languagesHaveTheSameTexts();
     void countsHaveTheirPlural_data();
     void countsHaveTheirPlural();
     void librariesAreTranslated();
@@ -166,6 +188,31 @@ void TestTranslations::filesAreComplete()
     QVERIFY(translations > 0);
 }
 
+void TestTranslations::languagesHaveTheSameTexts_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("language");
+    for (const char *const folder : {"zeltoviewercomponents", "cameras", "viewer"}) {
+        for (const char *const language : {"es", "fr", "ja", "zh_CN"}) {
+            QTest::addRow("%s_%s", folder, language)
+                << QString::fromLatin1(folder) << QString::fromLatin1(language);
+        }
+    }
+}
+
+// The German ones are held against the sources by scripts/translations.
+void TestTranslations::languagesHaveTheSameTexts()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, language);
+    const QStringList expected = sourcesIn(folder, QStringLiteral("de"));
+    const QStringList found = sourcesIn(folder, language);
+    for (const QString &text : expected) {
+        QVERIFY2(found.contains(text), qPrintable(text));
+    }
+    QCOMPARE(found.size(), expected.size());
+}
+
 void TestTranslations::countsHaveTheirPlural_data()
 {
     QTest::addColumn<QLocale>("locale");
@@ -176,6 +223,14 @@ void TestTranslations::countsHaveTheirPlural_data()
     QTest::newRow("many, C") << QLocale::c() << QStringLiteral("exposure") << QStringLiteral("5 results");
     QTest::newRow("many, German") << QLocale(QLocale::German) << QStringLiteral("exposure")
                                   << QStringLiteral("5 Treffer");
+    QTest::newRow("one, French") << QLocale(QLocale::French) << QStringLiteral("ExposureMode")
+                                 << QStringLiteral("1 résultat");
+    QTest::newRow("many, Spanish") << QLocale(QLocale::Spanish) << QStringLiteral("exposure")
+                                   << QStringLiteral("5 resultados");
+    QTest::newRow("many, Japanese") << QLocale(QLocale::Japanese) << QStringLiteral("exposure")
+                                    << QStringLiteral("5 件");
+    QTest::newRow("many, Chinese") << QLocale(QLocale::Chinese) << QStringLiteral("exposure")
+                                   << QStringLiteral("5 个结果");
     QTest::newRow("untranslated language")
         << QLocale(QLocale::Icelandic) << QStringLiteral("exposure") << QStringLiteral("5 results");
 }
@@ -221,6 +276,7 @@ void TestTranslations::textsFollowTheLanguage()
             window->showCamera({}, cameraAt({}));
         }
         window->show();
+        QCoreApplication::processEvents(); // the current row is described a little later
         return window;
     };
     installTranslations(QLocale(QLocale::English));
@@ -254,19 +310,21 @@ void TestTranslations::theLanguageIsChosenInAMenu()
         QVERIFY(german != actions.cend());
         (*german)->trigger();
         QCoreApplication::processEvents();
-        QCOMPARE(menu->title(), QStringLiteral("&Sprache"));
+        QCOMPARE(menu->title(), QStringLiteral("Spra&che"));
     }
     cleanup();
     installTranslations(chosenLanguage()); // as the next start does
     const MainWindow window;
-    QCOMPARE(window.findChild<LanguagesMenu *>()->title(), QStringLiteral("&Sprache"));
+    QCOMPARE(window.findChild<LanguagesMenu *>()->title(), QStringLiteral("Spra&che"));
 }
 
 void TestTranslations::mnemonicsAreUnique_data()
 {
     QTest::addColumn<QLocale>("locale");
-    QTest::newRow("English") << QLocale(QLocale::English);
-    QTest::newRow("German") << QLocale(QLocale::German);
+    for (const auto &language : {QLocale::English, QLocale::German, QLocale::Spanish, QLocale::French,
+                                 QLocale::Japanese, QLocale::Chinese}) {
+        QTest::newRow(qPrintable(QLocale::languageToString(language))) << QLocale(language);
+    }
 }
 
 void TestTranslations::mnemonicsAreUnique()

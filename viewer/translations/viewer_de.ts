@@ -542,11 +542,11 @@ Schließen, ohne sie zu speichern?</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>Message: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldung: %1</translation>
     </message>
 </context>
 <context>
@@ -1046,11 +1046,11 @@ Trotzdem laden?</translation>
     <name>LanguagesMenu</name>
     <message>
         <source>Lan&amp;guage</source>
-        <translation type="unfinished"></translation>
+        <translation>Spra&amp;che</translation>
     </message>
     <message>
         <source>As the &amp;System</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das &amp;System</translation>
     </message>
 </context>
 <context>

@@ -68,12 +68,12 @@ QPalette unselectedPalette(QPalette colors)
 }
 
 // Without a pen, which on scaled screens is drawn half beside the row.
-void frameRow(QPainter *painter, const QRect &row, const QColor &color)
+void frameRow(QPainter *painter, const QRect &row, const QColor &color, int width)
 {
-    painter->fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
-    painter->fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
-    painter->fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
-    painter->fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
+    painter->fillRect(QRect(row.left(), row.top(), row.width(), width), color);
+    painter->fillRect(QRect(row.left(), row.bottom() - width + 1, row.width(), width), color);
+    painter->fillRect(QRect(row.left(), row.top(), width, row.height()), color);
+    painter->fillRect(QRect(row.right() - width + 1, row.top(), width, row.height()), color);
 }
 
 } // namespace
@@ -789,7 +789,9 @@ void FeatureTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
         painter->setClipping(false);
     }
     if (isSameRow(currentIndex(), index)) {
-        frameRow(painter, options.rect, palette().color(QPalette::Active, QPalette::Highlight));
+        // Where keys go that reach no editor is seen by the width.
+        frameRow(painter, options.rect, palette().color(QPalette::Active, QPalette::Highlight),
+                 hasFocus() ? 2 : 1);
     }
 }
 

@@ -122,6 +122,11 @@ void SearchEdit::showActionTexts()
 void SearchEdit::paintEvent(QPaintEvent *event)
 {
     QLineEdit::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this); // the style sheet gives the border one colour for all
+        painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (d->clearAction->isVisible() || !d->placeholderEnabled) {
         return;
     }

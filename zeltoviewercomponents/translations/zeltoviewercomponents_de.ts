@@ -193,11 +193,17 @@
     </message>
     <message numerus="yes">
         <source>%n feature(s) found</source>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>%n Merkmal gefunden</numerusform>
+            <numerusform>%n Merkmale gefunden</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%1, %n more at a higher level</source>
-        <translation type="unfinished"></translation>
+        <translation>
+            <numerusform>%1, %n weiteres auf einer höheren Stufe</numerusform>
+            <numerusform>%1, %n weitere auf einer höheren Stufe</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -228,7 +234,7 @@
     </message>
     <message>
         <source>Features</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkmale</translation>
     </message>
 </context>
 <context>
@@ -919,11 +925,11 @@
     <name>SearchEdit</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
 </context>
 </TS>
