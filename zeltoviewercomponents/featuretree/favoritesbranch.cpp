@@ -51,8 +51,11 @@ QString favoritesRowName(const FavoriteEntry &entry)
 {
     QString nodeMap = entry.nodeMapKey;
     nodeMap.remove(QLatin1Char('@'));
-    const QStringList parts{FeatureTreeNames::favorite, firstSegment(nodeMap), entry.featureName};
-    return parts.join(QLatin1Char(FeatureTreeNames::separator));
+    if (nodeMap.contains(QLatin1Char('/'))) {
+        nodeMap = firstSegment(nodeMap);
+    }
+    constexpr QLatin1Char separator(FeatureTreeNames::separator);
+    return FeatureTreeNames::favorite + separator + nodeMap + separator + entry.featureName;
 }
 
 bool isPlaceholder(const FeatureTreeItem *row)

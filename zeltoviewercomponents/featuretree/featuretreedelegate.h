@@ -15,9 +15,12 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include <memory>
+
 class FeatureTreeHighlighter;
 class FeatureTreeINodeItem;
 class IFeatureTreeModelExtension;
+class ShapedNames;
 
 /*! \brief The item delegate of the feature tree.
  *
@@ -101,6 +104,7 @@ private:
 
     IFeatureTreeModelExtension *m_extension;
     FeatureTreeHighlighter *m_highlighter;
+    std::unique_ptr<ShapedNames> m_names;
     CommandVeto m_commandVeto;
     mutable QList<PendingCommand> m_pendingCommands; // until the veto has been asked
     QTimer *m_commandTimer;

@@ -432,6 +432,19 @@ void FeatureTreeView::showInEditor(const QModelIndex &index)
     }
 }
 
+// The rows were made anew.
+void FeatureTreeView::showInEditorsBelow(const QModelIndex &parent)
+{
+    const int count = parent.isValid() ? model()->rowCount(parent) : 0;
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex value = model()->index(row, FeatureTreeColumns::value, parent);
+        if (QTreeView::indexWidget(value)) {
+            updateCell(value);
+            showInEditor(value);
+        }
+    }
+}
+
 void FeatureTreeView::updateCell(const QModelIndex &index)
 {
     FeatureTreeItem *const item = itemAt(index);
@@ -622,17 +635,12 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QModelIndex current = currentIndex();
     // Rows outside the branch stay as they are; a name would find a feature in the first of its categories.
     const bool isFavorite = branch.isValid() && current.parent() == branch;
+    const int row = current.row();
     const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
     const QStringList selectedNames = selectedFavorites(branch);
     const Batch batch(this);
     if (!isFavorite && !m_topRow.isValid() && isVisible() && verticalScrollBar()->value() > 0) {
         m_topRow = indexAt(QPoint(0, 0)); // rows that come and go above do not move what is looked at
-    }
-    if (isFavorite) {
-        // The base would make one neighbour after the other the current row while the rows go.
-        dropEditor();
-        const QSignalBlocker blocker(selectionModel());
-        selectionModel()->clear();
     }
 
     m_areRowsStale = true;
@@ -640,12 +648,13 @@ void FeatureTreeView::onFavoriteDataUpdated()
     if (m_highlighter.text().isEmpty() || !branch.isValid()) { // a search has its own expansion
         onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
     }
+    showInEditorsBelow(extension->GetFavoritesRootIndex());
     for (const QString &name : selectedNames) {
         const QModelIndex index = favoriteNamed(name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
     if (isFavorite) {
-        restoreFavorite(currentName, current.row());
+        restoreFavorite(currentName, row);
     }
 }
 
@@ -680,7 +689,10 @@ void FeatureTreeView::restoreFavorite(const QString &fullName, int row)
     }
     const FeatureTreeItem *const item = itemAt(index);
     const bool isUsable = index.flags().testFlag(Qt::ItemIsSelectable) && item && item->ShowMe(m_visibility);
-    setCurrentIndex(isUsable ? index : branch);
+    m_keptInSight = isUsable ? index : branch;
+    if (!isSameRow(currentIndex(), m_keptInSight)) {
+        setCurrentIndex(m_keptInSight);
+    }
 }
 
 void FeatureTreeView::setVisibility(GenApi::EVisibility level)
@@ -723,6 +735,9 @@ void FeatureTreeView::finishBatch()
     }
     if (const QModelIndex top = std::exchange(m_topRow, {}); top.isValid()) {
         scrollTo(top, PositionAtTop);
+    }
+    if (const QModelIndex row = std::exchange(m_keptInSight, {}); row.isValid()) {
+        scrollTo(row);
     }
 }
 

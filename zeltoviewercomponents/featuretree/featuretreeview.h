@@ -164,6 +164,7 @@ private:
 
     bool wantsEditor(FeatureTreeItem *item) const;
     void showInEditor(const QModelIndex &index);
+    void showInEditorsBelow(const QModelIndex &parent);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void dropEditor();
     void dropLockedEditor();
@@ -189,6 +190,7 @@ private:
     bool m_areRowsStale = false; // when the batch ends
     bool m_isLayoutStale = false;
     QPersistentModelIndex m_topRow; // of the viewport, before the batch
+    QPersistentModelIndex m_keptInSight; // by the end of the batch
     bool m_wasShown = false;
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
     bool m_keepsEditor = false; // nor does one close
