@@ -44,16 +44,13 @@ FavoriteEntry probeOf(const QString &featureName, const QString &nodeMapKey)
 
 QString firstSegment(const QString &path)
 {
-    return path.section(QLatin1Char('/'), 0, 0);
+    return path.left(path.indexOf(QLatin1Char('/'))); // all of it where there is none
 }
 
 QString favoritesRowName(const FavoriteEntry &entry)
 {
-    QString nodeMap = entry.nodeMapKey;
+    QString nodeMap = firstSegment(entry.nodeMapKey);
     nodeMap.remove(QLatin1Char('@'));
-    if (nodeMap.contains(QLatin1Char('/'))) {
-        nodeMap = firstSegment(nodeMap);
-    }
     constexpr QLatin1Char separator(FeatureTreeNames::separator);
     return FeatureTreeNames::favorite + separator + nodeMap + separator + entry.featureName;
 }

@@ -334,12 +334,17 @@ void FeatureTreeProxyModel::publish(bool isChanged)
 {
     emit judged();
     if (isChanged || isSearchRowShown() != m_publishedSearchRow) {
-        const QScopedValueRollback<bool> publishing(m_publishing, true);
-        m_isPublished = true;
-        ++m_publication;
-        invalidate();
+        followVerdicts();
     }
     emit filtered();
+}
+
+void FeatureTreeProxyModel::followVerdicts()
+{
+    const QScopedValueRollback<bool> publishing(m_publishing, true);
+    m_isPublished = true;
+    ++m_publication;
+    invalidate();
 }
 
 quint64 FeatureTreeProxyModel::publication() const
@@ -407,7 +412,7 @@ void FeatureTreeProxyModel::keepRows(const QModelIndex &branch, Work work)
     const QPersistentModelIndex parent(branch);
     {
         const QScopedValueRollback<bool> publishing(m_publishing, true);
-        emit layoutAboutToBeChanged({parent});
+        emit layoutAboutToBeChanged();
     }
     const QList<KeptRow> rows = park(parent);
     {
@@ -422,7 +427,13 @@ void FeatureTreeProxyModel::keepRows(const QModelIndex &branch, Work work)
         return;
     }
     unpark(parent, rows);
-    emit layoutChanged({parent});
+    if (m_filter->hasText() || !m_isPublished) {
+        judge();
+        emit judged();
+        const QSignalBlocker blocker(this);
+        followVerdicts();
+    }
+    emit layoutChanged();
 }
 
 // Takes the persistent indexes out of a branch, to beyond all top rows, where nothing happens to them.
@@ -492,7 +503,7 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
         return m_filter->accepted(*parent, sourceRow);
     }
     if (m_keepsRows && m_filter->hasText()) {
-        return true; // judged with all others at the end
+        return true; // judged with all others when all have come
     }
     if (!m_filter->isExpired() && m_filter->isOutdated()) {
         m_isPublished = false; // the verdicts that the base knows were about other rows
@@ -778,8 +789,12 @@ void FeatureTreeProxyModel::rebuildFavoriteItems()
 {
     const auto work = [this] { forward<&FeatureTreeModel::rebuildFavoriteItems>(); };
     const QModelIndex branch = GetFavoritesRootIndex();
-    const bool makesTopRows = !branch.isValid() || !getSearchHelpItem();
-    rebuild([&] { makesTopRows ? work() : keepRows(branch, work); });
+    if (!branch.isValid() || !getSearchHelpItem()) {
+        rebuild(work); // makes top rows, too
+    } else if (model()) {
+        keepRows(branch, work);
+        emit filtered();
+    }
 }
 
 void FeatureTreeProxyModel::CreateFavoritesRoot()

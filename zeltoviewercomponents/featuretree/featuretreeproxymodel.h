@@ -179,6 +179,7 @@ private:
     bool judge() const;
     void completePass() const;
     void publish(bool isChanged);
+    void followVerdicts();
     bool isSearchRowShown() const;
     FeatureTreeRoleFilter roleFilter() const;
     bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
@@ -221,7 +222,7 @@ private:
     quint64 m_publication = 0;
     bool m_publishing = false; // the verdicts are fresh when the base asks for them
     bool m_rebuilding = false; // the operation under way filters at its end
-    bool m_keepsRows = false; // whatever is hidden by that is hidden then
+    bool m_keepsRows = false; // rows are being made anew that somebody may hold
     bool m_refilterQueued = false;
     bool m_reportedPolling = false;
 };

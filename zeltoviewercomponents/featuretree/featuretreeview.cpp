@@ -541,6 +541,32 @@ bool FeatureTreeView::mayHaveOpenRows(const QModelIndex &branch) const
     return model()->hasChildren(branch) && (!proxy || proxy->isUnfolded(branch));
 }
 
+QModelIndexList FeatureTreeView::branchesBelow(const QModelIndex &parent) const
+{
+    QModelIndexList branches;
+    const int count = model()->rowCount(parent); // which loads them
+    const FeatureTreeItem *const item = itemAt(parent);
+    if (!item) {
+        for (int row = 0; row < count; ++row) {
+            const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
+            if (model()->hasChildren(index)) {
+                branches.append(index);
+            }
+        }
+        return branches;
+    }
+    auto *const extension = const_cast<FeatureTreeView *>(this)->getFeatureExtension();
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        FeatureTreeItem *const child = item->child(row);
+        const QModelIndex index =
+            child->hasChildren() ? extension->indexForItem(child, FeatureTreeColumns::name) : QModelIndex();
+        if (index.isValid()) { // not filtered out
+            branches.append(index);
+        }
+    }
+    return branches;
+}
+
 void FeatureTreeView::expandToDepth(int depth)
 {
     expandBranches([depth](const QModelIndex &, int level) { return level <= depth; });
@@ -570,8 +596,9 @@ void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
     const Batch batch(this);
     const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout();
-    for (int row = 0; row < model()->rowCount(); ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name), 0, isExpanded);
+    const QModelIndexList branches = branchesBelow(QModelIndex());
+    for (const QModelIndex &branch : branches) {
+        expandBranch(branch, 0, isExpanded);
     }
 }
 
@@ -588,9 +615,9 @@ void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, const Ex
     if (!expand && !mayHaveOpenRows(index)) {
         return; // nothing to close, and nothing to create for it
     }
-    const int count = model()->rowCount(index);
-    for (int row = 0; row < count; ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name, index), depth + 1, isExpanded);
+    const QModelIndexList branches = branchesBelow(index);
+    for (const QModelIndex &branch : branches) {
+        expandBranch(branch, depth + 1, isExpanded);
     }
 }
 

@@ -79,6 +79,8 @@ public:
     void setExpandedRows(const QModelIndex &top, const std::function<bool(const QModelIndex &)> &isExpanded);
     /*! Returns false for leaves and for branches whose rows nobody has asked for: none of these is open. */
     bool mayHaveOpenRows(const QModelIndex &branch) const;
+    /*! Returns the rows directly below \a parent that may be expanded, without going through all others. */
+    QModelIndexList branchesBelow(const QModelIndex &parent) const;
     /*! Returns the widget at \a index, as the base does. The editor of a row in the viewport is opened first
      * if it is to be there when the row is painted. */
     QWidget *indexWidget(const QModelIndex &index) const;

@@ -61,7 +61,7 @@ QString ShapedNames::elided(const QPainter &painter, const QString &name, int wi
     // Each key of a search takes some pixels, which seldom cost another letter.
     if (width < shape.elidedFrom || width > shape.elidedTo) {
         shape.elided = painter.fontMetrics().elidedText(name, Qt::ElideRight, width, 0);
-        shape.elidedFrom = qCeil(Shape(shape.elided, m_font).width()) + 1;
+        shape.elidedFrom = qCeil(shapeOf(painter, shape.elided).width()) + 1;
         shape.elidedTo = width;
     }
     return shape.elided;
