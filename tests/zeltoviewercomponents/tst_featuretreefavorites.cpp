@@ -7,9 +7,11 @@
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QScopedPointer>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -74,6 +76,8 @@ private slots:
     void favoritesKeepTheirPlaceOnScreen();
     void widgetsShareFavorites();
     void unavailableFavorites();
+    void whatIsTypedMovesAlong_data();
+    void whatIsTypedMovesAlong();
 };
 
 void TestFeatureTreeFavorites::contextMenuOffersWhatTheRowAllows()
@@ -273,6 +277,61 @@ void TestFeatureTreeFavorites::unavailableFavorites()
     QCOMPARE(bench.shownRows().filter(entry.featureName).size(), 1);
     box->click();
     QCOMPARE(bench.shownRows().filter(entry.featureName).size(), 0);
+}
+
+void TestFeatureTreeFavorites::whatIsTypedMovesAlong_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<int>("from"); // -1: added
+    QTest::addColumn<int>("to"); // -1: removed
+    QTest::addColumn<int>("row"); // where what is typed is then
+    QTest::newRow("another is added above") << "" << -1 << 0 << 2;
+    QTest::newRow("another is removed above") << "" << 0 << -1 << 0;
+    QTest::newRow("it is moved up") << "" << 1 << 0 << 0;
+    QTest::newRow("it is moved to the end") << "" << 1 << 3 << 2;
+    QTest::newRow("in a search, which hides the others") << "offset" << 1 << 0 << 0;
+}
+
+void TestFeatureTreeFavorites::whatIsTypedMovesAlong()
+{
+    QFETCH(QString, search);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    TreeBench bench;
+    for (const char *name : {"Width", "OffsetX", "ReverseX"}) {
+        bench.extension()->AddFavorite(bench.camera->parameter(QString::fromLatin1(name)), 3);
+    }
+    bench.view()->expand(bench.extension()->GetFavoritesRootIndex());
+    bench.box()->setText(search);
+    bench.settle();
+    const auto value = [&bench] { return bench.favorite(QStringLiteral("OffsetX")).siblingAtColumn(1); };
+    const auto editorOf = [&bench](const QString &name) {
+        return QPointer<QWidget>(bench.view()->indexWidget(bench.favorite(name).siblingAtColumn(1)));
+    };
+    const QPointer<QWidget> checkBox = search.isEmpty() ? editorOf(QStringLiteral("ReverseX")) : nullptr;
+    bench.view()->setCurrentIndex(bench.favorite(QStringLiteral("OffsetX")));
+    QTest::keyClick(bench.view(), Qt::Key_F2);
+    const QPointer<QLineEdit> editor(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+    QVERIFY(editor && editor == bench.view()->indexWidget(value()));
+    editor->selectAll();
+    QTest::keyClicks(editor, QStringLiteral("7"));
+
+    if (from < 0) {
+        bench.extension()->AddFavorite(bench.camera->parameter(QStringLiteral("Gain")), to);
+    } else {
+        to < 0 ? bench.favorites().removeEntry(from) : bench.favorites().moveEntry(from, to);
+    }
+    bench.settle();
+    QTEST(value().row(), "row");
+    QCOMPARE(bench.view()->indexWidget(value()), editor.data());
+    QVERIFY(search.isEmpty() ? checkBox && checkBox == editorOf(QStringLiteral("ReverseX")) : !checkBox);
+    QCOMPARE(QApplication::focusWidget(), editor.data());
+    QCOMPARE(bench.view()->currentIndex().siblingAtColumn(1), value());
+    QCOMPARE(editor->text(), QStringLiteral("7"));
+    QCOMPARE(bench.node(QStringLiteral("OffsetX"))->writes, QStringList());
+    QTest::keyClick(editor, Qt::Key_Return);
+    bench.settle();
+    QCOMPARE(bench.node(QStringLiteral("OffsetX"))->writes, QStringList("7"));
 }
 
 QTEST_MAIN(TestFeatureTreeFavorites)

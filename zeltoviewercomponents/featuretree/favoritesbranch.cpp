@@ -44,15 +44,15 @@ FavoriteEntry probeOf(const QString &featureName, const QString &nodeMapKey)
 
 QString firstSegment(const QString &path)
 {
-    return path.section(QLatin1Char('/'), 0, 0);
+    return path.left(path.indexOf(QLatin1Char('/'))); // all of it where there is none
 }
 
 QString favoritesRowName(const FavoriteEntry &entry)
 {
-    QString nodeMap = entry.nodeMapKey;
+    QString nodeMap = firstSegment(entry.nodeMapKey);
     nodeMap.remove(QLatin1Char('@'));
-    const QStringList parts{FeatureTreeNames::favorite, firstSegment(nodeMap), entry.featureName};
-    return parts.join(QLatin1Char(FeatureTreeNames::separator));
+    constexpr QLatin1Char separator(FeatureTreeNames::separator);
+    return FeatureTreeNames::favorite + separator + nodeMap + separator + entry.featureName;
 }
 
 bool isPlaceholder(const FeatureTreeItem *row)

@@ -17,6 +17,7 @@
 #include "inteditor.h"
 #include "intslidereditor.h"
 #include "representation_p.h"
+#include "shapednames_p.h"
 #include "toolbuttoneditor.h"
 
 #include <platform/core/guard.h>
@@ -65,6 +66,14 @@ QColor nameColor(const QStyleOptionViewItem &option)
 {
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     return option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+}
+
+// Nobody sees the letters in this font, and to shape them would take longer than all else that is painted.
+QFont unshaped(QFont font)
+{
+    font.setKerning(false);
+    font.setStyleStrategy(QFont::StyleStrategy(font.styleStrategy() | QFont::PreferNoShaping));
+    return font;
 }
 
 QRect lineIn(const QRect &textRect, const QPainter &painter)
@@ -129,6 +138,7 @@ struct FeatureTreeDelegate::Private
     QList<PendingCommand> pendingCommands; // until the veto has been asked
     QTimer *commandTimer;
     bool isAsking = false;
+    std::unique_ptr<ShapedNames> names = std::make_unique<ShapedNames>();
     QHash<QString, EditorFactory> factoriesByName = {};
     QList<PropertyFactory> factoriesByProperty = {};
 };
@@ -499,6 +509,9 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
         paintStyledName(painter, opt, index, *style);
         return;
     }
+    if (opt.showDecorationSelected) {
+        opt.font = unshaped(opt.font); // the text's own width decides nothing
+    }
     const QRect textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt);
     const bool isSpecial = index.data(FeatureTreeItem::IsSpecialNode).toBool();
     QString text = index.data(Qt::DisplayRole).toString();
@@ -522,7 +535,7 @@ void FeatureTreeDelegate::paintName(QPainter *painter, const QStyleOptionViewIte
     if (isSpecial && Qt::mightBeRichText(text)) {
         paintRichText(painter, target, alignmentIn(opt), text);
     } else {
-        painter->drawText(target, alignmentIn(opt), text);
+        d->names->draw(painter, target, alignmentIn(opt), text);
         if (contrastRatio(d->highlighter->color(), color) < legibleContrast) {
             // The light letters of a dark palette cannot be read on a light mark.
             paintOnMarks(painter, target, alignmentIn(opt), text, marked);
@@ -567,7 +580,7 @@ QString FeatureTreeDelegate::elidedName(const QPainter &painter, const QString &
                                         const QRect &textRect) const
 {
     const int width = textRect.width() - 2 * d->highlighter->length();
-    return painter.fontMetrics().elidedText(name, Qt::ElideRight, width, 0);
+    return d->names->elided(painter, name, width);
 }
 
 // Marks the matches in the text. Returns where they are.
@@ -579,13 +592,15 @@ QRegion FeatureTreeDelegate::paintMatches(QPainter *painter, const QStyleOptionV
         return {};
     }
     QRegion marked;
-    const QFontMetrics metrics = painter->fontMetrics();
+    const auto advance = [this, painter, &text](qsizetype count) {
+        return d->names->advance(*painter, text, count);
+    };
     const QRect line = QStyle::alignedRect(option.direction, Qt::AlignLeft,
-                                           {metrics.horizontalAdvance(text), textRect.height()}, textRect);
+                                           {advance(text.size()), textRect.height()}, textRect);
     const auto direction = text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
     for (const auto &range : ranges) {
-        const int x0 = metrics.horizontalAdvance(text, static_cast<int>(range.first));
-        const int x1 = metrics.horizontalAdvance(text, static_cast<int>(range.second));
+        const int x0 = advance(range.first);
+        const int x1 = advance(range.second);
         const QRect mark =
             QStyle::visualRect(direction, line, {line.left() + x0, line.top(), x1 - x0, line.height()});
         painter->fillRect(mark, d->highlighter->color());

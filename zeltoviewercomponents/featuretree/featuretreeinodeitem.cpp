@@ -54,7 +54,8 @@ QString nodeMapKindOf(const QString &fullName)
         Kind{QLatin1String("EventGrabber"), QLatin1String("EventGrabber")},
         Kind{QLatin1String("GenTl"), QLatin1String("Interface")},
     };
-    const QString segment = fullName.mid(1).section(QLatin1Char('/'), 0, 0);
+    const QStringView name = QStringView(fullName).mid(1);
+    const QStringView segment = name.left(name.indexOf(QLatin1Char('/')));
     const auto found = std::find_if(kinds.begin(), kinds.end(),
                                     [&segment](const Kind &kind) { return segment == kind.segment; });
     return found == kinds.end() ? QStringLiteral("Invalid") : QString(found->name);

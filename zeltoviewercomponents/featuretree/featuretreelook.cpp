@@ -204,9 +204,6 @@ void FeatureTreeLook::takeOpenRows(const FeatureTreeView &view, const QModelInde
         m_openRows.emplace();
     }
     if (top.isValid()) {
-        if (!view.model()->hasChildren(top)) {
-            return;
-        }
         if (view.isExpanded(top)) {
             m_openRows->insert(pathOf(top));
         }
@@ -214,9 +211,9 @@ void FeatureTreeLook::takeOpenRows(const FeatureTreeView &view, const QModelInde
             return;
         }
     }
-    const int count = view.model()->rowCount(top);
-    for (int row = 0; row < count; ++row) {
-        takeOpenRows(view, view.model()->index(row, FeatureTreeColumns::name, top));
+    const QModelIndexList branches = view.branchesBelow(top);
+    for (const QModelIndex &branch : branches) {
+        takeOpenRows(view, branch);
     }
 }
 

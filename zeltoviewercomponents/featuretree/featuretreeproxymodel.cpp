@@ -11,6 +11,7 @@
 #include "featuretreenames.h"
 #include "featuretreerolefilter_p.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -18,6 +19,16 @@
 
 #include <type_traits>
 #include <utility>
+
+namespace {
+
+QSharedPointer<ParameterCollection::IParameter> parameterOf(const FeatureTreeItem *item)
+{
+    const auto *const nodeItem = qobject_cast<const FeatureTreeINodeItem *>(item);
+    return nodeItem ? nodeItem->node() : nullptr;
+}
+
+} // namespace
 
 FeatureTreeProxyModel::FeatureTreeProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
@@ -337,12 +348,17 @@ void FeatureTreeProxyModel::publish(bool isChanged)
 {
     emit judged();
     if (isChanged || isSearchRowShown() != m_publishedSearchRow) {
-        const QScopedValueRollback<bool> publishing(m_publishing, true);
-        m_isPublished = true;
-        ++m_publication;
-        invalidate();
+        followVerdicts();
     }
     emit filtered();
+}
+
+void FeatureTreeProxyModel::followVerdicts()
+{
+    const QScopedValueRollback<bool> publishing(m_publishing, true);
+    m_isPublished = true;
+    ++m_publication;
+    invalidate();
 }
 
 quint64 FeatureTreeProxyModel::publication() const
@@ -394,6 +410,88 @@ void FeatureTreeProxyModel::rebuild(Work work)
     }
 }
 
+/*! \brief What somebody holds of a row that is about to be made anew. */
+struct FeatureTreeProxyModel::KeptRow
+{
+    QString fullName;
+    QSharedPointer<ParameterCollection::IParameter> parameter;
+    QModelIndex parked;
+};
+
+// Has the rows of a branch made anew. The base follows as they come and go one by one; for everybody else the
+// layout changes once, and what they hold of a row follows it: editors, the current row, the selection.
+template <typename Work>
+void FeatureTreeProxyModel::keepRows(const QModelIndex &branch, Work work)
+{
+    const QPersistentModelIndex parent(branch);
+    {
+        const QScopedValueRollback<bool> publishing(m_publishing, true);
+        emit layoutAboutToBeChanged();
+    }
+    const QList<KeptRow> rows = park(parent);
+    {
+        const QSignalBlocker blocker(this);
+        const QScopedValueRollback<bool> keeping(m_keepsRows, true);
+        work();
+    }
+    forgetMapping();
+    if (!parent.isValid()) { // who was told of the rows by the source had the tree cleared
+        beginResetModel();
+        endResetModel();
+        return;
+    }
+    unpark(parent, rows);
+    if (m_filter->hasText() || !m_isPublished) {
+        judge();
+        emit judged();
+        const QSignalBlocker blocker(this);
+        followVerdicts();
+    }
+    emit layoutChanged();
+}
+
+// Takes the persistent indexes out of a branch, to beyond all top rows, where nothing happens to them.
+QList<FeatureTreeProxyModel::KeptRow> FeatureTreeProxyModel::park(const QModelIndex &branch)
+{
+    constexpr int beyondAllRows = 1 << 24;
+    QList<KeptRow> rows;
+    QModelIndexList from;
+    QModelIndexList to;
+    const QModelIndexList all = persistentIndexList();
+    for (const QModelIndex &index : all) {
+        const FeatureTreeItem *const item = index.parent() == branch ? itemAt(index) : nullptr;
+        if (item) {
+            from.append(index);
+            to.append(createIndex(beyondAllRows + static_cast<int>(rows.size()), index.column(),
+                                  branch.internalPointer()));
+            rows.append({item->getFullName(), parameterOf(item), to.constLast()});
+        }
+    }
+    changePersistentIndexList(from, to);
+    return rows;
+}
+
+// Puts them where their rows are now; those of rows that are gone become invalid.
+void FeatureTreeProxyModel::unpark(const QModelIndex &branch, const QList<KeptRow> &rows)
+{
+    const QModelIndex source = mapToSource(branch);
+    const FeatureTreeItem *const parent = itemAt(branch);
+    QHash<QString, int> places;
+    for (int row = 0; row < parent->existingChildCount(); ++row) {
+        places.insert(parent->child(row)->getFullName(), row);
+    }
+    QModelIndexList from;
+    QModelIndexList to;
+    for (const KeptRow &row : rows) {
+        const int place = places.value(row.fullName, -1);
+        const bool isSame = place >= 0 && parameterOf(parent->child(place)) == row.parameter;
+        from.append(row.parked);
+        to.append(isSame ? mapFromSource(sourceModel()->index(place, row.parked.column(), source))
+                         : QModelIndex());
+    }
+    changePersistentIndexList(from, to);
+}
+
 bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
     if (m_rejectAll) {
@@ -417,6 +515,9 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
     }
     if (m_frozen) {
         return m_filter->accepted(*parent, sourceRow);
+    }
+    if (m_keepsRows && m_filter->hasText()) {
+        return true; // judged with all others when all have come
     }
     if (!m_filter->isExpired() && m_filter->isOutdated()) {
         m_isPublished = false; // the verdicts that the base knows were about other rows
@@ -520,7 +621,7 @@ void FeatureTreeProxyModel::onSourceDataChanged(const QModelIndex &topLeft, cons
     if (item->isFlipping() || (isSearchRow && isSearchRowShown() != m_publishedSearchRow)) {
         queueRefilter();
     }
-    if (!isMapped(item->parent())) {
+    if (signalsBlocked() || !isMapped(item->parent())) {
         return;
     }
     QModelIndex first;
@@ -700,7 +801,14 @@ void FeatureTreeProxyModel::addParameterCollection(
 
 void FeatureTreeProxyModel::rebuildFavoriteItems()
 {
-    rebuild([this] { forward<&FeatureTreeModel::rebuildFavoriteItems>(); });
+    const auto work = [this] { forward<&FeatureTreeModel::rebuildFavoriteItems>(); };
+    const QModelIndex branch = GetFavoritesRootIndex();
+    if (!branch.isValid() || !getSearchHelpItem()) {
+        rebuild(work); // makes top rows, too
+    } else if (model()) {
+        keepRows(branch, work);
+        emit filtered();
+    }
 }
 
 void FeatureTreeProxyModel::CreateFavoritesRoot()
@@ -760,8 +868,10 @@ void FeatureTreeProxyModel::addChildren(FeatureTreeINodeItem *parent)
 
 void FeatureTreeProxyModel::setVisibility(GenApi::EVisibility visibility)
 {
-    m_filter->setLevel(visibility);
-    m_isPublished = false;
+    if (visibility != m_filter->level()) {
+        m_filter->setLevel(visibility);
+        m_isPublished = false;
+    }
     forward<&FeatureTreeModel::setVisibility>(visibility);
 }
 

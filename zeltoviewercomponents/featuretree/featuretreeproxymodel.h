@@ -106,7 +106,7 @@ public:
     void filterIfExpired();
     /*! Returns a number that is another one once the rows have followed a pass. */
     quint64 publication() const;
-    /*! Sets the level; filter afterwards. */
+    /*! Sets the level; filter afterwards, with filterIfExpired(). */
     void setVisibility(GenApi::EVisibility visibility) override;
     GenApi::EVisibility getVisibility() override;
     void setMonitorMode(bool enable) override;
@@ -171,11 +171,17 @@ private:
     auto forward(Arguments &&...arguments) const;
     template <typename Work>
     void rebuild(Work work);
+    template <typename Work>
+    void keepRows(const QModelIndex &branch, Work work);
+    struct KeptRow;
+    QList<KeptRow> park(const QModelIndex &branch);
+    void unpark(const QModelIndex &branch, const QList<KeptRow> &rows);
     void connectTree();
     void onExpressionChanged();
     bool judge() const;
     void completePass() const;
     void publish(bool isChanged);
+    void followVerdicts();
     bool isSearchRowShown() const;
     FeatureTreeRoleFilter roleFilter() const;
     bool acceptsByRoles(int sourceRow, const QModelIndex &sourceParent) const;
@@ -218,6 +224,7 @@ private:
     quint64 m_publication = 0;
     bool m_publishing = false; // the verdicts are fresh when the base asks for them
     bool m_rebuilding = false; // the operation under way filters at its end
+    bool m_keepsRows = false; // rows are being made anew that somebody may hold
     bool m_refilterQueued = false;
     bool m_reportedPolling = false;
 };

@@ -451,6 +451,19 @@ void FeatureTreeView::showInEditor(const QModelIndex &index)
     }
 }
 
+// The rows were made anew.
+void FeatureTreeView::showInEditorsBelow(const QModelIndex &parent)
+{
+    const int count = parent.isValid() ? model()->rowCount(parent) : 0;
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex value = model()->index(row, FeatureTreeColumns::value, parent);
+        if (QTreeView::indexWidget(value)) {
+            updateCell(value);
+            showInEditor(value);
+        }
+    }
+}
+
 void FeatureTreeView::updateCell(const QModelIndex &index)
 {
     FeatureTreeItem *const item = itemAt(index);
@@ -548,6 +561,32 @@ bool FeatureTreeView::mayHaveOpenRows(const QModelIndex &branch) const
     return model()->hasChildren(branch) && (!proxy || proxy->isUnfolded(branch));
 }
 
+QModelIndexList FeatureTreeView::branchesBelow(const QModelIndex &parent) const
+{
+    QModelIndexList branches;
+    const int count = model()->rowCount(parent); // which loads them
+    const FeatureTreeItem *const item = itemAt(parent);
+    if (!item) {
+        for (int row = 0; row < count; ++row) {
+            const QModelIndex index = model()->index(row, FeatureTreeColumns::name, parent);
+            if (model()->hasChildren(index)) {
+                branches.append(index);
+            }
+        }
+        return branches;
+    }
+    auto *const extension = const_cast<FeatureTreeView *>(this)->getFeatureExtension();
+    for (int row = 0; row < item->existingChildCount(); ++row) {
+        FeatureTreeItem *const child = item->child(row);
+        const QModelIndex index =
+            child->hasChildren() ? extension->indexForItem(child, FeatureTreeColumns::name) : QModelIndex();
+        if (index.isValid()) { // not filtered out
+            branches.append(index);
+        }
+    }
+    return branches;
+}
+
 void FeatureTreeView::expandToDepth(int depth)
 {
     expandBranches([depth](const QModelIndex &, int level) { return level <= depth; });
@@ -577,8 +616,9 @@ void FeatureTreeView::expandBranches(const ExpansionRule &isExpanded)
     const Batch batch(this);
     const QScopedValueRollback<bool> expanding(m_isExpandingMany, true);
     scheduleDelayedItemsLayout();
-    for (int row = 0; row < model()->rowCount(); ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name), 0, isExpanded);
+    const QModelIndexList branches = branchesBelow(QModelIndex());
+    for (const QModelIndex &branch : branches) {
+        expandBranch(branch, 0, isExpanded);
     }
 }
 
@@ -595,9 +635,9 @@ void FeatureTreeView::expandBranch(const QModelIndex &index, int depth, const Ex
     if (!expand && !mayHaveOpenRows(index)) {
         return; // nothing to close, and nothing to create for it
     }
-    const int count = model()->rowCount(index);
-    for (int row = 0; row < count; ++row) {
-        expandBranch(model()->index(row, FeatureTreeColumns::name, index), depth + 1, isExpanded);
+    const QModelIndexList branches = branchesBelow(index);
+    for (const QModelIndex &branch : branches) {
+        expandBranch(branch, depth + 1, isExpanded);
     }
 }
 
@@ -644,17 +684,12 @@ void FeatureTreeView::onFavoriteDataUpdated()
     const QModelIndex current = currentIndex();
     // Rows outside the branch stay as they are; a name would find a feature in the first of its categories.
     const bool isFavorite = branch.isValid() && current.parent() == branch;
+    const int row = current.row();
     const QString currentName = current.data(FeatureTreeItem::FullNodeNameRole).toString();
     const QStringList selectedNames = selectedFavorites(branch);
     const Batch batch(this);
     if (!isFavorite && !m_topRow.isValid() && isVisible() && verticalScrollBar()->value() > 0) {
         m_topRow = indexAt(QPoint(0, 0)); // rows that come and go above do not move what is looked at
-    }
-    if (isFavorite) {
-        // The base would make one neighbour after the other the current row while the rows go.
-        dropEditor();
-        const QSignalBlocker blocker(selectionModel());
-        selectionModel()->clear();
     }
 
     m_areRowsStale = true;
@@ -662,12 +697,13 @@ void FeatureTreeView::onFavoriteDataUpdated()
     if (m_highlighter.text().isEmpty() || !branch.isValid()) { // a search has its own expansion
         onFavoriteDataExpanded(extension->GetFavorites().isExpanded());
     }
+    showInEditorsBelow(extension->GetFavoritesRootIndex());
     for (const QString &name : selectedNames) {
         const QModelIndex index = favoriteNamed(name);
         selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
     if (isFavorite) {
-        restoreFavorite(currentName, current.row());
+        restoreFavorite(currentName, row);
     }
 }
 
@@ -702,7 +738,10 @@ void FeatureTreeView::restoreFavorite(const QString &fullName, int row)
     }
     const FeatureTreeItem *const item = itemAt(index);
     const bool isUsable = index.flags().testFlag(Qt::ItemIsSelectable) && item && item->ShowMe(m_visibility);
-    setCurrentIndex(isUsable ? index : branch);
+    m_keptInSight = isUsable ? index : branch;
+    if (!isSameRow(currentIndex(), m_keptInSight)) {
+        setCurrentIndex(m_keptInSight);
+    }
 }
 
 void FeatureTreeView::setVisibility(GenApi::EVisibility level)
@@ -745,6 +784,9 @@ void FeatureTreeView::finishBatch()
     }
     if (const QModelIndex top = std::exchange(m_topRow, {}); top.isValid()) {
         scrollTo(top, PositionAtTop);
+    }
+    if (const QModelIndex row = std::exchange(m_keptInSight, {}); row.isValid()) {
+        scrollTo(row);
     }
 }
 

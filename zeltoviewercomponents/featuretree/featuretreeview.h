@@ -81,6 +81,8 @@ public:
     void setExpandedRows(const QModelIndex &top, const std::function<bool(const QModelIndex &)> &isExpanded);
     /*! Returns false for leaves and for branches whose rows nobody has asked for: none of these is open. */
     bool mayHaveOpenRows(const QModelIndex &branch) const;
+    /*! Returns the rows directly below \a parent that may be expanded, without going through all others. */
+    QModelIndexList branchesBelow(const QModelIndex &parent) const;
     /*! Returns the widget at \a index, as the base does. The editor of a row in the viewport is opened first
      * if it is to be there when the row is painted. */
     QWidget *indexWidget(const QModelIndex &index) const;
@@ -167,6 +169,7 @@ private:
     bool wantsEditor(FeatureTreeItem *item) const;
     bool hasOwnEditor(const FeatureTreeItem &item) const;
     void showInEditor(const QModelIndex &index);
+    void showInEditorsBelow(const QModelIndex &parent);
     void updateEditor(const QModelIndex &index, FeatureTreeItem *item, bool wasHidden);
     void dropEditor();
     void dropLockedEditor();
@@ -192,6 +195,7 @@ private:
     bool m_areRowsStale = false; // when the batch ends
     bool m_isLayoutStale = false;
     QPersistentModelIndex m_topRow; // of the viewport, before the batch
+    QPersistentModelIndex m_keptInSight; // by the end of the batch
     bool m_wasShown = false;
     bool m_keepsFocus = false; // no editor opens because another row becomes the current one
     bool m_keepsEditor = false; // nor does one close
