@@ -373,7 +373,7 @@ void TestFeatureTreeModel::lastWriteWins()
     };
     const auto answer = [&](const QString &text) {
         const QStringList writes = node->writes;
-        writeMemoryNode(*node, text);
+        node->writeText(text);
         QCoreApplication::removePostedEvents(parameter.data());
         node->writes = writes;
         emit parameter->parameterDataChangedDecoupled(node->snapshot);
