@@ -89,9 +89,7 @@ std::optional<qint64> toInteger(const QString &text, const QString &representati
     if (representation == QLatin1String("MACAddress") && trimmed.contains(QLatin1Char(':'))) {
         return fromBytes(trimmed, QLatin1Char(':'), 6, 16);
     }
-    if (const auto word = representation == QLatin1String("Boolean")
-            ? booleanFrom(trimmed)
-            : std::nullopt) {
+    if (const auto word = representation == QLatin1String("Boolean") ? booleanFrom(trimmed) : std::nullopt) {
         return *word ? 1 : 0;
     }
     const qint64 value = trimmed.toLongLong(&ok, 10);
