@@ -83,8 +83,7 @@ void TestSimpleCollection::writes()
     QFETCH(QString, feature);
     QFETCH(QString, text);
     const auto written = parameter(feature);
-    QSignalSpy changes(written.data(),
-                       SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterData>)));
+    QSignalSpy changes(written.data(), &IParameter::parameterDataChangedDecoupled);
     const auto before = written->parameterData();
     QString refusal;
     try {
@@ -190,8 +189,7 @@ void TestSimpleCollection::imposedLimits()
 void TestSimpleCollection::changesFromAnotherThread()
 {
     const auto count = m_light->addInteger("Count");
-    QSignalSpy changes(count.parameter().data(),
-                       SIGNAL(parameterDataChangedDecoupled(QSharedPointer<const ParameterData>)));
+    QSignalSpy changes(count.parameter().data(), &IParameter::parameterDataChangedDecoupled);
     const std::unique_ptr<QThread> thread(QThread::create([count] {
         for (int i = 1; i <= 100; ++i) {
             count.setValue(i);

@@ -419,7 +419,10 @@ void TestFloatEditors::swallowedSteps()
     parameter->edit([](auto &data) { data.displayPrecision = 8; });
     parameter->unit = unit;
     parameter->isSilent = isSilent;
-    m_collection->addInteger("Raw", "Root", 0, 10000, 10000000000, 1);
+    m_collection->get<MemoryInteger>("Raw")->edit([](auto &data) {
+        data.minimum = 10000;
+        data.maximum = 10000000000;
+    });
     QWidget *const editor =
         hasSlider ? static_cast<QWidget *>(sliderEditor(parameter)) : floatEditor(parameter);
     m_bench->present();

@@ -118,6 +118,11 @@ void TwoModeDoubleComboSlider::showValue(double value)
     settle(value);
 }
 
+void TwoModeDoubleComboSlider::setShownValue(double value)
+{
+    showValue(value);
+}
+
 // A value outside the limits is shown as it is; entries are limited by enter().
 void TwoModeDoubleComboSlider::setShown(double value)
 {

@@ -34,9 +34,9 @@ class ZELTO_ZELTOVIEWERCOMPONENTS_EXPORT TwoModeDoubleComboSlider : public Doubl
 {
     Q_OBJECT
     Q_PROPERTY(bool logarithmic READ isLogarithmicWanted WRITE setLogarithmic)
-    Q_PROPERTY(double minimum READ minimum WRITE setLowest)
-    Q_PROPERTY(double maximum READ maximum WRITE setHighest)
-    Q_PROPERTY(double value READ value WRITE showValue NOTIFY boxValueChanged USER true)
+    Q_PROPERTY(double lowest READ minimum WRITE setLowest)
+    Q_PROPERTY(double highest READ maximum WRITE setHighest)
+    Q_PROPERTY(double shownValue READ value WRITE setShownValue NOTIFY boxValueChanged USER true)
 
 public:
     explicit TwoModeDoubleComboSlider(QWidget *parent = nullptr);
@@ -68,6 +68,8 @@ public:
 
     /*! Shows \a value in the spin box, as it is, and on the slider. Announces nothing. */
     void showValue(double value);
+    /*! The same, by the name that forms know. */
+    void setShownValue(double value);
 
     /*! Returns the value that belongs to \a position. */
     double valueFromPosition(int position) const;
