@@ -7,6 +7,7 @@
 
 #include <QDeadlineTimer>
 #include <QNetworkDatagram>
+#include <QNetworkProxy>
 #include <QtEndian>
 
 #include <algorithm>
@@ -83,6 +84,8 @@ GigeLink::GigeLink(const QHostAddress &camera, int attempts)
     : m_camera(camera)
     , m_attempts(attempts)
 {
+    m_socket.setProxy(
+        QNetworkProxy::NoProxy); // which the system might have to be asked for, over the network
     m_socket.bind(QHostAddress(QHostAddress::AnyIPv4));
 }
 

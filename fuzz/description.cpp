@@ -21,12 +21,12 @@ namespace {
 
 constexpr int writtenFeatures = 40; // enough to find what breaks; inputs have to be quick
 
-std::unique_ptr<Cameras::Camera> open(const QByteArray &input)
+std::unique_ptr<Cameras::Camera> open(const QByteArray &input, Cameras::Start start)
 {
     const QString file = Fuzz::scratchFolder() + QStringLiteral("/camera.xml");
     Fuzz::writeFile(file, input);
     try {
-        return Cameras::Camera::openDescription(file);
+        return Cameras::Camera::openDescription(file, start);
     } catch (const Core::Exception::BaseException &exception) {
         Fuzz::require(!exception.getMessage().isEmpty()
                           && !exception.getMessage().contains(QLatin1Char('\n')),
@@ -68,9 +68,9 @@ void write(IParameter &parameter)
     }
 }
 
-void run(const QByteArray &input)
+void use(const QByteArray &input, Cameras::Start start)
 {
-    const std::unique_ptr<Cameras::Camera> camera = open(input);
+    const std::unique_ptr<Cameras::Camera> camera = open(input, start);
     if (!camera) {
         return;
     }
@@ -92,6 +92,13 @@ void run(const QByteArray &input)
     collection->poll(100000);
     Fuzz::settle();
     Fuzz::require(!camera->isLost(), "no description hangs the worker");
+}
+
+// Registers that start alive may turn a number that does harm into another.
+void run(const QByteArray &input)
+{
+    use(input, Cameras::Start::Zeroed);
+    use(input, Cameras::Start::Alive);
 }
 
 const Fuzz::Target target(

@@ -3,10 +3,11 @@
 
 #include "playedcamera.h"
 
-#include <QMutexLocker>
-#include <QSemaphore>
+#include <QNetworkProxy>
 #include <QUdpSocket>
 #include <QtEndian>
+
+#include <future>
 
 namespace {
 
@@ -66,12 +67,13 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
     put(0x8000, bytesOf<quint32>(640));
     put(0x8004, bytesOf<quint32>(480));
     put(0x8008, bytesOf<quint32>(3));
-    QSemaphore isReady;
-    m_thread.reset(QThread::create([this, &isReady, address] {
+    std::promise<bool> hasPort;
+    m_thread.reset(QThread::create([this, &hasPort, address] {
         QUdpSocket socket;
-        m_isRunning = socket.bind(address, port);
-        isReady.release();
-        while (m_isRunning && !QThread::currentThread()->isInterruptionRequested()) {
+        socket.setProxy(QNetworkProxy::NoProxy);
+        const bool isRunning = socket.bind(address, port);
+        hasPort.set_value(isRunning);
+        while (isRunning && !QThread::currentThread()->isInterruptionRequested()) {
             if (!socket.waitForReadyRead(20)) {
                 continue;
             }
@@ -82,7 +84,7 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
                 qMax<qint64>(socket.readDatagram(request.data(), request.size(), &sender, &senderPort), 0));
             const QByteArray answer = answerTo(request);
             const Manner manner = [this] {
-                const QMutexLocker locker(&m_mutex);
+                const std::lock_guard lock(m_mutex);
                 return m_manner;
             }();
             const QList<QByteArray> datagrams = manner ? manner(request, answer) : QList<QByteArray>{answer};
@@ -92,7 +94,7 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
         }
     }));
     m_thread->start();
-    isReady.acquire();
+    m_isRunning = hasPort.get_future().get();
 }
 
 PlayedCamera::~PlayedCamera()
@@ -103,13 +105,13 @@ PlayedCamera::~PlayedCamera()
 
 void PlayedCamera::setManner(const Manner &manner)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_manner = manner;
 }
 
 quint32 PlayedCamera::value(quint32 address) const
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return numberAt<quint32>(m_memory, address);
 }
 
@@ -132,7 +134,7 @@ void PlayedCamera::put(quint32 address, const QByteArray &bytes)
 
 QByteArray PlayedCamera::answerTo(const QByteArray &request)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     QByteArray payload;
     switch (command(request)) {
     case 0x0002: // discovery

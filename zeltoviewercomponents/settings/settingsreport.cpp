@@ -58,7 +58,9 @@ QString SettingsReport::problem(const Entry &entry)
     if (entry.result == Result::Set || entry.result == Result::Unchanged) {
         return {};
     }
-    const QString text = tr("%1: %2").arg(entry.setting.title(), resultText(entry));
+    QString text = tr("%1: %2").arg(entry.setting.title(), resultText(entry));
+    // Values may have lines.
+    text.replace(QLatin1Char('\n'), QLatin1String("\\n")).replace(QLatin1Char('\r'), QLatin1String("\\r"));
     return entry.setting.line > 0 ? tr("line %1: %2").arg(entry.setting.line).arg(text) : text;
 }
 
