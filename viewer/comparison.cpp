@@ -128,7 +128,9 @@ void Comparison::updateActions()
 
 void Comparison::askForFile()
 {
-    const QString fileName = QFileDialog::getOpenFileName(m_window, tr("Compare With a Settings File"));
+    const QString fileName =
+        QFileDialog::getOpenFileName(m_window, tr("Compare With a Settings File"), QString(),
+                                     tr("Camera settings (*.txt);;All files (*)"));
     if (!fileName.isEmpty()) {
         compareWithFile(fileName);
     }

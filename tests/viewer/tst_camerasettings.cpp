@@ -25,6 +25,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -288,6 +289,14 @@ void TestCameraSettings::windowSavesAndLoads()
     QMetaObject::invokeMethod(dialog, "putBack");
     QVERIFY(applied.wait());
     QTRY_COMPARE(collection->parameter("Width")->parameterData()->valueString, "1920");
+
+    // It must not put anything back to another camera.
+    actions->loadFrom(write("Gain\tmuch\n"));
+    QVERIFY(applied.wait());
+    const QPointer<QDialog> report = window.findChild<SettingsReportDialog *>();
+    QVERIFY(report && report->isVisible());
+    window.showCamera({}, cameraAt({}));
+    QVERIFY(!report || !report->isVisible());
 }
 
 void TestCameraSettings::windowNamesWhatIsWrong_data()

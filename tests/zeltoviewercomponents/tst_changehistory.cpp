@@ -388,7 +388,10 @@ void TestChangeHistory::listIsSearchedAndCopied()
     QSignalSpy requested(&list, SIGNAL(featureRequested(QString)));
     auto *const view = list.findChild<QTreeView *>();
     QCOMPARE(view->model()->rowCount(), 2);
-    QTest::keyClicks(list.findChild<QLineEdit *>(), QStringLiteral("lab"));
+    view->setFocus();
+    QTest::keySequence(view, QKeySequence::Find);
+    QCOMPARE(QApplication::focusWidget(), list.findChild<QLineEdit *>());
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("lab"));
     QCOMPARE(view->model()->rowCount(), 1);
     view->setCurrentIndex(view->model()->index(0, 0));
     QTest::keyClick(view, Qt::Key_Return);
