@@ -136,6 +136,7 @@ private slots:
     void copyTree();
     void updateActions();
     void updateTitle();
+    void tidyTabs();
     void goToFeature(const QString &fullName);
     void showDifferences();
     void onTaskCreated(SettingsTask *task);

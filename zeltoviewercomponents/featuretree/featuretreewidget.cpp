@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -170,6 +171,13 @@ void FeatureTreeWidget::showActionTexts()
     m_actionMoveFavouriteDown->setShortcut(QKeySequence(tr("Ctrl+Down")));
     const QKeySequence find(Qt::CTRL | Qt::Key_F);
     m_ui->filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+}
+
+// As a proxy would do it, which Tab follows past the search box.
+void FeatureTreeWidget::focusInEvent(QFocusEvent *event)
+{
+    TreeWidgetBase::focusInEvent(event);
+    m_ui->treeView->setFocus(event->reason());
 }
 
 void FeatureTreeWidget::changeEvent(QEvent *event)
