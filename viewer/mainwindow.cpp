@@ -69,6 +69,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -376,7 +377,6 @@ void MainWindow::createServices()
     m_workbench = new WorkbenchService(this, m_services);
     m_workbench->setObjectName(Plugin::ServiceName::Workbench);
     m_texts->add(m_tree, &QWidget::setWindowTitle, [] { return tr("Features"); });
-    m_tree->setFocusProxy(m_tree->treeView());
     m_workbench->addPage(m_tree);
     m_description->setObjectName(QStringLiteral("description"));
     m_texts->add(m_description, &QWidget::setWindowTitle, [] { return tr("Description"); });
@@ -398,6 +398,21 @@ void MainWindow::createPanels()
         addPanel(panel, Qt::RightDockWidgetArea);
     }
     m_services->setParent(this); // the last child, so that panels go first
+    const auto docks = findChildren<QDockWidget *>();
+    for (const QDockWidget *const dock : docks) {
+        connect(dock, SIGNAL(visibilityChanged(bool)), this, SLOT(tidyTabs()), Qt::QueuedConnection);
+    }
+    m_texts->add([this] { QMetaObject::invokeMethod(this, "tidyTabs", Qt::QueuedConnection); });
+}
+
+// The bar with the tabs of panels has no name, and takes the focus also where there are none.
+void MainWindow::tidyTabs()
+{
+    const auto bars = findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QTabBar *const bar : bars) {
+        bar->setAccessibleName(Levels::withoutMnemonic(tr("&Panels")));
+        bar->setFocusPolicy(bar->count() > 0 ? Qt::TabFocus : Qt::NoFocus);
+    }
 }
 
 QDockWidget *MainWindow::addPanel(QWidget *panel, Qt::DockWidgetArea area)

@@ -138,6 +138,7 @@ private slots:
     void copyTree();
     void updateActions();
     void updateTitle();
+    void tidyTabs();
     void goToFeature(const QString &fullName);
     void showDifferences();
     void onTaskCreated(SettingsTask *task);

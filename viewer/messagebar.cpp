@@ -45,7 +45,7 @@ MessageBar::MessageBar(QWidget *parent)
     close->setIcon(QIcon(QStringLiteral(":/zeltoviewercomponents/Resources/cross_16.png")));
     close->setAutoRaise(true);
     auto *const texts = new Core::LiveTexts(this);
-    setAccessibleName(tr("Messages"));
+    texts->add([this] { showName(); });
     texts->add(close, &QWidget::setToolTip, [] { return tr("Dismiss"); });
     texts->add(close, &QWidget::setAccessibleName, [] { return tr("Dismiss"); });
 
@@ -131,20 +131,26 @@ void MessageBar::updateText()
     show();
 }
 
+void MessageBar::showName()
+{
+    const bool isEmpty = m_question.isEmpty() && m_messages.isEmpty();
+    setAccessibleName(isEmpty ? tr("Messages") : tr("Message: %1").arg(m_text->text()));
+}
+
 // Qt 6.4 keeps alerts from screen readers on Linux; these read out notifications that come into sight, and
 // new names of such.
 void MessageBar::announce()
 {
-    setAccessibleName(tr("Message: %1").arg(m_text->text()));
+    showName();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
 
 void MessageBar::dismiss()
 {
-    setAccessibleName(tr("Messages"));
     m_question.clear();
     m_messages.clear();
+    showName();
     m_count = 0;
     m_action->hide();
     hide();

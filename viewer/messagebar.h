@@ -48,6 +48,7 @@ private:
     qsizetype forget(const QString &subject);
     void updateText();
     void announce();
+    void showName();
     QStringList texts() const;
 
     QLabel *m_icon;

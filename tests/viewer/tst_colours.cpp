@@ -148,6 +148,8 @@ private slots:
     void isRemembered();
     void changesOnlyDimColours_data();
     void changesOnlyDimColours();
+    void focusIsSeen_data();
+    void focusIsSeen();
 
 private:
     Measure editor(const char *name, double (*measure)(const QWidget &), bool hasFocus = false) const;
@@ -308,6 +310,60 @@ void TestColours::changesOnlyDimColours()
     QVERIFY(expected.isValid() ? text == expected : contrastRatio(text, Qt::black) >= 4.5);
     polished.setColor(QPalette::Disabled, QPalette::Text, locked);
     QCOMPARE(polished, palette); // nothing else was touched
+}
+
+void TestColours::focusIsSeen_data()
+{
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<QColor>("highlight");
+    QTest::newRow("light") << QColor(0xefefef) << QColor(Qt::black) << QColor(0x2874ac);
+    QTest::newRow("dark") << QColor(0x2e3135) << QColor(0xeeeeee) << QColor(0x2a73ad);
+    QTest::newRow("high contrast") << QColor(Qt::black) << QColor(Qt::yellow) << QColor(Qt::cyan);
+    QTest::newRow("high contrast, light")
+        << QColor(Qt::white) << QColor(Qt::black) << QColor(Qt::darkMagenta);
+}
+
+// Whoever goes around with Tab comes to everything, and sees each time where.
+void TestColours::focusIsSeen()
+{
+    QFETCH(QColor, background);
+    QFETCH(QColor, text);
+    QFETCH(QColor, highlight);
+    setUpColours();
+    QPalette palette(background, background);
+    palette.setColor(QPalette::Base, background);
+    palette.setColor(QPalette::Highlight, highlight);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
+    }
+    QApplication::setPalette(palette);
+    QSettings().clear();
+    MainWindow window;
+    window.setRemembering(false); // branches that are open have stops of their own, marked by the row's frame
+    window.showCamera({}, cameraAt({}));
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QTest::qWait(20); // tabs that there are not lose their stop
+
+    QWidget *const start = QApplication::focusWidget();
+    QCOMPARE(start, window.featureTree()->treeView());
+    QStringList stops;
+    QWidget *stop = start;
+    do {
+        // The frame of a scroll area may belong to what is around it.
+        const QRect area = QRect(stop->mapTo(&window, QPoint(0, 0)), stop->size());
+        const QImage focused = window.grab(area).toImage();
+        stops.append(stop->objectName().isEmpty() ? QString::fromLatin1(stop->metaObject()->className())
+                                                  : stop->objectName());
+        QTest::keyClick(stop, Qt::Key_Tab);
+        QVERIFY2(window.grab(area).toImage() != focused, qPrintable(stops.constLast()));
+        stop = QApplication::focusWidget();
+    } while (stop != start && stops.size() < 50);
+    QApplication::setPalette(QPalette());
+    QCOMPARE(stops,
+             (QStringList{"treeView", "checkBoxViewAllFavorites", "checkBoxPolling", "resetButton",
+                          "QTextBrowser", "QToolButton", "filterEdit"}));
 }
 
 QTEST_MAIN(TestColours)

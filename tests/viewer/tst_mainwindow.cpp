@@ -11,6 +11,7 @@
 #include <zeltoviewercomponents/featuretree/ifeaturetreemodelextension.h>
 #include <zeltoviewercomponents/network/ipaddresswidget.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -494,8 +495,13 @@ void TestMainWindow::messageGoesWithItsReason()
     enter("DeviceLinkThroughputLimit", "100000000");
     QVERIFY(bar->isVisible());
     QVERIFY(bar->findChildren<QLabel *>().last()->text().startsWith(QStringLiteral("DeviceManifest")));
+    // What a screen reader reads out, as it hears of it.
+    QAccessibleInterface *const notification = QAccessible::queryAccessibleInterface(bar);
+    QCOMPARE(notification->role(), QAccessible::Notification);
+    QVERIFY(notification->text(QAccessible::Name).startsWith(QStringLiteral("Message: DeviceManifest")));
     enter("DeviceManifestEntrySelector", "0");
     QVERIFY(!bar->isVisible());
+    QCOMPARE(notification->text(QAccessible::Name), QStringLiteral("Messages"));
 }
 
 // Opens the menu of the current row by the key, and chooses from it.

@@ -25,6 +25,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPointer>
@@ -200,6 +201,13 @@ void FeatureTreeWidget::showActionTexts()
     d->actionMoveFavouriteDown->setShortcut(QKeySequence(tr("Ctrl+Down")));
     const QKeySequence find(Qt::CTRL | Qt::Key_F);
     d->form.filterEdit->setPlaceholder(tr("Search (%1)").arg(find.toString(QKeySequence::NativeText)));
+}
+
+// As a proxy would do it, which Tab follows past the search box.
+void FeatureTreeWidget::focusInEvent(QFocusEvent *event)
+{
+    TreeWidgetBase::focusInEvent(event);
+    m_ui->treeView->setFocus(event->reason());
 }
 
 void FeatureTreeWidget::changeEvent(QEvent *event)
