@@ -43,6 +43,7 @@ SimulatedSource::~SimulatedSource()
         m_isEnding = true;
     }
     m_changed.notify_all();
+    m_image.cancel();
     if (m_thread.joinable()) {
         m_thread.join();
     }
@@ -178,8 +179,11 @@ void SimulatedSource::sendFrame(Lock &lock)
     ReceivedFrame::setSize(frame, m_settings.width, m_settings.height);
     frame.cameraTime = m_clockStart + quint64(std::chrono::nanoseconds(Clock::now() - m_start).count());
     frame.arrival = QDateTime::currentDateTimeUtc();
-    m_sink.deliver(m_memory->shared(std::move(frame)));
     lock.lock();
+    if (m_isEnding) {
+        return; // it may be painted in part
+    }
+    m_sink.deliver(m_memory->shared(std::move(frame)));
     if (isLast) {
         stopAcquiring(framesSentWords());
     }
