@@ -169,22 +169,6 @@
         <source>Description of the current feature</source>
         <translation>Beschreibung des aktuellen Merkmals</translation>
     </message>
-    <message>
-        <source>Beginner</source>
-        <translation>Einsteiger</translation>
-    </message>
-    <message>
-        <source>Expert</source>
-        <translation>Experte</translation>
-    </message>
-    <message>
-        <source>Guru</source>
-        <translation>Guru</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Unsichtbar</translation>
-    </message>
 </context>
 <context>
     <name>IpConfiguration</name>
@@ -501,22 +485,6 @@ Open a description file or connect to a camera (menu File).</source>
 Close without saving them?</source>
         <translation>Werte der Kamera weichen von der Einstellungsdatei %1 ab.
 Schließen, ohne sie zu speichern?</translation>
-    </message>
-    <message>
-        <source>&amp;Beginner</source>
-        <translation>&amp;Einsteiger</translation>
-    </message>
-    <message>
-        <source>&amp;Expert</source>
-        <translation>E&amp;xperte</translation>
-    </message>
-    <message>
-        <source>&amp;Guru</source>
-        <translation>&amp;Guru</translation>
-    </message>
-    <message>
-        <source>&amp;All Features</source>
-        <translation>&amp;Alle Merkmale</translation>
     </message>
     <message>
         <source>The camera was sending images when it was lost.</source>
