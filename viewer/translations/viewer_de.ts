@@ -488,7 +488,7 @@ Schließen, ohne sie zu speichern?</translation>
     </message>
     <message>
         <source>The camera was sending images when it was lost.</source>
-        <translation>Die Kamera sandte Bilder, als sie verloren ging.</translation>
+        <translation>Die Kamera sandte Bilder, als die Verbindung abbrach.</translation>
     </message>
     <message>
         <source>Start Images</source>
@@ -536,11 +536,11 @@ Schließen, ohne sie zu speichern?</translation>
     <name>main</name>
     <message>
         <source>Cannot write %1.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
+        <translation>%1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Cannot write to the standard output.</source>
@@ -1037,14 +1037,14 @@ Trotzdem laden?</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
     <name>FrameRecorder</name>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>No folder can be made in %1.</source>

@@ -1233,7 +1233,7 @@ Load them all the same?</source>
     </message>
     <message>
         <source>Keeps the next images as files, with a table of their numbers and times</source>
-        <translation>Guarda las próximas imágenes como archivos, con una tabla de sus números y tiempos</translation>
+        <translation>Guarda las próximas imágenes como archivos, con una tabla de sus números y marcas de tiempo</translation>
     </message>
     <message>
         <source>Stop &amp;Recording</source>

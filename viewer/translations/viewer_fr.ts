@@ -1233,7 +1233,7 @@ Les charger quand même ?</translation>
     </message>
     <message>
         <source>Keeps the next images as files, with a table of their numbers and times</source>
-        <translation>Conserve les prochaines images dans des fichiers, avec un tableau de leurs numéros et de leurs heures</translation>
+        <translation>Conserve les prochaines images dans des fichiers, avec un tableau de leurs numéros et horodatages</translation>
     </message>
     <message>
         <source>Stop &amp;Recording</source>
@@ -1405,7 +1405,7 @@ Les charger quand même ?</translation>
     </message>
     <message>
         <source>The camera did not take the whole region. %1</source>
-        <translation>La caméra n'a pas repris toute la région. %1</translation>
+        <translation>La caméra n'a pas accepté toute la région. %1</translation>
     </message>
 </context>
 <context>
