@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>the description has no category &quot;Root&quot;</source>
-        <translation>der Beschreibung fehlt die Kategorie &quot;Root&quot;</translation>
+        <translation>der Beschreibung fehlt die Kategorie „Root“</translation>
     </message>
     <message>
         <source>a text is longer than %1 characters</source>
@@ -91,7 +91,7 @@
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not allowed, expected %3</source>
-        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3</translation>
+        <translation>%1: „%2“ ist nicht erlaubt, erwartet: %3</translation>
     </message>
     <message>
         <source>%1 cannot be written now</source>
@@ -119,11 +119,11 @@
     </message>
     <message>
         <source>%1: &quot;%2&quot; is out of range, allowed are %3 to %4</source>
-        <translation>%1: &quot;%2&quot; liegt außerhalb des Bereichs, erlaubt sind %3 bis %4</translation>
+        <translation>%1: „%2“ liegt außerhalb des Bereichs, erlaubt sind %3 bis %4</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not allowed, expected %3 plus a multiple of %4</source>
-        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3 plus ein Vielfaches von %4</translation>
+        <translation>%1: „%2“ ist nicht erlaubt, erwartet: %3 plus ein Vielfaches von %4</translation>
     </message>
     <message>
         <source>no null characters</source>
@@ -162,11 +162,11 @@
     <name>Cameras::NodeProperties</name>
     <message>
         <source>%1: &quot;%2&quot; is no %3, expected %4</source>
-        <translation>%1: &quot;%2&quot; ist nicht vom Typ %3, erwartet: %4</translation>
+        <translation>%1: „%2“ ist nicht vom Typ %3, erwartet: %4</translation>
     </message>
     <message>
         <source>%1: the property &quot;%2&quot; cannot be imposed, only Visibility and AccessMode can</source>
-        <translation>%1: Die Eigenschaft &quot;%2&quot; kann nicht vorgegeben werden, nur Visibility und AccessMode</translation>
+        <translation>%1: Die Eigenschaft „%2“ kann nicht vorgegeben werden, nur Visibility und AccessMode</translation>
     </message>
 </context>
 <context>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>No more images come, since another program controls the camera.</source>
-        <translation>Es kommen keine Bilder mehr, da ein anderes Programm die Kamera steuert.</translation>
+        <translation>Es kommen keine Bilder mehr, da ein anderes Programm die Kamera kontrolliert.</translation>
     </message>
 </context>
 <context>

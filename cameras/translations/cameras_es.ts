@@ -218,6 +218,18 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 No se sabe si ha llegado el último cambio de %2.</translation>
     </message>
+    <message>
+        <source>the system has no thread left</source>
+        <translation>el sistema no tiene más hilos disponibles</translation>
+    </message>
+    <message>
+        <source>No more images come, since another program controls the camera.</source>
+        <translation>No llegan más imágenes, porque otro programa controla la cámara.</translation>
+    </message>
+    <message>
+        <source>No images can be had: %1</source>
+        <translation>No se pueden obtener imágenes: %1</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +370,78 @@
     <message>
         <source>the camera's description cannot be read from %1</source>
         <translation>no se puede leer la descripción de la cámara en %1</translation>
+    </message>
+    <message>
+        <source>the camera at %1 answers, but does not let itself be read</source>
+        <translation>la cámara en %1 responde, pero no se deja leer</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::FrameSource</name>
+    <message>
+        <source>The camera has sent as many images as AcquisitionMode asks for.</source>
+        <translation>La cámara ha enviado tantas imágenes como pide AcquisitionMode.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveSource</name>
+    <message>
+        <source>the camera does not tell how large they are (PayloadSize)</source>
+        <translation>la cámara no indica qué tamaño tienen (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera tells that they have %1 bytes (PayloadSize)</source>
+        <translation>la cámara indica que tienen %1 bytes (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera has no stream</source>
+        <translation>la cámara no tiene ningún flujo</translation>
+    </message>
+    <message>
+        <source>The payload is of the kind %1 and holds no image.</source>
+        <translation>La carga útil es de la clase %1 y no contiene ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>The payload has %1 parts, of which this is number %2.</source>
+        <translation>La carga útil tiene %1 partes; esta es la número %2.</translation>
+    </message>
+    <message>
+        <source>Chunk data came with the image.</source>
+        <translation>Con la imagen han llegado datos chunk.</translation>
+    </message>
+    <message>
+        <source>The image is larger than the camera told (PayloadSize).</source>
+        <translation>La imagen es mayor de lo que ha indicado la cámara (PayloadSize).</translation>
+    </message>
+    <message>
+        <source>Packets are missing: %1.</source>
+        <translation>Faltan paquetes: %1.</translation>
+    </message>
+    <message>
+        <source>A part is missing.</source>
+        <translation>Falta una parte.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::ReceivedFrame</name>
+    <message>
+        <source>The camera tells of an image of %1 x %2 pixels.</source>
+        <translation>La cámara anuncia una imagen de %1 x %2 píxeles.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes are missing.</source>
+        <translation>Faltan %1 de %2 bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::SimulatedImage</name>
+    <message>
+        <source>The simulated camera makes no images in the pixel format %1.</source>
+        <translation>La cámara simulada no genera imágenes en el formato de píxel %1.</translation>
+    </message>
+    <message>
+        <source>The simulated camera makes no images of %1 x %2 pixels.</source>
+        <translation>La cámara simulada no genera imágenes de %1 x %2 píxeles.</translation>
     </message>
 </context>
 </TS>

@@ -218,6 +218,18 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 On ne sait pas si la dernière modification de %2 est arrivée.</translation>
     </message>
+    <message>
+        <source>the system has no thread left</source>
+        <translation>le système n'a plus de thread disponible</translation>
+    </message>
+    <message>
+        <source>No more images come, since another program controls the camera.</source>
+        <translation>Plus aucune image n'arrive, car un autre programme contrôle la caméra.</translation>
+    </message>
+    <message>
+        <source>No images can be had: %1</source>
+        <translation>Impossible d'obtenir des images : %1</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +370,78 @@
     <message>
         <source>the camera's description cannot be read from %1</source>
         <translation>la description de la caméra ne peut pas être lue depuis %1</translation>
+    </message>
+    <message>
+        <source>the camera at %1 answers, but does not let itself be read</source>
+        <translation>la caméra à l'adresse %1 répond, mais ne se laisse pas lire</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::FrameSource</name>
+    <message>
+        <source>The camera has sent as many images as AcquisitionMode asks for.</source>
+        <translation>La caméra a envoyé autant d'images que le demande AcquisitionMode.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveSource</name>
+    <message>
+        <source>the camera does not tell how large they are (PayloadSize)</source>
+        <translation>la caméra n'indique pas leur taille (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera tells that they have %1 bytes (PayloadSize)</source>
+        <translation>la caméra indique qu'elles ont %1 octets (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera has no stream</source>
+        <translation>la caméra n'a pas de flux</translation>
+    </message>
+    <message>
+        <source>The payload is of the kind %1 and holds no image.</source>
+        <translation>La charge utile est du type %1 et ne contient pas d'image.</translation>
+    </message>
+    <message>
+        <source>The payload has %1 parts, of which this is number %2.</source>
+        <translation>La charge utile a %1 parties, dont voici la numéro %2.</translation>
+    </message>
+    <message>
+        <source>Chunk data came with the image.</source>
+        <translation>Des données chunk accompagnent l'image.</translation>
+    </message>
+    <message>
+        <source>The image is larger than the camera told (PayloadSize).</source>
+        <translation>L'image est plus grande que la caméra ne l'a indiqué (PayloadSize).</translation>
+    </message>
+    <message>
+        <source>Packets are missing: %1.</source>
+        <translation>Paquets manquants : %1.</translation>
+    </message>
+    <message>
+        <source>A part is missing.</source>
+        <translation>Une partie manque.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::ReceivedFrame</name>
+    <message>
+        <source>The camera tells of an image of %1 x %2 pixels.</source>
+        <translation>La caméra annonce une image de %1 x %2 pixels.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes are missing.</source>
+        <translation>%1 octets sur %2 manquent.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::SimulatedImage</name>
+    <message>
+        <source>The simulated camera makes no images in the pixel format %1.</source>
+        <translation>La caméra simulée ne produit pas d'images au format de pixel %1.</translation>
+    </message>
+    <message>
+        <source>The simulated camera makes no images of %1 x %2 pixels.</source>
+        <translation>La caméra simulée ne produit pas d'images de %1 x %2 pixels.</translation>
     </message>
 </context>
 </TS>

@@ -218,6 +218,18 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 %2 の最後の変更が届いたかどうかは不明です。</translation>
     </message>
+    <message>
+        <source>the system has no thread left</source>
+        <translation>システムに空きスレッドがありません</translation>
+    </message>
+    <message>
+        <source>No more images come, since another program controls the camera.</source>
+        <translation>別のプログラムがカメラを制御しているため、画像はもう届きません。</translation>
+    </message>
+    <message>
+        <source>No images can be had: %1</source>
+        <translation>画像を取得できません: %1</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +370,78 @@
     <message>
         <source>the camera's description cannot be read from %1</source>
         <translation>%1 からカメラの記述を読み取れません</translation>
+    </message>
+    <message>
+        <source>the camera at %1 answers, but does not let itself be read</source>
+        <translation>%1 のカメラは応答しますが、読み取れません</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::FrameSource</name>
+    <message>
+        <source>The camera has sent as many images as AcquisitionMode asks for.</source>
+        <translation>カメラは AcquisitionMode で指定された枚数の画像を送信しました。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveSource</name>
+    <message>
+        <source>the camera does not tell how large they are (PayloadSize)</source>
+        <translation>カメラが画像のサイズを通知しません (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera tells that they have %1 bytes (PayloadSize)</source>
+        <translation>カメラは画像のサイズを %1 バイトと通知しています (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera has no stream</source>
+        <translation>カメラにストリームがありません</translation>
+    </message>
+    <message>
+        <source>The payload is of the kind %1 and holds no image.</source>
+        <translation>ペイロードの種類が %1 で、画像が含まれていません。</translation>
+    </message>
+    <message>
+        <source>The payload has %1 parts, of which this is number %2.</source>
+        <translation>ペイロードは %1 個のパートからなり、これは %2 番目です。</translation>
+    </message>
+    <message>
+        <source>Chunk data came with the image.</source>
+        <translation>画像とともにチャンク データが届きました。</translation>
+    </message>
+    <message>
+        <source>The image is larger than the camera told (PayloadSize).</source>
+        <translation>画像がカメラの通知したサイズを超えています (PayloadSize)。</translation>
+    </message>
+    <message>
+        <source>Packets are missing: %1.</source>
+        <translation>欠落したパケット: %1。</translation>
+    </message>
+    <message>
+        <source>A part is missing.</source>
+        <translation>一部が欠落しています。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::ReceivedFrame</name>
+    <message>
+        <source>The camera tells of an image of %1 x %2 pixels.</source>
+        <translation>カメラが通知した画像は %1 x %2 ピクセルです。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes are missing.</source>
+        <translation>%2 バイト中 %1 バイトが欠落しています。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::SimulatedImage</name>
+    <message>
+        <source>The simulated camera makes no images in the pixel format %1.</source>
+        <translation>シミュレーション カメラはピクセル形式 %1 の画像を生成しません。</translation>
+    </message>
+    <message>
+        <source>The simulated camera makes no images of %1 x %2 pixels.</source>
+        <translation>シミュレーション カメラは %1 x %2 ピクセルの画像を生成しません。</translation>
     </message>
 </context>
 </TS>

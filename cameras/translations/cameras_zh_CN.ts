@@ -218,6 +218,18 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 无法得知对 %2 的最后一次更改是否已送达。</translation>
     </message>
+    <message>
+        <source>the system has no thread left</source>
+        <translation>系统没有可用的线程</translation>
+    </message>
+    <message>
+        <source>No more images come, since another program controls the camera.</source>
+        <translation>不再收到图像，因为另一个程序正在控制相机。</translation>
+    </message>
+    <message>
+        <source>No images can be had: %1</source>
+        <translation>无法获取图像：%1</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +370,78 @@
     <message>
         <source>the camera's description cannot be read from %1</source>
         <translation>无法从 %1 读取相机描述</translation>
+    </message>
+    <message>
+        <source>the camera at %1 answers, but does not let itself be read</source>
+        <translation>%1 处的相机有响应，但无法读取</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::FrameSource</name>
+    <message>
+        <source>The camera has sent as many images as AcquisitionMode asks for.</source>
+        <translation>相机已发送 AcquisitionMode 所要求数量的图像。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveSource</name>
+    <message>
+        <source>the camera does not tell how large they are (PayloadSize)</source>
+        <translation>相机未给出图像的大小（PayloadSize）</translation>
+    </message>
+    <message>
+        <source>the camera tells that they have %1 bytes (PayloadSize)</source>
+        <translation>相机给出的图像大小为 %1 字节（PayloadSize）</translation>
+    </message>
+    <message>
+        <source>the camera has no stream</source>
+        <translation>相机没有流</translation>
+    </message>
+    <message>
+        <source>The payload is of the kind %1 and holds no image.</source>
+        <translation>载荷的类型为 %1，其中没有图像。</translation>
+    </message>
+    <message>
+        <source>The payload has %1 parts, of which this is number %2.</source>
+        <translation>载荷有 %1 个部分，这是第 %2 个。</translation>
+    </message>
+    <message>
+        <source>Chunk data came with the image.</source>
+        <translation>随图像一起收到了 Chunk 数据。</translation>
+    </message>
+    <message>
+        <source>The image is larger than the camera told (PayloadSize).</source>
+        <translation>图像大于相机给出的大小（PayloadSize）。</translation>
+    </message>
+    <message>
+        <source>Packets are missing: %1.</source>
+        <translation>缺少数据包：%1。</translation>
+    </message>
+    <message>
+        <source>A part is missing.</source>
+        <translation>缺少一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::ReceivedFrame</name>
+    <message>
+        <source>The camera tells of an image of %1 x %2 pixels.</source>
+        <translation>相机给出的图像尺寸为 %1 x %2 像素。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes are missing.</source>
+        <translation>缺少 %2 字节中的 %1 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::SimulatedImage</name>
+    <message>
+        <source>The simulated camera makes no images in the pixel format %1.</source>
+        <translation>模拟相机不生成像素格式为 %1 的图像。</translation>
+    </message>
+    <message>
+        <source>The simulated camera makes no images of %1 x %2 pixels.</source>
+        <translation>模拟相机不生成 %1 x %2 像素的图像。</translation>
     </message>
 </context>
 </TS>

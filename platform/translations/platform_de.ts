@@ -5,15 +5,15 @@
     <name>ParameterCollection::SimpleCollection</name>
     <message>
         <source>%1: &quot;%2&quot; is not allowed, expected %3</source>
-        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3</translation>
+        <translation>%1: „%2“ ist nicht erlaubt, erwartet: %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is out of range, allowed are %3 to %4</source>
-        <translation>%1: &quot;%2&quot; liegt außerhalb des Bereichs, erlaubt sind %3 bis %4</translation>
+        <translation>%1: „%2“ liegt außerhalb des Bereichs, erlaubt sind %3 bis %4</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not allowed, expected %3 plus a multiple of %4</source>
-        <translation>%1: &quot;%2&quot; ist nicht erlaubt, erwartet: %3 plus ein Vielfaches von %4</translation>
+        <translation>%1: „%2“ ist nicht erlaubt, erwartet: %3 plus ein Vielfaches von %4</translation>
     </message>
     <message>
         <source>an integer</source>

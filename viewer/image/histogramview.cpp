@@ -5,6 +5,8 @@
 
 #include "plotcolours.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QHelpEvent>
 #include <QLocale>
 #include <QPainter>
@@ -48,7 +50,7 @@ QString share(quint64 part, quint64 all)
 HistogramView::HistogramView(QWidget *parent)
     : QWidget(parent)
 {
-    setAccessibleName(tr("Histogram"));
+    (new Core::LiveTexts(this))->add(this, &QWidget::setAccessibleName, [] { return tr("Histogram"); });
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
 }

@@ -14,6 +14,7 @@
 
 #include <cameras/camera.h>
 #include <cameras/framevalues.h>
+#include <platform/core/livetexts.h>
 
 #include <QActionGroup>
 #include <QCheckBox>
@@ -62,6 +63,7 @@ QString partText(const PartStatistics &statistics)
 
 ImagePane::ImagePane(QWidget *parent)
     : QWidget(parent)
+    , m_texts(new Core::LiveTexts(this))
     , m_view(new ImageView(this))
     , m_stream(new StreamControl(this))
     , m_region(new RegionOfInterest(this))
@@ -76,7 +78,7 @@ ImagePane::ImagePane(QWidget *parent)
     const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_bar->setIconSize({iconSize, iconSize}); // the tree needs the room as well
     setObjectName(QStringLiteral("image"));
-    setWindowTitle(tr("Image"));
+    m_texts->add(this, &QWidget::setWindowTitle, [] { return tr("Image"); });
     createStreamActions();
     createViewActions();
     createTools();
@@ -85,20 +87,23 @@ ImagePane::ImagePane(QWidget *parent)
     layOut();
     connectParts();
     updateIcons();
-    updateActions();
+    m_texts->add([this] { showTexts(); });
 }
 
 ImagePane::~ImagePane() = default;
 
-QAction *ImagePane::addAction(Symbol symbol, const QString &text, const QString &toolTip,
-                              const QKeySequence &key, QObject *receiver, const char *slot)
+QAction *ImagePane::addAction(Symbol symbol, const char *text, const char *toolTip, const QKeySequence &key,
+                              QObject *receiver, const char *slot)
 {
-    auto *const action = new QAction(text, this);
+    auto *const action = new QAction(this);
     action->setData(int(symbol));
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setToolTip(inToolTip(toolTip, key));
-    action->setStatusTip(toolTip);
+    m_texts->add([action, text, toolTip, key] {
+        action->setText(tr(text));
+        action->setToolTip(inToolTip(tr(toolTip), key));
+        action->setStatusTip(tr(toolTip));
+    });
     if (receiver) {
         connect(action, SIGNAL(triggered()), receiver, slot);
     }
@@ -107,8 +112,8 @@ QAction *ImagePane::addAction(Symbol symbol, const QString &text, const QString 
     return action;
 }
 
-QAction *ImagePane::addSwitch(Symbol symbol, const QString &text, const QString &toolTip,
-                              const QKeySequence &key, QObject *receiver, const char *slot)
+QAction *ImagePane::addSwitch(Symbol symbol, const char *text, const char *toolTip, const QKeySequence &key,
+                              QObject *receiver, const char *slot)
 {
     QAction *const action = addAction(symbol, text, toolTip, key, nullptr, nullptr);
     action->setCheckable(true);
@@ -120,10 +125,10 @@ QAction *ImagePane::addSwitch(Symbol symbol, const QString &text, const QString 
 
 void ImagePane::createStreamActions()
 {
-    m_start = addAction(Symbol::Start, tr("St&art Images"), tr("Shows what the camera sees"), Qt::Key_F9,
-                        this, SLOT(toggleStream()));
+    m_start = addAction(Symbol::Start, QT_TR_NOOP("St&art Images"), QT_TR_NOOP("Shows what the camera sees"),
+                        Qt::Key_F9, this, SLOT(toggleStream()));
     m_start->setShortcutContext(Qt::WindowShortcut);
-    m_single = addAction(Symbol::Single, tr("Si&ngle Image"), tr("Takes one image"),
+    m_single = addAction(Symbol::Single, QT_TR_NOOP("Si&ngle Image"), QT_TR_NOOP("Takes one image"),
                          QKeySequence(Qt::SHIFT | Qt::Key_F9), this, SLOT(takeOne()));
     m_single->setShortcutContext(Qt::WindowShortcut);
     m_bar->addSeparator();
@@ -131,21 +136,24 @@ void ImagePane::createStreamActions()
 
 void ImagePane::createViewActions()
 {
-    m_fit = addAction(Symbol::Fit, tr("Fit"), tr("Shows all of the image"), Qt::Key_0, m_view, SLOT(fit()));
+    m_fit = addAction(Symbol::Fit, QT_TR_NOOP("Fit"), QT_TR_NOOP("Shows all of the image"), Qt::Key_0, m_view,
+                      SLOT(fit()));
     m_fit->setCheckable(true);
-    m_pixels = addAction(Symbol::PixelByPixel, tr("1:1"), tr("Shows each pixel as one of the screen"),
-                         Qt::Key_1, m_view, SLOT(showPixelByPixel()));
-    m_crosshair = addSwitch(Symbol::Crosshair, tr("Crosshair"), tr("Marks the middle of the image"),
-                            Qt::Key_C, m_view, SLOT(setCrosshair(bool)));
-    m_grid = addSwitch(Symbol::Grid, tr("Grid"), tr("Divides the image into thirds"), Qt::Key_G, m_view,
-                       SLOT(setGrid(bool)));
+    m_pixels = addAction(Symbol::PixelByPixel, QT_TR_NOOP("1:1"),
+                         QT_TR_NOOP("Shows each pixel as one of the screen"), Qt::Key_1, m_view,
+                         SLOT(showPixelByPixel()));
+    m_crosshair =
+        addSwitch(Symbol::Crosshair, QT_TR_NOOP("Crosshair"), QT_TR_NOOP("Marks the middle of the image"),
+                  Qt::Key_C, m_view, SLOT(setCrosshair(bool)));
+    m_grid = addSwitch(Symbol::Grid, QT_TR_NOOP("Grid"), QT_TR_NOOP("Divides the image into thirds"),
+                       Qt::Key_G, m_view, SLOT(setGrid(bool)));
     m_bar->addSeparator();
 }
 
 void ImagePane::createTools()
 {
     m_tools = new QActionGroup(this);
-    const auto add = [this](Symbol symbol, const QString &text, const QString &toolTip, Qt::Key key,
+    const auto add = [this](Symbol symbol, const char *text, const char *toolTip, Qt::Key key,
                             ImageView::Tool tool) {
         QAction *const action = addAction(symbol, text, toolTip, key, nullptr, nullptr);
         action->setCheckable(true);
@@ -153,12 +161,14 @@ void ImagePane::createTools()
         m_tools->addAction(action);
         return action;
     };
-    add(Symbol::Pan, tr("Move"), tr("Dragging moves the image"), Qt::Key_M, ImageView::Tool::Pan)
+    add(Symbol::Pan, QT_TR_NOOP("Move"), QT_TR_NOOP("Dragging moves the image"), Qt::Key_M,
+        ImageView::Tool::Pan)
         ->setChecked(true);
-    add(Symbol::Part, tr("Rectangle"),
-        tr("Dragging draws a rectangle, of which mean, deviation and sharpness are shown"), Qt::Key_R,
+    add(Symbol::Part, QT_TR_NOOP("Rectangle"),
+        QT_TR_NOOP("Dragging draws a rectangle, of which mean, deviation and sharpness are shown"), Qt::Key_R,
         ImageView::Tool::Part);
-    add(Symbol::Line, tr("Line"), tr("Dragging draws a line, along which the values are shown"), Qt::Key_L,
+    add(Symbol::Line, QT_TR_NOOP("Line"),
+        QT_TR_NOOP("Dragging draws a line, along which the values are shown"), Qt::Key_L,
         ImageView::Tool::Line);
     connect(m_tools, SIGNAL(triggered(QAction *)), this, SLOT(chooseTool(QAction *)));
     m_bar->addSeparator();
@@ -166,21 +176,22 @@ void ImagePane::createTools()
 
 void ImagePane::createMeasures()
 {
-    m_showPlots = addSwitch(Symbol::Histogram, tr("Histogram"), tr("Shows the histogram, gamma and contrast"),
-                            Qt::Key_H, this, SLOT(updateWish()));
-    m_extremes =
-        addSwitch(Symbol::Extremes, tr("Mark Extremes"), tr("Marks saturated pixels red and black ones blue"),
-                  Qt::Key_X, this, SLOT(updateLook()));
+    m_showPlots =
+        addSwitch(Symbol::Histogram, QT_TR_NOOP("Histogram"),
+                  QT_TR_NOOP("Shows the histogram, gamma and contrast"), Qt::Key_H, this, SLOT(updateWish()));
+    m_extremes = addSwitch(Symbol::Extremes, QT_TR_NOOP("Mark Extremes"),
+                           QT_TR_NOOP("Marks saturated pixels red and black ones blue"), Qt::Key_X, this,
+                           SLOT(updateLook()));
     m_bar->addSeparator();
 }
 
 void ImagePane::createRegionAction()
 {
-    m_fullFrame =
-        addAction(Symbol::FullFrame, tr("&Full Frame"),
-                  tr("Makes all of the sensor the region of interest; dragging in the image with Ctrl "
-                     "makes it what is drawn"),
-                  QKeySequence(Qt::SHIFT | Qt::Key_F), m_region, SLOT(setFullFrame()));
+    m_fullFrame = addAction(
+        Symbol::FullFrame, QT_TR_NOOP("&Full Frame"),
+        QT_TR_NOOP("Makes all of the sensor the region of interest; dragging in the image with Ctrl "
+                   "makes it what is drawn"),
+        QKeySequence(Qt::SHIFT | Qt::Key_F), m_region, SLOT(setFullFrame()));
     m_bar->addSeparator();
     const auto saving = m_saving->actions();
     saving.at(0)->setData(int(Symbol::Save));
@@ -192,8 +203,9 @@ QWidget *ImagePane::createPlots()
 {
     m_plots = new QWidget(this);
     m_histogram = new HistogramView(m_plots);
-    m_logarithmic = new QCheckBox(tr("&Logarithmic"), m_plots);
-    m_logarithmic->setToolTip(tr("Shows rare values as well"));
+    m_logarithmic = new QCheckBox(m_plots);
+    m_texts->add(m_logarithmic, &QCheckBox::setText, [] { return tr("&Logarithmic"); });
+    m_texts->add(m_logarithmic, &QWidget::setToolTip, [] { return tr("Shows rare values as well"); });
     m_look = new LookControls(m_plots);
     m_extremesText = new QLabel(m_plots);
     auto *const row = new QHBoxLayout;
@@ -216,13 +228,14 @@ void ImagePane::layOut()
     m_profile->hide();
     m_partText = new QLabel(this);
     m_partText->setWordWrap(true);
-    m_partText->setAccessibleName(tr("Statistics of the rectangle"));
-    m_partText->setToolTip(
-        tr("Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the "
-           "mean"));
+    m_texts->add(m_partText, &QWidget::setAccessibleName, [] { return tr("Statistics of the rectangle"); });
+    m_texts->add(m_partText, &QWidget::setToolTip, [] {
+        return tr("Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the "
+                  "mean");
+    });
     m_partText->hide();
-    m_probeText->setAccessibleName(tr("Pixel under the cursor"));
-    m_streamText->setAccessibleName(tr("Images"));
+    m_texts->add(m_probeText, &QWidget::setAccessibleName, [] { return tr("Pixel under the cursor"); });
+    m_texts->add(m_streamText, &QWidget::setAccessibleName, [] { return tr("Images"); });
     m_streamText->setWordWrap(true);
     for (QLabel *const label : {m_probeText, m_streamText, m_partText, m_extremesText}) {
         if (label) {
@@ -242,7 +255,6 @@ void ImagePane::layOut()
     layout->addWidget(m_probeText);
     layout->addWidget(m_streamText);
     setFocusProxy(m_view);
-    m_view->setHint(tr("No camera is open."));
 }
 
 void ImagePane::connectParts()
@@ -279,10 +291,25 @@ void ImagePane::setCamera(Camera *camera, const QList<SettingsNodeMap> &nodeMaps
     m_saving->setCameraName(camera && camera->stream() ? camera->info()->modelName() : QString());
     m_stream->setCamera(camera);
     showFrame(nullptr);
+    showHint();
+    showStatistics();
+}
+
+void ImagePane::showHint()
+{
+    const Camera *const camera = m_stream->camera();
     m_view->setHint(!camera                 ? tr("No camera is open.")
                         : !camera->stream() ? tr("This camera delivers no images.")
                                             : tr("Start the images with F9."));
-    showStatistics();
+}
+
+// What is shown of the camera and of the last image, which may have no successor.
+void ImagePane::showTexts()
+{
+    updateActions();
+    showHint();
+    showProbe(m_probe);
+    m_analysis->setFrame(m_view->frame());
 }
 
 void ImagePane::showFrame(FramePointer frame)

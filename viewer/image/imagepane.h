@@ -18,6 +18,10 @@ namespace Cameras {
 class Camera;
 }
 
+namespace Core {
+class LiveTexts;
+}
+
 class HistogramView;
 class ImageSaving;
 class ImageView;
@@ -86,9 +90,9 @@ private Q_SLOTS:
     void updateWish();
 
 private:
-    QAction *addAction(ImageIcons::Symbol symbol, const QString &text, const QString &toolTip,
+    QAction *addAction(ImageIcons::Symbol symbol, const char *text, const char *toolTip,
                        const QKeySequence &key, QObject *receiver, const char *slot);
-    QAction *addSwitch(ImageIcons::Symbol symbol, const QString &text, const QString &toolTip,
+    QAction *addSwitch(ImageIcons::Symbol symbol, const char *text, const char *toolTip,
                        const QKeySequence &key, QObject *receiver, const char *slot);
     void createStreamActions();
     void createViewActions();
@@ -100,7 +104,10 @@ private:
     void connectParts();
     void updateIcons();
     QString probeText() const;
+    void showHint();
+    void showTexts();
 
+    Core::LiveTexts *m_texts; // first: the members that follow use it
     ImageView *m_view;
     StreamControl *m_stream;
     RegionOfInterest *m_region;

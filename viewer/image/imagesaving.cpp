@@ -7,6 +7,8 @@
 #include "framerecorder.h"
 #include "recorddialog.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
@@ -26,21 +28,16 @@ constexpr int hintTime = 5000;
 ImageSaving::ImageSaving(QWidget *window)
     : QObject(window)
     , m_window(window)
-    , m_save(new QAction(tr("Save I&mage…"), this))
+    , m_save(new QAction(this))
     , m_record(new QAction(this))
     , m_recorder(new FrameRecorder(this))
     , m_folder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
 {
-    m_save->setToolTip(tr("Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM"));
-    m_record->setToolTip(tr("Keeps the next images as files, with a table of their numbers and times"));
-    for (QAction *const action : {m_save, m_record}) {
-        action->setStatusTip(action->toolTip());
-    }
     connect(m_save, SIGNAL(triggered()), this, SLOT(save()));
     connect(m_record, SIGNAL(triggered()), this, SLOT(toggleRecording()));
     connect(m_recorder, SIGNAL(progress(int, int)), this, SLOT(onProgress(int, int)));
     connect(m_recorder, SIGNAL(finished(int, int, QString)), this, SLOT(onRecorded(int, int, QString)));
-    updateActions();
+    (new Core::LiveTexts(window))->add([this] { showTexts(); });
 }
 
 ImageSaving::~ImageSaving() = default;
@@ -57,6 +54,17 @@ void ImageSaving::setFrame(const FramePointer &frame, const FrameConversion::Loo
 {
     m_frame = frame;
     m_look = look;
+    updateActions();
+}
+
+void ImageSaving::showTexts()
+{
+    m_save->setText(tr("Save I&mage…"));
+    m_save->setToolTip(tr("Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM"));
+    m_record->setToolTip(tr("Keeps the next images as files, with a table of their numbers and times"));
+    for (QAction *const action : {m_save, m_record}) {
+        action->setStatusTip(action->toolTip());
+    }
     updateActions();
 }
 

@@ -52,6 +52,7 @@ private Q_SLOTS:
 
 private:
     QString suggestedFile() const;
+    void showTexts();
     void updateActions();
 
     QWidget *m_window;

@@ -3,6 +3,8 @@
 
 #include "imageview.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -54,7 +56,7 @@ ImageView::ImageView(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(tr("Camera image"));
+    (new Core::LiveTexts(this))->add(this, &QWidget::setAccessibleName, [] { return tr("Camera image"); });
     setTool(Tool::Pan);
 }
 

@@ -3,6 +3,8 @@
 
 #include "lookcontrols.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -19,22 +21,27 @@ constexpr double percent = 100.0;
 
 LookControls::LookControls(QWidget *parent)
     : QWidget(parent)
+    , m_texts(new Core::LiveTexts(this))
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_gamma = addBox(tr("Ga&mma"), tr("Makes dark parts of what is shown brighter"), 5.0, 1.0);
+    m_gamma =
+        addBox(QT_TR_NOOP("Ga&mma"), QT_TR_NOOP("Makes dark parts of what is shown brighter"), 5.0, 1.0);
     m_gamma->setMinimum(0.2);
     m_gamma->setSingleStep(0.1);
-    m_black = addBox(tr("Blac&k"), tr("The share of the largest value that is shown black"), percent, 0.0);
-    m_white =
-        addBox(tr("&White"), tr("The share of the largest value that is shown white"), percent, percent);
+    m_black = addBox(QT_TR_NOOP("Blac&k"), QT_TR_NOOP("The share of the largest value that is shown black"),
+                     percent, 0.0);
+    m_white = addBox(QT_TR_NOOP("&White"), QT_TR_NOOP("The share of the largest value that is shown white"),
+                     percent, percent);
     for (QDoubleSpinBox *const box : {m_black, m_white}) {
-        box->setSuffix(tr(" %"));
+        m_texts->add(box, &QDoubleSpinBox::setSuffix, [] { return tr(" %"); });
         box->setDecimals(1);
     }
     auto *const button = new QToolButton(this);
-    button->setText(tr("Reset"));
-    button->setToolTip(tr("Shows values as they are: gamma and contrast change nothing of the camera"));
+    m_texts->add(button, &QToolButton::setText, [] { return tr("Reset"); });
+    m_texts->add(button, &QWidget::setToolTip, [] {
+        return tr("Shows values as they are: gamma and contrast change nothing of the camera");
+    });
     connect(button, SIGNAL(clicked()), this, SLOT(reset()));
     layout->addWidget(button);
     layout->addStretch(1);
@@ -42,14 +49,14 @@ LookControls::LookControls(QWidget *parent)
 
 LookControls::~LookControls() = default;
 
-QDoubleSpinBox *LookControls::addBox(const QString &label, const QString &toolTip, double highest,
-                                     double value)
+QDoubleSpinBox *LookControls::addBox(const char *label, const char *toolTip, double highest, double value)
 {
     auto *const box = new QDoubleSpinBox(this);
     box->setRange(0.0, highest);
     box->setValue(value);
-    box->setToolTip(toolTip);
-    auto *const name = new QLabel(label, this);
+    m_texts->add(box, &QWidget::setToolTip, [toolTip] { return tr(toolTip); });
+    auto *const name = new QLabel(this);
+    m_texts->add(name, &QLabel::setText, [label] { return tr(label); });
     name->setBuddy(box);
     layout()->addWidget(name);
     layout()->addWidget(box);

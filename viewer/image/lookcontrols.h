@@ -9,6 +9,10 @@
 
 class QDoubleSpinBox;
 
+namespace Core {
+class LiveTexts;
+}
+
 /*! \brief Gamma and contrast of what is shown, which change nothing of the camera. */
 class LookControls : public QWidget
 {
@@ -28,8 +32,9 @@ private Q_SLOTS:
     void reset();
 
 private:
-    QDoubleSpinBox *addBox(const QString &label, const QString &toolTip, double highest, double value);
+    QDoubleSpinBox *addBox(const char *label, const char *toolTip, double highest, double value);
 
+    Core::LiveTexts *m_texts; // first: the boxes use it
     QDoubleSpinBox *m_gamma;
     QDoubleSpinBox *m_black;
     QDoubleSpinBox *m_white;

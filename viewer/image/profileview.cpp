@@ -5,6 +5,8 @@
 
 #include "plotcolours.h"
 
+#include <platform/core/livetexts.h>
+
 #include <QPainter>
 #include <QPolygonF>
 
@@ -15,8 +17,9 @@ using namespace Cameras;
 ProfileView::ProfileView(QWidget *parent)
     : QWidget(parent)
 {
-    setAccessibleName(tr("Line profile"));
-    setToolTip(tr("The raw values along the drawn line"));
+    auto *const texts = new Core::LiveTexts(this);
+    texts->add(this, &QWidget::setAccessibleName, [] { return tr("Line profile"); });
+    texts->add(this, &QWidget::setToolTip, [] { return tr("The raw values along the drawn line"); });
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
 }

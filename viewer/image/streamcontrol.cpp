@@ -41,6 +41,11 @@ void StreamControl::setCamera(Camera *camera)
     Q_EMIT stateChanged();
 }
 
+Camera *StreamControl::camera() const
+{
+    return m_camera;
+}
+
 bool StreamControl::isPossible() const
 {
     return m_stream && m_camera && !m_camera->isLost() && !m_camera->isReadOnly();

@@ -28,6 +28,7 @@ public:
 
     /*! Names the open camera, null when none is; what went before is forgotten. */
     void setCamera(Cameras::Camera *camera);
+    Cameras::Camera *camera() const;
     /*! Returns whether the open camera can deliver images now. */
     bool isPossible() const;
     bool isRunning() const;

@@ -169,22 +169,6 @@
         <source>Description of the current feature</source>
         <translation>Beschreibung des aktuellen Merkmals</translation>
     </message>
-    <message>
-        <source>Beginner</source>
-        <translation>Einsteiger</translation>
-    </message>
-    <message>
-        <source>Expert</source>
-        <translation>Experte</translation>
-    </message>
-    <message>
-        <source>Guru</source>
-        <translation>Guru</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Unsichtbar</translation>
-    </message>
 </context>
 <context>
     <name>IpConfiguration</name>
@@ -503,24 +487,8 @@ Close without saving them?</source>
 Schließen, ohne sie zu speichern?</translation>
     </message>
     <message>
-        <source>&amp;Beginner</source>
-        <translation>&amp;Einsteiger</translation>
-    </message>
-    <message>
-        <source>&amp;Expert</source>
-        <translation>E&amp;xperte</translation>
-    </message>
-    <message>
-        <source>&amp;Guru</source>
-        <translation>&amp;Guru</translation>
-    </message>
-    <message>
-        <source>&amp;All Features</source>
-        <translation>&amp;Alle Merkmale</translation>
-    </message>
-    <message>
         <source>The camera was sending images when it was lost.</source>
-        <translation>Die Kamera sandte Bilder, als sie verloren ging.</translation>
+        <translation>Die Kamera sandte Bilder, als die Verbindung abbrach.</translation>
     </message>
     <message>
         <source>Start Images</source>
@@ -568,11 +536,11 @@ Schließen, ohne sie zu speichern?</translation>
     <name>main</name>
     <message>
         <source>Cannot write %1.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
+        <translation>%1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Cannot write to the standard output.</source>
@@ -1073,14 +1041,14 @@ Trotzdem laden?</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
 </context>
 <context>
     <name>FrameRecorder</name>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>No folder can be made in %1.</source>

@@ -486,6 +486,14 @@ Close without saving them?</source>
         <translation>Hay valores de la cámara que difieren del archivo de ajustes %1.
 ¿Cerrar sin guardarlos?</translation>
     </message>
+    <message>
+        <source>The camera was sending images when it was lost.</source>
+        <translation>La cámara estaba enviando imágenes cuando se perdió.</translation>
+    </message>
+    <message>
+        <source>Start Images</source>
+        <translation>Iniciar las imágenes</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -774,6 +782,18 @@ Load them all the same?</source>
         <source>Cannot write to the standard output.</source>
         <translation>No se puede escribir en la salida estándar.</translation>
     </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten</source>
+        <translation>%1 ya existe, y no se sobrescribe nada</translation>
+    </message>
+    <message>
+        <source>this camera delivers no images</source>
+        <translation>esta cámara no proporciona imágenes</translation>
+    </message>
+    <message>
+        <source>no image came</source>
+        <translation>no ha llegado ninguna imagen</translation>
+    </message>
 </context>
 <context>
     <name>Comparison</name>
@@ -999,6 +1019,400 @@ Load them all the same?</source>
     <message>
         <source>As the &amp;System</source>
         <translation>Como el &amp;sistema</translation>
+    </message>
+</context>
+<context>
+    <name>FrameFile</name>
+    <message>
+        <source>The pixel format %1 cannot be saved in this kind of file. Its bytes can, as a file whose name ends in .raw.</source>
+        <translation>El formato de píxel %1 no se puede guardar en este tipo de archivo. Sus bytes sí, en un archivo cuyo nombre termine en .raw.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the image that could be saved.</source>
+        <translation>En la imagen no hay nada que se pueda guardar.</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten.</source>
+        <translation>%1 ya existe, y no se sobrescribe nada.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameRecorder</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>No se puede crear ninguna carpeta en %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histograma</translation>
+    </message>
+    <message>
+        <source>Black: %1 (%2 %)   Saturated: %3 (%4 %)</source>
+        <translation>Negros: %1 (%2 %)   Saturados: %3 (%4 %)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePane</name>
+    <message>
+        <source>%1mean %2, deviation %3</source>
+        <translation>%1media %2, desviación %3</translation>
+    </message>
+    <message>
+        <source>sharpness %1</source>
+        <translation>nitidez %1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>St&amp;art Images</source>
+        <translation>I&amp;niciar las imágenes</translation>
+    </message>
+    <message>
+        <source>Shows what the camera sees</source>
+        <translation>Muestra lo que ve la cámara</translation>
+    </message>
+    <message>
+        <source>Si&amp;ngle Image</source>
+        <translation>&amp;Una sola imagen</translation>
+    </message>
+    <message>
+        <source>Takes one image</source>
+        <translation>Toma una imagen</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Shows all of the image</source>
+        <translation>Muestra toda la imagen</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Shows each pixel as one of the screen</source>
+        <translation>Muestra cada píxel como uno de la pantalla</translation>
+    </message>
+    <message>
+        <source>Crosshair</source>
+        <translation>Cruz</translation>
+    </message>
+    <message>
+        <source>Marks the middle of the image</source>
+        <translation>Marca el centro de la imagen</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <source>Divides the image into thirds</source>
+        <translation>Divide la imagen en tercios</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Dragging moves the image</source>
+        <translation>Al arrastrar se mueve la imagen</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectángulo</translation>
+    </message>
+    <message>
+        <source>Dragging draws a rectangle, of which mean, deviation and sharpness are shown</source>
+        <translation>Al arrastrar se dibuja un rectángulo, del que se muestran la media, la desviación y la nitidez</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Dragging draws a line, along which the values are shown</source>
+        <translation>Al arrastrar se dibuja una línea, a lo largo de la cual se muestran los valores</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histograma</translation>
+    </message>
+    <message>
+        <source>Shows the histogram, gamma and contrast</source>
+        <translation>Muestra el histograma, la gamma y el contraste</translation>
+    </message>
+    <message>
+        <source>Mark Extremes</source>
+        <translation>Marcar los extremos</translation>
+    </message>
+    <message>
+        <source>Marks saturated pixels red and black ones blue</source>
+        <translation>Marca en rojo los píxeles saturados y en azul los negros</translation>
+    </message>
+    <message>
+        <source>&amp;Full Frame</source>
+        <translation>Imagen c&amp;ompleta</translation>
+    </message>
+    <message>
+        <source>Makes all of the sensor the region of interest; dragging in the image with Ctrl makes it what is drawn</source>
+        <translation>Convierte todo el sensor en la región de interés; al arrastrar en la imagen con Ctrl, la región de interés pasa a ser lo dibujado</translation>
+    </message>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>&amp;Logarítmico</translation>
+    </message>
+    <message>
+        <source>Shows rare values as well</source>
+        <translation>Muestra también los valores poco frecuentes</translation>
+    </message>
+    <message>
+        <source>Statistics of the rectangle</source>
+        <translation>Estadística del rectángulo</translation>
+    </message>
+    <message>
+        <source>Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the mean</source>
+        <translation>Del rectángulo dibujado. Nitidez: saltos entre vecinos, en porcentaje de la media</translation>
+    </message>
+    <message>
+        <source>Pixel under the cursor</source>
+        <translation>Píxel bajo el cursor</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation>No hay ninguna cámara abierta.</translation>
+    </message>
+    <message>
+        <source>This camera delivers no images.</source>
+        <translation>Esta cámara no proporciona imágenes.</translation>
+    </message>
+    <message>
+        <source>Start the images with F9.</source>
+        <translation>Inicie las imágenes con F9.</translation>
+    </message>
+    <message>
+        <source>St&amp;op Images</source>
+        <translation>&amp;Detener las imágenes</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3, frame %4, %5 %</source>
+        <translation>%1 × %2, %3, imagen %4, %5 %</translation>
+    </message>
+    <message>
+        <source>x %1, y %2:  %3</source>
+        <translation>x %1, y %2:  %3</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSaving</name>
+    <message>
+        <source>Save I&amp;mage…</source>
+        <translation>Gua&amp;rdar la imagen…</translation>
+    </message>
+    <message>
+        <source>Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM</source>
+        <translation>Guarda la imagen: lo que se muestra, como PNG; los valores sin procesar, como TIFF, PGM o PPM</translation>
+    </message>
+    <message>
+        <source>Keeps the next images as files, with a table of their numbers and times</source>
+        <translation>Guarda las próximas imágenes como archivos, con una tabla de sus números y marcas de tiempo</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Detener la gra&amp;bación</translation>
+    </message>
+    <message>
+        <source>&amp;Record Images…</source>
+        <translation>Gra&amp;bar imágenes…</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Guardar la imagen</translation>
+    </message>
+    <message>
+        <source>As shown (*.png);;Raw values (*.tif *.tiff);;Raw values (*.pgm *.ppm);;Bytes (*.raw);;All files (*)</source>
+        <translation>Como se muestra (*.png);;Valores sin procesar (*.tif *.tiff);;Valores sin procesar (*.pgm *.ppm);;Bytes (*.raw);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The image was saved to %1.</source>
+        <translation>La imagen se ha guardado en %1.</translation>
+    </message>
+    <message>
+        <source>Images recorded: %1 of %2</source>
+        <translation>Imágenes grabadas: %1 de %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>La grabación ha terminado tras %n imagen. %1</numerusform>
+            <numerusform>La grabación ha terminado tras %n imágenes. %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>Se ha omitido %n imagen, porque el disco era demasiado lento.</numerusform>
+            <numerusform>Se han omitido %n imágenes, porque el disco era demasiado lento.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>Se ha grabado %n imagen en %1.</numerusform>
+            <numerusform>Se han grabado %n imágenes en %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ImageView</name>
+    <message>
+        <source>Camera image</source>
+        <translation>Imagen de la cámara</translation>
+    </message>
+    <message>
+        <source>An image of %1 × %2 pixels cannot be shown.</source>
+        <translation>No se puede mostrar una imagen de %1 × %2 píxeles.</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
+        <translation>El formato de píxel %1 no se puede mostrar. Sus bytes se pueden guardar.</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>Ga&amp;mma</source>
+        <translation>Ga&amp;mma</translation>
+    </message>
+    <message>
+        <source>Makes dark parts of what is shown brighter</source>
+        <translation>Aclara las partes oscuras de lo que se muestra</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k</source>
+        <translation>&amp;Negro</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown black</source>
+        <translation>La fracción del valor máximo que se muestra en negro</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Blanco</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown white</source>
+        <translation>La fracción del valor máximo que se muestra en blanco</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Shows values as they are: gamma and contrast change nothing of the camera</source>
+        <translation>Muestra los valores tal como son: la gamma y el contraste no cambian nada en la cámara</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileView</name>
+    <message>
+        <source>Line profile</source>
+        <translation>Perfil de línea</translation>
+    </message>
+    <message>
+        <source>The raw values along the drawn line</source>
+        <translation>Los valores sin procesar a lo largo de la línea dibujada</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record Images</source>
+        <translation>Grabar imágenes</translation>
+    </message>
+    <message>
+        <source>The images get a new folder in this one; nothing is overwritten</source>
+        <translation>Las imágenes van a una carpeta nueva dentro de esta; no se sobrescribe nada</translation>
+    </message>
+    <message>
+        <source>TIFF, raw values</source>
+        <translation>TIFF, valores sin procesar</translation>
+    </message>
+    <message>
+        <source>PGM or PPM, raw values</source>
+        <translation>PGM o PPM, valores sin procesar</translation>
+    </message>
+    <message>
+        <source>PNG, as shown with 8 bits</source>
+        <translation>PNG, como se muestra, con 8 bits</translation>
+    </message>
+    <message>
+        <source>Bytes as they came</source>
+        <translation>Bytes tal como llegaron</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Examinar…</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Grabar</translation>
+    </message>
+    <message>
+        <source>&amp;Images:</source>
+        <translation>&amp;Imágenes:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>&amp;Tipo:</translation>
+    </message>
+    <message>
+        <source>Folder for Images</source>
+        <translation>Carpeta para las imágenes</translation>
+    </message>
+</context>
+<context>
+    <name>RegionOfInterest</name>
+    <message>
+        <source>region of interest</source>
+        <translation>región de interés</translation>
+    </message>
+    <message>
+        <source>The camera did not take the whole region. %1</source>
+        <translation>La cámara no ha aceptado toda la región. %1</translation>
+    </message>
+</context>
+<context>
+    <name>StreamControl</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s, %3 complete, %4 incomplete, %5 dropped</source>
+        <translation>%1 imágenes/s, %2 MB/s, %3 completas, %4 incompletas, %5 descartadas</translation>
     </message>
 </context>
 </TS>

@@ -486,6 +486,14 @@ Close without saving them?</source>
         <translation>Des valeurs de la caméra diffèrent du fichier de réglages %1.
 Fermer sans les enregistrer ?</translation>
     </message>
+    <message>
+        <source>The camera was sending images when it was lost.</source>
+        <translation>La caméra envoyait des images lorsque la connexion a été perdue.</translation>
+    </message>
+    <message>
+        <source>Start Images</source>
+        <translation>Démarrer les images</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -774,6 +782,18 @@ Les charger quand même ?</translation>
         <source>Cannot write to the standard output.</source>
         <translation>Impossible d'écrire sur la sortie standard.</translation>
     </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten</source>
+        <translation>%1 existe déjà, et rien n'est écrasé</translation>
+    </message>
+    <message>
+        <source>this camera delivers no images</source>
+        <translation>cette caméra ne fournit pas d'images</translation>
+    </message>
+    <message>
+        <source>no image came</source>
+        <translation>aucune image n'est arrivée</translation>
+    </message>
 </context>
 <context>
     <name>Comparison</name>
@@ -999,6 +1019,400 @@ Les charger quand même ?</translation>
     <message>
         <source>As the &amp;System</source>
         <translation>Comme le &amp;système</translation>
+    </message>
+</context>
+<context>
+    <name>FrameFile</name>
+    <message>
+        <source>The pixel format %1 cannot be saved in this kind of file. Its bytes can, as a file whose name ends in .raw.</source>
+        <translation>Le format de pixel %1 ne peut pas être enregistré dans ce type de fichier. Ses octets le peuvent, dans un fichier dont le nom se termine par .raw.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the image that could be saved.</source>
+        <translation>L'image ne contient rien qui puisse être enregistré.</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten.</source>
+        <translation>%1 existe déjà, et rien n'est écrasé.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Impossible d'écrire %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameRecorder</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Impossible d'écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>Impossible de créer un dossier dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramme</translation>
+    </message>
+    <message>
+        <source>Black: %1 (%2 %)   Saturated: %3 (%4 %)</source>
+        <translation>Noirs : %1 (%2 %)   Saturés : %3 (%4 %)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePane</name>
+    <message>
+        <source>%1mean %2, deviation %3</source>
+        <translation>%1moyenne %2, écart type %3</translation>
+    </message>
+    <message>
+        <source>sharpness %1</source>
+        <translation>netteté %1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>St&amp;art Images</source>
+        <translation>&amp;Démarrer les images</translation>
+    </message>
+    <message>
+        <source>Shows what the camera sees</source>
+        <translation>Affiche ce que voit la caméra</translation>
+    </message>
+    <message>
+        <source>Si&amp;ngle Image</source>
+        <translation>Image &amp;unique</translation>
+    </message>
+    <message>
+        <source>Takes one image</source>
+        <translation>Prend une image</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Shows all of the image</source>
+        <translation>Affiche toute l'image</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Shows each pixel as one of the screen</source>
+        <translation>Affiche chaque pixel comme un pixel de l'écran</translation>
+    </message>
+    <message>
+        <source>Crosshair</source>
+        <translation>Réticule</translation>
+    </message>
+    <message>
+        <source>Marks the middle of the image</source>
+        <translation>Marque le centre de l'image</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Divides the image into thirds</source>
+        <translation>Divise l'image en tiers</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Dragging moves the image</source>
+        <translation>Faire glisser déplace l'image</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Dragging draws a rectangle, of which mean, deviation and sharpness are shown</source>
+        <translation>Faire glisser trace un rectangle, dont la moyenne, l'écart type et la netteté sont affichés</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Dragging draws a line, along which the values are shown</source>
+        <translation>Faire glisser trace une ligne, le long de laquelle les valeurs sont affichées</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramme</translation>
+    </message>
+    <message>
+        <source>Shows the histogram, gamma and contrast</source>
+        <translation>Affiche l'histogramme, le gamma et le contraste</translation>
+    </message>
+    <message>
+        <source>Mark Extremes</source>
+        <translation>Marquer les extrêmes</translation>
+    </message>
+    <message>
+        <source>Marks saturated pixels red and black ones blue</source>
+        <translation>Marque en rouge les pixels saturés et en bleu les noirs</translation>
+    </message>
+    <message>
+        <source>&amp;Full Frame</source>
+        <translation>P&amp;leine image</translation>
+    </message>
+    <message>
+        <source>Makes all of the sensor the region of interest; dragging in the image with Ctrl makes it what is drawn</source>
+        <translation>Fait de tout le capteur la région d'intérêt ; faire glisser dans l'image avec Ctrl fait de ce qui est tracé la région d'intérêt</translation>
+    </message>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>&amp;Logarithmique</translation>
+    </message>
+    <message>
+        <source>Shows rare values as well</source>
+        <translation>Affiche aussi les valeurs rares</translation>
+    </message>
+    <message>
+        <source>Statistics of the rectangle</source>
+        <translation>Statistiques du rectangle</translation>
+    </message>
+    <message>
+        <source>Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the mean</source>
+        <translation>Du rectangle tracé. Netteté : écarts entre voisins, en pour cent de la moyenne</translation>
+    </message>
+    <message>
+        <source>Pixel under the cursor</source>
+        <translation>Pixel sous le curseur</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation>Aucune caméra n'est ouverte.</translation>
+    </message>
+    <message>
+        <source>This camera delivers no images.</source>
+        <translation>Cette caméra ne fournit pas d'images.</translation>
+    </message>
+    <message>
+        <source>Start the images with F9.</source>
+        <translation>Démarrez les images avec F9.</translation>
+    </message>
+    <message>
+        <source>St&amp;op Images</source>
+        <translation>&amp;Arrêter les images</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3, frame %4, %5 %</source>
+        <translation>%1 × %2, %3, image %4, %5 %</translation>
+    </message>
+    <message>
+        <source>x %1, y %2:  %3</source>
+        <translation>x %1, y %2 :  %3</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSaving</name>
+    <message>
+        <source>Save I&amp;mage…</source>
+        <translation>Enre&amp;gistrer l'image…</translation>
+    </message>
+    <message>
+        <source>Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM</source>
+        <translation>Enregistre l'image : ce qui est affiché en PNG, les valeurs brutes en TIFF, PGM ou PPM</translation>
+    </message>
+    <message>
+        <source>Keeps the next images as files, with a table of their numbers and times</source>
+        <translation>Conserve les prochaines images dans des fichiers, avec un tableau de leurs numéros et horodatages</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Arrêter l'enregi&amp;strement</translation>
+    </message>
+    <message>
+        <source>&amp;Record Images…</source>
+        <translation>Enregistrer une &amp;série d'images…</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>Enregistrer l'image</translation>
+    </message>
+    <message>
+        <source>As shown (*.png);;Raw values (*.tif *.tiff);;Raw values (*.pgm *.ppm);;Bytes (*.raw);;All files (*)</source>
+        <translation>Comme affiché (*.png);;Valeurs brutes (*.tif *.tiff);;Valeurs brutes (*.pgm *.ppm);;Octets (*.raw);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The image was saved to %1.</source>
+        <translation>L'image a été enregistrée dans %1.</translation>
+    </message>
+    <message>
+        <source>Images recorded: %1 of %2</source>
+        <translation>Images enregistrées : %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>L'enregistrement s'est arrêté après %n image. %1</numerusform>
+            <numerusform>L'enregistrement s'est arrêté après %n images. %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>%n image a été laissée de côté, car le disque était trop lent.</numerusform>
+            <numerusform>%n images ont été laissées de côté, car le disque était trop lent.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>%n image a été enregistrée dans %1.</numerusform>
+            <numerusform>%n images ont été enregistrées dans %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ImageView</name>
+    <message>
+        <source>Camera image</source>
+        <translation>Image de la caméra</translation>
+    </message>
+    <message>
+        <source>An image of %1 × %2 pixels cannot be shown.</source>
+        <translation>Une image de %1 × %2 pixels ne peut pas être affichée.</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
+        <translation>Le format de pixel %1 ne peut pas être affiché. Ses octets peuvent être enregistrés.</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>Ga&amp;mma</source>
+        <translation>Ga&amp;mma</translation>
+    </message>
+    <message>
+        <source>Makes dark parts of what is shown brighter</source>
+        <translation>Éclaircit les parties sombres de ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k</source>
+        <translation>&amp;Noir</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown black</source>
+        <translation>La part de la valeur maximale qui est affichée en noir</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Blanc</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown white</source>
+        <translation>La part de la valeur maximale qui est affichée en blanc</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Shows values as they are: gamma and contrast change nothing of the camera</source>
+        <translation>Affiche les valeurs telles qu'elles sont : le gamma et le contraste ne modifient rien dans la caméra</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileView</name>
+    <message>
+        <source>Line profile</source>
+        <translation>Profil de ligne</translation>
+    </message>
+    <message>
+        <source>The raw values along the drawn line</source>
+        <translation>Les valeurs brutes le long de la ligne tracée</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record Images</source>
+        <translation>Enregistrer une série d'images</translation>
+    </message>
+    <message>
+        <source>The images get a new folder in this one; nothing is overwritten</source>
+        <translation>Les images sont placées dans un nouveau dossier à l'intérieur de celui-ci ; rien n'est écrasé</translation>
+    </message>
+    <message>
+        <source>TIFF, raw values</source>
+        <translation>TIFF, valeurs brutes</translation>
+    </message>
+    <message>
+        <source>PGM or PPM, raw values</source>
+        <translation>PGM ou PPM, valeurs brutes</translation>
+    </message>
+    <message>
+        <source>PNG, as shown with 8 bits</source>
+        <translation>PNG, comme affiché, sur 8 bits</translation>
+    </message>
+    <message>
+        <source>Bytes as they came</source>
+        <translation>Octets tels qu'ils sont arrivés</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Parcourir…</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Images:</source>
+        <translation>&amp;Images :</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier :</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>&amp;Type :</translation>
+    </message>
+    <message>
+        <source>Folder for Images</source>
+        <translation>Dossier pour les images</translation>
+    </message>
+</context>
+<context>
+    <name>RegionOfInterest</name>
+    <message>
+        <source>region of interest</source>
+        <translation>région d'intérêt</translation>
+    </message>
+    <message>
+        <source>The camera did not take the whole region. %1</source>
+        <translation>La caméra n'a pas accepté toute la région. %1</translation>
+    </message>
+</context>
+<context>
+    <name>StreamControl</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s, %3 complete, %4 incomplete, %5 dropped</source>
+        <translation>%1 images/s, %2 Mo/s, %3 complètes, %4 incomplètes, %5 abandonnées</translation>
     </message>
 </context>
 </TS>

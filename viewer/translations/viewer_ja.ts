@@ -484,6 +484,14 @@ Close without saving them?</source>
         <translation>カメラの値が設定ファイル %1 と異なります。
 保存せずに閉じますか?</translation>
     </message>
+    <message>
+        <source>The camera was sending images when it was lost.</source>
+        <translation>カメラとの接続が失われたとき、カメラは画像を送信していました。</translation>
+    </message>
+    <message>
+        <source>Start Images</source>
+        <translation>画像を開始</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -771,6 +779,18 @@ Load them all the same?</source>
         <source>Cannot write to the standard output.</source>
         <translation>標準出力に書き込めません。</translation>
     </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten</source>
+        <translation>%1 は既に存在し、上書きはされません</translation>
+    </message>
+    <message>
+        <source>this camera delivers no images</source>
+        <translation>このカメラは画像を出力しません</translation>
+    </message>
+    <message>
+        <source>no image came</source>
+        <translation>画像が届きませんでした</translation>
+    </message>
 </context>
 <context>
     <name>Comparison</name>
@@ -996,6 +1016,397 @@ Load them all the same?</source>
     <message>
         <source>As the &amp;System</source>
         <translation>システムに合わせる(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>FrameFile</name>
+    <message>
+        <source>The pixel format %1 cannot be saved in this kind of file. Its bytes can, as a file whose name ends in .raw.</source>
+        <translation>ピクセル形式 %1 はこの種類のファイルに保存できません。名前が .raw で終わるファイルにすれば、バイト列のまま保存できます。</translation>
+    </message>
+    <message>
+        <source>There is nothing in the image that could be saved.</source>
+        <translation>画像には保存できるものがありません。</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten.</source>
+        <translation>%1 は既に存在し、上書きはされません。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameRecorder</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>%1 にフォルダーを作成できません。</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>ヒストグラム</translation>
+    </message>
+    <message>
+        <source>Black: %1 (%2 %)   Saturated: %3 (%4 %)</source>
+        <translation>黒: %1 (%2%)   飽和: %3 (%4%)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePane</name>
+    <message>
+        <source>%1mean %2, deviation %3</source>
+        <translation>%1平均 %2、標準偏差 %3</translation>
+    </message>
+    <message>
+        <source>sharpness %1</source>
+        <translation>鮮鋭度 %1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>St&amp;art Images</source>
+        <translation>画像を開始(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Shows what the camera sees</source>
+        <translation>カメラの映像を表示します</translation>
+    </message>
+    <message>
+        <source>Si&amp;ngle Image</source>
+        <translation>画像を 1 枚取得(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Takes one image</source>
+        <translation>画像を 1 枚取得します</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>全体を表示</translation>
+    </message>
+    <message>
+        <source>Shows all of the image</source>
+        <translation>画像全体を表示します</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Shows each pixel as one of the screen</source>
+        <translation>画像の 1 ピクセルを画面の 1 ピクセルで表示します</translation>
+    </message>
+    <message>
+        <source>Crosshair</source>
+        <translation>十字線</translation>
+    </message>
+    <message>
+        <source>Marks the middle of the image</source>
+        <translation>画像の中心を示します</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>グリッド</translation>
+    </message>
+    <message>
+        <source>Divides the image into thirds</source>
+        <translation>画像を 3 分割する線を表示します</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message>
+        <source>Dragging moves the image</source>
+        <translation>ドラッグで画像を移動します</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>四角形</translation>
+    </message>
+    <message>
+        <source>Dragging draws a rectangle, of which mean, deviation and sharpness are shown</source>
+        <translation>ドラッグで四角形を描き、その平均、標準偏差、鮮鋭度を表示します</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>線</translation>
+    </message>
+    <message>
+        <source>Dragging draws a line, along which the values are shown</source>
+        <translation>ドラッグで線を描き、線に沿った値を表示します</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>ヒストグラム</translation>
+    </message>
+    <message>
+        <source>Shows the histogram, gamma and contrast</source>
+        <translation>ヒストグラム、ガンマ、コントラストを表示します</translation>
+    </message>
+    <message>
+        <source>Mark Extremes</source>
+        <translation>極値を強調</translation>
+    </message>
+    <message>
+        <source>Marks saturated pixels red and black ones blue</source>
+        <translation>飽和したピクセルを赤、黒いピクセルを青で示します</translation>
+    </message>
+    <message>
+        <source>&amp;Full Frame</source>
+        <translation>フル フレーム(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Makes all of the sensor the region of interest; dragging in the image with Ctrl makes it what is drawn</source>
+        <translation>センサー全体を関心領域にします。Ctrl キーを押しながら画像内をドラッグすると、描いた範囲が関心領域になります</translation>
+    </message>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>対数(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Shows rare values as well</source>
+        <translation>まれな値も見えるように表示します</translation>
+    </message>
+    <message>
+        <source>Statistics of the rectangle</source>
+        <translation>四角形の統計</translation>
+    </message>
+    <message>
+        <source>Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the mean</source>
+        <translation>描いた四角形についての値です。鮮鋭度: 隣り合うピクセルの差 (平均に対する百分率)</translation>
+    </message>
+    <message>
+        <source>Pixel under the cursor</source>
+        <translation>カーソル位置のピクセル</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation>カメラが開かれていません。</translation>
+    </message>
+    <message>
+        <source>This camera delivers no images.</source>
+        <translation>このカメラは画像を出力しません。</translation>
+    </message>
+    <message>
+        <source>Start the images with F9.</source>
+        <translation>F9 キーで画像を開始します。</translation>
+    </message>
+    <message>
+        <source>St&amp;op Images</source>
+        <translation>画像を停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3, frame %4, %5 %</source>
+        <translation>%1 × %2、%3、フレーム %4、%5%</translation>
+    </message>
+    <message>
+        <source>x %1, y %2:  %3</source>
+        <translation>x %1、y %2:  %3</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSaving</name>
+    <message>
+        <source>Save I&amp;mage…</source>
+        <translation>画像を保存(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM</source>
+        <translation>画像を保存します。表示内容は PNG、生の値は TIFF、PGM、PPM になります</translation>
+    </message>
+    <message>
+        <source>Keeps the next images as files, with a table of their numbers and times</source>
+        <translation>以降の画像を、番号と時刻の一覧表とともにファイルに保存します</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>記録を停止(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record Images…</source>
+        <translation>画像を記録(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>画像を保存</translation>
+    </message>
+    <message>
+        <source>As shown (*.png);;Raw values (*.tif *.tiff);;Raw values (*.pgm *.ppm);;Bytes (*.raw);;All files (*)</source>
+        <translation>表示どおり (*.png);;生の値 (*.tif *.tiff);;生の値 (*.pgm *.ppm);;バイト列 (*.raw);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>The image was saved to %1.</source>
+        <translation>画像を %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>Images recorded: %1 of %2</source>
+        <translation>記録した画像: %1/%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>%n 枚の画像で記録が終了しました。%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>ディスクが遅すぎたため、%n 枚の画像が省略されました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>%n 枚の画像を %1 に記録しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ImageView</name>
+    <message>
+        <source>Camera image</source>
+        <translation>カメラの画像</translation>
+    </message>
+    <message>
+        <source>An image of %1 × %2 pixels cannot be shown.</source>
+        <translation>%1 × %2 ピクセルの画像は表示できません。</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
+        <translation>ピクセル形式 %1 は表示できません。バイト列として保存できます。</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>Ga&amp;mma</source>
+        <translation>ガンマ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Makes dark parts of what is shown brighter</source>
+        <translation>表示の暗い部分を明るくします</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k</source>
+        <translation>黒(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown black</source>
+        <translation>黒で表示する値 (最大値に対する割合)</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>白(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown white</source>
+        <translation>白で表示する値 (最大値に対する割合)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Shows values as they are: gamma and contrast change nothing of the camera</source>
+        <translation>値をそのまま表示します。ガンマとコントラストはカメラには影響しません</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileView</name>
+    <message>
+        <source>Line profile</source>
+        <translation>ライン プロファイル</translation>
+    </message>
+    <message>
+        <source>The raw values along the drawn line</source>
+        <translation>描いた線に沿った生の値</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record Images</source>
+        <translation>画像を記録</translation>
+    </message>
+    <message>
+        <source>The images get a new folder in this one; nothing is overwritten</source>
+        <translation>このフォルダー内の新しいフォルダーに画像を保存します。上書きはされません</translation>
+    </message>
+    <message>
+        <source>TIFF, raw values</source>
+        <translation>TIFF、生の値</translation>
+    </message>
+    <message>
+        <source>PGM or PPM, raw values</source>
+        <translation>PGM または PPM、生の値</translation>
+    </message>
+    <message>
+        <source>PNG, as shown with 8 bits</source>
+        <translation>PNG、表示どおり 8 ビット</translation>
+    </message>
+    <message>
+        <source>Bytes as they came</source>
+        <translation>受信したままのバイト列</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>参照(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>記録(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Images:</source>
+        <translation>画像(&amp;I):</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>フォルダー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>種類(&amp;K):</translation>
+    </message>
+    <message>
+        <source>Folder for Images</source>
+        <translation>画像用のフォルダー</translation>
+    </message>
+</context>
+<context>
+    <name>RegionOfInterest</name>
+    <message>
+        <source>region of interest</source>
+        <translation>関心領域</translation>
+    </message>
+    <message>
+        <source>The camera did not take the whole region. %1</source>
+        <translation>カメラは領域の一部しか受け付けませんでした。%1</translation>
+    </message>
+</context>
+<context>
+    <name>StreamControl</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s, %3 complete, %4 incomplete, %5 dropped</source>
+        <translation>%1 フレーム/秒、%2 MB/秒、完全 %3、不完全 %4、破棄 %5</translation>
     </message>
 </context>
 </TS>

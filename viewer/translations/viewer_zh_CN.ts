@@ -484,6 +484,14 @@ Close without saving them?</source>
         <translation>相机的值与设置文件 %1 不同。
 要不保存就关闭吗？</translation>
     </message>
+    <message>
+        <source>The camera was sending images when it was lost.</source>
+        <translation>与相机的连接丢失时，相机正在发送图像。</translation>
+    </message>
+    <message>
+        <source>Start Images</source>
+        <translation>开始采集图像</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>
@@ -771,6 +779,18 @@ Load them all the same?</source>
         <source>Cannot write to the standard output.</source>
         <translation>无法写入标准输出。</translation>
     </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten</source>
+        <translation>%1 已存在，且不会覆盖任何内容</translation>
+    </message>
+    <message>
+        <source>this camera delivers no images</source>
+        <translation>此相机不提供图像</translation>
+    </message>
+    <message>
+        <source>no image came</source>
+        <translation>未收到图像</translation>
+    </message>
 </context>
 <context>
     <name>Comparison</name>
@@ -996,6 +1016,397 @@ Load them all the same?</source>
     <message>
         <source>As the &amp;System</source>
         <translation>跟随系统(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>FrameFile</name>
+    <message>
+        <source>The pixel format %1 cannot be saved in this kind of file. Its bytes can, as a file whose name ends in .raw.</source>
+        <translation>像素格式 %1 无法保存为此类文件。可以将其字节保存到名称以 .raw 结尾的文件。</translation>
+    </message>
+    <message>
+        <source>There is nothing in the image that could be saved.</source>
+        <translation>图像中没有可保存的内容。</translation>
+    </message>
+    <message>
+        <source>%1 is there already, and nothing is overwritten.</source>
+        <translation>%1 已存在，且不会覆盖任何内容。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>FrameRecorder</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>无法在 %1 中创建文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>直方图</translation>
+    </message>
+    <message>
+        <source>Black: %1 (%2 %)   Saturated: %3 (%4 %)</source>
+        <translation>黑色：%1 (%2%)   饱和：%3 (%4%)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePane</name>
+    <message>
+        <source>%1mean %2, deviation %3</source>
+        <translation>%1均值 %2，标准差 %3</translation>
+    </message>
+    <message>
+        <source>sharpness %1</source>
+        <translation>清晰度 %1</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>St&amp;art Images</source>
+        <translation>开始采集图像(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Shows what the camera sees</source>
+        <translation>显示相机看到的画面</translation>
+    </message>
+    <message>
+        <source>Si&amp;ngle Image</source>
+        <translation>单幅图像(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Takes one image</source>
+        <translation>采集一幅图像</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适应窗口</translation>
+    </message>
+    <message>
+        <source>Shows all of the image</source>
+        <translation>显示整幅图像</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Shows each pixel as one of the screen</source>
+        <translation>图像的每个像素对应屏幕上的一个像素</translation>
+    </message>
+    <message>
+        <source>Crosshair</source>
+        <translation>十字线</translation>
+    </message>
+    <message>
+        <source>Marks the middle of the image</source>
+        <translation>标出图像的中心</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Divides the image into thirds</source>
+        <translation>将图像划分为三等分</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Dragging moves the image</source>
+        <translation>拖动可移动图像</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Dragging draws a rectangle, of which mean, deviation and sharpness are shown</source>
+        <translation>拖动可绘制矩形，并显示其均值、标准差和清晰度</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>Dragging draws a line, along which the values are shown</source>
+        <translation>拖动可绘制直线，并显示沿线的值</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>直方图</translation>
+    </message>
+    <message>
+        <source>Shows the histogram, gamma and contrast</source>
+        <translation>显示直方图、伽马和对比度</translation>
+    </message>
+    <message>
+        <source>Mark Extremes</source>
+        <translation>标出极值</translation>
+    </message>
+    <message>
+        <source>Marks saturated pixels red and black ones blue</source>
+        <translation>用红色标出饱和像素，用蓝色标出黑色像素</translation>
+    </message>
+    <message>
+        <source>&amp;Full Frame</source>
+        <translation>全画幅(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Makes all of the sensor the region of interest; dragging in the image with Ctrl makes it what is drawn</source>
+        <translation>将整个传感器设为感兴趣区域；按住 Ctrl 在图像中拖动，则将所绘区域设为感兴趣区域</translation>
+    </message>
+    <message>
+        <source>&amp;Logarithmic</source>
+        <translation>对数(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Shows rare values as well</source>
+        <translation>也显示出现较少的值</translation>
+    </message>
+    <message>
+        <source>Statistics of the rectangle</source>
+        <translation>矩形的统计数据</translation>
+    </message>
+    <message>
+        <source>Of the drawn rectangle. Sharpness: steps between neighbours, in percent of the mean</source>
+        <translation>针对所绘矩形。清晰度：相邻像素之差，以均值的百分比表示</translation>
+    </message>
+    <message>
+        <source>Pixel under the cursor</source>
+        <translation>光标处的像素</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>No camera is open.</source>
+        <translation>没有打开相机。</translation>
+    </message>
+    <message>
+        <source>This camera delivers no images.</source>
+        <translation>此相机不提供图像。</translation>
+    </message>
+    <message>
+        <source>Start the images with F9.</source>
+        <translation>按 F9 开始采集图像。</translation>
+    </message>
+    <message>
+        <source>St&amp;op Images</source>
+        <translation>停止采集图像(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3, frame %4, %5 %</source>
+        <translation>%1 × %2，%3，第 %4 帧，%5%</translation>
+    </message>
+    <message>
+        <source>x %1, y %2:  %3</source>
+        <translation>x %1，y %2：  %3</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSaving</name>
+    <message>
+        <source>Save I&amp;mage…</source>
+        <translation>保存图像(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Saves the image: what is shown as PNG, the raw values as TIFF, PGM or PPM</source>
+        <translation>保存图像：所显示的内容存为 PNG，原始值存为 TIFF、PGM 或 PPM</translation>
+    </message>
+    <message>
+        <source>Keeps the next images as files, with a table of their numbers and times</source>
+        <translation>将接下来的图像保存为文件，并附带其编号和时间的表格</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>停止录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record Images…</source>
+        <translation>录制图像(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Save Image</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>As shown (*.png);;Raw values (*.tif *.tiff);;Raw values (*.pgm *.ppm);;Bytes (*.raw);;All files (*)</source>
+        <translation>显示的图像 (*.png);;原始值 (*.tif *.tiff);;原始值 (*.pgm *.ppm);;字节 (*.raw);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The image was saved to %1.</source>
+        <translation>图像已保存到 %1。</translation>
+    </message>
+    <message>
+        <source>Images recorded: %1 of %2</source>
+        <translation>已录制的图像：%1/%2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The recording ended after %n image(s). %1</source>
+        <translation>
+            <numerusform>录制在 %n 幅图像后结束。%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were left out, since the disk was too slow.</source>
+        <translation>
+            <numerusform>由于磁盘速度过慢，略过了 %n 幅图像。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) were recorded to %1.</source>
+        <translation>
+            <numerusform>已将 %n 幅图像录制到 %1。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ImageView</name>
+    <message>
+        <source>Camera image</source>
+        <translation>相机图像</translation>
+    </message>
+    <message>
+        <source>An image of %1 × %2 pixels cannot be shown.</source>
+        <translation>无法显示 %1 × %2 像素的图像。</translation>
+    </message>
+    <message>
+        <source>The pixel format %1 cannot be shown. Its bytes can be saved.</source>
+        <translation>无法显示像素格式 %1。可以保存其字节。</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>Ga&amp;mma</source>
+        <translation>伽马(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Makes dark parts of what is shown brighter</source>
+        <translation>使所显示画面的暗部变亮</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k</source>
+        <translation>黑色(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown black</source>
+        <translation>显示为黑色的值占最大值的比例</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>白色(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The share of the largest value that is shown white</source>
+        <translation>显示为白色的值占最大值的比例</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Shows values as they are: gamma and contrast change nothing of the camera</source>
+        <translation>按原样显示值：伽马和对比度不会更改相机的任何内容</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileView</name>
+    <message>
+        <source>Line profile</source>
+        <translation>直线剖面</translation>
+    </message>
+    <message>
+        <source>The raw values along the drawn line</source>
+        <translation>沿所绘直线的原始值</translation>
+    </message>
+</context>
+<context>
+    <name>RecordDialog</name>
+    <message>
+        <source>Record Images</source>
+        <translation>录制图像</translation>
+    </message>
+    <message>
+        <source>The images get a new folder in this one; nothing is overwritten</source>
+        <translation>图像将放入此文件夹内的新文件夹；不会覆盖任何内容</translation>
+    </message>
+    <message>
+        <source>TIFF, raw values</source>
+        <translation>TIFF，原始值</translation>
+    </message>
+    <message>
+        <source>PGM or PPM, raw values</source>
+        <translation>PGM 或 PPM，原始值</translation>
+    </message>
+    <message>
+        <source>PNG, as shown with 8 bits</source>
+        <translation>PNG，显示的图像，8 位</translation>
+    </message>
+    <message>
+        <source>Bytes as they came</source>
+        <translation>收到的原始字节</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>浏览(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Images:</source>
+        <translation>图像(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>文件夹(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>类型(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>Folder for Images</source>
+        <translation>存放图像的文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>RegionOfInterest</name>
+    <message>
+        <source>region of interest</source>
+        <translation>感兴趣区域</translation>
+    </message>
+    <message>
+        <source>The camera did not take the whole region. %1</source>
+        <translation>相机未接受整个区域。%1</translation>
+    </message>
+</context>
+<context>
+    <name>StreamControl</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s, %3 complete, %4 incomplete, %5 dropped</source>
+        <translation>%1 帧/秒，%2 MB/秒，完整 %3，不完整 %4，丢弃 %5</translation>
     </message>
 </context>
 </TS>

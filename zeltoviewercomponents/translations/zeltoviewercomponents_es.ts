@@ -725,6 +725,10 @@
         <source>&amp;Put Back What Was Before</source>
         <translation>&amp;Restablecer lo anterior</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
 </context>
 <context>
     <name>ChangeHistory</name>

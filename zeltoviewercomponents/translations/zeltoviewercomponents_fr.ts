@@ -725,6 +725,10 @@
         <source>&amp;Put Back What Was Before</source>
         <translation>&amp;Rétablir ce qui était avant</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
 </context>
 <context>
     <name>ChangeHistory</name>

@@ -717,6 +717,10 @@
         <source>&amp;Put Back What Was Before</source>
         <translation>変更前の状態に戻す(&amp;P)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
 </context>
 <context>
     <name>ChangeHistory</name>
