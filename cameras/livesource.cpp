@@ -60,8 +60,7 @@ LiveSource::LiveSource(Engine &engine, std::shared_ptr<const Description> descri
 LiveSource::~LiveSource()
 {
     if (m_stream) {
-        arv_stream_stop_thread(m_stream, TRUE); // from then on nobody receives
-        g_object_unref(m_stream);
+        g_object_unref(m_stream); // waits for the engine's thread, which receives until then
     }
 }
 
@@ -77,8 +76,17 @@ qint64 LiveSource::payloadSize() const
     return *size;
 }
 
+LiveSource::Shape LiveSource::featuredShape() const
+{
+    const auto feature = [this](const char *name) {
+        return engine().integer(QLatin1String(name)).value_or(0);
+    };
+    return {{quint32(feature("PixelFormat"))}, feature("Width"), feature("Height")};
+}
+
 void LiveSource::prepare()
 {
+    m_shape = featuredShape();
     m_payloadSize = payloadSize();
     m_framesLeft = framesAskedFor(engine(), *m_description);
     GError *error = nullptr;
@@ -141,19 +149,27 @@ Frame LiveSource::frameOf(ArvBuffer *buffer)
     frame.cameraTime = arv_buffer_get_timestamp(buffer);
     frame.missing = missingOf(buffer);
     frame.bytes = std::move(carrierOf(buffer)->bytes);
-    readParts(buffer, frame);
+    // The engine tells nothing of an image that is not whole.
+    if (frame.missing.isEmpty()) {
+        readPart(buffer, frame);
+    }
+    if (frame.isComplete() || m_shape.width > 0) {
+        frame.pixelFormat = m_shape.format;
+        ReceivedFrame::setSize(frame, m_shape.width, m_shape.height, m_shape.padding);
+    }
     return frame;
 }
 
-void LiveSource::readParts(ArvBuffer *buffer, Frame &frame) const
+void LiveSource::readPart(ArvBuffer *buffer, Frame &frame)
 {
+    m_shape = {};
     const ArvBufferPayloadType type = arv_buffer_get_payload_type(buffer);
-    const int part = imagePart(buffer);
-    if (part < 0) {
-        const QString remark = tr("The payload is of the kind %1 and holds no image.").arg(int(type));
-        frame.missing = frame.missing.isEmpty() ? remark : frame.missing;
+    const int place = imagePart(buffer);
+    if (place < 0) {
+        frame.missing = tr("The payload is of the kind %1 and holds no image.").arg(int(type));
         return;
     }
+    const auto part = guint(place);
     if (type == ARV_BUFFER_PAYLOAD_TYPE_MULTIPART) {
         frame.remark = tr("The payload has %1 parts, of which this is number %2.")
                            .arg(arv_buffer_get_n_parts(buffer))
@@ -161,24 +177,22 @@ void LiveSource::readParts(ArvBuffer *buffer, Frame &frame) const
     } else if (arv_buffer_has_chunks(buffer)) {
         frame.remark = tr("Chunk data came with the image.");
     }
-    const guint index = guint(part);
-    frame.pixelFormat = {arv_buffer_get_part_pixel_format(buffer, index)};
     size_t size = 0;
-    const auto *data = static_cast<const char *>(arv_buffer_get_part_data(buffer, index, &size));
+    const auto *data = static_cast<const char *>(arv_buffer_get_part_data(buffer, part, &size));
     const qsizetype offset = data ? data - frame.bytes.constData() : frame.bytes.size();
-    if (offset < 0 || offset > frame.bytes.size()) {
-        frame.bytes.clear();
-    } else if (offset > 0) {
+    if (offset > 0) {
         frame.bytes = frame.bytes.mid(offset, qsizetype(size));
     } else {
-        frame.bytes.truncate(qsizetype(std::min<size_t>(size, size_t(frame.bytes.size()))));
+        frame.bytes.truncate(qsizetype(std::min(size, size_t(frame.bytes.size()))));
     }
     gint paddingX = 0;
     gint paddingY = 0;
-    arv_buffer_get_part_padding(buffer, index, &paddingX, &paddingY);
+    arv_buffer_get_part_padding(buffer, part, &paddingX, &paddingY);
     // Numbers of 32 bits that the engine takes for signed ones.
-    ReceivedFrame::setSize(frame, quint32(arv_buffer_get_part_width(buffer, index)),
-                           quint32(arv_buffer_get_part_height(buffer, index)), quint32(paddingX));
+    m_shape = {{arv_buffer_get_part_pixel_format(buffer, part)},
+               quint32(arv_buffer_get_part_width(buffer, part)),
+               quint32(arv_buffer_get_part_height(buffer, part)),
+               quint32(paddingX)};
 }
 
 QString LiveSource::missingOf(ArvBuffer *buffer)
@@ -192,7 +206,7 @@ QString LiveSource::missingOf(ArvBuffer *buffer)
     case ARV_BUFFER_STATUS_SIZE_MISMATCH:
         return tr("The image is larger than the camera told (PayloadSize).");
     default:
-        return missingPackets > before ? tr("%n packets are missing.", nullptr, int(missingPackets - before))
+        return missingPackets > before ? tr("Packets are missing: %1.").arg(missingPackets - before)
                                        : tr("A part is missing.");
     }
 }

@@ -30,12 +30,21 @@ protected:
     void prepare() override;
 
 private:
+    struct Shape
+    {
+        PixelFormat format;
+        qint64 width = 0;
+        qint64 height = 0;
+        qint64 padding = 0;
+    };
+
     qint64 payloadSize() const;
+    Shape featuredShape() const;
     void pushBuffer();
     static void onEvent(void *source, int event, ArvBuffer *buffer);
     void receive();
     Frame frameOf(ArvBuffer *buffer);
-    void readParts(ArvBuffer *buffer, Frame &frame) const;
+    void readPart(ArvBuffer *buffer, Frame &frame);
     QString missingOf(ArvBuffer *buffer);
 
     std::shared_ptr<const Description> m_description;
@@ -44,6 +53,7 @@ private:
     ArvStream *m_stream = nullptr;
     qint64 m_payloadSize = 0;
     qint64 m_framesLeft = -1; //!< until the camera ends by itself, less than 0 where it does not
+    Shape m_shape; //!< of the image that came last
     quint64 m_missingPackets = 0; //!< of the stream, so far
 };
 

@@ -27,7 +27,9 @@ void ReceivedFrame::setSize(Frame &frame, qint64 width, qint64 height, qint64 pa
     frame.stride = 0;
     if (width <= 0 || height <= 0 || width > mostPixels || height > mostPixels / width || padding < 0
         || padding > mostPixels) {
-        frame.missing = tr("The camera tells of an image of %1 x %2 pixels.").arg(width).arg(height);
+        if (frame.missing.isEmpty()) {
+            frame.missing = tr("The camera tells of an image of %1 x %2 pixels.").arg(width).arg(height);
+        }
         return;
     }
     frame.width = int(width);

@@ -8,7 +8,7 @@
 #include "simulatedimage_p.h"
 #include "simulatedsettings_p.h"
 
-#include <QCoreApplication>
+#include <QString>
 
 #include <chrono>
 #include <condition_variable>
@@ -28,8 +28,6 @@ class SimulatedRegisters;
  */
 class SimulatedSource : public FrameSource
 {
-    Q_DECLARE_TR_FUNCTIONS(Cameras::SimulatedSource)
-
 public:
     SimulatedSource(Engine &engine, std::shared_ptr<const Description> description,
                     std::shared_ptr<SimulatedRegisters> registers, FrameSink sink);

@@ -218,6 +218,14 @@
         <source>%1 Whether the last change of %2 has arrived is not known.</source>
         <translation>%1 Ob die letzte Änderung von %2 angekommen ist, ist nicht bekannt.</translation>
     </message>
+    <message>
+        <source>No images can be had: %1</source>
+        <translation>Es sind keine Bilder zu bekommen: %1</translation>
+    </message>
+    <message>
+        <source>No more images come, since another program controls the camera.</source>
+        <translation>Es kommen keine Bilder mehr, da ein anderes Programm die Kamera steuert.</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::DescriptionArchive</name>
@@ -358,6 +366,74 @@
     <message>
         <source>the camera&apos;s description cannot be read from %1</source>
         <translation>die Beschreibung der Kamera lässt sich von %1 nicht lesen</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::FrameSource</name>
+    <message>
+        <source>The camera has sent as many images as AcquisitionMode asks for.</source>
+        <translation>Die Kamera hat so viele Bilder gesendet, wie AcquisitionMode verlangt.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::LiveSource</name>
+    <message>
+        <source>the camera does not tell how large they are (PayloadSize)</source>
+        <translation>die Kamera sagt nicht, wie groß sie sind (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera tells that they have %1 bytes (PayloadSize)</source>
+        <translation>die Kamera sagt, sie hätten %1 Bytes (PayloadSize)</translation>
+    </message>
+    <message>
+        <source>the camera has no stream</source>
+        <translation>die Kamera hat keinen Datenstrom</translation>
+    </message>
+    <message>
+        <source>The payload is of the kind %1 and holds no image.</source>
+        <translation>Die Nutzdaten sind von der Art %1 und enthalten kein Bild.</translation>
+    </message>
+    <message>
+        <source>The payload has %1 parts, of which this is number %2.</source>
+        <translation>Die Nutzdaten haben %1 Teile; dieser ist Nummer %2.</translation>
+    </message>
+    <message>
+        <source>Chunk data came with the image.</source>
+        <translation>Mit dem Bild kamen Chunk-Daten.</translation>
+    </message>
+    <message>
+        <source>The image is larger than the camera told (PayloadSize).</source>
+        <translation>Das Bild ist größer, als die Kamera gesagt hat (PayloadSize).</translation>
+    </message>
+    <message>
+        <source>Packets are missing: %1.</source>
+        <translation>Es fehlen Pakete: %1.</translation>
+    </message>
+    <message>
+        <source>A part is missing.</source>
+        <translation>Ein Teil fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::ReceivedFrame</name>
+    <message>
+        <source>The camera tells of an image of %1 x %2 pixels.</source>
+        <translation>Die Kamera meldet ein Bild von %1 x %2 Pixeln.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes are missing.</source>
+        <translation>Es fehlen %1 von %2 Bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::SimulatedImage</name>
+    <message>
+        <source>The simulated camera makes no images in the pixel format %1.</source>
+        <translation>Die simulierte Kamera macht keine Bilder im Pixelformat %1.</translation>
+    </message>
+    <message>
+        <source>The simulated camera makes no images of %1 x %2 pixels.</source>
+        <translation>Die simulierte Kamera macht keine Bilder von %1 x %2 Pixeln.</translation>
     </message>
 </context>
 </TS>

@@ -8,12 +8,17 @@
 
 #include <platform/parametercollection/iparameter.h>
 
+#include <support/playedcamera.h>
 #include <support/table.h>
+
+#include "descriptiontext.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QTest>
+#include <QUdpSocket>
+#include <QtEndian>
 
 #include <cmath>
 #include <cstdlib>
@@ -86,6 +91,8 @@ private slots:
     void closesAtOnce();
     void liveCamera();
     void liveCameraIsLost();
+    void badFrames_data();
+    void badFrames();
 
 private:
     void write(const char *name, const QString &text) const;
@@ -468,6 +475,130 @@ void TestStream::liveCameraIsLost()
     QVERIFY(timer.elapsed() < 500);
     QTRY_COMPARE_WITH_TIMEOUT(
         arv_fake_camera_get_acquisition_status(arv_gv_fake_camera_get_fake_camera(server->server)), 0U, 1000);
+}
+
+/* What a camera sends of an image: all numbers as they stand in its first packet. */
+struct SentImage
+{
+    quint32 format = 0x01080001;
+    quint32 width = 64;
+    quint32 height = 48;
+    int bytes = 64 * 48; // that are sent
+    quint16 payloadType = 1;
+    int lost = -1; // the packet that is not sent
+};
+Q_DECLARE_METATYPE(SentImage)
+
+/* Sends images to the port that the engine has told the camera. */
+class Sender
+{
+public:
+    explicit Sender(quint16 port)
+        : m_port(port)
+    {
+    }
+
+    void send(const SentImage &image)
+    {
+        constexpr int packetSize = 1500 - 36; // without headers
+        ++m_block;
+        packet(1, 0,
+               number<quint16>(0) + number(image.payloadType) + number<quint64>(m_block * 1000)
+                   + number(image.format) + number(image.width) + number(image.height)
+                   + QByteArray(12, '\0'));
+        int id = 1;
+        for (int sent = 0; sent < image.bytes; sent += packetSize, ++id) {
+            if (id != image.lost) {
+                packet(3, id, QByteArray(qMin(packetSize, image.bytes - sent), char(m_block)));
+            }
+        }
+        packet(2, id, number<quint16>(0) + number(image.payloadType) + number(image.height));
+    }
+
+private:
+    template <typename Number>
+    static QByteArray number(Number value)
+    {
+        const Number bigEndian = qToBigEndian(value);
+        return {reinterpret_cast<const char *>(&bigEndian), sizeof(bigEndian)};
+    }
+
+    void packet(int kind, int id, const QByteArray &contents)
+    {
+        m_socket.writeDatagram(number<quint16>(0) + number(m_block) + number(quint32(kind << 24 | id))
+                                   + contents,
+                               QHostAddress::LocalHost, m_port);
+    }
+
+    QUdpSocket m_socket;
+    quint16 m_port;
+    quint16 m_block = 0;
+};
+
+void TestStream::badFrames_data()
+{
+    columns<SentImage, QSize, QString>({"image", "size", "missing"});
+    const QSize whole(64, 48);
+    row("good", SentImage(), whole, QString());
+    row("smaller from now on", SentImage{.width = 32, .bytes = 32 * 48}, QSize(32, 48), QString());
+    row("another format", SentImage{.format = 0x01100007, .height = 24}, QSize(64, 24), QString());
+    row("unknown format", SentImage{.format = 0x01081234}, whole, QString());
+    row("chunks", SentImage{.payloadType = 0x4001}, whole, QString());
+    row("too short", SentImage{.bytes = 1500}, whole, QString("missing"));
+    row("a packet is lost", SentImage{.lost = 2}, whole, QString("missing"));
+    row("larger than told", SentImage{.height = 96, .bytes = 64 * 96}, QSize(64, 96),
+        QString("3072 of 6144 bytes"));
+    row("no pixels", SentImage{.width = 0}, QSize(0, 0), QString("0 x 48"));
+    row("too many pixels", SentImage{.width = 0x8000, .height = 0x10000}, QSize(0, 0),
+        QString("32768 x 65536"));
+    row("far too many pixels", SentImage{.width = 0xffffffff, .height = 0xffffffff}, QSize(0, 0),
+        QString("4294967295"));
+    row("no image", SentImage{.payloadType = 4}, QSize(0, 0), QString("no image"));
+}
+
+void TestStream::badFrames()
+{
+    QFETCH(SentImage, image);
+    QFETCH(QSize, size);
+    QFETCH(QString, missing);
+    PlayedCamera camera("ZPLAYED",
+                        description(root("Width Height PayloadSize AcquisitionStart")
+                                    + integerRegister("Width", "0x8000") + integerRegister("Height", "0x8004")
+                                    + "<Integer Name=\"PayloadSize\"><Value>3072</Value></Integer>"
+                                      "<Integer Name=\"TLParamsLocked\"><Value>0</Value></Integer>"
+                                      "<Command Name=\"AcquisitionStart\"><pValue>StartReg</pValue>"
+                                      "<CommandValue>1</CommandValue></Command>"
+                                    + integerRegister("StartReg", "0x8010")));
+    if (!camera.isRunning()) {
+        QSKIP("The port of GigE Vision is in use");
+    }
+    m_camera = Camera::openLive("127.0.0.1");
+    m_stream = m_camera->stream();
+    m_stream->start();
+    QSignalSpy stopped(m_stream, SIGNAL(stopped(QString)));
+    QTRY_VERIFY2(camera.value(0x8010) == 1,
+                 qPrintable(stopped.isEmpty() ? "silent" : stopped.first().first().toString()));
+    Sender sender(quint16(camera.value(0x0d00)));
+    const auto sent = [&](const SentImage &next) {
+        FramePointer frame;
+        sender.send(next);
+        const bool came = QTest::qWaitFor([&] { return (frame = m_stream->takeNewest()) != nullptr; }, 3000);
+        return came ? frame : std::make_shared<const Frame>();
+    };
+    QVERIFY2(sent({})->isComplete(), "the first one");
+    const FramePointer frame = sent(image);
+    QVERIFY2(QSize(frame->width, frame->height) == size, qPrintable(frame->missing));
+    QVERIFY2(missing.isEmpty() ? frame->isComplete() : frame->missing.contains(missing),
+             qPrintable(frame->missing));
+    QCOMPARE(frame->remark.contains("Chunk"), image.payloadType == 0x4001);
+    if (frame->isComplete()) {
+        QCOMPARE(frame->pixelFormat.code, image.format);
+        QCOMPARE(frame->bytes, QByteArray(image.bytes, '\2'));
+    }
+    const FramePointer after = sent({});
+    QVERIFY2(after->isComplete() && after->width == 64, qPrintable(after->missing));
+    m_camera.reset();
+    QTRY_COMPARE(camera.value(0x0a00), 0U); // given back
 }
 
 QTEST_GUILESS_MAIN(TestStream)

@@ -59,7 +59,9 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
     put(0x0200,
         "Local:camera.xml;" + QByteArray::number(descriptionAddress, 16) + ';'
             + QByteArray::number(xml.size(), 16));
+    put(0x0904, bytesOf<quint32>(1)); // stream channels
     put(0x0938, bytesOf<quint32>(3000));
+    put(0x0d04, bytesOf<quint32>(1500)); // bytes of a packet
     put(descriptionAddress, xml);
     put(0x8000, bytesOf<quint32>(640));
     put(0x8004, bytesOf<quint32>(480));
