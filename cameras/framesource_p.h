@@ -46,14 +46,15 @@ public:
     /*! Tells that \a node was written. */
     virtual void noteWrite(int node);
 
+    /*! Returns the sentence for a camera that has sent all images that were asked for. */
+    static QString framesSentWords();
+
 protected:
     explicit FrameSource(Engine &engine);
 
     /*! Makes ready to receive. Throws when that is impossible. */
     virtual void prepare() = 0;
     Engine &engine() const { return m_engine; }
-    /*! Returns the sentence for a camera that has sent all images that were asked for. */
-    static QString framesSentWords();
 
 private:
     void lock(bool isLocked);

@@ -15,6 +15,8 @@
 #include <limits>
 #include <utility>
 
+#include <sys/resource.h>
+
 using Core::Exception::BaseException;
 
 namespace Cameras {
@@ -24,6 +26,7 @@ namespace {
 constexpr qint64 memoryOfBuffers = 256 * 1024 * 1024; // shared by all buffers, unless they are huge
 constexpr qint64 fewestBuffers = 4;
 constexpr qint64 mostBuffers = 16;
+constexpr int receivingPriority = -10; // packets that nobody fetches in time are lost
 
 /*! \brief Keeps the memory of a buffer as long as the engine has it. */
 struct Carrier
@@ -116,6 +119,9 @@ void LiveSource::pushBuffer()
 
 void LiveSource::onEvent(void *source, int event, ArvBuffer *buffer)
 {
+    if (event == ARV_STREAM_CALLBACK_TYPE_INIT) {
+        setpriority(PRIO_PROCESS, 0, receivingPriority); // of this thread; as far as the user may
+    }
     if (event == ARV_STREAM_CALLBACK_TYPE_BUFFER_DONE && buffer) {
         static_cast<LiveSource *>(source)->receive();
     }

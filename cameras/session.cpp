@@ -582,9 +582,11 @@ void Session::post(const std::function<void()> &task)
 bool Session::hasImages() const
 {
     const std::shared_ptr<const Description> nodes = description(0);
-    return m_live
-        || (nodes->isFeature(std::max(nodes->indexOf(QStringLiteral("Width")), 0))
-            && nodes->isFeature(std::max(nodes->indexOf(QStringLiteral("Height")), 0)));
+    const auto hasFeature = [&nodes](const QString &name) {
+        const int node = nodes->indexOf(name);
+        return node >= 0 && nodes->isFeature(node);
+    };
+    return m_live || (hasFeature(QStringLiteral("Width")) && hasFeature(QStringLiteral("Height")));
 }
 
 void Session::startStream(const std::shared_ptr<FrameMailbox> &mailbox, quint64 run)

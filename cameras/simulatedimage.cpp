@@ -123,7 +123,7 @@ void SimulatedImage::renderScene()
 {
     const SimulatedScene scene(m_settings.sensorWidth, m_settings.sensorHeight);
     m_light.resize(valuesPerLine() * size_t(m_settings.height));
-    for (qint64 y = 0; y < m_settings.height; ++y) {
+    for (qint64 y = 0; y < m_settings.height && !m_isCancelled; ++y) {
         renderLine(scene, y, m_light.data() + valuesPerLine() * size_t(y));
     }
 }
@@ -176,7 +176,7 @@ void SimulatedImage::setUpLight()
 void SimulatedImage::paint(quint64 number, QByteArray &bytes)
 {
     PixelPacking packing(m_layout, reinterpret_cast<uchar *>(bytes.data()));
-    for (qint64 y = 0; y < m_settings.height; ++y) {
+    for (qint64 y = 0; y < m_settings.height && !m_isCancelled; ++y) {
         if (m_pattern) {
             paintPattern(number, y, m_line);
         } else {

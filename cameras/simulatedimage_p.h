@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QtGlobal>
 
+#include <atomic>
 #include <span>
 #include <vector>
 
@@ -19,7 +20,8 @@ namespace Cameras {
 /*! \brief Paints the images of a simulated camera: its scene or a test pattern, as its features ask for.
  *
  * The scene is as bright as exposure and gain make it, with the noise of light and of a sensor, and
- * saturates. Marks with the frame's number move over it. A test pattern is exact. Used on one thread.
+ * saturates. Marks with the frame's number move over it. A test pattern is exact. Used on one thread, but for
+ * cancel().
  */
 class SimulatedImage
 {
@@ -30,6 +32,9 @@ public:
      */
     void setUp(const SimulatedSettings &settings);
 
+    /*! Ends what setUp() and paint() are doing, on any thread; what they make is not whole from then on. */
+    void cancel() { m_isCancelled = true; }
+
     /*! Returns the bytes that an image has. */
     qsizetype size() const;
     /*! Paints the frame number \a number into \a bytes, which has size() bytes. */
@@ -38,7 +43,6 @@ public:
 private:
     bool hasColours() const;
     size_t valuesPerLine() const;
-    void refuseImpossible() const;
     void renderScene();
     void renderLine(const SimulatedScene &scene, qint64 y, quint16 *line) const;
     void setUpLight();
@@ -55,6 +59,7 @@ private:
     std::vector<int> m_noise; //!< by brightness
     std::vector<quint16> m_line;
     quint32 m_random = 1;
+    std::atomic_bool m_isCancelled{false};
 };
 
 } // namespace Cameras

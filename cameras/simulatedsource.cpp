@@ -3,14 +3,23 @@
 
 #include "simulatedsource_p.h"
 
+#include "backgroundthreads_p.h"
 #include "description_p.h"
+#include "receivedframe_p.h"
+#include "simulatedimage_p.h"
 #include "simulatedregisters_p.h"
+#include "simulatedsettings_p.h"
 
 #include <platform/core/exception.h>
 
 #include <QDateTime>
+#include <QString>
 
 #include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
 #include <utility>
 
 namespace Cameras {
@@ -27,6 +36,58 @@ typename Clock::duration duration(double seconds)
 
 } // namespace
 
+/*! \brief The part of a simulated camera that exposes, on its own thread. The others are usable anywhere. */
+class SimulatedSensor
+{
+public:
+    SimulatedSensor(FrameSink sink, const SimulatedSettings &settings, quint64 clockStart)
+        : m_sink(std::move(sink))
+        , m_clockStart(clockStart)
+        , m_newSettings(settings)
+        , m_framesLeft(settings.frames)
+    {
+    }
+
+    /*! Sends frames until end() is called. */
+    void run();
+    void end();
+    void change(const SimulatedSettings &settings);
+    void acquire(bool isAcquiring);
+    void trigger(const SimulatedSettings &settings);
+
+private:
+    using Clock = std::chrono::steady_clock;
+    using Lock = std::unique_lock<std::mutex>;
+
+    void useSettings(Lock &lock);
+    bool isFrameWanted() const;
+    void beginExposure();
+    Clock::time_point exposureEnd() const;
+    void sendFrame(Lock &lock);
+    void stopAcquiring(const QString &reason);
+
+    const FrameSink m_sink;
+    const quint64 m_clockStart; //!< of the camera, nanoseconds
+    const Clock::time_point m_start = Clock::now();
+
+    // The thread's alone.
+    std::shared_ptr<FrameMemory> m_memory = std::make_shared<FrameMemory>();
+    SimulatedImage m_image;
+    SimulatedSettings m_settings;
+    quint64 m_number = 0;
+    bool m_isExposing = false;
+    Clock::time_point m_exposureStart;
+
+    std::mutex m_mutex; // for what follows
+    std::condition_variable m_changed;
+    std::optional<SimulatedSettings> m_newSettings;
+    bool m_isAcquiring = true;
+    bool m_isEnding = false;
+    bool m_isTriggered = false;
+    qint64 m_burstFramesLeft = 0;
+    qint64 m_framesLeft; //!< before the camera stops by itself, less than 0 where it goes on
+};
+
 SimulatedSource::SimulatedSource(Engine &engine, std::shared_ptr<const Description> description,
                                  std::shared_ptr<SimulatedRegisters> registers, FrameSink sink)
     : FrameSource(engine)
@@ -38,40 +99,50 @@ SimulatedSource::SimulatedSource(Engine &engine, std::shared_ptr<const Descripti
 
 SimulatedSource::~SimulatedSource()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isEnding = true;
-    }
-    m_changed.notify_all();
-    if (m_thread.joinable()) {
-        m_thread.join();
+    if (m_sensor) {
+        m_sensor->end();
     }
 }
 
 void SimulatedSource::prepare()
 {
-    m_newSettings = readSettings(engine(), *m_description, *m_registers);
-    m_framesLeft = m_newSettings->frames;
-    m_clockStart = quint64(engine().integer(QStringLiteral("Timestamp")).value_or(0));
-    m_thread = std::thread([this] { run(); });
+    const auto now = quint64(engine().integer(QStringLiteral("Timestamp")).value_or(0));
+    m_sensor =
+        std::make_shared<SimulatedSensor>(m_sink, readSettings(engine(), *m_description, *m_registers), now);
+    runInBackground([sensor = m_sensor] { sensor->run(); });
 }
 
 void SimulatedSource::noteWrite(int node)
 {
     const QString name = m_description->name(node);
     if (name == QLatin1String("AcquisitionStart")) {
-        acquire(true);
+        m_sensor->acquire(true);
         return;
     }
     if (name == QLatin1String("AcquisitionStop") || name == QLatin1String("AcquisitionAbort")) {
-        acquire(false);
+        m_sensor->acquire(false);
         return;
     }
     const SimulatedSettings settings = readSettings(engine(), *m_description, *m_registers);
     if (name == QLatin1String("TriggerSoftware")) {
-        trigger(settings);
-        return;
+        m_sensor->trigger(settings);
+    } else {
+        m_sensor->change(settings);
     }
+}
+
+void SimulatedSensor::end()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isEnding = true;
+    }
+    m_changed.notify_all();
+    m_image.cancel();
+}
+
+void SimulatedSensor::change(const SimulatedSettings &settings)
+{
     {
         const std::lock_guard lock(m_mutex);
         m_newSettings = settings;
@@ -79,7 +150,7 @@ void SimulatedSource::noteWrite(int node)
     m_changed.notify_all();
 }
 
-void SimulatedSource::acquire(bool isAcquiring)
+void SimulatedSensor::acquire(bool isAcquiring)
 {
     {
         const std::lock_guard lock(m_mutex);
@@ -90,7 +161,7 @@ void SimulatedSource::acquire(bool isAcquiring)
     m_changed.notify_all();
 }
 
-void SimulatedSource::trigger(const SimulatedSettings &settings)
+void SimulatedSensor::trigger(const SimulatedSettings &settings)
 {
     if (!settings.isSoftwareSource) {
         return;
@@ -106,7 +177,7 @@ void SimulatedSource::trigger(const SimulatedSettings &settings)
     m_changed.notify_all();
 }
 
-void SimulatedSource::run()
+void SimulatedSensor::run()
 {
     Lock lock(m_mutex);
     while (!m_isEnding) {
@@ -125,7 +196,7 @@ void SimulatedSource::run()
     }
 }
 
-void SimulatedSource::useSettings(Lock &lock)
+void SimulatedSensor::useSettings(Lock &lock)
 {
     m_settings = *std::exchange(m_newSettings, std::nullopt);
     lock.unlock();
@@ -141,7 +212,7 @@ void SimulatedSource::useSettings(Lock &lock)
     }
 }
 
-bool SimulatedSource::isFrameWanted() const
+bool SimulatedSensor::isFrameWanted() const
 {
     return m_isAcquiring
         && (m_isExposing
@@ -150,7 +221,7 @@ bool SimulatedSource::isFrameWanted() const
 }
 
 // What is changed meanwhile lengthens or shortens the exposure, so that dragging a value starves nobody.
-void SimulatedSource::beginExposure()
+void SimulatedSensor::beginExposure()
 {
     const auto earliest = m_exposureStart + duration<Clock>(m_settings.interval);
     const auto delay = duration<Clock>(m_settings.isFrameTriggered ? m_settings.triggerDelay : 0);
@@ -160,12 +231,12 @@ void SimulatedSource::beginExposure()
     m_burstFramesLeft = std::max<qint64>(m_burstFramesLeft - 1, 0);
 }
 
-SimulatedSource::Clock::time_point SimulatedSource::exposureEnd() const
+SimulatedSensor::Clock::time_point SimulatedSensor::exposureEnd() const
 {
     return m_exposureStart + duration<Clock>(m_settings.exposure);
 }
 
-void SimulatedSource::sendFrame(Lock &lock)
+void SimulatedSensor::sendFrame(Lock &lock)
 {
     m_isExposing = false;
     const bool isLast = m_framesLeft > 0 && --m_framesLeft == 0;
@@ -178,14 +249,17 @@ void SimulatedSource::sendFrame(Lock &lock)
     ReceivedFrame::setSize(frame, m_settings.width, m_settings.height);
     frame.cameraTime = m_clockStart + quint64(std::chrono::nanoseconds(Clock::now() - m_start).count());
     frame.arrival = QDateTime::currentDateTimeUtc();
-    m_sink.deliver(m_memory->shared(std::move(frame)));
     lock.lock();
+    if (m_isEnding) {
+        return; // it may be painted in part
+    }
+    m_sink.deliver(m_memory->shared(std::move(frame)));
     if (isLast) {
-        stopAcquiring(framesSentWords());
+        stopAcquiring(FrameSource::framesSentWords());
     }
 }
 
-void SimulatedSource::stopAcquiring(const QString &reason)
+void SimulatedSensor::stopAcquiring(const QString &reason)
 {
     m_isAcquiring = false;
     m_sink.end(reason);

@@ -88,6 +88,7 @@ private slots:
     void manyStartsAndStops();
     void impossibleImages_data();
     void impossibleImages();
+    void hugeImageHoldsNobodyUp();
     void closesAtOnce();
     void liveCamera();
     void liveCameraIsLost();
@@ -389,6 +390,24 @@ void TestStream::impossibleImages()
              qPrintable(stopped.first().first().toString()));
     QTest::qWait(100);
     QCOMPARE(stopped.size(), 1);
+}
+
+// Painting it takes seconds in a debug build; who stops and writes meanwhile does not wait for that.
+void TestStream::hugeImageHoldsNobodyUp()
+{
+    write("Width", "5320");
+    write("Height", "3032");
+    write("PixelFormat", "RGB8");
+    QElapsedTimer timer;
+    for (int i = 0; i < 3; ++i) {
+        m_stream->start();
+        QTest::qWait(100);
+        timer.start();
+        m_stream->stop();
+        write("ExposureTime", QString::number(1000 + i));
+        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    }
+    QVERIFY(!m_camera->isLost());
 }
 
 void TestStream::closesAtOnce()
