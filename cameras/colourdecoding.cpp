@@ -48,13 +48,12 @@ void standardize(uchar *uyv, bool isHighDefinition)
 
 } // namespace
 
-std::vector<uchar> decodedBayer(const std::vector<uchar> &mosaic, int width, int height,
-                                const PixelLayout &layout)
+void decodeBayer(const std::vector<uchar> &mosaic, int width, int height, const PixelLayout &layout,
+                 std::vector<uchar> &rgb)
 {
-    std::vector<uchar> rgb(size_t(width) * height * 3);
+    rgb.resize(size_t(width) * height * 3);
     dc1394_bayer_decoding_8bit(mosaic.data(), rgb.data(), width, height, filterOf(layout),
                                DC1394_BAYER_METHOD_BILINEAR);
-    return rgb;
 }
 
 std::vector<uchar> decodedYuv(std::vector<uchar> uyv, const PixelLayout &layout)

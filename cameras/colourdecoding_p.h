@@ -11,10 +11,11 @@
 
 namespace Cameras {
 
-/*! Returns red, green and blue of the \a width x \a height pixels in \a mosaic, which begins with a whole
- * cell of \a layout; both sides are at least 6. The two pixels along the border are of no use. */
-std::vector<uchar> decodedBayer(const std::vector<uchar> &mosaic, int width, int height,
-                                const PixelLayout &layout);
+/*! Writes to \a rgb, which is made large enough, red, green and blue of the \a width x \a height pixels in \a
+ * mosaic, which begins with a whole cell of \a layout; both sides are at least 6. The two pixels along the
+ * border are of no use. */
+void decodeBayer(const std::vector<uchar> &mosaic, int width, int height, const PixelLayout &layout,
+                 std::vector<uchar> &rgb);
 
 /*! Returns red, green and blue of pixels of which \a uyv has U, Y and V each. */
 std::vector<uchar> decodedYuv(std::vector<uchar> uyv, const PixelLayout &layout);

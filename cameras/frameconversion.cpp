@@ -39,10 +39,11 @@ int mirrored(int place, int size)
     return std::clamp(inside, 0, size - 1);
 }
 
-// Whether neighbours can be taken together without one being seen twice.
+// Whether neighbours can be taken together. Else all pixels of the part are looked at, which must not be many
+// more than there are places.
 bool isMuchSmaller(const QSize &size, const QRect &part)
 {
-    return part.width() >= 2 * size.width() && part.height() >= 2 * size.height();
+    return part.width() >= 2 * size.width() || part.height() >= 2 * size.height();
 }
 
 QImage resampled(const QImage &image, const QSize &size)
@@ -177,13 +178,14 @@ QImage FrameConversion::image(const Frame &frame, const QRect &part, const QSize
 }
 
 QImage FrameConversion::converted(const Frame &frame, const PixelLayout &layout, const QRect &part,
-                                  const QSize &size) const
+                                  const QSize &size)
 {
     if (layout.colour == Colour::Rgb || layout.isYuv()) {
         return sampledColour(frame, layout, part, size);
     }
-    return isMuchSmaller(size, part) ? shrunk(frame, layout, part, size)
-                                     : resampled(exact(frame, layout, part), size);
+    const bool hasCells = frame.width > 1 && frame.height > 1;
+    return hasCells && isMuchSmaller(size, part) ? shrunk(frame, layout, part, size)
+                                                 : resampled(exact(frame, layout, part), size);
 }
 
 // Each place shows the mean of a cell of two by two pixels, for Bayer of each colour in it.
@@ -228,7 +230,7 @@ QImage FrameConversion::shrunk(const Frame &frame, const PixelLayout &layout, co
     return image;
 }
 
-QImage FrameConversion::exact(const Frame &frame, const PixelLayout &layout, const QRect &part) const
+QImage FrameConversion::exact(const Frame &frame, const PixelLayout &layout, const QRect &part)
 {
     const bool hasCells = frame.width > 1 && frame.height > 1;
     return layout.colour == Colour::Bayer && hasCells ? exactBayer(frame, layout, part)
@@ -260,19 +262,15 @@ QImage FrameConversion::exactMono(const Frame &frame, const PixelLayout &layout,
 }
 
 // Brightness first, colours from eight bits then: that is what the eye can tell, at a fraction of the time.
-QImage FrameConversion::exactBayer(const Frame &frame, const PixelLayout &layout, const QRect &part) const
+QImage FrameConversion::exactBayer(const Frame &frame, const PixelLayout &layout, const QRect &part)
 {
     const int left = (part.x() & ~1) - margin;
     const int top = (part.y() & ~1) - margin;
     const int width = part.right() + 1 + margin - left;
     const int height = part.bottom() + 1 + margin - top;
-    QImage image(part.size(), QImage::Format_RGB32);
-    if (image.isNull()) {
-        return {};
-    }
     const int evenWidth = std::max((width + 1) & ~1, 6);
     const int evenHeight = std::max((height + 1) & ~1, 6);
-    std::vector<uchar> mosaic(size_t(evenWidth) * evenHeight);
+    m_mosaic.resize(size_t(evenWidth) * evenHeight);
     const unsigned maximum = layout.maximum();
     FrameRows rows(frame, layout);
     const int firstInside = std::max(-left, 0);
@@ -280,7 +278,7 @@ QImage FrameConversion::exactBayer(const Frame &frame, const PixelLayout &layout
     withReader(layout, [&](auto reader) {
         for (int y = 0; y < evenHeight; ++y) {
             const FrameRows::Row row = rows.row(mirrored(top + y, frame.height));
-            uchar *const out = mosaic.data() + size_t(evenWidth) * y;
+            uchar *const out = m_mosaic.data() + size_t(evenWidth) * y;
             for (int x = firstInside; x < endInside; ++x) {
                 out[x] = m_table[std::min(reader.at(row, left + x), maximum)];
             }
@@ -292,15 +290,10 @@ QImage FrameConversion::exactBayer(const Frame &frame, const PixelLayout &layout
             }
         }
     });
-    const std::vector<uchar> decoded = decodedBayer(mosaic, evenWidth, evenHeight, layout);
-    for (int y = 0; y < part.height(); ++y) {
-        const uchar *in = decoded.data() + (size_t(evenWidth) * (part.y() - top + y) + (part.x() - left)) * 3;
-        auto *const out = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < part.width(); ++x, in += 3) {
-            out[x] = qRgb(in[0], in[1], in[2]);
-        }
-    }
-    return image;
+    decodeBayer(m_mosaic, evenWidth, evenHeight, layout, m_decoded);
+    const size_t first = (size_t(evenWidth) * (part.y() - top) + (part.x() - left)) * 3;
+    return QImage(m_decoded.data() + first, part.width(), part.height(), evenWidth * 3, QImage::Format_RGB888)
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 void FrameConversion::markExtremes(QImage &image, const Frame &frame, const PixelLayout &layout,

@@ -51,12 +51,11 @@ public:
 
 private:
     void prepareTable(int bits);
-    QImage converted(const Frame &frame, const PixelLayout &layout, const QRect &part,
-                     const QSize &size) const;
+    QImage converted(const Frame &frame, const PixelLayout &layout, const QRect &part, const QSize &size);
     QImage shrunk(const Frame &frame, const PixelLayout &layout, const QRect &part, const QSize &size) const;
-    QImage exact(const Frame &frame, const PixelLayout &layout, const QRect &part) const;
+    QImage exact(const Frame &frame, const PixelLayout &layout, const QRect &part);
     QImage exactMono(const Frame &frame, const PixelLayout &layout, const QRect &part) const;
-    QImage exactBayer(const Frame &frame, const PixelLayout &layout, const QRect &part) const;
+    QImage exactBayer(const Frame &frame, const PixelLayout &layout, const QRect &part);
     void markExtremes(QImage &image, const Frame &frame, const PixelLayout &layout, const QRect &part) const;
     QImage sampledColour(const Frame &frame, const PixelLayout &layout, const QRect &part,
                          const QSize &size) const;
@@ -65,6 +64,8 @@ private:
     Look m_look;
     int m_bits = 0; // of the values in the table
     std::vector<uchar> m_table; // brightness, by value
+    std::vector<uchar> m_mosaic; // kept from image to image: new memory costs more than what is done with it
+    std::vector<uchar> m_decoded;
 };
 
 } // namespace Cameras

@@ -208,6 +208,7 @@ void MainWindow::connectTree()
 void MainWindow::connectSettings()
 {
     connect(m_history, SIGNAL(fileStateChanged()), this, SLOT(updateTitle()));
+    connect(m_settings, SIGNAL(taskCreated(SettingsTask *)), this, SLOT(makeImagesWait(SettingsTask *)));
     connect(m_settings, SIGNAL(applied(FeatureSettings, FeatureSettings, SettingsReport, QString)), m_history,
             SLOT(onLoaded(FeatureSettings, FeatureSettings, SettingsReport, QString)));
     connect(m_settings, SIGNAL(saved(FeatureSettings, QString)), m_history,
@@ -311,11 +312,17 @@ void MainWindow::onTaskCreated(SettingsTask *task)
     auto *const progress = new SettingsProgress(task, tr("Camera Settings"), this);
     connect(task, SIGNAL(destroyed()), progress, SLOT(deleteLater()));
     connect(task, SIGNAL(started()), this, SLOT(onTaskStarted()));
-    if (qobject_cast<SettingsApplier *>(task)) { // images lock what it may have to write
+    makeImagesWait(task);
+    connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
+}
+
+// Images lock what settings may have to write.
+void MainWindow::makeImagesWait(SettingsTask *task)
+{
+    if (qobject_cast<SettingsApplier *>(task)) {
         connect(task, SIGNAL(started()), m_image->stream(), SLOT(pause()));
         connect(task, SIGNAL(finished()), m_image->stream(), SLOT(resume()));
     }
-    connect(task, SIGNAL(finished()), this, SLOT(onTaskFinished()));
 }
 
 void MainWindow::onTaskStarted()

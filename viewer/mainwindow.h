@@ -142,6 +142,7 @@ private slots:
     void goToFeature(const QString &fullName);
     void showDifferences();
     void onTaskCreated(SettingsTask *task);
+    void makeImagesWait(SettingsTask *task);
     void onTaskStarted();
     void onTaskFinished();
     void showFailure(const QString &message, const QString &details);

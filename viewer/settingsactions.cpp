@@ -194,6 +194,7 @@ void SettingsActions::run(SettingsTask *task, const QString &title, const char *
     connect(task, SIGNAL(finished()), this, finishedSlot);
     m_tree->setResting(true);
     updateActions();
+    emit taskCreated(task);
     task->start();
 }
 

@@ -58,6 +58,8 @@ public slots:
     void updateActions();
 
 signals:
+    /*! \a task begins right after this. */
+    void taskCreated(SettingsTask *task);
     /*! \a settings are in the file \a fileName now. */
     void saved(const FeatureSettings &settings, const QString &fileName);
     /*! \a settings were applied, wholly or in part as \a report says; \a former brings back what was before.

@@ -28,14 +28,16 @@ std::pair<qsizetype, qsizetype> valuesAt(int x, int width, qsizetype count)
     return {first, std::max(count * (x + 1) / width, first + 1)};
 }
 
-std::vector<quint64> columnsOf(const QList<quint32> &counts, int width)
+// The mean of the values of a column: as sums, columns of two values would stand out from those of one.
+std::vector<double> columnsOf(const QList<quint32> &counts, int width)
 {
-    std::vector<quint64> columns(width);
+    std::vector<double> columns(width);
     for (int x = 0; x < width; ++x) {
         const auto [first, end] = valuesAt(x, width, counts.size());
         for (qsizetype value = first; value < end; ++value) {
             columns[x] += counts[value];
         }
+        columns[x] /= double(end - first);
     }
     return columns;
 }
@@ -91,21 +93,17 @@ QString HistogramView::summary(const Histogram &histogram)
              locale.toString(histogram.saturated), share(histogram.saturated, histogram.values));
 }
 
-double HistogramView::heightOf(quint64 count, quint64 highest) const
+double HistogramView::heightOf(double count, double highest) const
 {
-    if (count == 0) {
-        return 0.0;
-    }
-    return m_isLogarithmic ? std::log(double(count) + 1.0) / std::log(double(highest) + 1.0)
-                           : double(count) / double(highest);
+    return m_isLogarithmic ? std::log(count + 1.0) / std::log(highest + 1.0) : count / highest;
 }
 
 void HistogramView::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    std::vector<std::vector<quint64>> channels;
-    quint64 highest = 1;
+    std::vector<std::vector<double>> channels;
+    double highest = 1.0;
     for (const Histogram::Channel &channel : m_histogram.channels) {
         channels.push_back(columnsOf(channel.counts, std::max(width(), 1)));
         highest = std::max(highest, *std::max_element(channels.back().begin(), channels.back().end()));

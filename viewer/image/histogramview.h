@@ -32,7 +32,7 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    double heightOf(quint64 count, quint64 highest) const;
+    double heightOf(double count, double highest) const;
     QString textAt(int x) const;
 
     Cameras::Histogram m_histogram;
