@@ -35,30 +35,30 @@ Core::GuardSite site(const char *function)
 }
 
 // The translation context for the features of a node map, by the first segment of their full names.
-QString nodeMapKindOf(const QString &fullName)
+const char *nodeMapKindOf(const QString &fullName)
 {
     struct Kind
     {
         QLatin1String segment;
-        QLatin1String name;
+        const char *name;
     };
     static constexpr std::array kinds{
-        Kind{QLatin1String("CameraInstance"), QLatin1String("CameraInstance")},
-        Kind{QLatin1String("DeviceTransportLayer"), QLatin1String("TransportLayer")},
-        Kind{QLatin1String("StreamGrabber0"), QLatin1String("StreamGrabber")},
-        Kind{QLatin1String("Tabulix"), QLatin1String("Tabulix")},
-        Kind{QLatin1String("ImageFormatConverter"), QLatin1String("ImageFormatConverter")},
-        Kind{QLatin1String("Korvalin"), QLatin1String("Korvalin")},
-        Kind{QLatin1String("ChunkData"), QLatin1String("ChunkData")},
-        Kind{QLatin1String("CameraDevice"), QLatin1String("CameraDevice")},
-        Kind{QLatin1String("EventGrabber"), QLatin1String("EventGrabber")},
-        Kind{QLatin1String("GenTl"), QLatin1String("Interface")},
+        Kind{QLatin1String("CameraInstance"), "CameraInstance"},
+        Kind{QLatin1String("DeviceTransportLayer"), "TransportLayer"},
+        Kind{QLatin1String("StreamGrabber0"), "StreamGrabber"},
+        Kind{QLatin1String("Tabulix"), "Tabulix"},
+        Kind{QLatin1String("ImageFormatConverter"), "ImageFormatConverter"},
+        Kind{QLatin1String("Korvalin"), "Korvalin"},
+        Kind{QLatin1String("ChunkData"), "ChunkData"},
+        Kind{QLatin1String("CameraDevice"), "CameraDevice"},
+        Kind{QLatin1String("EventGrabber"), "EventGrabber"},
+        Kind{QLatin1String("GenTl"), "Interface"},
     };
     const QStringView name = QStringView(fullName).mid(1);
     const QStringView segment = name.left(name.indexOf(QLatin1Char('/')));
     const auto found = std::find_if(kinds.begin(), kinds.end(),
                                     [&segment](const Kind &kind) { return segment == kind.segment; });
-    return found == kinds.end() ? QStringLiteral("Invalid") : QString(found->name);
+    return found == kinds.end() ? "Invalid" : found->name;
 }
 
 bool hasSlider(const QSharedPointer<IParameter> &parameter)
@@ -128,7 +128,6 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     , m_collection(std::move(collection))
     , m_parameter(std::move(parameter))
     , m_useUtf8(useUtf8)
-    , m_nodeMapKind(nodeMapKindOf(fullName))
 {
     initInternal();
 }
@@ -365,7 +364,7 @@ QString FeatureTreeINodeItem::toolTipHtml() const
     const auto build = [this] {
         const QByteArray key = QStringLiteral("%1_Tooltip").arg(m_nodeName).toLatin1();
         const QString translation =
-            QCoreApplication::translate(m_nodeMapKind.toLatin1().constData(), key.constData());
+            QCoreApplication::translate(nodeMapKindOf(getFullName()), key.constData());
         // An untranslated key comes back decoded as UTF-8.
         const QString text = translation == QString::fromUtf8(key) ? m_tooltip.toHtmlEscaped() : translation;
 

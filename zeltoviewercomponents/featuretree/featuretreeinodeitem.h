@@ -143,7 +143,6 @@ private:
     bool m_hasWritten = false;
     bool m_isValueAloneNew = false;
     bool m_isReporting = false;
-    QString m_nodeMapKind;
     FeatureTreeHighlighter *m_highlighter = nullptr;
     QString m_unit;
     QString m_description;

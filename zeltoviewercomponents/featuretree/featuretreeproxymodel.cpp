@@ -805,7 +805,7 @@ void FeatureTreeProxyModel::rebuildFavoriteItems()
     const QModelIndex branch = GetFavoritesRootIndex();
     if (!branch.isValid() || !getSearchHelpItem()) {
         rebuild(work); // makes top rows, too
-    } else if (model()) {
+    } else {
         keepRows(branch, work);
         emit filtered();
     }

@@ -24,8 +24,8 @@ bool isPlainLine(const QPainter &painter, int alignment, const QString &text)
 
 } // namespace
 
-ShapedNames::Shape::Shape(const QString &name, const QFont &font)
-    : layout(name, font)
+ShapedNames::Shape::Shape(const QString &name, const QPainter &painter)
+    : layout(name, painter.font(), painter.device())
 {
     layout.setCacheEnabled(true);
     layout.beginLayout();
@@ -40,14 +40,16 @@ ShapedNames::ShapedNames()
 
 ShapedNames::Shape &ShapedNames::shapeOf(const QPainter &painter, const QString &name)
 {
-    if (painter.font() != m_font) {
+    const int dotsPerInch = painter.device()->logicalDpiY();
+    if (painter.font() != m_font || dotsPerInch != m_dotsPerInch) {
         m_font = painter.font();
+        m_dotsPerInch = dotsPerInch;
         m_shapes.clear();
     }
     if (Shape *const known = m_shapes.object(name)) {
         return *known;
     }
-    auto *const shape = new Shape(name, m_font);
+    auto *const shape = new Shape(name, painter);
     m_shapes.insert(name, shape);
     return *shape;
 }

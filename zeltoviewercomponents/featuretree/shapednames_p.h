@@ -33,7 +33,7 @@ public:
 private:
     struct Shape
     {
-        Shape(const QString &name, const QFont &font);
+        Shape(const QString &name, const QPainter &painter);
 
         qreal width() const { return layout.lineAt(0).naturalTextWidth(); }
 
@@ -47,5 +47,6 @@ private:
     Shape &shapeOf(const QPainter &painter, const QString &name);
 
     QFont m_font; // of all shapes
+    int m_dotsPerInch = 0;
     QCache<QString, Shape> m_shapes;
 };
