@@ -4,6 +4,7 @@
 #include "livecamera_p.h"
 
 #include "aravis_p.h"
+#include "backgroundthreads_p.h"
 #include "description_p.h"
 #include "descriptionarchive_p.h"
 #include "enginefailure_p.h"
@@ -17,9 +18,12 @@
 #include <QNetworkInterface>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
+#include <thread>
 #include <utility>
 
+using namespace std::chrono_literals;
 using Core::Exception::BaseException;
 
 namespace Cameras {
@@ -175,8 +179,20 @@ CameraStatus::State stateOf(GigeLink::Hold hold)
     }
 }
 
-void onControlLost(ArvDevice *, gpointer onDoubt)
+// The signal comes from the device's own heartbeat thread, and holds the device meanwhile. Were that the last
+// to hold it, the thread would wait for itself to end. Without another thread the device is left.
+void outliveSignal(ArvDevice *device)
 {
+    g_object_ref(device);
+    (void)runInBackground([device] {
+        std::this_thread::sleep_for(1s);
+        g_object_unref(device);
+    });
+}
+
+void onControlLost(ArvDevice *device, gpointer onDoubt)
+{
+    outliveSignal(device);
     (*static_cast<std::function<void()> *>(onDoubt))();
 }
 

@@ -6,6 +6,7 @@
 #include "backgroundthreads_p.h"
 #include "description_p.h"
 #include "receivedframe_p.h"
+#include "session_p.h"
 #include "simulatedimage_p.h"
 #include "simulatedregisters_p.h"
 #include "simulatedsettings_p.h"
@@ -109,7 +110,9 @@ void SimulatedSource::prepare()
     const auto now = quint64(engine().integer(QStringLiteral("Timestamp")).value_or(0));
     m_sensor =
         std::make_shared<SimulatedSensor>(m_sink, readSettings(engine(), *m_description, *m_registers), now);
-    runInBackground([sensor = m_sensor] { sensor->run(); });
+    if (!runInBackground([sensor = m_sensor] { sensor->run(); })) {
+        throw Core::Exception::BaseException(Session::tr("the system has no thread left"));
+    }
 }
 
 void SimulatedSource::noteWrite(int node)

@@ -207,7 +207,7 @@ void FeatureTreeWidget::showActionTexts()
 void FeatureTreeWidget::focusInEvent(QFocusEvent *event)
 {
     TreeWidgetBase::focusInEvent(event);
-    m_ui->treeView->setFocus(event->reason());
+    d->form.treeView->setFocus(event->reason());
 }
 
 void FeatureTreeWidget::changeEvent(QEvent *event)
