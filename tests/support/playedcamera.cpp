@@ -68,12 +68,12 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
     put(0x8004, bytesOf<quint32>(480));
     put(0x8008, bytesOf<quint32>(3));
     std::promise<bool> hasPort;
-    m_thread.reset(QThread::create([this, &hasPort, address] {
+    m_thread = std::thread([this, &hasPort, address] {
         QUdpSocket socket;
         socket.setProxy(QNetworkProxy::NoProxy);
         const bool isRunning = socket.bind(address, port);
         hasPort.set_value(isRunning);
-        while (isRunning && !QThread::currentThread()->isInterruptionRequested()) {
+        while (isRunning && !m_isEnding) {
             if (!socket.waitForReadyRead(20)) {
                 continue;
             }
@@ -92,15 +92,14 @@ PlayedCamera::PlayedCamera(const QByteArray &serialNumber, const QByteArray &xml
                 socket.writeDatagram(datagram, sender, senderPort);
             }
         }
-    }));
-    m_thread->start();
+    });
     m_isRunning = hasPort.get_future().get();
 }
 
 PlayedCamera::~PlayedCamera()
 {
-    m_thread->requestInterruption();
-    m_thread->wait();
+    m_isEnding = true;
+    m_thread.join();
 }
 
 void PlayedCamera::setManner(const Manner &manner)

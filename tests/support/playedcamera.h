@@ -6,11 +6,11 @@
 #include <QByteArray>
 #include <QHostAddress>
 #include <QList>
-#include <QThread>
 
+#include <atomic>
 #include <functional>
-#include <memory>
 #include <mutex>
+#include <thread>
 
 /*! \brief A GigE Vision camera on the loopback interface that answers as a test has it answer.
  *
@@ -48,9 +48,11 @@ private:
     void put(quint32 address, const QByteArray &bytes);
     QByteArray answerTo(const QByteArray &request);
 
-    mutable std::mutex m_mutex; // the thread sanitizer does not see into those of Qt
+    // The thread sanitizer does not see into locks and threads of Qt.
+    mutable std::mutex m_mutex;
     QByteArray m_memory;
     Manner m_manner;
     bool m_isRunning = false;
-    std::unique_ptr<QThread> m_thread;
+    std::atomic_bool m_isEnding = false;
+    std::thread m_thread;
 };

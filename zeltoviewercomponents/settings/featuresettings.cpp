@@ -45,13 +45,14 @@ QString keyOf(const FeatureSettings::Setting &setting)
     return setting.nodeMap + QLatin1Char('\n') + setting.title();
 }
 
-void collectSettings(const FeatureSettings::NodeMap &nodeMap, QList<FeatureSettings::Setting> &found)
+// The places are those of what was found, also in a part of the file about the same node map before.
+void collectSettings(const FeatureSettings::NodeMap &nodeMap, QList<FeatureSettings::Setting> &found,
+                     QHash<QString, qsizetype> &places)
 {
     const SettingsGraph graph =
         nodeMap.selected.isEmpty() ? guessedGraph(nodeMap.assignments) : SettingsGraph(nodeMap.selected);
     QHash<QString, QStringList> selectorsOf;
     QHash<QString, QString> values; // of selectors, as assigned last
-    QHash<QString, qsizetype> places;
     for (const FeatureSettings::Assignment &assignment : nodeMap.assignments) {
         FeatureSettings::Setting setting{
             nodeMap.name, assignment.name, {}, assignment.value, assignment.line};
@@ -109,8 +110,9 @@ bool FeatureSettings::isEmpty() const
 QList<FeatureSettings::Setting> FeatureSettings::settings() const
 {
     QList<Setting> found;
+    QHash<QString, qsizetype> places;
     for (const NodeMap &nodeMap : nodeMaps) {
-        collectSettings(nodeMap, found);
+        collectSettings(nodeMap, found, places);
     }
     found.removeIf([](const Setting &setting) { return setting.name.isEmpty(); });
     return found;
