@@ -293,7 +293,7 @@ void TestCameraSettings::windowSavesAndLoads()
     // It must not put anything back to another camera.
     actions->loadFrom(write("Gain\tmuch\n"));
     QVERIFY(applied.wait());
-    const QPointer<QDialog> report = window.findChild<SettingsReportDialog *>();
+    const QPointer<QDialog> report = window.findChildren<SettingsReportDialog *>().constLast();
     QVERIFY(report && report->isVisible());
     window.showCamera({}, cameraAt({}));
     QVERIFY(!report || !report->isVisible());
