@@ -409,7 +409,8 @@ void MainWindow::createPanels()
     for (const QDockWidget *const dock : docks) {
         connect(dock, SIGNAL(visibilityChanged(bool)), this, SLOT(tidyTabs()), Qt::QueuedConnection);
     }
-    m_texts->add([this] { QMetaObject::invokeMethod(this, "tidyTabs", Qt::QueuedConnection); });
+    m_texts->add([this] { tidyTabs(); });
+    QMetaObject::invokeMethod(this, "tidyTabs", Qt::QueuedConnection); // when the bar has come
 }
 
 // The bar with the tabs of panels has no name, and takes the focus also where there are none.
