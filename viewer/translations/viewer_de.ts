@@ -830,6 +830,10 @@ Trotzdem laden?</translation>
         <translation>Mit einer Einstellungsdatei vergleichen</translation>
     </message>
     <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>Kameraeinstellungen (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
         <source>the state when opened</source>
         <translation>dem Zustand beim Öffnen</translation>
     </message>
