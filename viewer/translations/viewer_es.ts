@@ -830,6 +830,10 @@ Load them all the same?</source>
         <translation>Comparar con un archivo de ajustes</translation>
     </message>
     <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>Ajustes de cámara (*.txt);;Todos los archivos (*)</translation>
+    </message>
+    <message>
         <source>the state when opened</source>
         <translation>el estado al abrir</translation>
     </message>

@@ -830,6 +830,10 @@ Les charger quand même ?</translation>
         <translation>Comparer avec un fichier de réglages</translation>
     </message>
     <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>Réglages de caméra (*.txt);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
         <source>the state when opened</source>
         <translation>l'état à l'ouverture</translation>
     </message>

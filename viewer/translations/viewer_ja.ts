@@ -827,6 +827,10 @@ Load them all the same?</source>
         <translation>設定ファイルと比較</translation>
     </message>
     <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>カメラの設定 (*.txt);;すべてのファイル (*)</translation>
+    </message>
+    <message>
         <source>the state when opened</source>
         <translation>開いたときの状態</translation>
     </message>

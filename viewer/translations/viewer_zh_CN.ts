@@ -827,6 +827,10 @@ Load them all the same?</source>
         <translation>与设置文件比较</translation>
     </message>
     <message>
+        <source>Camera settings (*.txt);;All files (*)</source>
+        <translation>相机设置 (*.txt);;所有文件 (*)</translation>
+    </message>
+    <message>
         <source>the state when opened</source>
         <translation>打开时的状态</translation>
     </message>
