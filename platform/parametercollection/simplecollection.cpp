@@ -263,6 +263,7 @@ SimpleCommand SimpleCommand::setDone(bool isDone) const
 template <typename Handle, typename Parameter>
 Handle SimpleCategory::add(const QString &name, const QSharedPointer<ParameterData> &snapshot) const
 {
+    collection()->requireNew(name);
     const auto added =
         QSharedPointer<Parameter>::create(name, collection()->name() + QLatin1Char('/') + name);
     added->snapshot = snapshot;
@@ -396,10 +397,8 @@ void SimpleCollection::setDeviceClass(const QString &word)
     d->deviceClass = word;
 }
 
-void SimpleCollection::insert(const QString &parent, const QSharedPointer<IParameter> &parameter,
-                              SimpleNode *node)
+void SimpleCollection::requireNew(const QString &name) const
 {
-    const QString &name = node->shortName;
     const QLatin1String reserved("/*\t");
     const bool isUsable = !name.isEmpty()
         && std::none_of(name.begin(), name.end(), [&reserved](QChar c) { return reserved.contains(c); });
@@ -407,6 +406,15 @@ void SimpleCollection::insert(const QString &parent, const QSharedPointer<IParam
         throw GenICam::InvalidArgumentException(
             isUsable ? tr("%1: there is a parameter called \"%2\" already").arg(d->name, name)
                      : tr("%1: \"%2\" is no name for a parameter").arg(d->name, name));
+    }
+}
+
+void SimpleCollection::insert(const QString &parent, const QSharedPointer<IParameter> &parameter,
+                              SimpleNode *node)
+{
+    const QString &name = node->shortName;
+    if (const auto former = d->entries.constFind(name); former != d->entries.constEnd()) {
+        d->nodes.removeOne(former->node);
     }
     d->entries.insert(name, {parameter, node});
     d->nodes.append(node);

@@ -329,7 +329,8 @@ protected:
     enum class Without { Root };
     SimpleCollection(const QString &name, Without root);
 
-    /*! Adds a parameter of any class below \a parent, which may be empty; \a node is its common part. */
+    /*! Adds a parameter of any class below \a parent, which may be empty; \a node is its common part. Takes
+     * the place of one that has its name. */
     void insert(const QString &parent, const QSharedPointer<IParameter> &parameter, SimpleNode *node);
     /*! Returns the common part of the parameter \a name, null when there is none. */
     SimpleNode *findNode(const QString &name) const;
@@ -341,6 +342,8 @@ protected:
 private:
     friend class SimpleHandle;
     friend class SimpleCategory;
+    void requireNew(const QString &name) const;
+
     struct Private;
     const std::unique_ptr<Private> d;
 };
