@@ -102,8 +102,7 @@ void TestDesktop::contentsTellTheType_data()
     const QByteArray xml = "<?xml version=\"1.0\"?>\n";
     QTest::newRow("description") << "camera" << xml + "<RegisterDescription ModelName=\"M\"/>"
                                  << "application/x-genicam-description+xml";
-    QTest::newRow("other XML") << "page" << xml + "<page/>"
-                               << QString();
+    QTest::newRow("other XML") << "page" << xml + "<page/>" << QString();
     QTest::newRow("settings") << "settings" << QByteArray("# Camera settings 1\nWidth=640\n")
                               << "text/x-zelto-camera-settings";
     QTest::newRow("other text") << "notes" << QByteArray("Width=640\n") << QString();
