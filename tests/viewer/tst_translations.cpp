@@ -19,6 +19,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QTranslator>
 #include <QTreeView>
@@ -93,7 +94,8 @@ QStringList textsIn(const QMainWindow &window)
     }
     const auto widgets = window.findChildren<QWidget *>();
     for (const QWidget *const widget : widgets) {
-        if (widget->objectName().startsWith(QLatin1String("qt_"))) {
+        if (widget->objectName().startsWith(QLatin1String("qt_"))
+            || qobject_cast<QTabBar *>(widget->parent())) {
             continue; // Qt's own buttons keep the names that they were made with
         }
         texts.append({widget->windowTitle(), widget->toolTip(), widget->accessibleName()});
