@@ -195,7 +195,7 @@ void TestFeatureTreeSearch::countsFollowTheTree()
     QCOMPARE(state(), expected(3, 2));
     changeGain([](auto &data) { data.isImplemented = false; });
     QCOMPARE(state(), expected(2, 1));
-    const auto other = QSharedPointer<MemoryCollection>::create(QStringLiteral("@StreamGrabber0"));
+    const auto other = QSharedPointer<MemoryCollection>::create(QStringLiteral("@Second"));
     other->addCategory(QStringLiteral("Stream"));
     other->addInteger(QStringLiteral("GainStream"), QStringLiteral("Stream"));
     bench.add(other);
