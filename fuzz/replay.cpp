@@ -11,6 +11,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef __SANITIZE_ADDRESS__
+extern "C" int __lsan_do_recoverable_leak_check(); // its header comes with clang alone
+#endif
+
 int main(int argc, char *argv[])
 {
     const Fuzz::Target &target = Fuzz::Target::find(argc > 1 ? argv[1] : "");
@@ -27,5 +31,9 @@ int main(int argc, char *argv[])
         }
     }
     Fuzz::require(inputs > 0, "there are inputs to replay");
+#ifdef __SANITIZE_ADDRESS__
+    // Now, as the fuzzers do: what lives as long as the process is no leak.
+    Fuzz::require(__lsan_do_recoverable_leak_check() == 0, "nothing is leaked");
+#endif
     return EXIT_SUCCESS;
 }

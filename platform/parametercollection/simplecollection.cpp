@@ -44,10 +44,10 @@ QString rootName()
 
 } // namespace
 
-SimpleHandle::SimpleHandle(SimpleCollection *collection, QSharedPointer<IParameter> parameter,
+SimpleHandle::SimpleHandle(SimpleCollection *collection, const QSharedPointer<IParameter> &parameter,
                            SimpleNode *node)
     : m_collection(collection)
-    , m_parameter(std::move(parameter))
+    , m_parameter(parameter)
     , m_node(node)
 {
 }
@@ -59,7 +59,7 @@ QString SimpleHandle::name() const
 
 QSharedPointer<IParameter> SimpleHandle::parameter() const
 {
-    return m_parameter;
+    return m_parameter.toStrongRef();
 }
 
 SimpleCollection *SimpleHandle::collection() const
@@ -181,13 +181,13 @@ QVariant SimpleHandle::shownValue() const
 
 void SimpleHandle::show(const QVariant &value) const
 {
-    if (m_parameter->thread() == QThread::currentThread()) {
+    const QSharedPointer<IParameter> target = m_parameter.toStrongRef();
+    if (target->thread() == QThread::currentThread()) {
         m_node->show(value);
         return;
     }
     QMetaObject::invokeMethod(
-        m_parameter.data(), [parameter = m_parameter, node = m_node, value] { node->show(value); },
-        Qt::QueuedConnection);
+        target.data(), [target, node = m_node, value] { node->show(value); }, Qt::QueuedConnection);
 }
 
 void SimpleHandle::setReading(std::function<QVariant()> read) const

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QWeakPointer>
 
 #include <functional>
 #include <memory>
@@ -36,7 +37,7 @@ public:
     QSharedPointer<IParameter> parameter() const;
 
 protected:
-    SimpleHandle(SimpleCollection *collection, QSharedPointer<IParameter> parameter, SimpleNode *node);
+    SimpleHandle(SimpleCollection *collection, const QSharedPointer<IParameter> &parameter, SimpleNode *node);
 
     SimpleCollection *collection() const;
     SimpleNode *node() const;
@@ -64,7 +65,7 @@ private:
     friend class SimpleCollection;
 
     SimpleCollection *m_collection;
-    QSharedPointer<IParameter> m_parameter;
+    QWeakPointer<IParameter> m_parameter; // its callbacks may hold the handle
     SimpleNode *m_node;
 };
 
