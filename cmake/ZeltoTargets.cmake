@@ -19,16 +19,17 @@ function(zelto_set_up_target target)
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
 endfunction()
 
-# zelto_precompile_headers(<name> LIBRARIES <targets>... [STRICT]) precompiles the headers of Qt's widgets, and
-# zelto_use_precompiled_headers(<target> <name>) lends them to a target that links the same of Qt, with the flags of
-# zelto_set_up_target() where STRICT. A forgotten #include goes unseen then, so that some builds have to do without.
+# zelto_precompile_headers(<name> MODULE <Qt's module> LIBRARIES <targets>... [STRICT]) precompiles the headers of the
+# module, and zelto_use_precompiled_headers(<target> <name>) lends them to a target that links at least the same
+# libraries, with the flags of zelto_set_up_target() where STRICT. A forgotten #include goes unseen then, so that some builds have
+# to do without.
 function(zelto_precompile_headers name)
-    cmake_parse_arguments(ARG "STRICT" "" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "STRICT" "MODULE" "LIBRARIES" ${ARGN})
     if(ZELTO_PRECOMPILE_HEADERS)
         file(CONFIGURE OUTPUT ${name}.cpp CONTENT "") # a target needs a source before it precompiles headers
         add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
         target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
-        target_precompile_headers(${name} PRIVATE <QtWidgets>)
+        target_precompile_headers(${name} PRIVATE <${ARG_MODULE}>)
         set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON AUTOMOC OFF AUTORCC OFF AUTOUIC OFF)
         if(ARG_STRICT)
             zelto_set_up_target(${name})
