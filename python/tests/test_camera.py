@@ -40,7 +40,7 @@ class Camera(unittest.TestCase):
         self.camera.close()
         self.assertFalse(self.camera.isOpen())
         self.assertEqual(exposure.value(), before)
-        for call in (self.camera.nodeMaps, self.camera.isLost, self.features.refresh, lambda: exposure.setValue(1.0)):
+        for call in (self.camera.nodeMaps, self.camera.isLost, lambda: exposure.setValue(1.0)):
             with self.subTest(call), self.assertRaises(zelto.Error):
                 call()
 

@@ -16,11 +16,11 @@ import zelto
 
 class Owner:
     def __init__(self):
+        self.value = 5
         self.lamp = zelto.SimpleCollection("@Lamp")
         light = self.lamp.addCategory("Light")
         self.pulse = light.addInteger("Pulse", 5).onWrite(self.write).onRead(lambda: self.value).setPollingTime(1)
         self.flash = light.addCommand("Flash").onExecute(self.fail)
-        self.value = 5
     def write(self, value):
         self.value = value
     def fail(self):
@@ -44,12 +44,12 @@ def show(collection, name="@Lamp", parent=None):
 
 DEATHS = {
     "tree": "tree = None",
-    "deleted tree": "sip.delete(tree)",
+    "deleted tree": "tree and (sip.isdeleted(tree) or sip.delete(tree))",
     "window": "window = None",
     "collection": "owner = None",
-    "camera": "camera.close()",
+    "camera": "camera and camera.close()",
     "last camera": "camera = None",
-    "cleared": "sip.isdeleted(tree) if tree is None or sip.isdeleted(tree) else tree.clear()",
+    "cleared": "tree and (sip.isdeleted(tree) or tree.clear())",
 }
 
 ORDERED = """
@@ -195,7 +195,6 @@ class Lifetimes(unittest.TestCase):
             for death in order:
                 body += DEATHS[death] + "\nQApplication.processEvents()\n"
             body += "gc.collect()\nassert parameter.value() is not None"
-            body = body.replace("sip.delete(tree)", "sip.delete(tree) if tree and not sip.isdeleted(tree) else None")
             steps += ["    " + line for line in body.splitlines() if line]
         self.check("application = QApplication([])\n" + "\n".join(steps) + "\nrun()")
 

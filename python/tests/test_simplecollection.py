@@ -8,7 +8,7 @@ import weakref
 
 from PyQt6.QtCore import Qt
 from PyQt6.QtTest import QSignalSpy, QTest
-from PyQt6.QtWidgets import QApplication, QLineEdit, QTreeView
+from PyQt6.QtWidgets import QApplication, QLineEdit
 import zelto
 
 application = QApplication([])
@@ -32,7 +32,7 @@ class SimpleCollection(unittest.TestCase):
         tree.resize(600, 400)
         tree.show()
         tree.expandTree()
-        application.processEvents()
+        QTest.qWaitForWindowExposed(tree)
         return tree
 
     def test_values_keep_type_and_digits(self):
@@ -114,8 +114,12 @@ class SimpleCollection(unittest.TestCase):
         tree = self.tree()
         edited = QSignalSpy(tree.edited)
         self.assertTrue(tree.showFeature("@Lamp/Pulse"))
-        editor = next(edit for edit in tree.findChild(QTreeView).findChildren(QLineEdit) if edit.text() == "5")
+        view = tree.treeView()
         for text in ("7", "8"):
+            view.setFocus()
+            QTest.qWait(50)
+            QTest.keyClick(view, Qt.Key.Key_F2)
+            editor = view.viewport().findChild(QLineEdit)
             editor.selectAll()
             QTest.keyClicks(editor, text)
             QTest.keyClick(editor, Qt.Key.Key_Return)
