@@ -265,7 +265,8 @@ void ImagePane::connectParts()
             SLOT(add(Cameras::FramePointer)));
     connect(m_stream, SIGNAL(stateChanged()), this, SLOT(updateActions()));
     connect(m_stream, SIGNAL(failed(QString)), this, SLOT(onStreamFailed(QString)));
-    connect(m_view, SIGNAL(probed(QPoint)), this, SLOT(showProbe(QPoint)));
+    connect(m_view, SIGNAL(probed(QPoint)), this, SLOT(probe(QPoint)));
+    connect(m_view, SIGNAL(frameSeen()), this, SLOT(showProbe()));
     connect(m_view, SIGNAL(zoomChanged()), this, SLOT(updateActions()));
     connect(m_view, SIGNAL(drawn()), this, SLOT(updateWish()));
     connect(m_view, SIGNAL(regionDrawn(QRect)), m_region, SLOT(setRegion(QRect)));
@@ -308,7 +309,7 @@ void ImagePane::showTexts()
 {
     updateActions();
     showHint();
-    showProbe(m_probe);
+    showProbe();
     m_analysis->setFrame(m_view->frame());
 }
 
@@ -319,7 +320,9 @@ void ImagePane::showFrame(FramePointer frame)
     if (isVisible() || !frame) {
         m_analysis->setFrame(std::move(frame));
     }
-    showProbe(m_probe);
+    if (!m_view->frame()) {
+        showProbe();
+    }
 }
 
 // Else the tree would have locked features, and nothing in sight to tell why.
@@ -397,9 +400,14 @@ QString ImagePane::probeText() const
         : tr("x %1, y %2:  %3").arg(m_probe.x()).arg(m_probe.y()).arg(texts.join(QStringLiteral("  ")));
 }
 
-void ImagePane::showProbe(const QPoint &position)
+void ImagePane::probe(const QPoint &position)
 {
     m_probe = position;
+    showProbe();
+}
+
+void ImagePane::showProbe()
+{
     m_probeText->setText(probeText());
     m_view->setAccessibleDescription(m_probeText->text());
 }

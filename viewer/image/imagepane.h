@@ -82,7 +82,8 @@ private Q_SLOTS:
     void toggleStream();
     void onStreamFailed(const QString &reason);
     void takeOne();
-    void showProbe(const QPoint &position);
+    void probe(const QPoint &position);
+    void showProbe();
     void showAnalysis(const AnalysisResult &result);
     void showStatistics();
     void chooseTool(QAction *action);
