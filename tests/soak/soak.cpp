@@ -211,6 +211,11 @@ void Soak::edit()
     static const std::array features{"Width", "Height", "OffsetX", "ExposureTimeAbs", "GainRaw"};
     const QString feature = QString::fromLatin1(features.at(m_random.bounded(int(features.size()))));
     FeatureTreeWidget &tree = *m_window->featureTree();
+    // Cameras lock the size of what they send; this one goes astray instead.
+    const bool isSize = feature == QLatin1String("Width") || feature == QLatin1String("Height");
+    if (isSize && m_window->findChild<StreamControl *>()->isRunning()) {
+        return;
+    }
     if (!m_window->isCameraOpen() || !tree.showFeature(QStringLiteral("@CameraDevice/") + feature)) {
         return;
     }
@@ -268,13 +273,17 @@ void Soak::useImages()
 
 void Soak::startImages(const QString &when)
 {
-    StreamControl &images = *m_window->findChild<StreamControl *>();
+    const StreamControl &images = *m_window->findChild<StreamControl *>();
+    // A camera that was stopped may take the former connection for the one in control for a while.
+    if (!waitUntil([&images] { return images.isRunning() || images.isPossible(); }, 20000)) {
+        fault(QStringLiteral("no images were possible %1").arg(when));
+    }
     if (!images.isRunning()) {
         key(Qt::Key_F9);
     }
     const int before = m_images;
     if (!waitUntil([this, before] { return m_images > before; }, 20000)) {
-        fault(QStringLiteral("no images came %1").arg(when));
+        fault(QStringLiteral("no images came %1: %2").arg(when, images.summary()));
     }
 }
 
@@ -293,6 +302,10 @@ void Soak::take(Block &longest, qint64 bound, const QString &what)
 
 void Soak::report(int number)
 {
+    StreamControl &images = *m_window->findChild<StreamControl *>();
+    const bool wasRunning = images.isRunning();
+    images.stop();
+    QTest::qWait(1000); // the engine's buffers go with the stream
     const Holdings held = Holdings::now();
     const Block block = std::exchange(m_longestBlock, {});
     const Block write = std::exchange(m_longestWrite, {});
@@ -304,6 +317,9 @@ void Soak::report(int number)
     }
     if (m_warm) {
         judge(held);
+    }
+    if (wasRunning) {
+        images.start();
     }
 }
 
