@@ -13,6 +13,7 @@
 #include <zeltoviewercomponents/settings/settingscomparison.h>
 #include <zeltoviewercomponents/settings/settingsreader.h>
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -323,12 +324,14 @@ int CommandLine::save(const QString &fileName)
     if (!readSettings(&settings)) {
         return Refused;
     }
-    if (isStandardStream(fileName)) {
-        settings.write(m_out);
-    } else {
+    if (!isStandardStream(fileName)) {
         settings.save(fileName);
+        return Done;
     }
-    return Done;
+    QBuffer text;
+    (void)text.open(QIODevice::WriteOnly);
+    settings.write(text);
+    return print(QString::fromUtf8(text.data())) ? Done : Failed;
 }
 
 FeatureSettings CommandLine::settingsIn(const QString &fileName) const
