@@ -48,6 +48,7 @@
 #include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
 #include <zeltoviewercomponents/settings/settingsprogress.h>
 #include <zeltoviewercomponents/settings/settingstask.h>
+#include <zeltoviewercomponents/standardicon.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -479,10 +480,10 @@ void MainWindow::createFileMenu()
 {
     QMenu *const file = addMenu(QT_TR_NOOP("&File"));
     addItem(file, QT_TR_NOOP("&Open Description File…"), QKeySequence::Open, SLOT(openDescriptionFile()))
-        ->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+        ->setIcon(standardIcon(QStyle::SP_DialogOpenButton));
     file->addMenu(createRecentMenu());
     addItem(file, QT_TR_NOOP("&Connect to Camera…"), QKeySequence(tr("Ctrl+K")), SLOT(connectToCamera()))
-        ->setIcon(style()->standardIcon(QStyle::SP_DriveNetIcon));
+        ->setIcon(standardIcon(QStyle::SP_DriveNetIcon));
     m_reconnectAction =
         addItem(file, QT_TR_NOOP("&Reconnect"), QKeySequence(tr("Ctrl+R")), SLOT(reconnect()));
     m_closeAction =
@@ -543,7 +544,7 @@ void MainWindow::createHelpMenu()
             QT_TR_NOOP("Brings back the messages that were silenced"));
     help->addSeparator();
     addItem(help, QT_TR_NOOP("&About…"), {}, SLOT(about()))
-        ->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
+        ->setIcon(standardIcon(QStyle::SP_MessageBoxInformation));
 }
 
 QMenu *MainWindow::createLevelMenu(QMenu *parent)
@@ -1095,6 +1096,14 @@ void MainWindow::connectSaving()
     connect(m_tree, SIGNAL(newText(QString)), this, SLOT(saveSoon()));
     connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(saveSoon()));
     connect(m_monitorAction, SIGNAL(toggled(bool)), this, SLOT(saveSoon()));
+    connect(m_image, SIGNAL(stateChanged()), this, SLOT(saveSoon()));
+    const auto docks = findChildren<QDockWidget *>();
+    for (QDockWidget *const dock : docks) {
+        connect(dock, SIGNAL(visibilityChanged(bool)), this, SLOT(saveSoon()));
+        connect(dock, SIGNAL(topLevelChanged(bool)), this, SLOT(saveSoon()));
+        connect(dock, SIGNAL(dockLocationChanged(Qt::DockWidgetArea)), this, SLOT(saveSoon()));
+        dock->installEventFilter(this); // for its place and size
+    }
 }
 
 // Who comes back finds the same camera open; how it was looked at is remembered with it.
@@ -1188,6 +1197,10 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_tree && event->type() == QEvent::Resize) {
         fitColumns();
+    }
+    const bool isMoved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    if (isMoved && qobject_cast<QDockWidget *>(watched)) {
+        saveSoon();
     }
     return QMainWindow::eventFilter(watched, event);
 }

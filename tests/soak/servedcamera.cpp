@@ -6,16 +6,25 @@
 #include <cameras/aravis_p.h>
 
 #include <QCoreApplication>
+#include <QTest>
 #include <QTextStream>
 
 #include <csignal>
 
+namespace {
+
+constexpr quint32 framePeriod = 33333; // microseconds
+
+} // namespace
+
 int ServedCamera::serve()
 {
-    ArvGvFakeCamera *const server = arv_gv_fake_camera_new("127.0.0.1", "ZSOAK");
+    ArvGvFakeCamera *const server = arv_gv_fake_camera_new("127.0.0.1", "ZSERVED");
     if (!server || !arv_gv_fake_camera_is_running(server)) {
         return 1;
     }
+    arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(server),
+                                   ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US, framePeriod);
     QTextStream(stdout) << "ready" << Qt::endl;
     QTextStream(stdin).readLine();
     return 0;
@@ -23,20 +32,22 @@ int ServedCamera::serve()
 
 ServedCamera::~ServedCamera()
 {
-    kill();
+    m_process.kill();
+    m_process.waitForFinished();
 }
 
+// Events are served meanwhile: a wait for the process would count as a block of the window.
 bool ServedCamera::start()
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--serve")});
-    return m_process.waitForReadyRead(10000);
+    return QTest::qWaitFor([this] { return m_process.bytesAvailable() > 0; }, 10000);
 }
 
 void ServedCamera::kill()
 {
     m_process.kill();
-    m_process.waitForFinished();
+    (void)QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; }, 10000);
 }
 
 void ServedCamera::stop()
