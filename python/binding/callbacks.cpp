@@ -5,11 +5,29 @@
 
 #include "end.h"
 
-void requirePython()
+namespace {
+
+constexpr int maximumDepth = 64; // each takes some 20 kB of the stack
+thread_local int depth = 0;
+
+} // namespace
+
+PythonCall::PythonCall()
 {
     if (isPythonEnding()) {
         throw GenICam::RuntimeException(QStringLiteral("Python has ended"));
     }
+    m_gil.emplace();
+    if (depth == maximumDepth) {
+        PyErr_SetString(PyExc_RecursionError, "callbacks of features call each other");
+        throw PythonException::take();
+    }
+    ++depth;
+}
+
+PythonCall::~PythonCall()
+{
+    --depth;
 }
 
 Reference taken(PyObject *object)

@@ -6,8 +6,11 @@
 #include "conversion.h"
 #include "errors.h"
 
+#include <QtGlobal>
+
 #include <functional>
 #include <memory>
+#include <optional>
 
 /*! Returns whether \a callable is None. */
 inline bool isNone(PyObject *callable)
@@ -32,8 +35,18 @@ std::function<Value()> reader(PyObject *callable);
 /*! Returns a callback for SimpleCommand::onExecute(), empty for None. */
 std::function<void()> executor(PyObject *callable);
 
-/*! Throws while Python ends. */
-void requirePython();
+/*! \brief The scope of a call into Python. Throws while Python ends, and where callbacks have called each
+ * other so often that the stack would not suffice, long before Python notices. */
+class PythonCall
+{
+public:
+    PythonCall();
+    ~PythonCall();
+    Q_DISABLE_COPY_MOVE(PythonCall)
+
+private:
+    std::optional<WithGil> m_gil;
+};
 
 /*! \brief A new reference, released with the scope. */
 using Reference = std::unique_ptr<PyObject, void (*)(PyObject *)>;
@@ -44,8 +57,7 @@ Reference taken(PyObject *object);
 template <typename Convert, typename... Arguments>
 auto callPython(PyObject *callable, Convert convert, const Arguments &...arguments)
 {
-    requirePython();
-    const WithGil gil;
+    const PythonCall call;
     const Reference tuple = taken(PyTuple_New(sizeof...(arguments)));
     Py_ssize_t index = 0;
     (PyTuple_SetItem(tuple.get(), index++, taken(toPython(arguments)).release()), ...);

@@ -41,10 +41,14 @@ void runToItsEnd(SettingsTask &task)
 
 } // namespace
 
-FeatureSettings readSettings(const QList<PythonNodeMap> &nodeMaps)
+FeatureSettings readSettings(const QList<PythonNodeMap> &nodeMaps, QStringList &notes)
 {
     SettingsReader reader(shared(nodeMaps));
     runToItsEnd(reader);
+    if (reader.isLost()) {
+        throw GenICam::RuntimeException(QStringLiteral("The camera does not answer any more"));
+    }
+    notes = reader.notes();
     return reader.settings();
 }
 

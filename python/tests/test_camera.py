@@ -55,11 +55,13 @@ class Camera(unittest.TestCase):
     def test_settings(self):
         with tempfile.TemporaryDirectory() as folder:
             file = os.path.join(folder, "settings.txt")
-            zelto.FeatureSettings.read(self.maps).save(file)
+            settings, notes = zelto.FeatureSettings.read(self.maps)
+            self.assertEqual(notes, [])
+            settings.save(file)
             before = zelto.FeatureSettings.load(file)
         exposure = self.value("ExposureTime")
         self.features.parameter("ExposureTime").setValue(exposure * 2)
-        differences = before.compare(zelto.FeatureSettings.read(self.maps))
+        differences = before.compare(zelto.FeatureSettings.read(self.maps)[0])
         self.assertEqual([(each.here.name, float(each.here.value), float(each.there.value), each.kind)
                           for each in differences],
                          [("ExposureTime", exposure, exposure * 2, zelto.SettingsDifference.Kind.Different)])

@@ -162,6 +162,12 @@ class SimpleCollection(unittest.TestCase):
         parameter.setValue(3)
         self.assertEqual(parameter.value(), 3)
 
+    def test_callbacks_that_call_each_other_come_to_an_end(self):
+        parameter = self.light.addInteger("Pulse").onWrite(lambda value: parameter.setValue(value + 1)).parameter()
+        with self.assertRaises(RecursionError):
+            parameter.setValue(0)
+        self.assertEqual(parameter.value(), 0)
+
     def test_threads(self):
         count = self.light.addInteger("Count")
         parameter = count.parameter()
