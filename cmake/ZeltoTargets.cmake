@@ -142,7 +142,7 @@ Version: ${PROJECT_VERSION}
 Requires: ${requires}
 Requires.private: ${requires_private}
 Libs: -L\${libdir} -l${ARG_LIBRARY}
-Cflags: -I\${includedir} -std=c++20 -fPIC ${cflags}
+Cflags: -I\${includedir} -std=c++20 ${cflags}
 ")
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 endfunction()
