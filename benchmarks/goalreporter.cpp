@@ -17,17 +17,40 @@ bool startsWith(const std::string &text, std::string_view prefix)
     return text.compare(0, prefix.size(), prefix) == 0;
 }
 
-// Returns the library's time and the baseline's, as far as a share was asked for.
+std::string withTime(const std::string &text, double milliseconds)
+{
+    char time[40];
+    std::snprintf(time, sizeof(time), "%.2f ms", milliseconds);
+    return text + time;
+}
+
+// Returns the library's time and the baseline's for a share, and all baselines for the time alone.
 std::string timesBeside(const benchmark::UserCounters &counters, const std::string &measured)
 {
-    if (!startsWith(measured, ratioPrefix)) {
-        return {};
+    if (startsWith(measured, ratioPrefix)) {
+        const std::string name = measured.substr(ratioPrefix.size());
+        const std::string ours = withTime({}, counters.at("ours_ms").value);
+        return withTime(ours + " / " + name + ' ', counters.at(name + "_ms").value);
     }
-    const std::string name = measured.substr(ratioPrefix.size());
-    char text[80];
-    std::snprintf(text, sizeof(text), "%.2f / %.2f ms %s", counters.at("ours_ms").value,
-                  counters.at(name + "_ms").value, name.c_str());
-    return text;
+    std::string times;
+    for (const auto &[name, share] : counters) {
+        if (measured == "ours_ms" && startsWith(name, ratioPrefix)) {
+            const std::string baseline = name.substr(ratioPrefix.size());
+            times = withTime(times + (times.empty() ? "" : ", ") + baseline + ' ',
+                             counters.at(baseline + "_ms").value);
+        }
+    }
+    return times;
+}
+
+// The number of turns tells nothing here.
+std::string nameOf(const benchmark::BenchmarkReporter::Run &run, const std::string &measured)
+{
+    std::string name = run.run_name.function_name;
+    for (const std::string &part : {run.run_name.args, run.report_label}) {
+        name += part.empty() ? "" : ' ' + part;
+    }
+    return name + ' ' + measured;
 }
 
 } // namespace
@@ -56,7 +79,7 @@ void GoalReporter::take(const Run &run)
         }
         const std::string measured = name.substr(goalPrefix.size());
         const double value = run.counters.at(measured).value;
-        const std::string figure = run.run_name.str() + " " + measured;
+        const std::string figure = nameOf(run, measured);
         const auto [place, isNew] = m_places.emplace(figure, m_rows.size());
         if (isNew) {
             m_rows.push_back({figure, value, timesBeside(run.counters, measured), goal.value});

@@ -27,7 +27,7 @@ private:
     {
         std::string figure;
         double measured = 0.0;
-        std::string baseline; //!< what was measured beside it, for a share
+        std::string baseline; //!< what was measured beside it
         double goal = 0.0;
     };
 

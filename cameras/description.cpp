@@ -576,8 +576,8 @@ void Description::collectCostly()
     if (!costly.isEmpty()) {
         Core::Logging::createLogEntry(
             Core::Logging::ELogLevel::Warning, logCategory(),
-            tr("%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)")
-                .arg(costly.size())
+            tr("%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)", nullptr,
+               int(costly.size()))
                 .arg(m_modelName)
                 .arg(mostEvaluations)
                 .arg(mostEvaluationsInAll)

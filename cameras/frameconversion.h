@@ -34,13 +34,16 @@ public:
         double white = 1.0; //!< that which is shown white
         bool marksExtremes = false; //!< the largest value red, zero blue; looks at each pixel of the part
 
+        /*! Returns whether all of it is the same. */
         bool operator==(const Look &other) const = default;
     };
 
     /*! Returns whether frames of \a format can be shown. */
     static bool canConvert(PixelFormat format);
 
+    /*! Returns how values become brightness, as they are where nothing was set. */
     Look look() const { return m_look; }
+    /*! Sets how values become brightness, from the next image on. */
     void setLook(const Look &look);
 
     /*! Returns the pixels \a part of \a frame as an image of \a size. Null where the frame has no such

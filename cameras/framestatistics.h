@@ -16,6 +16,7 @@ namespace Cameras {
 /*! \brief How often each value occurs in a frame, all pixels that have come counted. */
 struct Histogram
 {
+    /*! \brief Of one channel. */
     struct Channel
     {
         QString name; //!< as in FrameValues
@@ -31,11 +32,12 @@ struct Histogram
 /*! \brief What a part of a frame is like. */
 struct PartStatistics
 {
+    /*! \brief Of one channel. */
     struct Channel
     {
         QString name; //!< as in FrameValues
-        quint64 values = 0;
-        double mean = 0.0;
+        quint64 values = 0; //!< that have come
+        double mean = 0.0; //!< of these
         double deviation = 0.0; //!< the standard deviation
     };
 

@@ -26,21 +26,21 @@ public:
     struct Value
     {
         QString channel; //!< "R", "G", "B", "A", "Y", "U" or "V"; empty for monochrome
-        quint32 value = 0;
+        quint32 value = 0; //!< as the camera sent it
     };
 
     /*! \brief Values along a line, of one channel. */
     struct Curve
     {
-        QString channel;
+        QString channel; //!< as of a Value
         QList<QPoint> points; //!< x: place along the line, from 0; y: the value
     };
 
     /*! \brief All values of a frame, line after line without gaps. */
     struct Samples
     {
-        int width = 0;
-        int height = 0;
+        int width = 0; //!< in pixels
+        int height = 0; //!< in pixels
         int channels = 0; //!< of a pixel: 1, or red, green, blue and perhaps alpha; 0 when there are none
         int bits = 0; //!< that a value can have
         QByteArray bytes; //!< one byte for a value of up to 8 bits, else two, the lower first

@@ -21,8 +21,8 @@ class Session;
 struct StreamStatistics
 {
     double framesPerSecond = 0; //!< of the last seconds
-    quint64 complete = 0;
-    quint64 incomplete = 0;
+    quint64 complete = 0; //!< frames
+    quint64 incomplete = 0; //!< frames that lack packets
     quint64 dropped = 0; //!< came too fast for the reader, or not at all
     double bytesPerSecond = 0; //!< of the last seconds
 };

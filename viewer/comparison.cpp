@@ -4,6 +4,7 @@
 #include "comparison.h"
 
 #include "cameradialog.h"
+#include "freshvalues.h"
 #include "settingsorigin.h"
 
 #include <cameras/camera.h>
@@ -94,6 +95,7 @@ void Comparison::close()
     endOpening();
     m_reader.reset();
     m_applier.reset();
+    m_takenOver.reset();
     m_other.reset();
     m_nodeMaps.clear();
     setBusy(false);
@@ -102,7 +104,8 @@ void Comparison::close()
 
 bool Comparison::canStart() const
 {
-    return !m_isBusy && m_canRead && !m_opening && !m_reader && !m_applier && !m_nodeMaps.isEmpty();
+    return !m_isBusy && m_canRead && !m_opening && !m_reader && !m_applier && !m_takenOver
+        && !m_nodeMaps.isEmpty();
 }
 
 void Comparison::setBusy(bool busy)
@@ -282,6 +285,36 @@ void Comparison::onTakenOver()
         emit failed(applier->report().summary(), applier->report().problems().join(QLatin1Char('\n')));
     }
     if (!applier->isLost()) {
-        compareAgain();
+        compareWhenShown(applier->report());
     }
+}
+
+// The tree rests while the camera is read, and would show until then what was there before.
+void Comparison::compareWhenShown(const SettingsReport &report)
+{
+    QList<FreshValues::ParameterPtr> changed;
+    for (const SettingsReport::Entry &entry : report.entries) {
+        const auto nodeMap =
+            std::find_if(m_nodeMaps.cbegin(), m_nodeMaps.cend(), [&entry](const SettingsNodeMap &known) {
+                return known.name == entry.setting.nodeMap;
+            });
+        const bool isWritten =
+            entry.result == SettingsReport::Result::Set || entry.result == SettingsReport::Result::Different;
+        if (isWritten && nodeMap != m_nodeMaps.cend()) {
+            changed.append(nodeMap->collection->parameter(entry.setting.name));
+        }
+    }
+    if (changed.isEmpty()) {
+        compareAgain();
+        return;
+    }
+    m_takenOver = std::make_unique<FreshValues>(changed);
+    connect(m_takenOver.get(), SIGNAL(finished()), this, SLOT(onShown()));
+    m_takenOver->request();
+}
+
+void Comparison::onShown()
+{
+    m_takenOver.release()->deleteLater(); // it is the sender
+    compareAgain();
 }

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+class FreshValues;
 class QAction;
 class QMenu;
 class QProgressDialog;
@@ -77,11 +78,13 @@ private slots:
     void compareAgain();
     void takeOver(const FeatureSettings &settings);
     void onTakenOver();
+    void onShown();
 
 private:
     void openOther(std::unique_ptr<Cameras::CameraOpening> opening, const QString &name);
     void compareWith(std::unique_ptr<Cameras::Camera> other);
     void compareWith(const QString &title, const FeatureSettings &there, bool onlyKnown);
+    void compareWhenShown(const SettingsReport &report);
     bool canStart() const;
     void updateActions();
 
@@ -101,4 +104,5 @@ private:
     std::unique_ptr<Cameras::Camera> m_other; // while it is read
     std::unique_ptr<SettingsReader> m_reader;
     std::unique_ptr<SettingsApplier> m_applier;
+    std::unique_ptr<FreshValues> m_takenOver; // on their way to the tree
 };

@@ -4,7 +4,8 @@
 #include "freshvalues.h"
 
 #include <QEventLoop>
-#include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -16,6 +17,9 @@ FreshValues::FreshValues(const QList<ParameterPtr> &parameters, QObject *parent)
     : QObject(parent)
     , m_parameters(parameters)
 {
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(longestWait);
+    connect(&m_patience, SIGNAL(timeout()), this, SIGNAL(finished()));
     for (const ParameterPtr &parameter : parameters) {
         connect(
             parameter.data(),
@@ -28,25 +32,28 @@ FreshValues::~FreshValues() = default;
 
 bool FreshValues::read()
 {
+    QEventLoop loop;
+    connect(this, SIGNAL(finished()), &loop, SLOT(quit()), Qt::QueuedConnection);
+    request();
+    loop.exec();
+    return m_awaited.isEmpty();
+}
+
+void FreshValues::request()
+{
     for (const ParameterPtr &parameter : std::as_const(m_parameters)) {
         m_awaited.insert(parameter.data());
     }
-    QEventLoop loop;
-    connect(this, SIGNAL(complete()), &loop, SLOT(quit()));
-    QTimer::singleShot(longestWait, &loop, SLOT(quit()));
+    m_patience.start();
     for (const ParameterPtr &parameter : std::as_const(m_parameters)) {
         parameter->scheduleParameterDataChangedCheck(true);
     }
-    if (!m_awaited.isEmpty()) {
-        loop.exec();
-    }
-    return m_awaited.isEmpty();
 }
 
 void FreshValues::onData()
 {
-    m_awaited.remove(sender());
-    if (m_awaited.isEmpty()) {
-        emit complete();
+    if (m_awaited.remove(sender()) && m_awaited.isEmpty()) {
+        m_patience.stop();
+        emit finished();
     }
 }

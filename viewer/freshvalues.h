@@ -10,8 +10,9 @@
 #include <QSet>
 #include <QSharedPointer>
 #include <QString>
+#include <QTimer>
 
-/*! \brief Reads features anew from the camera and waits for it. */
+/*! \brief Reads features anew from the camera. */
 class FreshValues : public QObject
 {
     Q_OBJECT
@@ -25,9 +26,12 @@ public:
     /*! Has all features read. Returns whether each of them has answered in time; runs the event loop
      * meanwhile. */
     bool read();
+    /*! Has all features read and returns at once. */
+    void request();
 
 signals:
-    void complete();
+    /*! All features have answered, or not in time. */
+    void finished();
 
 private slots:
     void onData();
@@ -35,4 +39,5 @@ private slots:
 private:
     QList<ParameterPtr> m_parameters;
     QSet<QObject *> m_awaited;
+    QTimer m_patience;
 };

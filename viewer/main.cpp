@@ -25,6 +25,7 @@
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
+#include <QTimer>
 
 #include <cstdlib>
 #include <exception>
@@ -38,6 +39,7 @@ CameraAddress addressIn(const Options &options)
 
 constexpr int exitBadInput = 2;
 constexpr QSize gallerySize(640, 480);
+constexpr int openingPatience = 150; // milliseconds
 
 QStringList argumentsFrom(int argc, char **argv)
 {
@@ -197,6 +199,24 @@ int saveRegisters(const Options &options)
             QCoreApplication::translate("main", "Cannot write %1: %2").arg(options.saveRegisters, failure));
 }
 
+// Shows the window with its camera or, where that takes long, with the page that says how far it is: most
+// descriptions are open before somebody could read the page, and it would be painted for nothing.
+int showWhileOpening(MainWindow &window)
+{
+    QTimer patience;
+    patience.setSingleShot(true);
+    QObject::connect(&patience, &QTimer::timeout, &window, &QWidget::show);
+    QObject::connect(
+        &window, &MainWindow::cameraOpened, &patience,
+        [&window, &patience] {
+            patience.stop();
+            window.show();
+        },
+        Qt::SingleShotConnection);
+    patience.start(openingPatience);
+    return QApplication::exec();
+}
+
 int run(const Options &options)
 {
     if (options.list) {
@@ -220,7 +240,7 @@ int run(const Options &options)
             Qt::SingleShotConnection);
         setLevel(tree, options); // before there are rows that would be laid out twice
         window.openCamera(address);
-        return show(window, options);
+        return showWhileOpening(window);
     }
     window.setRemembering(false);
     setLevel(tree, options);

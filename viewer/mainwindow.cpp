@@ -48,6 +48,7 @@
 #include <zeltoviewercomponents/settings/settingscomparisonwidget.h>
 #include <zeltoviewercomponents/settings/settingsprogress.h>
 #include <zeltoviewercomponents/settings/settingstask.h>
+#include <zeltoviewercomponents/standardicon.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -479,10 +480,10 @@ void MainWindow::createFileMenu()
 {
     QMenu *const file = addMenu(QT_TR_NOOP("&File"));
     addItem(file, QT_TR_NOOP("&Open Description File…"), QKeySequence::Open, SLOT(openDescriptionFile()))
-        ->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+        ->setIcon(standardIcon(QStyle::SP_DialogOpenButton));
     file->addMenu(createRecentMenu());
     addItem(file, QT_TR_NOOP("&Connect to Camera…"), QKeySequence(tr("Ctrl+K")), SLOT(connectToCamera()))
-        ->setIcon(style()->standardIcon(QStyle::SP_DriveNetIcon));
+        ->setIcon(standardIcon(QStyle::SP_DriveNetIcon));
     m_reconnectAction =
         addItem(file, QT_TR_NOOP("&Reconnect"), QKeySequence(tr("Ctrl+R")), SLOT(reconnect()));
     m_closeAction =
@@ -543,7 +544,7 @@ void MainWindow::createHelpMenu()
             QT_TR_NOOP("Brings back the messages that were silenced"));
     help->addSeparator();
     addItem(help, QT_TR_NOOP("&About…"), {}, SLOT(about()))
-        ->setIcon(style()->standardIcon(QStyle::SP_MessageBoxInformation));
+        ->setIcon(standardIcon(QStyle::SP_MessageBoxInformation));
 }
 
 QMenu *MainWindow::createLevelMenu(QMenu *parent)

@@ -36,8 +36,6 @@ MessageBar::MessageBar(QWidget *parent)
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
-    m_icon->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(fontMetrics().height() * 3 / 2));
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -125,6 +123,10 @@ void MessageBar::updateText()
     m_text->setText(lines.join(QLatin1Char('\n')));
     m_text->setAccessibleName(m_text->text());
     announce();
+    if (m_icon->pixmap().isNull()) {
+        m_icon->setPixmap(
+            style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(fontMetrics().height() * 3 / 2));
+    }
     m_text->setToolTip(
         m_count > 1 ? Qt::convertFromPlainText(texts().join(QStringLiteral("\n\n")), Qt::WhiteSpaceNormal)
                     : QString());

@@ -74,9 +74,12 @@
         <source>there are more than %1 nodes</source>
         <translation>es sind mehr als %1 Knoten</translation>
     </message>
-    <message>
-        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
-        <translation>%1 Merkmale von %2 werden nicht gelesen: eines darf %3 Auswertungen brauchen, alle zusammen %4 (%5)</translation>
+    <message numerus="yes">
+        <source>%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)</source>
+        <translation>
+            <numerusform>%n Merkmal von %1 wird nicht gelesen: eines darf %2 Auswertungen brauchen, alle zusammen %3 (%4)</numerusform>
+            <numerusform>%n Merkmale von %1 werden nicht gelesen: eines darf %2 Auswertungen brauchen, alle zusammen %3 (%4)</numerusform>
+        </translation>
     </message>
     <message>
         <source>the registers take more than %1 MiB</source>

@@ -74,9 +74,12 @@
         <source>there are more than %1 nodes</source>
         <translation>hay más de %1 nodos</translation>
     </message>
-    <message>
-        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
-        <translation>no se leen %1 parámetros de %2: uno puede requerir %3 evaluaciones, y todos juntos %4 (%5)</translation>
+    <message numerus="yes">
+        <source>%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)</source>
+        <translation>
+            <numerusform>no se lee %n parámetro de %1: uno puede requerir %2 evaluaciones, y todos juntos %3 (%4)</numerusform>
+            <numerusform>no se leen %n parámetros de %1: uno puede requerir %2 evaluaciones, y todos juntos %3 (%4)</numerusform>
+        </translation>
     </message>
     <message>
         <source>the registers take more than %1 MiB</source>

@@ -74,9 +74,12 @@
         <source>there are more than %1 nodes</source>
         <translation>il y a plus de %1 nœuds</translation>
     </message>
-    <message>
-        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
-        <translation>%1 paramètres sur %2 ne sont pas lus : l'un d'eux peut demander %3 évaluations, tous ensemble %4 (%5)</translation>
+    <message numerus="yes">
+        <source>%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)</source>
+        <translation>
+            <numerusform>%n paramètre de %1 n'est pas lu : l'un d'eux peut demander %2 évaluations, tous ensemble %3 (%4)</numerusform>
+            <numerusform>%n paramètres de %1 ne sont pas lus : l'un d'eux peut demander %2 évaluations, tous ensemble %3 (%4)</numerusform>
+        </translation>
     </message>
     <message>
         <source>the registers take more than %1 MiB</source>

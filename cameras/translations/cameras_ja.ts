@@ -74,9 +74,11 @@
         <source>there are more than %1 nodes</source>
         <translation>ノードが %1 個を超えています</translation>
     </message>
-    <message>
-        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
-        <translation>%2 個中 %1 個のパラメーターは読み取られません: 1 個で %3 回、全体で %4 回の評価が必要になる可能性があります (%5)</translation>
+    <message numerus="yes">
+        <source>%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)</source>
+        <translation>
+            <numerusform>%1 のパラメーター %n 個は読み取られません: 許される評価は 1 個につき %2 回、全体で %3 回までです (%4)</numerusform>
+        </translation>
     </message>
     <message>
         <source>the registers take more than %1 MiB</source>

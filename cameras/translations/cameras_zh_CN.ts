@@ -74,9 +74,11 @@
         <source>there are more than %1 nodes</source>
         <translation>节点超过 %1 个</translation>
     </message>
-    <message>
-        <source>%1 features of %2 are not read: one may take %3 evaluations, all together %4 (%5)</source>
-        <translation>有 %1 个参数（共 %2 个）不读取：单个可能需要 %3 次求值，全部共需 %4 次 (%5)</translation>
+    <message numerus="yes">
+        <source>%n feature(s) of %1 not read: one may take %2 evaluations, all together %3 (%4)</source>
+        <translation>
+            <numerusform>%1 的 %n 个参数不读取：单个参数最多允许 %2 次求值，全部共 %3 次 (%4)</numerusform>
+        </translation>
     </message>
     <message>
         <source>the registers take more than %1 MiB</source>

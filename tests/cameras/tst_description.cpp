@@ -299,7 +299,7 @@ void TestDescription::costlyFeaturesAreUnreadable()
     QCOMPARE(collection->parameter("K0")->parameterData()->isReadable, isReadable);
     QCOMPARE(collection->parameter("Limited")->parameterData()->isReadable, isReadable);
     QVERIFY(collection->parameter("Good")->parameterData()->isReadable);
-    QCOMPARE(log.messages().filter("2 features of Model are not read").isEmpty(), isReadable);
+    QCOMPARE(log.messages().filter("2 feature(s) of Model not read").isEmpty(), isReadable);
 }
 
 // The quotients that the processor refuses would end the program.

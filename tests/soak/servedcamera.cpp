@@ -6,6 +6,7 @@
 #include <cameras/aravis_p.h>
 
 #include <QCoreApplication>
+#include <QTest>
 #include <QTextStream>
 
 #include <csignal>
@@ -31,20 +32,22 @@ int ServedCamera::serve()
 
 ServedCamera::~ServedCamera()
 {
-    kill();
+    m_process.kill();
+    m_process.waitForFinished();
 }
 
+// Events are served meanwhile: a wait for the process would count as a block of the window.
 bool ServedCamera::start()
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--serve")});
-    return m_process.waitForReadyRead(10000);
+    return QTest::qWaitFor([this] { return m_process.bytesAvailable() > 0; }, 10000);
 }
 
 void ServedCamera::kill()
 {
     m_process.kill();
-    m_process.waitForFinished();
+    (void)QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; }, 10000);
 }
 
 void ServedCamera::stop()

@@ -163,6 +163,16 @@ void TestHistory::comparesWithTheStateWhenOpened()
     QTRY_COMPARE(rows->rowCount(), 2);
     QVERIFY(panel->isVisible());
     QCOMPARE(rows->index(1, 0).data().toString(), QStringLiteral("Gain [GainSelector=All]"));
+    QStringList shown; // by the tree, whenever the camera is about to be written or read
+    FeatureTreeWidget *const tree = m_window->featureTree();
+    QVERIFY(tree->showFeature(QStringLiteral("@CameraDevice/DeviceUserID")));
+    const auto shownValue = [tree] {
+        return tree->treeView()->currentIndex().siblingAtColumn(1).data().toString();
+    };
+    QTRY_COMPARE(shownValue(), QStringLiteral("lab"));
+    connect(tree, &FeatureTreeWidget::restingChanged, this, [&shown, &shownValue](bool isResting) {
+        shown += isResting ? shownValue() : QStringLiteral("-");
+    });
     const auto buttons = panel->findChildren<QToolButton *>();
     for (QToolButton *const button : buttons) {
         if (button->text() == QLatin1String("Take Over All")) {
@@ -170,6 +180,7 @@ void TestHistory::comparesWithTheStateWhenOpened()
         }
     }
     QTRY_COMPARE(rows->rowCount(), 0);
+    QCOMPARE(shown, QStringList({"lab", "-", "bench", "-"}));
     QCOMPARE(value(QStringLiteral("DeviceUserID")), QStringLiteral("bench"));
     QTest::keySequence(m_window->featureTree()->treeView(), QKeySequence::Undo); // one step
     QTRY_COMPARE(value(QStringLiteral("DeviceUserID")), QStringLiteral("lab"));

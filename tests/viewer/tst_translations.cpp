@@ -194,7 +194,7 @@ void TestTranslations::languagesHaveTheSameTexts_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("language");
-    for (const char *const folder : {"zeltoviewercomponents", "cameras", "viewer"}) {
+    for (const char *const folder : {"platform", "zeltoviewercomponents", "cameras", "viewer"}) {
         for (const char *const language : {"es", "fr", "ja", "zh_CN"}) {
             QTest::addRow("%s_%s", folder, language)
                 << QString::fromLatin1(folder) << QString::fromLatin1(language);

@@ -5,15 +5,19 @@
 #include <zeltoviewercomponents/errorhandling/asyncerrorqueue.h>
 #include <zeltoviewercomponents/errorhandling/cstylehelper.h>
 #include <zeltoviewercomponents/errorhandling/helplink.h>
+#include <zeltoviewercomponents/standardicon.h>
 
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDesktopServices>
+#include <QIcon>
+#include <QImage>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QVBoxLayout>
@@ -51,6 +55,7 @@ private slots:
     void failureIsReported();
     void scaleFollowsTheScreen();
     void scaleFollowsTheWindow();
+    void standardIconIsThatOfTheStyle();
     void iconsAreEmbedded_data();
     void iconsAreEmbedded();
 
@@ -247,6 +252,17 @@ void TestDialogHelpers::iconsAreEmbedded()
     }
     QVERIFY(strokes > size * size / 20);
     QVERIFY(strokes < size * size / 2);
+}
+
+void TestDialogHelpers::standardIconIsThatOfTheStyle()
+{
+    const auto icon = standardIcon(QStyle::SP_DialogSaveButton);
+    const QIcon expected = QApplication::style()->standardIcon(QStyle::SP_DialogSaveButton);
+    for (const auto mode : {QIcon::Normal, QIcon::Disabled}) {
+        const QImage image = icon.pixmap(QSize(16, 16), 2.0, mode).toImage();
+        QVERIFY(!image.isNull());
+        QCOMPARE(image, expected.pixmap(QSize(16, 16), 2.0, mode).toImage());
+    }
 }
 
 int main(int argc, char *argv[])

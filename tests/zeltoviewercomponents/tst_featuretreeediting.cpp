@@ -5,6 +5,7 @@
 
 #include <support/table.h>
 
+#include <platform/parametercollection/parameterdata.h>
 #include <zeltoviewercomponents/featuretree/checkboxeditor.h>
 #include <zeltoviewercomponents/featuretree/enumeditor.h>
 #include <zeltoviewercomponents/featuretree/floateditor.h>
@@ -56,6 +57,8 @@ private slots:
     void escapesToTheRow();
     void lendsTheFocus_data() { editors(); }
     void lendsTheFocus();
+    void leavesWhatWasNotTyped_data() { editors(); }
+    void leavesWhatWasNotTyped();
     void copiesTheValue_data() { editors(); }
     void copiesTheValue();
 
@@ -348,6 +351,28 @@ void TestFeatureTreeEditing::lendsTheFocus()
     tree.settle();
     QCOMPARE(tree.writes().size(), 1);
     QVERIFY(tree.writes().constFirst().startsWith("16"));
+}
+
+// As after a settings file, until the rows have heard of it.
+void TestFeatureTreeEditing::leavesWhatWasNotTyped()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, part);
+    EditedTree tree;
+    tree.enter(name, part);
+    tree.extension()->setGenICamCallbacksEnable(false);
+    tree.change(name, [](ParameterCollection::ParameterData &data) {
+        data.valueString = "0";
+        if (auto *const integer = dynamic_cast<ParameterCollection::IntegerParameterData *>(&data)) {
+            integer->value = integer->minimum;
+        } else if (auto *const number = dynamic_cast<ParameterCollection::FloatParameterData *>(&data)) {
+            number->value = number->minimum;
+        }
+    });
+    tree.widget.setResting(true);
+    tree.settle();
+    QVERIFY(!tree.isTransientOpen());
+    QCOMPARE(tree.writes(), QStringList());
 }
 
 void TestFeatureTreeEditing::copiesTheValue()

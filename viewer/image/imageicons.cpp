@@ -4,9 +4,14 @@
 #include "imageicons.h"
 
 #include <QFont>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 #include <QPolygonF>
+#include <QRect>
+#include <QSize>
+
+#include <algorithm>
 
 namespace {
 
@@ -140,27 +145,48 @@ void draw(QPainter &painter, Symbol symbol, const QColor &colour)
     }
 }
 
-QPixmap pixmap(Symbol symbol, const QColor &colour, int size)
+/*! \brief Draws a symbol when, and as large as, it is painted. */
+class SymbolEngine : public QIconEngine
 {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(double(size) / side, double(size) / side);
-    painter.setPen(QPen(colour, 1.4));
-    draw(painter, symbol, colour);
-    return pixmap;
-}
+public:
+    SymbolEngine(Symbol symbol, const QPalette &palette)
+        : m_symbol(symbol)
+        , m_palette(palette)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        Q_UNUSED(state)
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QColor colour = m_palette.color(group, QPalette::ButtonText);
+        const int edge = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.x() + (rect.width() - edge) / 2, rect.y() + (rect.height() - edge) / 2);
+        painter->scale(double(edge) / side, double(edge) / side);
+        painter->setPen(QPen(colour, 1.4));
+        draw(*painter, m_symbol, colour);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    QIconEngine *clone() const override { return new SymbolEngine(*this); }
+
+private:
+    Symbol m_symbol;
+    QPalette m_palette;
+};
 
 } // namespace
 
 QIcon ImageIcons::icon(Symbol symbol, const QPalette &palette)
 {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64}) {
-        icon.addPixmap(pixmap(symbol, palette.color(QPalette::Active, QPalette::ButtonText), size));
-        icon.addPixmap(pixmap(symbol, palette.color(QPalette::Disabled, QPalette::ButtonText), size),
-                       QIcon::Disabled);
-    }
-    return icon;
+    return QIcon(new SymbolEngine(symbol, palette));
 }

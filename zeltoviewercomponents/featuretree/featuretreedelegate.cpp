@@ -52,6 +52,16 @@ QString representationOf(const IParameter &parameter)
     return parameter.propertyAccess()->property(QStringLiteral("Representation"));
 }
 
+constexpr const char *shownText = "_zelto_shownText"; // property of a text editor, as the row gave it
+
+// Nothing was typed, nor set by assistive technology.
+bool isUntouchedText(const QWidget *editor)
+{
+    const auto *const lineEdit = qobject_cast<const QLineEdit *>(editor);
+    const QVariant shown = editor->property(shownText);
+    return lineEdit && shown.isValid() && !lineEdit->isModified() && lineEdit->text() == shown.toString();
+}
+
 constexpr double legibleContrast = 4.5; // of letters with what they stand on
 
 constexpr double rowPadding = 10.0; // above and below the text
@@ -374,6 +384,7 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
     const auto *const lineEdit = qobject_cast<QLineEdit *>(editor);
     if (!editor->hasFocus() && !(lineEdit && EditorKeys::isBeingTyped(*lineEdit, *lineEdit))) {
         QStyledItemDelegate::setEditorData(editor, index);
+        editor->setProperty(shownText, lineEdit ? lineEdit->text() : QVariant());
     }
 }
 
@@ -381,13 +392,14 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
                                        const QModelIndex &index) const
 {
     auto *const itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
+    auto *const integerEditor = qobject_cast<IntEditor *>(editor);
+    const bool isUntouched = integerEditor ? integerEditor->isUntouched() : isUntouchedText(editor);
+    if (isUntouched && index.column() == FeatureTreeColumns::value) {
+        return; // what it shows may be out of date
+    }
     if (index.column() != FeatureTreeColumns::value || !itemEditor) {
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
-    }
-    auto *const integerEditor = qobject_cast<IntEditor *>(editor);
-    if (integerEditor && integerEditor->isUntouched()) {
-        return; // what it shows may be out of date
     }
     const QPersistentModelIndex row(index); // a device that is lost by the write may take its rows away
     const QVariant value = itemEditor->editorData();

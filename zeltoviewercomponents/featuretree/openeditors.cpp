@@ -157,10 +157,10 @@ bool OpenEditors::equipRows(const QModelIndexList &rows, int milliseconds)
         if (m_view->indexWidget(index) || !m_wantsEditor(index)) {
             continue;
         }
-        if (clock.elapsed() >= milliseconds) {
-            return false;
-        }
         open(index);
+        if (clock.elapsed() >= milliseconds) {
+            return false; // after one at least, however slow the machine is
+        }
     }
     return true;
 }

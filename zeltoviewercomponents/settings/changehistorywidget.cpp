@@ -9,6 +9,7 @@
 #include <platform/core/livetexts.h>
 #include <platform/core/savefile.h>
 #include <zeltoviewercomponents/errorhandling/messagefunctions.h>
+#include <zeltoviewercomponents/standardicon.h>
 
 #include <QAction>
 #include <QApplication>
@@ -59,7 +60,7 @@ ChangeHistoryWidget::ChangeHistoryWidget(ChangeHistory *history, QWidget *parent
     m_view = new SearchedListView(m_filter, this);
     m_texts->add(m_view, &QWidget::setAccessibleName, [] { return tr("Changes"); });
     m_copy->setShortcut(QKeySequence::Copy);
-    m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    m_save->setIcon(standardIcon(QStyle::SP_DialogSaveButton));
     layOut();
     connect(m_view, SIGNAL(chosen()), this, SLOT(goToFeature()));
     connect(m_view, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showMenu(QPoint)));

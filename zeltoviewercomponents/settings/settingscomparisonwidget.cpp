@@ -7,6 +7,7 @@
 #include "searchedlistview_p.h"
 
 #include <platform/core/livetexts.h>
+#include <zeltoviewercomponents/standardicon.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -43,7 +44,7 @@ SettingsComparisonWidget::SettingsComparisonWidget(QWidget *parent)
                  [] { return tr("Sets the values from there that are selected"); });
     m_texts->add(m_takeOverAll, &QAction::setToolTip,
                  [] { return tr("Sets all values from there that are shown"); });
-    m_refresh->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));
+    m_refresh->setIcon(standardIcon(QStyle::SP_BrowserReload));
     m_filter->setSourceModel(m_list);
     m_view = new SearchedListView(m_filter, this);
     m_texts->add(m_view, &QWidget::setAccessibleName, [] { return tr("Differences"); });
