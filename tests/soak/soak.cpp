@@ -113,7 +113,8 @@ void Soak::lose(int number)
     if (!waitUntil([this] { return !m_window->isCameraOpen(); }, 20000)) {
         fault(QStringLiteral("the loss was not noticed"));
     }
-    if (m_window->findChild<StreamControl *>()->isRunning()) {
+    const auto *const images = m_window->findChild<StreamControl *>();
+    if (!waitUntil([images] { return !images->isRunning(); }, 1000)) {
         fault(QStringLiteral("images did not end with the camera"));
     }
     if (number % losses == 2) {

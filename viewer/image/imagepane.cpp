@@ -207,14 +207,15 @@ QWidget *ImagePane::createPlots()
     m_texts->add(m_logarithmic, &QWidget::setToolTip, [] { return tr("Shows rare values as well"); });
     m_look = new LookControls(m_plots);
     m_extremesText = new QLabel(m_plots);
-    auto *const row = new QHBoxLayout;
+    m_extremesText->setWordWrap(true);
+    auto *const row = new QHBoxLayout; // with the counts, so that the pane may be narrow
+    row->addWidget(m_extremesText, 1);
     row->addWidget(m_logarithmic);
-    row->addWidget(m_look, 1);
     auto *const layout = new QVBoxLayout(m_plots);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_histogram, 1);
-    layout->addWidget(m_extremesText);
     layout->addLayout(row);
+    layout->addWidget(m_look);
     connect(m_logarithmic, SIGNAL(toggled(bool)), m_histogram, SLOT(setLogarithmic(bool)));
     connect(m_logarithmic, SIGNAL(toggled(bool)), this, SIGNAL(stateChanged()));
     connect(m_look, SIGNAL(lookChanged()), this, SLOT(updateLook()));

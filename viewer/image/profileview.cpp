@@ -11,6 +11,7 @@
 #include <QPolygonF>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Cameras;
 
@@ -61,19 +62,28 @@ void ProfileView::paintEvent(QPaintEvent *event)
     if (isFirst) {
         return;
     }
+    // The numbers have a column of their own, so that no curve hides them.
+    const QRect place = rect().adjusted(4, 1, -4, -1);
+    const int left =
+        place.left() + std::max(numberWidth(lowest), numberWidth(highest)) + fontMetrics().averageCharWidth();
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, QString::number(highest));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom, QString::number(lowest));
     painter.setRenderHint(QPainter::Antialiasing);
     const double room = height() - 4.0;
     const double range = std::max(highest - lowest, 1);
     for (const FrameValues::Curve &curve : std::as_const(m_curves)) {
         QPolygonF line;
         for (const QPoint &point : curve.points) {
-            line.append(
-                {double(point.x()) / last * width(), height() - 2.0 - (point.y() - lowest) / range * room});
+            line.append({left + double(point.x()) / last * (place.right() - left),
+                         height() - 2.0 - (point.y() - lowest) / range * room});
         }
         painter.setPen(plotColour(curve.channel, palette()));
         painter.drawPolyline(line);
     }
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(rect().adjusted(4, 1, -4, -1), Qt::AlignLeft | Qt::AlignTop, QString::number(highest));
-    painter.drawText(rect().adjusted(4, 1, -4, -1), Qt::AlignLeft | Qt::AlignBottom, QString::number(lowest));
+}
+
+int ProfileView::numberWidth(int number) const
+{
+    return fontMetrics().horizontalAdvance(QString::number(number));
 }

@@ -26,5 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int numberWidth(int number) const;
+
     QList<Cameras::FrameValues::Curve> m_curves;
 };
