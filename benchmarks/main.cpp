@@ -3,6 +3,10 @@
 
 #include "goalreporter.h"
 
+#ifdef ZELTO_VIEWER_PROGRAM
+#include <soak/servedcamera.h>
+#endif
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -11,6 +15,11 @@
 
 int main(int argc, char **argv)
 {
+#ifdef ZELTO_VIEWER_PROGRAM
+    if (argc == 2 && qstrcmp(argv[1], "--serve") == 0) {
+        return ServedCamera::serve();
+    }
+#endif
     // Windows need no display, and favorites stay out of the user's settings.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

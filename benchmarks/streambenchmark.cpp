@@ -1,21 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
-#include <cameras/aravis_p.h>
+#include "figure.h"
+#include "windows.h"
+
 #include <cameras/camera.h>
 #include <cameras/stream.h>
+#include <viewer/image/imagepane.h>
+#include <viewer/image/streamcontrol.h>
+#include <viewer/mainwindow.h>
+#include <viewer/settingsactions.h>
 
 #include <platform/parametercollection/iparameter.h>
 
-#include <benchmark/benchmark.h>
+#include <soak/servedcamera.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QObject>
+#include <QAction>
+#include <QEventLoop>
+#include <QTest>
+#include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
-#include <memory>
 
 using namespace Cameras;
 using namespace std::chrono_literals;
@@ -23,8 +30,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto streamTime = 60s;
-constexpr quint32 framePeriod = 33333; // microseconds
+constexpr int cameraRows = 350;
+constexpr int keysInTurn = 30; // so that images come in each
+constexpr int patience = 10000; // milliseconds
 
+// Of this thread, which is that of the window.
 double threadSeconds()
 {
     timespec time{};
@@ -32,61 +42,89 @@ double threadSeconds()
     return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
 }
 
-/* The engine's own GigE Vision server, with a camera of 2 megapixels. */
-struct Server
+/*! \brief The viewer on a camera of 2 megapixels with 30 frames a second, which is another process and on the
+ * loopback interface. */
+class StreamingWindow
 {
-    Server()
+public:
+    /*! Returns what went wrong, null when nothing did. */
+    const char *open()
     {
-        if (isRunning()) {
-            ArvFakeCamera *const camera = arv_gv_fake_camera_get_fake_camera(server);
-            arv_fake_camera_write_register(camera, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US,
-                                           framePeriod);
+        if (!m_server.start()) {
+            return "no GigE Vision server can be started on the loopback interface";
         }
+        m_window.setRemembering(false);
+        m_window.resize(1400, 900);
+        m_window.show();
+        m_window.openCamera(CameraAddress::ofCamera(QStringLiteral("127.0.0.1")));
+        if (!QTest::qWaitFor([this] { return m_window.isCameraOpen(); }, patience)) {
+            return "the camera was not opened";
+        }
+        set("Width", QStringLiteral("2048"));
+        set("Height", QStringLiteral("1024"));
+        return nullptr;
     }
-    ~Server() { g_clear_object(&server); }
-    Q_DISABLE_COPY_MOVE(Server)
 
-    bool isRunning() const { return server && arv_gv_fake_camera_is_running(server); }
+    /*! Starts images, and returns whether they come. */
+    bool start()
+    {
+        pane().stream()->start();
+        pane().parentWidget()->show();
+        return QTest::qWaitFor([this] { return statistics().complete > 2; }, patience);
+    }
 
-    ArvGvFakeCamera *server = arv_gv_fake_camera_new("127.0.0.1", "ZBENCH");
+    void stop()
+    {
+        pane().stream()->stop();
+        QTest::qWait(200); // until the camera has stopped as well
+    }
+
+    void showHistogram()
+    {
+        const auto actions = pane().actions();
+        const auto isHistogram = [](const QAction *action) { return action->shortcut() == Qt::Key_H; };
+        (*std::find_if(actions.begin(), actions.end(), isHistogram))->setChecked(true);
+    }
+
+    StreamStatistics statistics() { return pane().stream()->camera()->stream()->statistics(); }
+
+private:
+    ImagePane &pane() { return *m_window.findChild<ImagePane *>(); }
+
+    void set(const char *feature, const QString &value)
+    {
+        const auto nodeMap = m_window.settings()->nodeMaps().constFirst();
+        nodeMap.collection->parameter(QLatin1String(feature))->setValueFromString(value);
+    }
+
+    ServedCamera m_server; // outlives the window
+    MainWindow m_window;
 };
 
-void set(const Camera &camera, const char *feature, const QString &value)
-{
-    camera.nodeMaps().constFirst().collection->parameter(QLatin1String(feature))->setValueFromString(value);
-}
-
-// Returns the part of its time that this thread, which takes each frame, was busy.
-double follow(Stream &stream, std::chrono::seconds time)
-{
-    const double begin = threadSeconds();
-    const QDeadlineTimer deadline(time);
-    stream.start();
-    while (!deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-        stream.takeNewest();
-    }
-    stream.stop();
-    return (threadSeconds() - begin) / std::chrono::duration<double>(time).count();
-}
-
-// A camera on the loopback interface with 2 megapixels at 30 frames a second, for a minute.
+// With the histogram, for a minute.
 void streamFromLoopback(benchmark::State &state)
 {
-    const Server server;
-    if (!server.isRunning()) {
-        state.SkipWithError("no GigE Vision server can be started on the loopback interface");
+    StreamingWindow window;
+    if (const char *const failure = window.open()) {
+        state.SkipWithError(failure);
         return;
     }
-    const auto camera = Camera::openLive(QStringLiteral("127.0.0.1"));
-    set(*camera, "Width", QStringLiteral("2048"));
-    set(*camera, "Height", QStringLiteral("1024"));
+    window.showHistogram();
+    if (!window.start()) {
+        state.SkipWithError("no images came");
+        return;
+    }
     double busy = 0;
     for (auto _ : state) {
-        busy = follow(*camera->stream(), streamTime);
+        const double begin = threadSeconds();
+        QEventLoop loop; // as in the program, without the naps of QTest::qWait()
+        QTimer::singleShot(streamTime, &loop, SLOT(quit()));
+        loop.exec();
+        busy = (threadSeconds() - begin) / std::chrono::duration<double>(streamTime).count();
         state.SetIterationTime(busy);
     }
-    const StreamStatistics statistics = camera->stream()->statistics();
+    const StreamStatistics statistics = window.statistics();
+    window.stop();
     state.counters["frames"] = double(statistics.complete);
     state.counters["per_second"] = statistics.framesPerSecond;
     state.counters["lost"] = double(statistics.dropped + statistics.incomplete);
@@ -95,5 +133,43 @@ void streamFromLoopback(benchmark::State &state)
     state.counters["goal_busy_percent"] = 30;
 }
 BENCHMARK(streamFromLoopback)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// Returns what a key takes of this thread, in seconds; with what it does of images in between.
+double typeKeys(Window &tree)
+{
+    double busy = 0;
+    for (int i = 0; i < keysInTurn; ++i) {
+        const double begin = threadSeconds();
+        tree.search(QStringLiteral("t"));
+        busy += threadSeconds() - begin;
+        tree.search(QString());
+        QTest::qWait(7); // another place between two frames
+    }
+    return busy / keysInTurn;
+}
+
+// A key in the tree of a camera, until painted, while images come beside the same while none do.
+void searchKeyWhileStreaming(benchmark::State &state)
+{
+    StreamingWindow window;
+    if (const char *const failure = window.open()) {
+        state.SkipWithError(failure);
+        return;
+    }
+    Window tree(makeCamera(featureNames(cameraRows), Kinds::Usual));
+    typeKeys(tree); // what is made once is made
+    Figure figure(state);
+    for (auto _ : state) {
+        if (!window.start()) {
+            state.SkipWithError("no images came");
+            return;
+        }
+        figure.oursTook(typeKeys(tree));
+        window.stop();
+        figure.baselineTook("still", typeKeys(tree));
+    }
+    figure.wantShareOf("still", 1.3);
+}
+BENCHMARK(searchKeyWhileStreaming)->Iterations(12)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

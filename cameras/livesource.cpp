@@ -12,6 +12,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <exception>
 #include <limits>
 #include <utility>
 
@@ -87,8 +88,20 @@ LiveSource::Shape LiveSource::featuredShape() const
     return {{quint32(feature("PixelFormat"))}, feature("Width"), feature("Height")};
 }
 
+// A camera that was left sending, by a program that crashed or a connection that was cut, would send on
+// there.
+void LiveSource::endFormer()
+{
+    try {
+        engine().executeNamed(QStringLiteral("AcquisitionStop"));
+    } catch (const std::exception &) {
+        // It has none, or does not send.
+    }
+}
+
 void LiveSource::prepare()
 {
+    endFormer();
     m_shape = featuredShape();
     m_payloadSize = payloadSize();
     m_framesLeft = framesAskedFor(engine(), *m_description);

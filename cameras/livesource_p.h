@@ -38,6 +38,7 @@ private:
         qint64 padding = 0;
     };
 
+    void endFormer();
     qint64 payloadSize() const;
     Shape featuredShape() const;
     void pushBuffer();
@@ -49,7 +50,7 @@ private:
 
     std::shared_ptr<const Description> m_description;
     FrameSink m_sink;
-    std::shared_ptr<FrameMemory> m_memory = std::make_shared<FrameMemory>();
+    std::shared_ptr<FrameMemory> m_memory = std::make_shared<FrameMemory>(FrameMemory::Contents::Zeros);
     ArvStream *m_stream = nullptr;
     qint64 m_payloadSize = 0;
     qint64 m_framesLeft = -1; //!< until the camera ends by itself, less than 0 where it does not

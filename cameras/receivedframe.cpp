@@ -3,6 +3,8 @@
 
 #include "receivedframe_p.h"
 
+#include "backgroundthreads_p.h"
+
 #include <limits>
 #include <utility>
 
@@ -13,6 +15,7 @@ namespace {
 constexpr size_t mostSpare = 4;
 constexpr qint64 mostPixels = std::numeric_limits<qint32>::max();
 constexpr int bitsPerByte = 8;
+constexpr qsizetype quicklyCleared = 512 * 1024; // sooner than a thread begins
 
 } // namespace
 
@@ -43,6 +46,11 @@ void ReceivedFrame::setSize(Frame &frame, qint64 width, qint64 height, qint64 pa
     }
 }
 
+FrameMemory::FrameMemory(Contents contents)
+    : m_contents(contents)
+{
+}
+
 // Nothing of another program's memory is ever shown where parts of an image are missing.
 QByteArray FrameMemory::take(qsizetype size)
 {
@@ -67,11 +75,32 @@ FramePointer FrameMemory::shared(Frame frame)
     });
 }
 
-// Who has copied the bytes keeps them.
+// Who has copied the bytes keeps them. Neither who leaves a frame nor who receives the next one, for whom
+// each millisecond counts, waits until they are cleared.
 void FrameMemory::giveBack(QByteArray bytes)
 {
+    if (!bytes.isDetached()) {
+        return;
+    }
+    const bool isSmall = bytes.size() <= quicklyCleared;
+    if (m_contents == Contents::Zeros && isSmall) {
+        bytes.fill('\0', bytes.capacity());
+    }
+    if (m_contents == Contents::Any || isSmall) {
+        keep(std::move(bytes));
+        return;
+    }
+    auto cleared = std::make_shared<QByteArray>(std::move(bytes));
+    (void)runInBackground([memory = shared_from_this(), cleared] {
+        cleared->fill('\0', cleared->capacity());
+        memory->keep(std::move(*cleared));
+    });
+}
+
+void FrameMemory::keep(QByteArray bytes)
+{
     const std::lock_guard lock(m_mutex);
-    if (bytes.isDetached() && m_spare.size() < mostSpare) {
+    if (m_spare.size() < mostSpare) {
         m_spare.push_back(std::move(bytes));
     }
 }

@@ -40,14 +40,21 @@ public:
 class FrameMemory : public std::enable_shared_from_this<FrameMemory>
 {
 public:
-    /*! Returns \a size bytes with any contents, unshared. */
+    /*! What is in the memory that is handed out: anything, or zeros. */
+    enum class Contents { Any, Zeros };
+
+    explicit FrameMemory(Contents contents);
+
+    /*! Returns \a size bytes, unshared. */
     QByteArray take(qsizetype size);
     /*! Returns \a frame for readers. */
     FramePointer shared(Frame frame);
 
 private:
     void giveBack(QByteArray bytes);
+    void keep(QByteArray bytes);
 
+    const Contents m_contents;
     std::mutex m_mutex;
     std::vector<QByteArray> m_spare;
 };

@@ -72,7 +72,7 @@ private:
     const Clock::time_point m_start = Clock::now();
 
     // The thread's alone.
-    std::shared_ptr<FrameMemory> m_memory = std::make_shared<FrameMemory>();
+    std::shared_ptr<FrameMemory> m_memory = std::make_shared<FrameMemory>(FrameMemory::Contents::Any);
     SimulatedImage m_image;
     SimulatedSettings m_settings;
     quint64 m_number = 0;

@@ -1096,6 +1096,14 @@ void MainWindow::connectSaving()
     connect(m_tree, SIGNAL(newText(QString)), this, SLOT(saveSoon()));
     connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(saveSoon()));
     connect(m_monitorAction, SIGNAL(toggled(bool)), this, SLOT(saveSoon()));
+    connect(m_image, SIGNAL(stateChanged()), this, SLOT(saveSoon()));
+    const auto docks = findChildren<QDockWidget *>();
+    for (QDockWidget *const dock : docks) {
+        connect(dock, SIGNAL(visibilityChanged(bool)), this, SLOT(saveSoon()));
+        connect(dock, SIGNAL(topLevelChanged(bool)), this, SLOT(saveSoon()));
+        connect(dock, SIGNAL(dockLocationChanged(Qt::DockWidgetArea)), this, SLOT(saveSoon()));
+        dock->installEventFilter(this); // for its place and size
+    }
 }
 
 // Who comes back finds the same camera open; how it was looked at is remembered with it.
@@ -1189,6 +1197,10 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_tree && event->type() == QEvent::Resize) {
         fitColumns();
+    }
+    const bool isMoved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    if (isMoved && qobject_cast<QDockWidget *>(watched)) {
+        saveSoon();
     }
     return QMainWindow::eventFilter(watched, event);
 }

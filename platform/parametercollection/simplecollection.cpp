@@ -44,6 +44,15 @@ QString rootName()
 
 } // namespace
 
+// Keeps the node while it is worked on: a callback may let go of its collection.
+struct SimpleHandle::Node
+{
+    QSharedPointer<IParameter> parameter;
+    SimpleNode *node;
+
+    SimpleNode *operator->() const { return node; }
+};
+
 SimpleHandle::SimpleHandle(SimpleCollection *collection, const QSharedPointer<IParameter> &parameter,
                            SimpleNode *node)
     : m_collection(collection)
@@ -54,7 +63,7 @@ SimpleHandle::SimpleHandle(SimpleCollection *collection, const QSharedPointer<IP
 
 QString SimpleHandle::name() const
 {
-    return m_node->shortName;
+    return live()->shortName;
 }
 
 QSharedPointer<IParameter> SimpleHandle::parameter() const
@@ -64,63 +73,81 @@ QSharedPointer<IParameter> SimpleHandle::parameter() const
 
 SimpleCollection *SimpleHandle::collection() const
 {
+    static_cast<void>(node()); // the pointer is looked at on its thread alone
+    if (!m_collection) {
+        throw GenICam::LogicalErrorException(QStringLiteral("The collection of the feature has gone"));
+    }
     return m_collection;
 }
 
-SimpleNode *SimpleHandle::node() const
+SimpleHandle::Node SimpleHandle::live() const
 {
-    return m_node;
+    Node live{m_parameter.toStrongRef(), m_node};
+    if (!live.parameter) {
+        throw GenICam::LogicalErrorException(QStringLiteral("The feature has gone with its collection"));
+    }
+    return live;
+}
+
+SimpleHandle::Node SimpleHandle::node() const
+{
+    Node own = live();
+    if (own.parameter->thread() != QThread::currentThread()) {
+        throw GenICam::LogicalErrorException(
+            QStringLiteral("%1 belongs to another thread").arg(own->shortName));
+    }
+    return own;
 }
 
 void SimpleHandle::setText(const QString &property, const QString &text) const
 {
-    m_node->properties.insert(property, text);
-    m_node->change([](ParameterData &) {});
+    node()->properties.insert(property, text);
+    node()->change([](ParameterData &) {});
 }
 
 void SimpleHandle::setVisibility(GenApi::EVisibility visibility) const
 {
-    m_node->change([visibility](ParameterData &data) { data.visibility = visibility; });
+    node()->change([visibility](ParameterData &data) { data.visibility = visibility; });
 }
 
 void SimpleHandle::setAccess(GenApi::EAccessMode access) const
 {
-    m_node->change([access](ParameterData &data) { data.setAccessMode(access); });
+    node()->change([access](ParameterData &data) { data.setAccessMode(access); });
 }
 
 void SimpleHandle::setAlias(const QString &name) const
 {
-    m_collection->setAliasOf(m_node->shortName, name);
+    collection()->setAliasOf(node()->shortName, name);
 }
 
 void SimpleHandle::setPollingTime(int milliseconds) const
 {
-    m_node->pollingTime = milliseconds;
+    node()->pollingTime = milliseconds;
 }
 
 void SimpleHandle::select(const QStringList &features) const
 {
     for (const QString &feature : features) {
-        m_collection->selectFeature(m_node->shortName, feature);
+        collection()->selectFeature(node()->shortName, feature);
     }
 }
 
 void SimpleHandle::setRepresentation(const QString &representation) const
 {
-    m_node->properties.insert(QStringLiteral("Representation"), representation);
-    m_node->change([&representation](ParameterData &data) {
+    node()->properties.insert(QStringLiteral("Representation"), representation);
+    node()->change([&representation](ParameterData &data) {
         if (data.type == ParameterType::Integer) {
             static_cast<IntegerParameterData &>(data).representation = representation;
         } else {
             static_cast<FloatParameterData &>(data).representation = representation;
         }
     });
-    m_node->show(shownValue()); // the text may be another one
+    node()->show(shownValue()); // the text may be another one
 }
 
 void SimpleHandle::setNotation(GenApi::EDisplayNotation notation, int precision) const
 {
-    m_node->change([notation, precision](ParameterData &data) {
+    node()->change([notation, precision](ParameterData &data) {
         static_cast<FloatParameterData &>(data).displayNotation = notation;
         static_cast<FloatParameterData &>(data).displayPrecision = precision;
     });
@@ -128,7 +155,7 @@ void SimpleHandle::setNotation(GenApi::EDisplayNotation notation, int precision)
 
 void SimpleHandle::setIntegerLimits(qint64 minimum, qint64 maximum) const
 {
-    m_node->change([minimum, maximum](ParameterData &data) {
+    node()->change([minimum, maximum](ParameterData &data) {
         static_cast<IntegerParameterData &>(data).minimum = minimum;
         static_cast<IntegerParameterData &>(data).maximum = maximum;
     });
@@ -136,14 +163,14 @@ void SimpleHandle::setIntegerLimits(qint64 minimum, qint64 maximum) const
 
 void SimpleHandle::setIntegerIncrement(qint64 increment) const
 {
-    m_node->change([increment](ParameterData &data) {
+    node()->change([increment](ParameterData &data) {
         static_cast<IntegerParameterData &>(data).increment = increment;
     });
 }
 
 void SimpleHandle::setFloatLimits(double minimum, double maximum) const
 {
-    m_node->change([minimum, maximum](ParameterData &data) {
+    node()->change([minimum, maximum](ParameterData &data) {
         static_cast<FloatParameterData &>(data).minimum = minimum;
         static_cast<FloatParameterData &>(data).maximum = maximum;
     });
@@ -151,13 +178,13 @@ void SimpleHandle::setFloatLimits(double minimum, double maximum) const
 
 void SimpleHandle::setFloatIncrement(double increment) const
 {
-    m_node->change(
+    node()->change(
         [increment](ParameterData &data) { static_cast<FloatParameterData &>(data).increment = increment; });
 }
 
 void SimpleHandle::setEntries(const QStringList &names, const QStringList &texts) const
 {
-    m_node->change([&names, &texts](ParameterData &data) {
+    node()->change([&names, &texts](ParameterData &data) {
         auto &enumeration = static_cast<EnumParameterData &>(data);
         enumeration.symbolicNames = names;
         enumeration.displayTexts = texts.mid(0, names.size()) + names.mid(texts.size());
@@ -166,7 +193,8 @@ void SimpleHandle::setEntries(const QStringList &names, const QStringList &texts
 
 QVariant SimpleHandle::shownValue() const
 {
-    const ParameterData &data = *m_node->snapshot;
+    const ParameterDataPtr snapshot = node()->snapshot;
+    const ParameterData &data = *snapshot;
     switch (data.type) {
     case ParameterType::Integer:
         return static_cast<const IntegerParameterData &>(data).value;
@@ -181,29 +209,29 @@ QVariant SimpleHandle::shownValue() const
 
 void SimpleHandle::show(const QVariant &value) const
 {
-    const QSharedPointer<IParameter> target = m_parameter.toStrongRef();
-    if (target->thread() == QThread::currentThread()) {
-        m_node->show(value);
+    const Node target = live();
+    if (target.parameter->thread() == QThread::currentThread()) {
+        target->show(value);
         return;
     }
     QMetaObject::invokeMethod(
-        target.data(), [target, node = m_node, value] { node->show(value); }, Qt::QueuedConnection);
+        target.parameter.data(), [target, value] { target->show(value); }, Qt::QueuedConnection);
 }
 
 void SimpleHandle::setReading(std::function<QVariant()> read) const
 {
-    m_node->onRead = std::move(read);
-    m_node->read(false);
+    node()->onRead = std::move(read);
+    node()->read(false);
 }
 
 void SimpleHandle::setWriting(std::function<void(const QVariant &)> write) const
 {
-    m_node->onWrite = std::move(write);
+    node()->onWrite = std::move(write);
 }
 
 void SimpleHandle::setExecution(std::function<void()> execute) const
 {
-    m_node->onExecute = std::move(execute);
+    node()->onExecute = std::move(execute);
 }
 
 SimpleInteger SimpleInteger::setRange(qint64 minimum, qint64 maximum) const
@@ -374,6 +402,9 @@ SimpleCollection::~SimpleCollection()
     for (SimpleNode *const node : std::as_const(d->nodes)) {
         node->isolate(); // parameters may outlive the collection
     }
+    d->nodes.clear();
+    // What the callbacks hold goes with them and may look at the collection, which is empty then.
+    const QHash<QString, Private::Entry> entries = std::exchange(d->entries, {});
 }
 
 QString SimpleCollection::name() const
@@ -474,14 +505,16 @@ QStringList SimpleCollection::childNames(const QString &parent, int depth, bool 
 
 void SimpleCollection::refresh()
 {
-    for (SimpleNode *const node : std::as_const(d->nodes)) {
+    const QList<SimpleNode *> nodes = d->nodes; // a callback may add parameters
+    for (SimpleNode *const node : nodes) {
         node->read(false);
     }
 }
 
 void SimpleCollection::poll(int elapsedMilliseconds)
 {
-    for (SimpleNode *const node : std::as_const(d->nodes)) {
+    const QList<SimpleNode *> nodes = d->nodes;
+    for (SimpleNode *const node : nodes) {
         node->poll(elapsedMilliseconds);
     }
 }

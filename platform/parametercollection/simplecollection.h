@@ -8,6 +8,7 @@
 #include <platform/genicam/genapi.h>
 #include <platform/platform_export.h>
 
+#include <QPointer>
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
@@ -26,21 +27,21 @@ class SimpleNode;
 /*! \brief A handle of one parameter of a SimpleCollection: what all kinds of it have in common.
  *
  * Handles are values: they are copied, kept and thrown away as one likes, and stand for the same parameter as
- * long as its collection lives.
+ * long as it lives. They do not keep it: when it has gone with its collection, everything but parameter()
+ * throws GenICam::LogicalErrorException, as it does on a thread that is not the collection's.
  */
 class ZELTO_PLATFORM_EXPORT SimpleHandle
 {
 public:
     /*! Returns the parameter's short name. */
     QString name() const;
-    /*! Returns the parameter itself. */
+    /*! Returns the parameter itself, null when it has gone. */
     QSharedPointer<IParameter> parameter() const;
 
 protected:
     SimpleHandle(SimpleCollection *collection, const QSharedPointer<IParameter> &parameter, SimpleNode *node);
 
     SimpleCollection *collection() const;
-    SimpleNode *node() const;
     void setText(const QString &property, const QString &text) const;
     void setVisibility(GenApi::EVisibility visibility) const;
     void setAccess(GenApi::EAccessMode access) const;
@@ -64,7 +65,11 @@ private:
     friend class SimpleCategory;
     friend class SimpleCollection;
 
-    SimpleCollection *m_collection;
+    struct Node;
+    Node live() const;
+    Node node() const;
+
+    QPointer<SimpleCollection> m_collection;
     QWeakPointer<IParameter> m_parameter; // its callbacks may hold the handle
     SimpleNode *m_node;
 };

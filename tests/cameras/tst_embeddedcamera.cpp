@@ -445,7 +445,9 @@ void TestEmbeddedCamera::writeReadsExactlyWhatDependsOnIt()
         return reads.join(QLatin1Char(' '));
     };
     QVERIFY(touchAll() > 15);
+    QSignalSpy refreshed(parameter("LargeCounter").data(), changed);
     m_camera->nodeMaps().first().collection->refresh();
+    QVERIFY(refreshed.wait()); // else settle() could take that for its own
     settle();
     QCOMPARE(readsAfter("Width", "640"), "LargeCounter OffsetX PayloadSize ResultingFrameRate Width");
     const auto data = parameter("OffsetX")->parameterData();

@@ -443,6 +443,9 @@ void TestStream::liveCamera()
     if (!server.isRunning()) {
         QSKIP("No GigE Vision server can be started on the loopback interface");
     }
+    // Left sending by a program that crashed.
+    arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(server.server),
+                                   ARV_FAKE_CAMERA_REGISTER_ACQUISITION, 1);
     m_camera = Camera::openLive("127.0.0.1");
     m_stream = m_camera->stream();
     write("Width", "320");
@@ -496,6 +499,14 @@ void TestStream::liveCameraIsLost()
         arv_fake_camera_get_acquisition_status(arv_gv_fake_camera_get_fake_camera(server->server)), 0U, 1000);
 }
 
+/* A part of a payload that has several; it fits into a packet. */
+struct SentPart
+{
+    quint16 type = 1; // an image
+    quint32 width = 64;
+    quint32 height = 48;
+};
+
 /* What a camera sends of an image: all numbers as they stand in its first packet. */
 struct SentImage
 {
@@ -505,6 +516,7 @@ struct SentImage
     int bytes = 64 * 48; // that are sent
     quint16 payloadType = 1;
     int lost = -1; // the packet that is not sent
+    QList<SentPart> parts{}; // in place of a single image
 };
 Q_DECLARE_METATYPE(SentImage)
 
@@ -521,6 +533,10 @@ public:
     {
         constexpr int packetSize = 1500 - 36; // without headers
         ++m_block;
+        if (!image.parts.isEmpty()) {
+            sendParts(image.parts);
+            return;
+        }
         packet(1, 0,
                number<quint16>(0) + number(image.payloadType) + number<quint64>(m_block * 1000)
                    + number(image.format) + number(image.width) + number(image.height)
@@ -535,6 +551,29 @@ public:
     }
 
 private:
+    void sendParts(const QList<SentPart> &parts)
+    {
+        constexpr quint16 manyParts = 10;
+        QByteArray leader = number<quint16>(0) + number(manyParts) + number<quint64>(m_block * 1000);
+        for (const SentPart &part : parts) {
+            leader += number(part.type) + number<quint16>(0) + number(part.width * part.height)
+                + number<quint32>(0x01080001) + QByteArray(12, '\0') + number(part.width)
+                + number(part.height) + QByteArray(16, '\0');
+        }
+        longPacket(1, int(parts.size()), 0, leader);
+        int id = 1;
+        int first = 0; // byte of the part
+        for (const SentPart &part : parts) {
+            const int size = int(part.width * part.height);
+            longPacket(7, 0, id,
+                       number(quint8(id - 1)) + number<quint8>(0) + number<quint16>(0)
+                           + number(quint32(first)) + QByteArray(size, part.type == 1 ? char(m_block) : 'x'));
+            first += size;
+            ++id;
+        }
+        longPacket(2, 0, id, number<quint16>(0) + number(manyParts));
+    }
+
     template <typename Number>
     static QByteArray number(Number value)
     {
@@ -546,6 +585,14 @@ private:
     {
         m_socket.writeDatagram(number<quint16>(0) + number(m_block) + number(quint32(kind << 24 | id))
                                    + contents,
+                               QHostAddress::LocalHost, m_port);
+    }
+
+    // With the longer numbers that several parts need.
+    void longPacket(int kind, int parts, int id, const QByteArray &contents)
+    {
+        m_socket.writeDatagram(number<quint32>(0) + number(0x80000000U | quint32(kind) << 24 | quint32(parts))
+                                   + number<quint64>(m_block) + number(quint32(id)) + contents,
                                QHostAddress::LocalHost, m_port);
     }
 
@@ -573,6 +620,13 @@ void TestStream::badFrames_data()
     row("far too many pixels", SentImage{.width = 0xffffffff, .height = 0xffffffff}, QSize(0, 0),
         QString("4294967295"));
     row("no image", SentImage{.payloadType = 4}, QSize(0, 0), QString("no image"));
+    const SentPart chunk{.type = 11, .width = 8, .height = 8};
+    row("an image among parts", SentImage{.bytes = 32 * 16, .parts = {chunk, {.width = 32, .height = 16}}},
+        QSize(32, 16), QString());
+    row("several images",
+        SentImage{.bytes = 8 * 8, .parts = {{.width = 8, .height = 8}, {.width = 32, .height = 16}}},
+        QSize(8, 8), QString());
+    row("no image among parts", SentImage{.parts = {chunk, chunk}}, QSize(0, 0), QString("no image"));
 }
 
 void TestStream::badFrames()
@@ -604,12 +658,19 @@ void TestStream::badFrames()
         const bool came = QTest::qWaitFor([&] { return (frame = m_stream->takeNewest()) != nullptr; }, 3000);
         return came ? frame : std::make_shared<const Frame>();
     };
-    QVERIFY2(sent({})->isComplete(), "the first one");
+    // Memory is used again in time.
+    for (int i = 0; i < (image.lost < 0 ? 1 : 20); ++i) {
+        QVERIFY2(sent({})->isComplete(), "the first ones");
+    }
     const FramePointer frame = sent(image);
     QVERIFY2(QSize(frame->width, frame->height) == size, qPrintable(frame->missing));
     QVERIFY2(missing.isEmpty() ? frame->isComplete() : frame->missing.contains(missing),
              qPrintable(frame->missing));
     QCOMPARE(frame->remark.contains("Chunk"), image.payloadType == 0x4001);
+    QCOMPARE(frame->remark.contains("2 parts"), frame->isComplete() && !image.parts.isEmpty());
+    if (image.lost > 0) {
+        QCOMPARE(frame->bytes.count('\0'), 1464); // nothing of an earlier image
+    }
     if (frame->isComplete()) {
         QCOMPARE(frame->pixelFormat.code, image.format);
         QCOMPARE(frame->bytes, QByteArray(image.bytes, '\2'));

@@ -31,6 +31,7 @@ private slots:
     void imposedLimits();
     void changesFromAnotherThread();
     void misuseIsToldAtOnce();
+    void handlesDoNotKeepTheirFeature();
 
 private:
     QSharedPointer<IParameter> parameter(const QString &name) const { return m_lamp->parameter(name); }
@@ -200,6 +201,18 @@ void TestSimpleCollection::changesFromAnotherThread()
     QCOMPARE(count.value(), 0);
     QTRY_COMPARE(changes.size(), 100);
     QCOMPARE(count.value(), 100);
+
+    bool isRefused = false;
+    const std::unique_ptr<QThread> wrong(QThread::create([count, &isRefused] {
+        try {
+            count.setRange(0, 1);
+        } catch (const GenICam::LogicalErrorException &) {
+            isRefused = true;
+        }
+    }));
+    wrong->start();
+    QVERIFY(wrong->wait());
+    QVERIFY(isRefused);
 }
 
 void TestSimpleCollection::misuseIsToldAtOnce()
@@ -211,6 +224,26 @@ void TestSimpleCollection::misuseIsToldAtOnce()
     LogCapture log;
     m_light->addInteger("Level").setRange(0, 10).setValue(11);
     QCOMPARE(log.messages().value(0), "@Lamp/Level shows a value that it could not be given");
+}
+
+void TestSimpleCollection::handlesDoNotKeepTheirFeature()
+{
+    const auto pulse = m_light->addInteger("Late");
+    int reads = 0;
+    pulse.onRead([this, &reads] {
+        m_light->addBoolean(QStringLiteral("Read%1").arg(++reads)); // also while all are refreshed
+        return reads;
+    });
+    m_lamp->refresh();
+    QCOMPARE(pulse.value(), 2);
+
+    const QSharedPointer<IParameter> kept = pulse.parameter();
+    m_lamp.reset();
+    QCOMPARE(pulse.setRange(0, 10).value(), 2);
+    QVERIFY_EXCEPTION_THROWN(pulse.select({"On"}), GenICam::LogicalErrorException);
+    QVERIFY_EXCEPTION_THROWN(m_light->addInteger("More"), GenICam::LogicalErrorException);
+    QVERIFY_EXCEPTION_THROWN(m_light->name(), GenICam::LogicalErrorException);
+    QVERIFY(!m_light->parameter());
 }
 
 QTEST_GUILESS_MAIN(TestSimpleCollection)

@@ -11,12 +11,20 @@
 
 #include <csignal>
 
+namespace {
+
+constexpr quint32 framePeriod = 33333; // microseconds
+
+} // namespace
+
 int ServedCamera::serve()
 {
-    ArvGvFakeCamera *const server = arv_gv_fake_camera_new("127.0.0.1", "ZSOAK");
+    ArvGvFakeCamera *const server = arv_gv_fake_camera_new("127.0.0.1", "ZSERVED");
     if (!server || !arv_gv_fake_camera_is_running(server)) {
         return 1;
     }
+    arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(server),
+                                   ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US, framePeriod);
     QTextStream(stdout) << "ready" << Qt::endl;
     QTextStream(stdin).readLine();
     return 0;

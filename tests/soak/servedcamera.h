@@ -5,8 +5,9 @@
 
 #include <QProcess>
 
-/*! \brief A GigE Vision camera on the loopback interface that is a program of its own, and can therefore be
- * stopped and killed. */
+/*! \brief A GigE Vision camera on the loopback interface that sends 30 images a second. It is a program of
+ * its own, and can therefore be stopped and killed, and takes nothing of the time of the one that watches it.
+ */
 class ServedCamera
 {
 public:

@@ -3,6 +3,9 @@
 
 #include "soak.h"
 
+#include <viewer/image/imagepane.h>
+#include <viewer/image/imageview.h>
+#include <viewer/image/streamcontrol.h>
 #include <viewer/messagebar.h>
 #include <viewer/openingpage.h>
 
@@ -75,10 +78,12 @@ int Soak::run()
         return 1;
     }
     m_window->featureTree()->setPolling(true);
+    const auto *const images = m_window->findChild<StreamControl *>();
+    QObject::connect(images, &StreamControl::frameArrived, &m_gauge, [this] { ++m_images; });
     take(m_longestBlock, blockBound, QStringLiteral("the opening"));
-    m_out
-        << "minute actions memory/kB descriptors threads block/ms write/ms (own/with waiting for a processor)"
-        << Qt::endl;
+    m_out << "minute actions images memory/kB descriptors threads block/ms write/ms (own/with waiting for a "
+             "processor)"
+          << Qt::endl;
     for (int number = 0; number < m_minutes; ++number) {
         minute(number);
     }
@@ -101,9 +106,15 @@ void Soak::minute(int number)
 
 void Soak::lose(int number)
 {
+    if (number % 2 == 0) {
+        startImages(QStringLiteral("before the loss"));
+    }
     number % losses == 0 ? m_camera.kill() : m_camera.stop();
     if (!waitUntil([this] { return !m_window->isCameraOpen(); }, 20000)) {
         fault(QStringLiteral("the loss was not noticed"));
+    }
+    if (m_window->findChild<StreamControl *>()->isRunning()) {
+        fault(QStringLiteral("images did not end with the camera"));
     }
     if (number % losses == 2) {
         hangInOpening();
@@ -147,6 +158,9 @@ void Soak::come(int number)
     } else if (!m_window->featureTree()->getPolling()) {
         fault(QStringLiteral("the polling was not taken up again"));
     }
+    if (number % 2 == 0) {
+        startImages(QStringLiteral("after the return"));
+    }
     take(m_longestBlock, blockBound, QStringLiteral("the return"));
 }
 
@@ -165,7 +179,7 @@ QString Soak::act()
 {
     ++m_actions;
     FeatureTreeWidget &tree = *m_window->featureTree();
-    switch (m_random.bounded(8)) {
+    switch (m_random.bounded(9)) {
     case 0:
     case 1:
         edit();
@@ -183,6 +197,9 @@ QString Soak::act()
     case 6:
         m_random.bounded(2) == 0 ? tree.treeView()->collapseAll() : tree.treeView()->expandAll();
         return QStringLiteral("folding");
+    case 7:
+        useImages();
+        return QStringLiteral("images");
     default:
         walk();
         return QStringLiteral("a key");
@@ -194,6 +211,11 @@ void Soak::edit()
     static const std::array features{"Width", "Height", "OffsetX", "ExposureTimeAbs", "GainRaw"};
     const QString feature = QString::fromLatin1(features.at(m_random.bounded(int(features.size()))));
     FeatureTreeWidget &tree = *m_window->featureTree();
+    // Cameras lock the size of what they send; this one goes astray instead.
+    const bool isSize = feature == QLatin1String("Width") || feature == QLatin1String("Height");
+    if (isSize && m_window->findChild<StreamControl *>()->isRunning()) {
+        return;
+    }
     if (!m_window->isCameraOpen() || !tree.showFeature(QStringLiteral("@CameraDevice/") + feature)) {
         return;
     }
@@ -236,6 +258,35 @@ void Soak::walk()
     key(keys.at(m_random.bounded(int(keys.size()))));
 }
 
+// Starts and stops, and what is done with an image; more of the latter, so that images come most of the time.
+void Soak::useImages()
+{
+    static const std::array keys{Qt::Key_F9, Qt::Key_0,    Qt::Key_1,     Qt::Key_H,
+                                 Qt::Key_X,  Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Right};
+    QWidget *const view = m_window->findChild<ImageView *>();
+    view->setFocus();
+    const Qt::Key chosen = keys.at(m_random.bounded(int(keys.size())));
+    if (chosen == Qt::Key_F9 || view->hasFocus()) {
+        key(chosen);
+    }
+}
+
+void Soak::startImages(const QString &when)
+{
+    const StreamControl &images = *m_window->findChild<StreamControl *>();
+    // A camera that was stopped may take the former connection for the one in control for a while.
+    if (!waitUntil([&images] { return images.isRunning() || images.isPossible(); }, 20000)) {
+        fault(QStringLiteral("no images were possible %1").arg(when));
+    }
+    if (!images.isRunning()) {
+        key(Qt::Key_F9);
+    }
+    const int before = m_images;
+    if (!waitUntil([this, before] { return m_images > before; }, 20000)) {
+        fault(QStringLiteral("no images came %1: %2").arg(when, images.summary()));
+    }
+}
+
 // What the window was blocked since the last time belongs to what has been done meanwhile.
 void Soak::take(Block &longest, qint64 bound, const QString &what)
 {
@@ -251,17 +302,24 @@ void Soak::take(Block &longest, qint64 bound, const QString &what)
 
 void Soak::report(int number)
 {
+    StreamControl &images = *m_window->findChild<StreamControl *>();
+    const bool wasRunning = images.isRunning();
+    images.stop();
+    QTest::qWait(1000); // the engine's buffers go with the stream
     const Holdings held = Holdings::now();
     const Block block = std::exchange(m_longestBlock, {});
     const Block write = std::exchange(m_longestWrite, {});
-    m_out << number + 1 << ' ' << std::exchange(m_actions, 0) << ' ' << held.memory << ' ' << held.descriptors
-          << ' ' << held.threads << ' ' << block.own << '/' << block.whole << ' ' << write.own << '/'
-          << write.whole << Qt::endl;
+    m_out << number + 1 << ' ' << std::exchange(m_actions, 0) << ' ' << std::exchange(m_images, 0) << ' '
+          << held.memory << ' ' << held.descriptors << ' ' << held.threads << ' ' << block.own << '/'
+          << block.whole << ' ' << write.own << '/' << write.whole << Qt::endl;
     if (number + 1 == warmUp) {
         m_warm = held;
     }
     if (m_warm) {
         judge(held);
+    }
+    if (wasRunning) {
+        images.start();
     }
 }
 

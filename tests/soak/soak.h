@@ -37,6 +37,8 @@ private:
     void search();
     void markFavorite();
     void walk();
+    void useImages();
+    void startImages(const QString &when);
     void take(Block &longest, qint64 bound, const QString &what);
     void report(int number);
     void judge(const Holdings &held);
@@ -51,6 +53,7 @@ private:
     Block m_longestBlock;
     Block m_longestWrite;
     int m_actions = 0;
+    int m_images = 0;
     std::optional<Holdings> m_warm; // what was held when everything had happened once
     QList<QString> m_faults;
 };

@@ -36,7 +36,8 @@ class TestDesktop : public QObject
 private slots:
     void initTestCase();
     void filesAgree();
-    void metainfoIsValid();
+    void filesAreValid_data();
+    void filesAreValid();
     void contentsTellTheType_data();
     void contentsTellTheType();
     void manualHasEveryOption();
@@ -79,15 +80,25 @@ void TestDesktop::filesAgree()
     QCOMPARE(release.attribute("version"), ZELTO_VERSION);
 }
 
-void TestDesktop::metainfoIsValid()
+void TestDesktop::filesAreValid_data()
 {
-    const QString validator = QStandardPaths::findExecutable("appstreamcli");
-    if (validator.isEmpty()) {
-        QSKIP("appstreamcli is not installed.");
+    QTest::addColumn<QString>("validator");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("metainfo") << "appstreamcli"
+                              << QStringList{"validate", "--no-net", "--pedantic", "--explain",
+                                             desktopFile("metainfo.xml")};
+    QTest::newRow("desktop entry") << "desktop-file-validate" << QStringList{desktopFile("desktop")};
+}
+
+void TestDesktop::filesAreValid()
+{
+    QFETCH(QString, validator);
+    QFETCH(QStringList, arguments);
+    if (QStandardPaths::findExecutable(validator).isEmpty()) {
+        QSKIP("The validator is not installed.");
     }
     QProcess process;
-    process.start(validator,
-                  {"validate", "--no-net", "--pedantic", "--explain", desktopFile("metainfo.xml")});
+    process.start(validator, arguments);
     QVERIFY(process.waitForFinished());
     const QString report = QString::fromUtf8(process.readAll());
     QVERIFY2(process.exitCode() == 0 && !report.contains(" pedantic:"), qPrintable(report));

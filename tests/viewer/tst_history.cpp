@@ -179,7 +179,6 @@ void TestHistory::comparesWithTheStateWhenOpened()
             QTest::mouseClick(button, Qt::LeftButton);
         }
     }
-    QTest::qWait(3000); for (int i = 0; i < rows->rowCount(); ++i) { qDebug() << rows->index(i,0).data() << rows->index(i,1).data() << rows->index(i,2).data(); } qDebug() << shown << value("DeviceUserID") << shownValue();
     QTRY_COMPARE(rows->rowCount(), 0);
     QCOMPARE(shown, QStringList({"lab", "-", "bench", "-"}));
     QCOMPARE(value(QStringLiteral("DeviceUserID")), QStringLiteral("bench"));

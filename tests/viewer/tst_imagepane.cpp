@@ -4,6 +4,7 @@
 #include <viewer/image/framefile.h>
 #include <viewer/image/framerecorder.h>
 #include <viewer/image/imagepane.h>
+#include <viewer/image/imagesaving.h>
 #include <viewer/image/imageview.h>
 #include <viewer/image/regionofinterest.h>
 #include <viewer/image/streamcontrol.h>
@@ -19,6 +20,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
@@ -129,6 +131,7 @@ private slots:
     void filesHaveTheValues();
     void nothingIsOverwritten();
     void recordingHasATable();
+    void lookIsRememberedAndSavingWaitsForNothing();
     void recordingEndsWithTheDisk();
     void startStopManyTimes();
     void closingWhileStreamingIsQuick();
@@ -319,7 +322,8 @@ void TestImagePane::framesMayChangeInMidStream()
     pane().showFrame(playedFrame("BayerGB12Packed", {320, 200}));
     QVERIFY(view().marks().part.isEmpty());
     pane().showFrame(playedFrame("RGB8", {640, 480}, 50, 1000));
-    QCOMPARE(qGray(view().grab().toImage().pixel(view().rect().center())), 0); // which has not come
+    const auto middle = [this] { return qGray(view().grab().toImage().pixel(view().rect().center())); };
+    QTRY_COMPARE(middle(), 0); // which has not come
     const auto odd = std::make_shared<Frame>(*playedFrame("Mono8", {64, 48}));
     odd->pixelFormat.code = 0x81234567;
     pane().showFrame(odd);
@@ -377,9 +381,7 @@ void TestImagePane::nothingIsOverwritten()
 void TestImagePane::recordingHasATable()
 {
     startImages();
-    FrameRecorder recorder;
-    connect(pane().stream(), SIGNAL(frameArrived(Cameras::FramePointer)), &recorder,
-            SLOT(add(Cameras::FramePointer)));
+    FrameRecorder &recorder = *pane().saving()->recorder();
     QSignalSpy finished(&recorder, SIGNAL(finished(int, int, QString)));
     QCOMPARE(recorder.start(m_folder->path(), 3, FrameFile::Kind::Tiff), QString());
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 20000);
@@ -392,8 +394,39 @@ void TestImagePane::recordingHasATable()
     const int first = lines[1].split(',').at(1).toInt();
     QVERIFY(lines[3].split(',').at(1).toInt() >= first + 2);
     // At the same second another recording gets another folder.
-    QCOMPARE(recorder.start(m_folder->path(), 1, FrameFile::Kind::Bytes), QString());
+    QCOMPARE(recorder.start(m_folder->path(), 1000, FrameFile::Kind::Bytes), QString());
     QVERIFY(recorder.folder() != folder.path());
+    // It outlasts a change of the region, goes on while nobody sees it, and ends with the images.
+    drag(Qt::ControlModifier, QRect(400, 300, 640, 320));
+    QTRY_VERIFY_WITH_TIMEOUT(value("Width") < 700 && pane().stream()->isRunning(), 10000);
+    pane().parentWidget()->close();
+    QVERIFY(recorder.isRecording() && pane().stream()->isRunning());
+    QSignalSpy hint(&pane(), SIGNAL(hint(QString, int)));
+    QTest::keyClick(m_window.get(), Qt::Key_F9);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 2, 10000);
+    QVERIFY(hint.constLast()[0].toString().contains(QDir::toNativeSeparators(recorder.folder())));
+}
+
+// What is changed about the pane alone is remembered as well, and no large file is waited for.
+void TestImagePane::lookIsRememberedAndSavingWaitsForNothing()
+{
+    showPane();
+    QTest::keyClick(&view(), Qt::Key_G);
+    const auto isRemembered = [] {
+        const QSettings settings;
+        const auto keys = settings.allKeys();
+        return std::any_of(keys.begin(), keys.end(), [&settings](const QString &key) {
+            return key.endsWith("Image/Grid") && settings.value(key).toBool();
+        });
+    };
+    QTRY_VERIFY(isRemembered());
+    pane().showFrame(rampFrame("BayerRG8", {4000, 3000}));
+    QSignalSpy hint(&pane(), SIGNAL(hint(QString, int)));
+    const QString path = m_folder->filePath("large.png");
+    pane().saving()->saveTo(path);
+    QVERIFY(!QFile::exists(path));
+    QTRY_COMPARE_WITH_TIMEOUT(hint.size(), 1, 60000);
+    QCOMPARE(QImage(path).size(), QSize(4000, 3000));
 }
 
 void TestImagePane::recordingEndsWithTheDisk()

@@ -154,6 +154,9 @@ int main(int argc, char **argv)
     if (argc == 2 && qstrcmp(argv[1], "--change") == 0) {
         return changeForever();
     }
+    if (qEnvironmentVariableIsSet("ZELTO_MOMENTS")) {
+        qputenv("QTEST_FUNCTION_TIMEOUT", "36000000"); // ms; all moments are one test function
+    }
     TestKilledViewer test;
     return QTest::qExec(&test, argc, argv);
 }

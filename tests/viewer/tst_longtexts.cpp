@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <viewer/cameradialog.h>
+#include <viewer/image/recorddialog.h>
 #include <viewer/mainwindow.h>
 #include <viewer/openingpage.h>
 
@@ -137,6 +138,7 @@ void TestLongTexts::nothingIsClipped_data()
         QTest::addRow("%s, right to left", name) << make << Qt::RightToLeft;
     };
     row("cameras", [] { return std::make_unique<CameraDialog>(); });
+    row("record frames", [] { return std::make_unique<RecordDialog>(QStringLiteral("/tmp")); });
     row("IP configuration", [] { return std::make_unique<IpAddressWidget>(); });
     row("report", [] { return std::make_unique<SettingsReportDialog>(sampleReport()); });
     row("question", [] {

@@ -117,9 +117,8 @@ QAction *ImagePane::addSwitch(Symbol symbol, const char *text, const char *toolT
 {
     QAction *const action = addAction(symbol, text, toolTip, key, nullptr, nullptr);
     action->setCheckable(true);
-    if (receiver) {
-        connect(action, SIGNAL(toggled(bool)), receiver, slot);
-    }
+    connect(action, SIGNAL(toggled(bool)), receiver, slot);
+    connect(action, SIGNAL(toggled(bool)), this, SIGNAL(stateChanged()));
     return action;
 }
 
@@ -217,6 +216,7 @@ QWidget *ImagePane::createPlots()
     layout->addWidget(m_extremesText);
     layout->addLayout(row);
     connect(m_logarithmic, SIGNAL(toggled(bool)), m_histogram, SLOT(setLogarithmic(bool)));
+    connect(m_logarithmic, SIGNAL(toggled(bool)), this, SIGNAL(stateChanged()));
     connect(m_look, SIGNAL(lookChanged()), this, SLOT(updateLook()));
     m_plots->hide();
     return m_plots;
@@ -247,6 +247,7 @@ void ImagePane::layOut()
     m_splitter->addWidget(createPlots());
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setChildrenCollapsible(false);
+    connect(m_splitter, SIGNAL(splitterMoved(int, int)), this, SIGNAL(stateChanged()));
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_bar);
@@ -263,16 +264,18 @@ void ImagePane::connectParts()
             SLOT(showFrame(Cameras::FramePointer)));
     connect(m_stream, SIGNAL(frameArrived(Cameras::FramePointer)), m_saving->recorder(),
             SLOT(add(Cameras::FramePointer)));
-    connect(m_stream, SIGNAL(stateChanged()), this, SLOT(updateActions()));
+    connect(m_stream, SIGNAL(stateChanged()), this, SLOT(onStreamState()));
     connect(m_stream, SIGNAL(failed(QString)), this, SLOT(onStreamFailed(QString)));
-    connect(m_view, SIGNAL(probed(QPoint)), this, SLOT(showProbe(QPoint)));
+    connect(m_view, SIGNAL(probed(QPoint)), this, SLOT(probe(QPoint)));
+    connect(m_view, SIGNAL(frameSeen()), this, SLOT(showProbe()));
     connect(m_view, SIGNAL(zoomChanged()), this, SLOT(updateActions()));
     connect(m_view, SIGNAL(drawn()), this, SLOT(updateWish()));
     connect(m_view, SIGNAL(regionDrawn(QRect)), m_region, SLOT(setRegion(QRect)));
     connect(m_region, SIGNAL(aboutToWrite()), m_stream, SLOT(pause()));
     connect(m_region, SIGNAL(written()), m_stream, SLOT(resume()));
     connect(m_region, SIGNAL(failed(QString, QString)), this, SIGNAL(failed(QString, QString)));
-    connect(m_saving, SIGNAL(framesWanted()), m_stream, SLOT(start()));
+    connect(m_saving, SIGNAL(framesWanted()), this, SLOT(startRecording()));
+    connect(m_saving->recorder(), SIGNAL(finished(int, int, QString)), this, SLOT(onRecorded()));
     connect(m_saving, SIGNAL(hint(QString, int)), this, SIGNAL(hint(QString, int)));
     connect(m_saving, SIGNAL(failed(QString, QString)), this, SIGNAL(failed(QString, QString)));
     connect(m_analysis, SIGNAL(finished(AnalysisResult)), this, SLOT(showAnalysis(AnalysisResult)));
@@ -308,7 +311,7 @@ void ImagePane::showTexts()
 {
     updateActions();
     showHint();
-    showProbe(m_probe);
+    showProbe();
     m_analysis->setFrame(m_view->frame());
 }
 
@@ -319,15 +322,38 @@ void ImagePane::showFrame(FramePointer frame)
     if (isVisible() || !frame) {
         m_analysis->setFrame(std::move(frame));
     }
-    showProbe(m_probe);
+    if (!m_view->frame()) {
+        showProbe();
+    }
 }
 
 // Else the tree would have locked features, and nothing in sight to tell why.
 void ImagePane::setOpen(bool isOpen)
 {
+    m_isOpen = isOpen;
     if (!isOpen && !m_saving->recorder()->isRecording()) {
         m_stream->stop();
     }
+}
+
+// The pane may have been closed meanwhile.
+void ImagePane::onRecorded()
+{
+    setOpen(m_isOpen);
+}
+
+void ImagePane::startRecording()
+{
+    m_stream->start();
+    onStreamState();
+}
+
+void ImagePane::onStreamState()
+{
+    if (!m_stream->isRunning() && !m_stream->isPaused()) {
+        m_saving->recorder()->stop();
+    }
+    updateActions();
 }
 
 void ImagePane::toggleStream()
@@ -397,9 +423,14 @@ QString ImagePane::probeText() const
         : tr("x %1, y %2:  %3").arg(m_probe.x()).arg(m_probe.y()).arg(texts.join(QStringLiteral("  ")));
 }
 
-void ImagePane::showProbe(const QPoint &position)
+void ImagePane::probe(const QPoint &position)
 {
     m_probe = position;
+    showProbe();
+}
+
+void ImagePane::showProbe()
+{
     m_probeText->setText(probeText());
     m_view->setAccessibleDescription(m_probeText->text());
 }

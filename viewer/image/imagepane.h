@@ -73,6 +73,8 @@ Q_SIGNALS:
     void failed(const QString &message, const QString &details);
     /*! The user wants to see images. */
     void wanted();
+    /*! What state() returns may have changed. */
+    void stateChanged();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -81,8 +83,12 @@ protected:
 private Q_SLOTS:
     void toggleStream();
     void onStreamFailed(const QString &reason);
+    void onStreamState();
+    void startRecording();
+    void onRecorded();
     void takeOne();
-    void showProbe(const QPoint &position);
+    void probe(const QPoint &position);
+    void showProbe();
     void showAnalysis(const AnalysisResult &result);
     void showStatistics();
     void chooseTool(QAction *action);
@@ -136,4 +142,5 @@ private:
     QAction *m_showPlots = nullptr;
     QAction *m_fullFrame = nullptr;
     QPoint m_probe{-1, -1};
+    bool m_isOpen = false;
 };

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMetaObject>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QWidget>
@@ -33,6 +34,7 @@ ImageSaving::ImageSaving(QWidget *window)
     , m_recorder(new FrameRecorder(this))
     , m_folder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
 {
+    m_threads.setMaxThreadCount(1);
     connect(m_save, SIGNAL(triggered()), this, SLOT(save()));
     connect(m_record, SIGNAL(triggered()), this, SLOT(toggleRecording()));
     connect(m_recorder, SIGNAL(progress(int, int)), this, SLOT(onProgress(int, int)));
@@ -40,7 +42,11 @@ ImageSaving::ImageSaving(QWidget *window)
     (new Core::LiveTexts(window))->add([this] { showTexts(); });
 }
 
-ImageSaving::~ImageSaving() = default;
+// What the user has saved is whole before the program ends.
+ImageSaving::~ImageSaving()
+{
+    m_threads.waitForDone();
+}
 
 void ImageSaving::setCameraName(const QString &name)
 {
@@ -113,7 +119,15 @@ void ImageSaving::saveTo(const QString &fileName)
         return;
     }
     m_folder = QFileInfo(fileName).path();
-    const QString failure = FrameFile::save(*m_frame, fileName, m_look);
+    m_threads.start([this, frame = m_frame, fileName, look = m_look] {
+        const QString failure = FrameFile::save(*frame, fileName, look);
+        const auto tell = [this, fileName, failure] { onSaved(fileName, failure); };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    });
+}
+
+void ImageSaving::onSaved(const QString &fileName, const QString &failure)
+{
     if (failure.isEmpty()) {
         Q_EMIT hint(tr("The image was saved to %1.").arg(QDir::toNativeSeparators(fileName)), hintTime);
     } else {

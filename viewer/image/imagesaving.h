@@ -9,6 +9,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QThreadPool>
 
 class FrameRecorder;
 class QAction;
@@ -34,7 +35,8 @@ public:
 
 public Q_SLOTS:
     void save();
-    /*! Writes the frame to the new file \a fileName, whose end says as what. */
+    /*! Writes the frame to the new file \a fileName, whose end says as what. Returns at once; hint() or
+     * failed() tells what came of it. */
     void saveTo(const QString &fileName);
     /*! Asks for a folder and begins to record, or ends that. */
     void toggleRecording();
@@ -49,6 +51,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void onProgress(int written, int wanted);
     void onRecorded(int written, int leftOut, const QString &failure);
+    void onSaved(const QString &fileName, const QString &failure);
 
 private:
     QString suggestedFile() const;
@@ -63,4 +66,5 @@ private:
     Cameras::FrameConversion::Look m_look;
     QString m_cameraName;
     QString m_folder;
+    QThreadPool m_threads; // the last member, so that its threads end first
 };

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -23,6 +24,7 @@ constexpr int wheelStep = 120;
 constexpr int keyPan = 8; // a part of the view
 constexpr int largeStep = 10; // pixels
 constexpr int smallestRegion = 2; // less is a click that slipped
+constexpr double usualRate = 60.0; // of a screen, per second
 
 QRect spanned(const QPoint &first, const QPoint &last)
 {
@@ -58,6 +60,7 @@ ImageView::ImageView(QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     (new Core::LiveTexts(this))->add(this, &QWidget::setAccessibleName, [] { return tr("Camera image"); });
     setTool(Tool::Pan);
+    connect(&m_maker, SIGNAL(made(Picture)), this, SLOT(showPicture(Picture)));
 }
 
 ImageView::~ImageView() = default;
@@ -80,9 +83,8 @@ void ImageView::setHint(const QString &text)
 
 void ImageView::setLook(const FrameConversion::Look &look)
 {
-    m_conversion.setLook(look);
-    m_image = {};
-    update();
+    m_look = look;
+    refresh();
 }
 
 void ImageView::setTool(Tool tool)
@@ -107,7 +109,6 @@ void ImageView::showFrame(FramePointer frame)
 {
     const QSize former = m_frame ? QSize(m_frame->width, m_frame->height) : QSize();
     m_frame = std::move(frame);
-    m_image = {};
     const QSize size = m_frame ? QSize(m_frame->width, m_frame->height) : QSize();
     if (size != former) {
         m_viewport.setFrameSize(size);
@@ -119,7 +120,33 @@ void ImageView::showFrame(FramePointer frame)
         Q_EMIT drawn();
         Q_EMIT zoomChanged();
     }
+    if (!m_frame) {
+        m_maker.cancel();
+        m_picture = {};
+        update();
+    }
+    refresh();
+}
+
+// What nobody sees is not made; showEvent() makes up for that.
+void ImageView::refresh()
+{
+    if (!m_frame || !isVisible()) {
+        return;
+    }
+    const double rate = screen() ? std::max(screen()->refreshRate(), 1.0) : usualRate;
+    m_maker.want({m_frame, m_viewport, m_look, {}}, int(1000.0 / rate));
+}
+
+void ImageView::showPicture(const Picture &picture)
+{
+    const bool isNew = m_picture.frame != picture.frame;
+    m_picture = picture;
+    m_picture.image.setDevicePixelRatio(devicePixelRatioF());
     update();
+    if (isNew) {
+        Q_EMIT frameSeen();
+    }
 }
 
 void ImageView::fit()
@@ -151,8 +178,7 @@ void ImageView::zoomBy(double factor, const QPointF &place)
 
 void ImageView::changeZoom()
 {
-    m_image = {};
-    update();
+    refresh();
     Q_EMIT zoomChanged();
 }
 
@@ -168,16 +194,6 @@ QPoint ImageView::heldInside(const QPoint &position) const
             std::clamp(position.y(), 0, std::max(m_frame->height - 1, 0))};
 }
 
-const QImage &ImageView::image()
-{
-    if (m_image.isNull()) {
-        const QRect part = m_viewport.visiblePart();
-        m_image = m_conversion.image(*m_frame, part, m_viewport.placeOf(part).size());
-        m_image.setDevicePixelRatio(devicePixelRatioF());
-    }
-    return m_image;
-}
-
 void ImageView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
@@ -186,17 +202,15 @@ void ImageView::paintEvent(QPaintEvent *event)
         paintMessage(painter, m_hint);
         return;
     }
-    m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize()); // a screen may have changed
-    if (image().isNull()) {
-        paintMessage(painter, obstacle());
-        return;
+    if (m_viewport.viewSize() != deviceSize()) { // a screen has changed
+        m_viewport.setViewSize(deviceSize());
+        refresh();
     }
-    const double ratio = devicePixelRatioF();
-    painter.drawImage(QPointF(m_viewport.placeOf(m_viewport.visiblePart()).topLeft()) / ratio, m_image);
-    const QPointF origin = m_viewport.toView({0.0, 0.0}) / ratio;
-    const double scale = m_viewport.scale() / ratio;
-    m_marks.paint(painter, QTransform(scale, 0.0, 0.0, scale, origin.x(), origin.y()),
-                  {m_frame->width, m_frame->height});
+    if (m_picture.frame && m_picture.image.isNull()) {
+        paintMessage(painter, obstacle(*m_picture.frame));
+    } else if (m_picture.frame) {
+        paintPicture(painter);
+    }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(palette().color(QPalette::Highlight));
@@ -204,15 +218,27 @@ void ImageView::paintEvent(QPaintEvent *event)
     }
 }
 
-QString ImageView::obstacle() const
+// Where it was made for, so that image and marks fit together while the next one is made.
+void ImageView::paintPicture(QPainter &painter)
 {
-    if (!m_frame->isComplete()) {
-        return m_frame->missing;
+    const double ratio = devicePixelRatioF();
+    const Viewport &viewport = m_picture.viewport;
+    painter.drawImage(QPointF(viewport.placeOf(viewport.visiblePart()).topLeft()) / ratio, m_picture.image);
+    const QPointF origin = viewport.toView({0.0, 0.0}) / ratio;
+    const double scale = viewport.scale() / ratio;
+    m_marks.paint(painter, QTransform(scale, 0.0, 0.0, scale, origin.x(), origin.y()),
+                  {m_picture.frame->width, m_picture.frame->height});
+}
+
+QString ImageView::obstacle(const Frame &frame)
+{
+    if (!frame.isComplete()) {
+        return frame.missing;
     }
-    return FrameConversion::canConvert(m_frame->pixelFormat)
-        ? tr("An image of %1 × %2 pixels cannot be shown.").arg(m_frame->width).arg(m_frame->height)
+    return FrameConversion::canConvert(frame.pixelFormat)
+        ? tr("An image of %1 × %2 pixels cannot be shown.").arg(frame.width).arg(frame.height)
         : tr("The pixel format %1 cannot be shown. Its bytes can be saved.")
-              .arg(pixelFormatName(m_frame->pixelFormat));
+              .arg(pixelFormatName(frame.pixelFormat));
 }
 
 void ImageView::paintMessage(QPainter &painter, const QString &text)
@@ -227,8 +253,14 @@ void ImageView::paintMessage(QPainter &painter, const QString &text)
 void ImageView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    m_viewport.setViewSize((QSizeF(size()) * devicePixelRatioF()).toSize());
+    m_viewport.setViewSize(deviceSize());
     changeZoom();
+}
+
+void ImageView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
 }
 
 void ImageView::wheelEvent(QWheelEvent *event)

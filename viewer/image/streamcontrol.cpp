@@ -85,11 +85,16 @@ void StreamControl::start()
 void StreamControl::stop()
 {
     m_wantsOne = false;
-    m_isPaused = false;
-    if (isRunning()) {
-        m_stream->stop();
-        Q_EMIT stateChanged();
+    const bool wasPaused = std::exchange(m_isPaused, false);
+    if (isRunning() || wasPaused) {
+        halt();
     }
+}
+
+void StreamControl::halt()
+{
+    m_stream->stop();
+    Q_EMIT stateChanged();
 }
 
 void StreamControl::toggle()
@@ -108,10 +113,8 @@ void StreamControl::takeOne()
 void StreamControl::pause()
 {
     if (isRunning()) {
-        const bool wantedOne = m_wantsOne;
-        stop();
-        m_wantsOne = wantedOne;
         m_isPaused = true;
+        halt();
     }
 }
 

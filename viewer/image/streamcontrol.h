@@ -32,6 +32,8 @@ public:
     /*! Returns whether the open camera can deliver images now. */
     bool isPossible() const;
     bool isRunning() const;
+    /*! Returns whether images stopped for a moment only. */
+    bool isPaused() const { return m_isPaused; }
     /*! Returns whether images were coming when the camera was lost. */
     bool wasInterrupted() const { return m_wasInterrupted; }
     /*! Returns frames per second and what was lost, for people; empty before the first start. */
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void onStopped(const QString &reason);
 
 private:
+    void halt();
+
     QPointer<Cameras::Camera> m_camera;
     QPointer<Cameras::Stream> m_stream;
     bool m_wantsOne = false;

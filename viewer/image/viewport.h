@@ -15,6 +15,7 @@ class Viewport
 public:
     void setFrameSize(const QSize &size);
     void setViewSize(const QSize &size);
+    QSize viewSize() const { return m_viewSize; }
 
     /*! Returns whether all of the frame is shown, as large as the view allows. */
     bool isFitted() const { return m_scale == 0.0; }

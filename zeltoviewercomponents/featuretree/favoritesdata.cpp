@@ -89,6 +89,23 @@ struct FavoritesData::Saved
     QString place;
 };
 
+/*! \brief What another program may have stored. */
+struct FavoritesData::Found
+{
+    FavoritesList list;
+    bool isThere;
+    QString place;
+    QString group;
+    int storings; // of ours, before
+
+    static std::unique_ptr<Found> in(const QString &group, int storings)
+    {
+        FavoritesStore store(group);
+        const FavoritesList list = store.read();
+        return std::make_unique<Found>(Found{list, store.hasList(), store.place(), group, storings});
+    }
+};
+
 FavoritesData::FavoritesData(QObject *parent)
     : QObject(parent)
 {
@@ -96,6 +113,9 @@ FavoritesData::FavoritesData(QObject *parent)
 
 FavoritesData::~FavoritesData()
 {
+    if (m_reading.valid()) {
+        m_reading.wait();
+    }
     saveChanges();
 }
 
@@ -286,6 +306,7 @@ void FavoritesData::setStored(const FavoritesList &stored, const QString &place)
 {
     m_stored = std::make_unique<FavoritesList>(stored);
     m_storedPlace = place;
+    ++m_storings;
 }
 
 FavoritesList FavoritesData::State::mergedWith(const FavoritesList &others) const
@@ -329,23 +350,41 @@ void FavoritesData::adopt(const FavoritesList &list)
     notify();
 }
 
-void FavoritesData::takeOverStored()
+// What is stored changes with each of our own changes, too: not here, where reading would wait for the disk.
+void FavoritesData::readStored()
 {
-    if (m_settingsGroup.isEmpty() || m_saveScheduled || !settingsUsable()) {
+    if (m_settingsGroup.isEmpty() || m_saveScheduled || m_reading.valid() || !settingsUsable()) {
         return; // saving takes over, too
     }
-    if (isInUse()) {
-        m_watcher->schedule();
+    const auto read = [this, group = m_settingsGroup, storings = m_storings] {
+        std::unique_ptr<Found> found = Found::in(group, storings);
+        QMetaObject::invokeMethod(this, "takeOverStored", Qt::QueuedConnection);
+        return found;
+    };
+    try {
+        m_reading = std::async(std::launch::async, read);
+    } catch (const std::system_error &) { // no thread is to be had
+        m_reading = std::async(std::launch::deferred, read);
+        m_reading.wait();
+    }
+}
+
+void FavoritesData::takeOverStored()
+{
+    const std::unique_ptr<Found> found = m_reading.get();
+    const bool isOutdated = found->group != m_settingsGroup || found->storings != m_storings;
+    if (isOutdated || isInUse()) {
+        if (m_watcher) {
+            m_watcher->schedule();
+        }
         return;
     }
-    FavoritesStore store(m_settingsGroup);
-    const FavoritesList stored = store.read();
-    if (!store.hasList() || !m_stored || stored.isSameAs(*m_stored)) {
+    if (m_saveScheduled || !found->isThere || !m_stored || found->list.isSameAs(*m_stored)) {
         return;
     }
     // Changes that could not be saved stay; saving them here would change the folder that is watched.
-    const FavoritesList merged = state().mergedWith(stored);
-    setStored(stored, store.place());
+    const FavoritesList merged = state().mergedWith(found->list);
+    setStored(found->list, found->place);
     adopt(merged);
 }
 
@@ -354,7 +393,7 @@ void FavoritesData::watchStore()
     const QString file = settingsUsable() ? FavoritesStore::fileName() : QString();
     if (!file.isEmpty() && !m_watcher) {
         m_watcher = new SettingsWatcher(file, QCoreApplication::instance()); // which this may outlive
-        connect(m_watcher, SIGNAL(changed()), this, SLOT(takeOverStored()));
+        connect(m_watcher, SIGNAL(changed()), this, SLOT(readStored()));
         connect(QCoreApplication::instance(), SIGNAL(aboutToQuit()), this, SLOT(saveChanges()));
     }
 }

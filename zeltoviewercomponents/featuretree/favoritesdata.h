@@ -104,6 +104,7 @@ private Q_SLOTS:
     void saveLater();
     void finishSaving();
     void saveChanges();
+    void readStored();
     void takeOverStored();
 
 private:
@@ -118,6 +119,7 @@ private:
 
     struct State;
     struct Saved;
+    struct Found;
 
     void notify();
     void settle();
@@ -150,6 +152,8 @@ private:
     bool m_expandedChanged = false;
     std::unique_ptr<FavoritesList> m_stored; // as last seen, none before
     QString m_storedPlace;
+    int m_storings = 0; // so far
     QPointer<SettingsWatcher> m_watcher;
     std::future<std::unique_ptr<Saved>> m_saving; // while another thread is at it
+    std::future<std::unique_ptr<Found>> m_reading; // likewise
 };

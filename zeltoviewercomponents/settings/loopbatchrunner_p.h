@@ -23,6 +23,7 @@
 class LoopBatchRunner : public QObject, public ParameterCollection::IBatchRunner
 {
     Q_OBJECT
+    Q_INTERFACES(ParameterCollection::IBatchRunner)
 
 public:
     explicit LoopBatchRunner(QSharedPointer<ParameterCollection::IParameterCollection> collection);

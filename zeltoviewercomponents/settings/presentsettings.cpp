@@ -34,7 +34,7 @@ void addPresent(QList<FeatureSettings::Setting> &settings, const SettingsNodeMap
     const SettingsPlan plan = SettingsPlan::of(nodeMap.collection);
     const SettingsGraph graph(plan.selected);
     for (const SettingsPlan::Feature &feature : plan.features) {
-        if (!feature.isWanted || graph.isSelector(feature.name) || !canBeSet(collection, feature.name)) {
+        if (graph.isSelector(feature.name) || !canBeSet(collection, feature.name)) {
             continue;
         }
         FeatureSettings::Setting setting;

@@ -106,7 +106,7 @@ void SettingsFile::readComment(const QString &text)
     }
     const auto colon = text.indexOf(QLatin1String(": "));
     const QString key = text.left(colon);
-    const QString value = text.mid(colon + 2).trimmed();
+    const QString value = text.mid(colon + 2).simplified(); // as it is written
     if (!m_isOurs || colon < 0) {
         return;
     }

@@ -119,8 +119,9 @@ SettingsPlan planOf(const IParameterCollection &collection)
                                        [](const Facts &facts) { return facts.isStreamable; });
     const SettingsGraph graph(plan.selected);
     for (const Facts &facts : std::as_const(collector.facts)) {
-        plan.features.append({facts.name, graph.selectorsOf(facts.name),
-                              facts.hasText && (facts.isStreamable || !plan.knowsStreamable)});
+        if (facts.hasText && (facts.isStreamable || !plan.knowsStreamable)) {
+            plan.features.append({facts.name, graph.selectorsOf(facts.name)});
+        }
     }
     return plan;
 }

@@ -24,7 +24,6 @@ struct SettingsPlan
     {
         QString name;
         QStringList selectors; //!< outer ones first
-        bool isWanted = false; //!< may belong to the settings
     };
 
     using CollectionPtr = QSharedPointer<ParameterCollection::IParameterCollection>;
@@ -33,7 +32,7 @@ struct SettingsPlan
      * lives. What throws or is missing is left out. */
     static SettingsPlan of(const CollectionPtr &collection);
 
-    QList<Feature> features; //!< in the order of the tree, each once
+    QList<Feature> features; //!< that may belong to the settings, in the order of the tree, each once
     QHash<QString, QStringList> selected; //!< by selector
     bool knowsStreamable = false; //!< whether the description says which features belong to the settings
 };

@@ -86,14 +86,14 @@ QList<SettingsReading::GroupPtr> SettingsReading::groups() const
 {
     QSet<QString> assigned;
     for (const SettingsPlan::Feature &feature : m_plan.features) {
-        for (const QString &selector : feature.isWanted ? feature.selectors : QStringList()) {
+        for (const QString &selector : feature.selectors) {
             assigned.insert(selector);
         }
     }
     QList<GroupPtr> found;
     QHash<QStringList, GroupPtr> bySelectors;
     for (const SettingsPlan::Feature &feature : m_plan.features) {
-        if (!feature.isWanted || assigned.contains(feature.name)) {
+        if (assigned.contains(feature.name)) {
             continue;
         }
         GroupPtr group = feature.selectors.isEmpty() ? nullptr : bySelectors.value(feature.selectors);
