@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelto viewer components authors
 // SPDX-License-Identifier: MIT
 
+#include "allocation.h"
 #include "cameraaddress.h"
 #include "colours.h"
 #include "commandline.h"
@@ -253,6 +254,7 @@ int run(const Options &options)
 
 int main(int argc, char **argv)
 {
+    returnMemoryOfImages();
     QCoreApplication::setOrganizationName(QStringLiteral("Zelto"));
     QCoreApplication::setApplicationName(QStringLiteral("zelto-viewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZELTO_VERSION_STRING));

@@ -4,6 +4,8 @@
 #include "servedcamera.h"
 #include "soak.h"
 
+#include <viewer/allocation.h>
+
 #include <QApplication>
 #include <QRandomGenerator>
 #include <QSettings>
@@ -15,6 +17,7 @@ int main(int argc, char **argv)
     if (argc == 2 && qstrcmp(argv[1], "--serve") == 0) {
         return ServedCamera::serve();
     }
+    returnMemoryOfImages();
     const QTemporaryDir folder; // for settings of its own
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
     const QApplication application(argc, argv);
