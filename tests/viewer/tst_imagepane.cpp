@@ -124,6 +124,7 @@ private slots:
     void regionIsTheNearestThatTheCameraHas_data();
     void regionIsTheNearestThatTheCameraHas();
     void drawnRegionIsWrittenAndUndone();
+    void endsWhileARegionIsWritten();
     void wheelKeepsThePixelUnderTheCursor();
     void valueUnderTheCursorIsRaw();
     void framesMayChangeInMidStream();
@@ -264,6 +265,14 @@ void TestImagePane::drawnRegionIsWrittenAndUndone()
     QTRY_COMPARE_WITH_TIMEOUT(value("Width"), value("WidthMax"), 10000);
     QTRY_COMPARE_WITH_TIMEOUT(value("Height"), value("HeightMax"), 10000);
     QCOMPARE(value("OffsetX"), 0);
+}
+
+void TestImagePane::endsWhileARegionIsWritten()
+{
+    startImages();
+    drag(Qt::ControlModifier, QRect(400, 300, 640, 320));
+    QTRY_VERIFY(pane().stream()->isPaused());
+    m_window.reset(); // the camera goes first
 }
 
 void TestImagePane::wheelKeepsThePixelUnderTheCursor()

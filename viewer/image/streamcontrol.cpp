@@ -93,7 +93,9 @@ void StreamControl::stop()
 
 void StreamControl::halt()
 {
-    m_stream->stop();
+    if (m_stream) { // a window that ends has lost its camera before its panes
+        m_stream->stop();
+    }
     Q_EMIT stateChanged();
 }
 
