@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
@@ -125,6 +126,7 @@ private slots:
     void regionIsTheNearestThatTheCameraHas();
     void drawnRegionIsWrittenAndUndone();
     void endsWhileARegionIsWritten();
+    void goesOnAsAWindowOfItsOwn();
     void wheelKeepsThePixelUnderTheCursor();
     void valueUnderTheCursorIsRaw();
     void framesMayChangeInMidStream();
@@ -275,6 +277,18 @@ void TestImagePane::endsWhileARegionIsWritten()
     m_window.reset(); // the camera goes first
 }
 
+void TestImagePane::goesOnAsAWindowOfItsOwn()
+{
+    startImages();
+    auto *const dock = qobject_cast<QDockWidget *>(pane().parentWidget());
+    for (const bool isFloating : {true, false}) {
+        dock->setFloating(isFloating);
+        const auto frame = view().frame();
+        QTRY_VERIFY_WITH_TIMEOUT(view().frame() != frame, 10000);
+        QVERIFY(pane().stream()->isRunning());
+    }
+}
+
 void TestImagePane::wheelKeepsThePixelUnderTheCursor()
 {
     showPane();
@@ -409,6 +423,7 @@ void TestImagePane::recordingHasATable()
     drag(Qt::ControlModifier, QRect(400, 300, 640, 320));
     QTRY_VERIFY_WITH_TIMEOUT(value("Width") < 700 && pane().stream()->isRunning(), 10000);
     pane().parentWidget()->close();
+    QCoreApplication::processEvents();
     QVERIFY(recorder.isRecording() && pane().stream()->isRunning());
     QSignalSpy hint(&pane(), SIGNAL(hint(QString, int)));
     QTest::keyClick(m_window.get(), Qt::Key_F9);
@@ -484,7 +499,7 @@ void TestImagePane::startStopManyTimes()
     QTest::keyClick(m_window.get(), Qt::Key_F9);
     QVERIFY(pane().stream()->isRunning());
     pane().parentWidget()->close();
-    QVERIFY(!pane().stream()->isRunning());
+    QTRY_VERIFY(!pane().stream()->isRunning());
 }
 
 void TestImagePane::closingWhileStreamingIsQuick()

@@ -276,7 +276,7 @@ void ImagePane::connectParts()
     connect(m_region, SIGNAL(written()), m_stream, SLOT(resume()));
     connect(m_region, SIGNAL(failed(QString, QString)), this, SIGNAL(failed(QString, QString)));
     connect(m_saving, SIGNAL(framesWanted()), this, SLOT(startRecording()));
-    connect(m_saving->recorder(), SIGNAL(finished(int, int, QString)), this, SLOT(onRecorded()));
+    connect(m_saving->recorder(), SIGNAL(finished(int, int, QString)), this, SLOT(stopIfClosed()));
     connect(m_saving, SIGNAL(hint(QString, int)), this, SIGNAL(hint(QString, int)));
     connect(m_saving, SIGNAL(failed(QString, QString)), this, SIGNAL(failed(QString, QString)));
     connect(m_analysis, SIGNAL(finished(AnalysisResult)), this, SLOT(showAnalysis(AnalysisResult)));
@@ -328,19 +328,19 @@ void ImagePane::showFrame(FramePointer frame)
     }
 }
 
-// Else the tree would have locked features, and nothing in sight to tell why.
+// A pane that becomes a window of its own, or a part of the other again, is closed for a moment.
 void ImagePane::setOpen(bool isOpen)
 {
     m_isOpen = isOpen;
-    if (!isOpen && !m_saving->recorder()->isRecording()) {
-        m_stream->stop();
-    }
+    QMetaObject::invokeMethod(this, "stopIfClosed", Qt::QueuedConnection);
 }
 
-// The pane may have been closed meanwhile.
-void ImagePane::onRecorded()
+// Else the tree would have locked features, and nothing in sight to tell why.
+void ImagePane::stopIfClosed()
 {
-    setOpen(m_isOpen);
+    if (!m_isOpen && !m_saving->recorder()->isRecording()) {
+        m_stream->stop();
+    }
 }
 
 void ImagePane::startRecording()

@@ -85,7 +85,7 @@ private Q_SLOTS:
     void onStreamFailed(const QString &reason);
     void onStreamState();
     void startRecording();
-    void onRecorded();
+    void stopIfClosed();
     void takeOne();
     void probe(const QPoint &position);
     void showProbe();
