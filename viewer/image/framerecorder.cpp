@@ -86,6 +86,7 @@ QString FrameRecorder::start(const QString &folder, int count, FrameFile::Kind k
         FrameFile::writeNew(QDir(m_folder).filePath(tableName()),
                             "file,frame,camera_time_ns,arrival,width,height,pixel_format,missing\n");
     if (!failure.isEmpty()) {
+        QDir().rmdir(m_folder); // as long as it is empty
         return failure;
     }
     m_kind = kind;
